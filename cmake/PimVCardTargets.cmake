@@ -1,0 +1,20 @@
+# What every target of this project is compiled with.
+function(pimvcard_configure target)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
+                                           -Wold-style-cast)
+  if(PIMVCARD_WARNINGS_AS_ERRORS)
+    target_compile_options(${target} PRIVATE -Werror)
+  endif()
+  if(PIMVCARD_SANITIZERS)
+    target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                             -fno-omit-frame-pointer)
+    target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+  endif()
+  target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+endfunction()
+
+# As above, and text never comes from bytes without the code saying how.
+function(pimvcard_configure_product target)
+  pimvcard_configure(${target})
+  target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_BYTEARRAY)
+endfunction()

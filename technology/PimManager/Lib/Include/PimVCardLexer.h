@@ -46,9 +46,9 @@ public:
     /// the same tokens. In run mode a character is tested as it comes back from UTF-8: half of a surrogate pair as "?",
     /// U+FEFF as the empty text. A backslash met inside a run forms an escape pair with the character after it, is
     /// tested together with it and is then left out of the token; when the pair does not match, the run ends, the
-    /// backslash is lost and the character after it is the look-ahead. A backslash before a carriage return is lost
-    /// alone: the carriage return becomes the look-ahead and is read once more after that. A backslash that is already
-    /// the look-ahead when the call begins is an ordinary character.
+    /// backslash is lost and the character after it is the look-ahead. Before a carriage return a backslash stands
+    /// alone: where the expression does not match it, it is lost, the carriage return is the look-ahead and is read
+    /// once more after that. A backslash that is already the look-ahead when the call begins is an ordinary character.
     ///
     /// The line number grows by the carriage returns of a run when the run holds as many line feeds, else not at all.
     ///

@@ -58,9 +58,14 @@ public:
     virtual ~PimVCardParser();
     Q_DISABLE_COPY( PimVCardParser )
 
-    /// Parses the whole text. A card that fails is reported and left out, and parsing goes on at the next line that
-    /// holds BEGIN:VCARD, unless that is the last line. Ends on every input, and tells Qt's debug log at the end how
-    /// many cards came in how many milliseconds.
+    /// Parses the whole text. Ends on every input, and tells Qt's debug log at the end how many cards came in how many
+    /// milliseconds.
+    ///
+    /// A card that fails is reported and left out, and parsing goes on at the next line that holds BEGIN:VCARD. The
+    /// search begins behind the look-ahead, so it does not find a BEGIN line whose first character was already read:
+    /// the card directly behind one with a wrong END line is passed over too. It does not find one in the last line
+    /// either. White space between cards is skipped, but not before the first card or after a recovery, where it counts
+    /// as a card that failed.
     ///
     /// A card ends at its END line, whatever stands before it: a BEGIN line inside a card is an ordinary property, so
     /// a card without END takes the next card's lines in, up to that card's END.
@@ -116,16 +121,18 @@ public:
     PimVCardParameter* ParseParameter( bool a_vCardBoundary );
 
     /// Parses a quoted parameter value from behind its opening quote to its closing quote. A control character other
-    /// than the tab, or a backslash, inside the quotes is a failure.
-    /// \return the text and the closing quote, without the opening one; empty on failure, as reported, which a pair of
+    /// than the tab inside the quotes is a failure. A backslash is kept as the first character; elsewhere it is lost,
+    /// and the quote must then close right behind it. \return the text and the closing quote, without the opening one;
+    /// empty on failure, as reported, which a pair of
     ///         quotes with nothing between them is too.
     QString ParseQuotedParamValue();
 
     /// Parses the right side of a content line, from behind the colon up to the line end, which it leaves.
     ///
-    /// A backslash before a backslash, comma, semicolon or colon is taken away and the character kept (RFC 2426,
-    /// section 4); before any other character it ends the value. In a QUOTED-PRINTABLE value soft line breaks are
-    /// joined. Commas do not split a value, and a line feed without a carriage return belongs to it.
+    /// Inside a component a backslash before a backslash, comma, semicolon or colon is taken away and the character
+    /// kept (RFC 2426, section 4); before any other character, and at the start of a component, it ends the value. In a
+    /// QUOTED-PRINTABLE value soft line breaks are joined. Commas do not split a value, and a line feed without a
+    /// carriage return belongs to it.
     ///
     /// \return a new list with one text for each component between semicolons, so never empty: `;;Main Street` gives
     ///         three. Null when a soft line break is not followed by exactly one CR LF, as reported; the encoding stays

@@ -1,0 +1,27 @@
+/// \file
+/// How the program ends.
+
+#pragma once
+
+#include <algorithm>
+
+namespace PimManager::vCard::Tools
+{
+
+/// What the shell gets, from good to bad.
+enum class ExitStatus
+{
+    /// Every card of every file was given.
+    AllGiven = 0,
+    /// A card was refused, or a file holds no vCard.
+    SomeRefused = 1,
+    /// Wrong usage, or something that cannot be read or written.
+    Trouble = 2
+};
+
+inline ExitStatus Worse( ExitStatus a_first, ExitStatus a_second )
+{
+    return std::max( a_first, a_second );
+}
+
+} // namespace PimManager::vCard::Tools

@@ -1,0 +1,55 @@
+#include "Console.h"
+#include "OutputDevice.h"
+#include "Program.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QList>
+
+#include <array>
+#include <clocale>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+using namespace PimManager::vCard::Tools;
+
+namespace
+{
+
+// A standard descriptor that the caller closed would be given to the next file that anyone opens, Qt included. What
+// takes its place here fails when it is used.
+void HoldStandardDescriptors()
+{
+    for ( const int descriptor : { STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO } )
+    {
+        if ( ::fcntl( descriptor, F_GETFD ) < 0 )
+            ::open( "/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY );
+    }
+}
+
+} // namespace
+
+int main( int argc, char* argv[] )
+{
+    HoldStandardDescriptors();
+    // A reader that goes away early is told by the failing write.
+    std::signal( SIGPIPE, SIG_IGN );
+
+    // Qt takes its arguments for text in the locale's encoding; ours stay bytes. It also sets the locale, and the
+    // system's messages are wanted in ASCII.
+    QByteArray name( "pimvcard" );
+    std::array<char*, 2> names = { name.data(), nullptr };
+    int count = 1;
+    const QCoreApplication application( count, names.data() );
+    std::setlocale( LC_ALL, "C" );
+
+    QList<QByteArray> arguments;
+    for ( int i = 1; i < argc; ++i )
+        arguments.append( QByteArray( argv[i] ) );
+
+    OutputDevice out( STDOUT_FILENO );
+    OutputDevice err( STDERR_FILENO );
+    Console console( out, err );
+    return static_cast<int>( RunProgram( arguments, console ) );
+}

@@ -1,0 +1,93 @@
+#include "ProgramRun.h"
+
+#include "BookAccount.h"
+#include "CardName.h"
+#include "ComponentLog.h"
+#include "LineEnds.h"
+#include "PimVCard.h"
+#include "ToolsTestText.h"
+
+#include <QStringList>
+
+using namespace PimManager::vCard;
+using namespace PimManager::vCard::Tools;
+
+namespace
+{
+
+constexpr const char* s_kPhonebook = PIMVCARD_EXAMPLES "/phonebook.vcf";
+
+Cards PhonebookCards()
+{
+    const ComponentLog quiet( nullptr );
+    return ParseBook( FileContent( s_kPhonebook ) );
+}
+
+QList<QByteArray> Photos()
+{
+    QList<QByteArray> photos;
+    for ( const auto& card : PhonebookCards() )
+    {
+        for ( const PimVCardProperty* property : card->GetProperties() )
+        {
+            if ( property->GetName() == QStringLiteral( "PHOTO" ) )
+                photos.append( QByteArray::fromBase64( property->GetValues().first().toLatin1() ) );
+        }
+    }
+    return photos;
+}
+
+} // namespace
+
+TEST( PhonebookTest, AllCardsButTheBrokenOneAreGiven )
+{
+    QStringList names;
+    for ( const auto& card : PhonebookCards() )
+        names << CardName( *card );
+    EXPECT_EQ( Utf8( names.join( QLatin1Char( '\n' ) ) ), "Nell Imogen Brackwater\n"
+                                                          "Dr. Tobias F. Quillfeather\n"
+                                                          "Δάφνη Ανεμόμυλου\n"
+                                                          "Зинаида Ветровна Облакова\n"
+                                                          "月見里 はるか\n"
+                                                          "ليلى المرجاني\n"
+                                                          "Prof. Otmar von Hügelstein\n"
+                                                          "Siobhán Ó Wrenfield\n"
+                                                          "तारा मेघवन\n"
+                                                          "Crumb & Kettle Bakery" );
+}
+
+TEST( PhonebookTest, ProgramPrintsItAndTellsOfTheBrokenCard )
+{
+    const ProgramRun run = RunPimvcard( { "print", s_kPhonebook } );
+    EXPECT_EQ( run.m_status, 1 );
+    EXPECT_NE( run.m_out.find( "10. Crumb & Kettle Bakery (" ), std::string::npos ) << run.m_out;
+    EXPECT_EQ( run.m_out.find( "Ashdrake" ), std::string::npos );
+    EXPECT_NE( run.m_err.find( "/phonebook.vcf: 1 of 11 cards refused; --log shows why\n" ), std::string::npos );
+    EXPECT_EQ( run.LastMessage().find( "pimvcard: 1 file, 10 cards, 1 card refused, " ), 0U ) << run.m_err;
+}
+
+TEST( PhonebookTest, EveryLineEndsInCrLf )
+{
+    const LineEnds ends = CountLineEnds( FileContent( s_kPhonebook ) );
+    EXPECT_GT( ends.m_crLfs, 100 );
+    EXPECT_EQ( ends.m_bareLfs, 0 );
+    EXPECT_EQ( ends.m_bareCrs, 0 );
+    EXPECT_FALSE( ends.m_isLastLineOpen );
+}
+
+TEST( PhonebookTest, PhotosAreWholeJpegPictures )
+{
+    const QList<QByteArray> photos = Photos();
+    ASSERT_EQ( photos.size(), 2 );
+    for ( const QByteArray& photo : photos )
+    {
+        EXPECT_TRUE( photo.startsWith( QByteArray::fromHex( "ffd8ffe0" ) ) );
+        EXPECT_TRUE( photo.endsWith( QByteArray::fromHex( "ffd9" ) ) );
+    }
+}
+
+TEST( PhonebookTest, NoLineIsLongerThanAnyMailerTakes )
+{
+    for ( const QByteArray& line : FileContent( s_kPhonebook ).split( '\n' ) )
+        EXPECT_LE( line.size(), 76 ) << line.constData();
+}

@@ -1,0 +1,53 @@
+#include "ShortText.h"
+
+#include "ToolsTestText.h"
+
+using namespace PimManager::vCard::Tools;
+
+namespace
+{
+
+QString Repeated( const char* a_character, int a_count )
+{
+    return QString::fromUtf8( a_character ).repeated( a_count );
+}
+
+constexpr const char* s_kTelescope = "\xF0\x9F\x94\xAD";
+
+} // namespace
+
+TEST( ShortTextTest, TextOfEightyCharactersStays )
+{
+    for ( const char* character : { "x", "\xC3\xA9", s_kTelescope } )
+    {
+        const QString text = Repeated( character, 80 );
+        EXPECT_EQ( Utf8( Shortened( text ) ), Utf8( text ) );
+    }
+    EXPECT_TRUE( Shortened( QString() ).isEmpty() );
+}
+
+TEST( ShortTextTest, LongerTextIsCutAfterSixtyCharactersAndTellsItsLength )
+{
+    for ( const char* character : { "x", "\xC3\xA9", s_kTelescope } )
+    {
+        EXPECT_EQ( Utf8( Shortened( Repeated( character, 81 ) ) ),
+                   Utf8( Repeated( character, 60 ) ) + "\xE2\x80\xA6 (81 characters)" );
+        EXPECT_EQ( Utf8( Shortened( Repeated( character, 5944 ) ) ),
+                   Utf8( Repeated( character, 60 ) ) + "\xE2\x80\xA6 (5944 characters)" );
+    }
+}
+
+TEST( ShortTextTest, ListOfTwentyStays )
+{
+    const QStringList list = QString( 19, QLatin1Char( ';' ) ).split( QLatin1Char( ';' ) );
+    ASSERT_EQ( list.size(), 20 );
+    EXPECT_EQ( ShortenedList( list ), list );
+}
+
+TEST( ShortTextTest, LongerListIsCutAndTellsItsLength )
+{
+    const QStringList list = QString( 999, QLatin1Char( ';' ) ).split( QLatin1Char( ';' ) );
+    const QStringList shown = ShortenedList( list );
+    EXPECT_EQ( shown.size(), 21 );
+    EXPECT_EQ( Utf8( shown.last() ), "\xE2\x80\xA6 (1000 in all)" );
+}

@@ -6,6 +6,7 @@
 #include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
 namespace PimManager::vCard::Tools
 {
@@ -76,23 +77,20 @@ qint64 ReadBlock( int a_descriptor, char* a_data, qint64 a_size )
 
 Book ReadAll( int a_descriptor, qint64 a_expected, qint64 a_limit )
 {
+    std::vector<char> block( static_cast<size_t>( s_kBlock ) );
     QByteArray bytes;
-    qint64 size = 0;
-    bytes.reserve( static_cast<int>( std::min( a_expected, a_limit ) + s_kBlock ) );
+    bytes.reserve( static_cast<int>( std::min( a_expected, a_limit ) ) );
     for ( ;; )
     {
-        bytes.resize( static_cast<int>( size + s_kBlock ) );
-        const qint64 count = ReadBlock( a_descriptor, bytes.data() + size, s_kBlock );
+        const qint64 count = ReadBlock( a_descriptor, block.data(), s_kBlock );
         if ( count < 0 )
             return SystemRefusal( errno );
-        size += count;
-        if ( size > a_limit )
-            return TooLarge( a_limit );
         if ( count == 0 )
-            break;
+            return { bytes, QString() };
+        if ( bytes.size() + count > a_limit )
+            return TooLarge( a_limit );
+        bytes.append( block.data(), static_cast<int>( count ) );
     }
-    bytes.resize( static_cast<int>( size ) );
-    return { bytes, QString() };
 }
 
 } // namespace
@@ -103,8 +101,6 @@ Book ReadBook( const QByteArray& a_fileName, qint64 a_limit )
     struct stat status = {};
     if ( input.Descriptor() < 0 || ::fstat( input.Descriptor(), &status ) != 0 )
         return SystemRefusal( errno );
-    if ( S_ISDIR( status.st_mode ) )
-        return SystemRefusal( EISDIR );
     const qint64 expected = S_ISREG( status.st_mode ) ? status.st_size : 0;
     if ( expected > a_limit )
         return TooLarge( a_limit );

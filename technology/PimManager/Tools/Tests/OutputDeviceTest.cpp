@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <fcntl.h>
 #include <string>
@@ -112,21 +113,28 @@ TEST( OutputDeviceTest, FullPipeInNonBlockingModeIsWaitedFor )
 {
     std::array<int, 2> ends = { -1, -1 };
     ASSERT_EQ( pipe2( ends.data(), O_NONBLOCK ), 0 );
-    const int size = 1000000;
-    std::thread writer(
-        [&ends]
-        {
-            OutputDevice device( ends[1] );
-            device.write( QByteArray( size, 'x' ) );
-            EXPECT_EQ( device.Error(), 0 );
-            close( ends[1] );
-        } );
-    fcntl( ends[0], F_SETFL, 0 );
-    QByteArray block( 65536, '\0' );
+    ssize_t expected = 1;
+    while ( write( ends[1], "x", 1 ) == 1 )
+        ++expected;
     ssize_t received = 0;
-    for ( ssize_t count = 1; count > 0; received += count )
-        count = read( ends[0], block.data(), static_cast<size_t>( block.size() ) );
-    writer.join();
+    std::thread reader(
+        [&ends, &received]
+        {
+            // The writer meets the full pipe first. Should it be late, the test only sees less.
+            std::this_thread::sleep_for( std::chrono::milliseconds( 100 ) );
+            fcntl( ends[0], F_SETFL, 0 );
+            QByteArray taken( 65536, '\0' );
+            for ( ssize_t count = 1; count > 0; received += count )
+                count = read( ends[0], taken.data(), static_cast<size_t>( taken.size() ) );
+        } );
+    {
+        OutputDevice device( ends[1] );
+        device.write( "x" );
+        device.Flush();
+        EXPECT_EQ( device.Error(), 0 );
+    }
+    close( ends[1] );
+    reader.join();
     close( ends[0] );
-    EXPECT_EQ( received, size );
+    EXPECT_EQ( received, expected );
 }

@@ -3,18 +3,20 @@
 
 #pragma once
 
+#include "PimVCardTextStream.h"
+
 #include <QChar>
-#include <QIODevice>
 #include <QRegularExpression>
 #include <QString>
-#include <QTextStream>
 
-#include <memory>
+#include <array>
 
 class QByteArray;
 
 namespace PimManager::vCard
 {
+
+struct PimVCardCharacterClass;
 
 /// Cuts a text into tokens, as its caller's expressions tell it, and knows nothing of the vCard grammar.
 ///
@@ -34,8 +36,7 @@ public:
     /// Opens the text for reading, without reading any of it.
     /// \param a_data UTF-8 without NUL bytes, whatever the locale; may be empty, not null. It stays the caller's, must
     ///               outlive the scanner and must not change meanwhile. A byte order mark at its start is swallowed.
-    ///               Of malformed UTF-8 each piece that cannot be decoded reads as U+FFFD; positions are exact only for
-    ///               well-formed text.
+    ///               Of malformed UTF-8 each byte that belongs to no character reads as U+FFFD.
     explicit PimVCardLexer( const QByteArray* a_data );
     virtual ~PimVCardLexer();
     Q_DISABLE_COPY( PimVCardLexer )
@@ -76,25 +77,41 @@ public:
     /// \param a_pattern the expression that did not match; null leaves its message out. Used during the call only.
     void PrintStatus( const QRegularExpression* a_pattern ) const;
 
-private:
-    const std::unique_ptr<QIODevice> m_device;
-
-public:
     /// The token being built; between calls, the last one returned.
     QString m_token;
     /// The token returned by the call before the last.
     QString m_prevToken;
     /// The text, decoded. `pos()` and `seek()` count bytes of the text.
-    QTextStream m_stream;
+    PimVCardTextStream m_stream;
     /// The first character that is in no token yet; U+0000 before the first read and at the end of the text.
     QChar m_nextChar;
     /// The current line, from 1.
     qint32 m_lineNumber = 1;
 
 private:
+    // The parser's expressions stay as they are while the scanner lives, so it tells them beforehand.
+    friend class PimVCardParser;
+    void Learn( const QRegularExpression& a_pattern );
+
+    struct LearnedPattern
+    {
+        const QRegularExpression* m_pattern = nullptr;
+        const PimVCardCharacterClass* m_class = nullptr;
+    };
+
+    class LineCount;
+    class ExpressionMatcher;
+
+    const PimVCardCharacterClass* ClassOf( const QRegularExpression& a_pattern ) const;
     void TakeCharacter( const QRegularExpression& a_pattern );
-    void TakeRun( const QRegularExpression& a_pattern );
-    bool CompleteEscapePair( QString& a_candidate );
+    template <typename Matcher>
+    void TakeRun( const Matcher& a_matcher );
+    void TakeUnescaped( const ExpressionMatcher& a_matcher, QChar a_candidate, LineCount& a_lines );
+    void TakeUnescaped( const PimVCardCharacterClass& a_class, QChar a_candidate, LineCount& a_lines );
+    void AppendText( const PimVCardCharacterClass& a_class, const char* a_text, int a_length );
+    bool CompleteEscapePair( QChar& a_candidate );
+
+    std::array<LearnedPattern, 16> m_learnedPatterns;
 };
 
 } // namespace PimManager::vCard

@@ -151,6 +151,7 @@ private:
     bool ParseParamValueList( QString& a_value );
     bool NoteEncoding( const QString& a_name, const QString& a_value );
     bool TakeSoftLineBreak( QString& a_value );
+    bool TakeDelimiter( const QRegularExpression& a_delimiter );
     void SkipWhile( bool ( *a_isSkipped )( QChar ) );
     void ReportError( const QString& a_label, const QString& a_message, const QRegularExpression* a_pattern = nullptr,
                       PimVCardProperty* a_property = nullptr, bool a_illegalCharacter = false );

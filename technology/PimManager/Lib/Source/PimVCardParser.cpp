@@ -2,6 +2,7 @@
 
 #include "PimVCardLexer.h"
 #include "PimVCardOwnedList.h"
+#include "PimVCardPreparation.h"
 #include "PimVCardVocabulary.h"
 
 #include <QDebug>
@@ -31,6 +32,28 @@ private:
 };
 QT_WARNING_POP
 
+// What the parsers of one thread share: making an expression costs more than parsing a line.
+struct TokenExpressions
+{
+    const QRegularExpression m_dot{ s_kDotPattern };
+    const QRegularExpression m_semicolon{ s_kSemicolonPattern };
+    const QRegularExpression m_colon{ s_kColonPattern };
+    const QRegularExpression m_equals{ s_kEqualsPattern };
+    const QRegularExpression m_comma{ s_kCommaPattern };
+    const QRegularExpression m_dQuote{ s_kDQuotePattern };
+    const QRegularExpression m_crlf{ s_kCrlfPattern };
+    const QRegularExpression m_name{ s_kNamePattern };
+    const QRegularExpression m_valueChar{ s_kValueCharPattern };
+    const QRegularExpression m_qSafeChar{ s_kQSafeCharPattern };
+    const QRegularExpression m_base64Char{ s_kBase64CharPattern };
+};
+
+const TokenExpressions& ThreadExpressions()
+{
+    thread_local const TokenExpressions t_expressions;
+    return t_expressions;
+}
+
 bool IsBlank( QChar a_character )
 {
     return a_character == QChar::Tabulation || a_character == QChar::Space;
@@ -47,9 +70,23 @@ bool IsOneOf( QChar a_character, const Delimiters&... a_delimiters )
     return ( ( a_character == a_delimiters.at( 0 ) ) || ... );
 }
 
+// Asked about every line, and most words differ from the vocabulary's at their first letter. The letters that begin its
+// words have no relatives beyond ASCII, and folding the case of a text keeps its length.
 bool AreSameWord( const QString& a_first, const QString& a_second )
 {
-    return a_first.compare( a_second, Qt::CaseInsensitive ) == 0;
+    if ( a_first.size() != a_second.size() )
+        return false;
+    if ( a_first.isEmpty() )
+        return true;
+    constexpr ushort s_kCaseBit = 0x20;
+    if ( ( a_first.at( 0 ).unicode() | s_kCaseBit ) != ( a_second.at( 0 ).unicode() | s_kCaseBit ) )
+        return false;
+    return a_first == a_second || a_first.compare( a_second, Qt::CaseInsensitive ) == 0;
+}
+
+bool ContainsWord( const QString& a_text, const QString& a_word )
+{
+    return a_text == a_word || ( a_text.size() >= a_word.size() && a_text.contains( a_word, Qt::CaseInsensitive ) );
 }
 
 bool IsVCardBoundary( const PimVCardProperty* a_property, const QString& a_name )
@@ -64,23 +101,28 @@ bool IsVCardBoundary( const PimVCardProperty* a_property, const QString& a_name 
 
 PimVCardParser::PimVCardParser( const QByteArray& a_data ) :
     m_data( a_data ),
-    m_dotRegex( s_kDotPattern ),
-    m_semicolonRegex( s_kSemicolonPattern ),
-    m_colonRegex( s_kColonPattern ),
-    m_equalsRegex( s_kEqualsPattern ),
-    m_commaRegex( s_kCommaPattern ),
-    m_dQuoteRegex( s_kDQuotePattern ),
-    m_crlfRegex( s_kCrlfPattern ),
-    m_nameRegex( s_kNamePattern ),
-    m_spareNameRegex( s_kNamePattern ),
-    m_valueCharRegex( s_kValueCharPattern ),
-    m_paramNameRegex( s_kNamePattern ),
-    m_paramValueRegex( s_kNamePattern ),
-    m_qSafeCharRegex( s_kQSafeCharPattern ),
-    m_base64CharRegex( s_kBase64CharPattern )
+    m_dotRegex( ThreadExpressions().m_dot ),
+    m_semicolonRegex( ThreadExpressions().m_semicolon ),
+    m_colonRegex( ThreadExpressions().m_colon ),
+    m_equalsRegex( ThreadExpressions().m_equals ),
+    m_commaRegex( ThreadExpressions().m_comma ),
+    m_dQuoteRegex( ThreadExpressions().m_dQuote ),
+    m_crlfRegex( ThreadExpressions().m_crlf ),
+    m_nameRegex( ThreadExpressions().m_name ),
+    m_spareNameRegex( ThreadExpressions().m_name ),
+    m_valueCharRegex( ThreadExpressions().m_valueChar ),
+    m_paramNameRegex( ThreadExpressions().m_name ),
+    m_paramValueRegex( ThreadExpressions().m_name ),
+    m_qSafeCharRegex( ThreadExpressions().m_qSafeChar ),
+    m_base64CharRegex( ThreadExpressions().m_base64Char )
 {
     PrepareInput();
     m_lexer = new PimVCardLexer( &m_data );
+    for ( const QRegularExpression* pattern :
+          { &m_dotRegex, &m_semicolonRegex, &m_colonRegex, &m_equalsRegex, &m_commaRegex, &m_dQuoteRegex, &m_crlfRegex,
+            &m_nameRegex, &m_valueCharRegex, &m_paramNameRegex, &m_paramValueRegex, &m_qSafeCharRegex,
+            &m_base64CharRegex } )
+        m_lexer->Learn( *pattern );
 }
 
 PimVCardParser::~PimVCardParser()
@@ -90,13 +132,7 @@ PimVCardParser::~PimVCardParser()
 
 void PimVCardParser::PrepareInput()
 {
-    const uint length = qstrnlen( m_data.constData(), static_cast<uint>( m_data.size() ) );
-    QString text = QString::fromUtf8( m_data.constData(), static_cast<int>( length ) );
-    text.replace( QRegularExpression( s_kQpSoftBreakPattern ), s_kSpace );
-    // A CR LF is one line break: where its CR is protected by a "=" before it, its LF begins no fold either.
-    const QString notInsideCrlf = QStringLiteral( R"((?!(?<=\r)\n))" );
-    text.replace( QRegularExpression( notInsideCrlf + s_kUnfoldPattern ), QString() );
-    m_data = text.toUtf8();
+    m_data = PreparedText( m_data );
 }
 
 QList<PimVCard*>* PimVCardParser::ParseVCards()
@@ -210,7 +246,7 @@ PimVCardProperty* PimVCardParser::ParseProperty()
 
     if ( vCardBoundary )
         SkipWhile( IsBlank );
-    if ( m_lexer->GetToken( m_colonRegex, true ) != s_kColon )
+    if ( !TakeDelimiter( m_colonRegex ) )
         return fail( s_kErrExpectedColonToken, &m_colonRegex );
     if ( vCardBoundary )
         SkipWhile( IsBlank );
@@ -227,7 +263,7 @@ QString PimVCardParser::ParseGroup( bool& a_vCardBoundary )
 {
     QString group;
     QString name = m_lexer->GetToken( m_nameRegex, false );
-    while ( m_lexer->GetToken( m_dotRegex, true ) == s_kDot )
+    while ( TakeDelimiter( m_dotRegex ) )
     {
         group += name + s_kDot;
         name = m_lexer->GetToken( m_nameRegex, false );
@@ -239,7 +275,7 @@ QString PimVCardParser::ParseGroup( bool& a_vCardBoundary )
         ReportError( s_kParseGroupLabel, s_kErrIllegalCharacter, nullptr, nullptr, true );
         return QString();
     }
-    if ( group.endsWith( s_kDot ) )
+    if ( !group.isEmpty() )
         group.chop( s_kDot.size() );
     return group;
 }
@@ -259,7 +295,7 @@ QList<PimVCardParameter*>* PimVCardParser::ParseParameters( bool a_vCardBoundary
 
 PimVCardParameter* PimVCardParser::ParseParameter( bool a_vCardBoundary )
 {
-    if ( m_lexer->GetToken( m_semicolonRegex, true ) != s_kSemicolon )
+    if ( !TakeDelimiter( m_semicolonRegex ) )
     {
         if ( !a_vCardBoundary && !IsOneOf( m_lexer->m_nextChar, s_kColon ) )
             ReportError( s_kParseParameterLabel, s_kErrExpectedColonChar, nullptr, nullptr, true );
@@ -275,7 +311,7 @@ PimVCardParameter* PimVCardParser::ParseParameter( bool a_vCardBoundary )
         ReportError( s_kParseParameterLabel, s_kErrExpectedParamNameOrValue, &m_paramNameRegex );
         return nullptr;
     }
-    if ( m_lexer->GetToken( m_equalsRegex, true ) == s_kEquals )
+    if ( TakeDelimiter( m_equalsRegex ) )
     {
         name = value;
         value = ParseParamValue();
@@ -292,14 +328,14 @@ PimVCardParameter* PimVCardParser::ParseParameter( bool a_vCardBoundary )
 
 QString PimVCardParser::ParseParamValue()
 {
-    if ( m_lexer->GetToken( m_dQuoteRegex, true ) == s_kDQuote )
+    if ( TakeDelimiter( m_dQuoteRegex ) )
         return s_kDQuote + ParseQuotedParamValue();
     return m_lexer->GetToken( m_paramValueRegex, false );
 }
 
 bool PimVCardParser::ParseParamValueList( QString& a_value )
 {
-    while ( m_lexer->GetToken( m_commaRegex, true ) == s_kComma )
+    while ( TakeDelimiter( m_commaRegex ) )
     {
         const QString element = ParseParamValue();
         if ( element.isEmpty() || !IsOneOf( m_lexer->m_nextChar, s_kComma, s_kColon, s_kSemicolon ) )
@@ -307,7 +343,8 @@ bool PimVCardParser::ParseParamValueList( QString& a_value )
             ReportError( s_kParseParameterLabel, s_kErrExpectedParamValue );
             return false;
         }
-        a_value += s_kComma + element;
+        a_value += s_kComma;
+        a_value += element;
     }
     if ( !IsOneOf( m_lexer->m_nextChar, s_kColon, s_kSemicolon ) )
     {
@@ -321,9 +358,9 @@ bool PimVCardParser::NoteEncoding( const QString& a_name, const QString& a_value
 {
     if ( !AreSameWord( a_name, s_kEncoding ) )
         return true;
-    if ( a_value.contains( s_kQuotedPrintable, Qt::CaseInsensitive ) )
+    if ( ContainsWord( a_value, s_kQuotedPrintable ) )
         m_quotedPrintable = true;
-    if ( a_value.contains( s_kBase64, Qt::CaseInsensitive ) || AreSameWord( a_value, s_kB ) )
+    if ( ContainsWord( a_value, s_kBase64 ) || AreSameWord( a_value, s_kB ) )
         m_base64 = true;
     if ( m_quotedPrintable && m_base64 )
     {
@@ -341,7 +378,7 @@ QString PimVCardParser::ParseQuotedParamValue()
         ReportError( s_kParseQuotedParamValueLabel, s_kErrExpectedQuotedParamValue );
         return QString();
     }
-    if ( m_lexer->GetToken( m_dQuoteRegex, true ) != s_kDQuote )
+    if ( !TakeDelimiter( m_dQuoteRegex ) )
     {
         ReportError( s_kParseQuotedParamValueLabel, s_kErrExpectedDQuoteToken );
         return QString();
@@ -352,6 +389,7 @@ QString PimVCardParser::ParseQuotedParamValue()
 QList<QString>* PimVCardParser::ParseValues()
 {
     auto values = std::make_unique<QList<QString>>();
+    values->reserve( 1 );
     QString value;
     bool isContinued = false;
     bool isSeparated = false;
@@ -359,7 +397,7 @@ QList<QString>* PimVCardParser::ParseValues()
     {
         const bool isBase64 = m_base64 && !isContinued;
         value += m_lexer->GetToken( isBase64 ? m_base64CharRegex : m_valueCharRegex, false );
-        isSeparated = m_lexer->GetToken( m_semicolonRegex, true ) == s_kSemicolon;
+        isSeparated = TakeDelimiter( m_semicolonRegex );
         isContinued = !isSeparated && m_quotedPrintable && value.endsWith( s_kEquals );
         if ( isContinued )
         {
@@ -384,6 +422,11 @@ bool PimVCardParser::TakeSoftLineBreak( QString& a_value )
     }
     a_value.chop( s_kEquals.size() );
     return true;
+}
+
+bool PimVCardParser::TakeDelimiter( const QRegularExpression& a_delimiter )
+{
+    return !m_lexer->GetToken( a_delimiter, true ).isEmpty();
 }
 
 void PimVCardParser::SkipWhile( bool ( *a_isSkipped )( QChar ) )

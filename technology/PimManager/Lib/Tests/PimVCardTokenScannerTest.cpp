@@ -263,7 +263,7 @@ QList<qint64> ExactPositions( const QByteArray& a_bytes )
     return positions;
 }
 
-void ReadUnits( QTextStream& a_stream, int a_count )
+void ReadUnits( PimVCardTextStream& a_stream, int a_count )
 {
     QChar unit;
     for ( int i = 0; i < a_count; ++i )

@@ -11,7 +11,9 @@ namespace PimManager::vCard
 namespace
 {
 
-constexpr qint64 s_kBlockSize = 1024;
+// Not a multiple of eight: Qt decodes eight or sixteen ASCII bytes at a time without noting that the text has begun,
+// and would then take a U+FEFF at the start of the next block for a byte order mark.
+constexpr qint64 s_kBlockSize = 1023;
 constexpr qint64 s_kLongestSequence = 4;
 
 bool IsContinuation( uchar a_byte )

@@ -1,5 +1,5 @@
 /// \file
-/// The device under the scanner's text stream. Private to the component.
+/// The device under the plain scanner's text stream.
 
 #pragma once
 

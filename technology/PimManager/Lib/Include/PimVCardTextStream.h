@@ -1,0 +1,98 @@
+/// \file
+/// The decoded text under the scanner. Programs that want contacts use PimVCardParser instead.
+
+#pragma once
+
+#include <QByteArray>
+#include <QChar>
+#include <QString>
+#include <QTextStream>
+
+namespace PimManager::vCard
+{
+
+/// Reads UTF-8 straight from a byte array, a UTF-16 unit at a time, and knows its place to the byte.
+///
+/// It offers what the scanner and the grammar use of a QTextStream, under the same names, and the base class keeps the
+/// status. Its reading operations hide those of the base class: read it as a PimVCardTextStream, never through a
+/// reference to the base. It holds no decoded text, so telling the place and going to one cost nothing.
+///
+/// \code
+/// const QByteArray text( "FN:J\xC3\xB6rg\r\n" );
+/// PimVCardTextStream stream( &text );
+/// QChar character;
+/// stream >> character; // 'F'; stream.pos() is 1
+/// \endcode
+class PimVCardTextStream : public QTextStream
+{
+public:
+    /// \param a_data UTF-8 under every locale; not null, may be empty. It stays the caller's, must outlive the stream
+    ///               and must not change. A character that its end cuts off is not part of the text.
+    explicit PimVCardTextStream( const QByteArray* a_data );
+
+    /// Reads the next UTF-16 unit, white space included; the halves of a character beyond U+FFFF come one after the
+    /// other. A byte order mark is passed over at the start of the text and where seek() went. A byte that belongs to
+    /// no character reads as U+FFFD. At the end of the text the unit is U+0000 and status() becomes ReadPastEnd.
+    PimVCardTextStream& operator>>( QChar& a_character )
+    {
+        if ( m_next != m_end && IsAscii( *m_next ) && !IsInsidePair() )
+            a_character = QLatin1Char( *m_next++ );
+        else
+            a_character = ReadBeyondAscii();
+        return *this;
+    }
+
+    /// \return true when every unit of the text was read.
+    bool atEnd() const { return m_next == m_end && !IsInsidePair(); }
+
+    /// \return the place of the next character, in bytes from the start of the text; between the halves of a surrogate
+    ///         pair, the place behind the pair.
+    qint64 pos() const { return m_next - m_begin; }
+
+    /// Goes to a place in bytes from the start of the text. The status stays as it is.
+    /// \return false, with nothing changed, for a place before the start or behind the end of the text.
+    bool seek( qint64 a_place );
+
+    /// Reads up to the next LF or CR LF and over it, or up to the end of the text.
+    /// \return the line without its end, or without a carriage return that ends the text; null at the end of the text.
+    /// Linear in its length.
+    QString readLine();
+
+    /// Reads all that is left.
+    /// \return the text; null at the end. Linear in its length.
+    QString readAll();
+
+    /// True between the halves of a surrogate pair.
+    bool IsInsidePair() const { return m_lowSurrogate != 0; }
+
+    /// True if the character is ASCII and stands directly before the next byte.
+    bool IsDirectlyBehind( QChar a_character ) const
+    {
+        return a_character.unicode() < 0x80 && m_next != m_begin && QLatin1Char( m_next[-1] ) == a_character;
+    }
+
+    /// The bytes that were not read yet, from Next() to End().
+    const char* Next() const { return m_next; }
+    const char* End() const { return m_end; }
+
+    /// Passes over bytes, up to a_next.
+    /// \pre a_next is the first byte of a character, from Next() to End(), and IsInsidePair() is false.
+    void SkipTo( const char* a_next ) { m_next = a_next; }
+
+private:
+    static bool IsAscii( char a_byte ) { return static_cast<uchar>( a_byte ) < 0x80; }
+    QChar ReadBeyondAscii();
+    QChar TakeLowSurrogate();
+    uint DecodeCharacter();
+    bool SkipByteOrderMark();
+    QString ReadTo( const char* a_end );
+
+    const char* m_begin;
+    const char* m_end;
+    const char* m_next;
+    // Where reading began: there alone U+FEFF is a byte order mark.
+    const char* m_origin;
+    ushort m_lowSurrogate = 0;
+};
+
+} // namespace PimManager::vCard

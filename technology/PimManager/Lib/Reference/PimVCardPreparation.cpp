@@ -1,0 +1,23 @@
+#include "PimVCardPreparation.h"
+
+#include "PimVCardVocabulary.h"
+
+#include <QRegularExpression>
+#include <QString>
+
+namespace PimManager::vCard
+{
+
+// Two expressions over the whole text, each written as its rule: the judge of the component's preparation.
+QByteArray PreparedText( const QByteArray& a_data )
+{
+    const uint length = qstrnlen( a_data.constData(), static_cast<uint>( a_data.size() ) );
+    QString text = QString::fromUtf8( a_data.constData(), static_cast<int>( length ) );
+    text.replace( QRegularExpression( s_kQpSoftBreakPattern ), s_kSpace );
+    // A CR LF is one line break: where its CR is protected by a "=" before it, its LF begins no fold either.
+    const QString notInsideCrlf = QStringLiteral( R"((?!(?<=\r)\n))" );
+    text.replace( QRegularExpression( notInsideCrlf + s_kUnfoldPattern ), QString() );
+    return text.toUtf8();
+}
+
+} // namespace PimManager::vCard

@@ -1,0 +1,225 @@
+#include "PimVCardPreparation.h"
+
+#include <QString>
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstring>
+
+namespace PimManager::vCard
+{
+
+namespace
+{
+
+constexpr quint64 s_kHighBits = 0x8080808080808080;
+constexpr int s_kWord = sizeof( quint64 );
+constexpr int s_kByteOrderMarkLength = 3;
+constexpr const char* s_kEncodedBreak = "=0D=0A=";
+constexpr int s_kEncodedBreakLength = 7;
+
+quint64 WordAt( const char* a_place )
+{
+    return qFromLittleEndian<quint64>( a_place );
+}
+
+// The first byte that may begin a line break: below 0x0E, or beyond ASCII.
+const char* FindBreakCandidate( const char* a_begin, const char* a_end )
+{
+    const char* place = a_begin;
+    for ( ; a_end - place >= s_kWord; place += s_kWord )
+    {
+        const quint64 word = WordAt( place );
+        const quint64 found = ( ( word - 0x0E0E0E0E0E0E0E0E ) | word ) & s_kHighBits;
+        if ( found != 0 )
+            return place + qCountTrailingZeroBits( found ) / 8;
+    }
+    while ( place != a_end && static_cast<uchar>( *place ) >= 0x0E && static_cast<uchar>( *place ) < 0x80 )
+        ++place;
+    return place;
+}
+
+// The length of the line break that begins here, 0 if none does. The text is UTF-8, so no character is cut off.
+int LineBreakLength( const char* a_place, const char* a_end )
+{
+    switch ( static_cast<uchar>( *a_place ) )
+    {
+    case '\r':
+        return a_end - a_place > 1 && a_place[1] == '\n' ? 2 : 1;
+    case '\n':
+    case '\v':
+    case '\f':
+        return 1;
+    case 0xC2:
+        return a_place[1] == '\x85' ? 2 : 0;
+    case 0xE2:
+        return a_place[1] == '\x80' && ( a_place[2] == '\xA8' || a_place[2] == '\xA9' ) ? 3 : 0;
+    default:
+        return 0;
+    }
+}
+
+const char* SkipBlanks( const char* a_begin, const char* a_end )
+{
+    const char* place = a_begin;
+    while ( place != a_end && ( *place == ' ' || *place == '\t' ) )
+        ++place;
+    return place;
+}
+
+const char* SkipAscii( const char* a_begin, const char* a_end )
+{
+    const char* place = a_begin;
+    while ( a_end - place >= s_kWord && ( WordAt( place ) & s_kHighBits ) == 0 )
+        place += s_kWord;
+    while ( place != a_end && static_cast<uchar>( *place ) < 0x80 )
+        ++place;
+    return place;
+}
+
+// The length of the character beyond ASCII that begins here, 0 if it is malformed (RFC 3629, section 4).
+int CharacterLength( const char* a_place, const char* a_end )
+{
+    const auto byteAt = [=]( int a_offset )
+    { return a_offset < a_end - a_place ? static_cast<uchar>( a_place[a_offset] ) : uchar( 0 ); };
+    const auto isTail = [&byteAt]( int a_offset ) { return ( byteAt( a_offset ) & 0xC0U ) == 0x80; };
+    const uchar lead = byteAt( 0 );
+    const uchar second = byteAt( 1 );
+    if ( lead < 0xC2 || lead > 0xF4 || !isTail( 1 ) )
+        return 0;
+    if ( lead < 0xE0 )
+        return 2;
+    if ( ( lead == 0xE0 && second < 0xA0 ) || ( lead == 0xED && second > 0x9F ) || !isTail( 2 ) )
+        return 0;
+    if ( lead < 0xF0 )
+        return 3;
+    if ( ( lead == 0xF0 && second < 0x90 ) || ( lead == 0xF4 && second > 0x8F ) || !isTail( 3 ) )
+        return 0;
+    return 4;
+}
+
+bool IsUtf8( const char* a_begin, const char* a_end )
+{
+    for ( const char* place = SkipAscii( a_begin, a_end ); place != a_end; place = SkipAscii( place, a_end ) )
+    {
+        const int length = CharacterLength( place, a_end );
+        if ( length == 0 )
+            return false;
+        place += length;
+    }
+    return true;
+}
+
+/// Copies a text but for the pieces that go.
+class Copier
+{
+public:
+    Copier( const char* a_begin, const char* a_end ) :
+        m_copied( a_begin ),
+        m_end( a_end ),
+        m_text( static_cast<int>( a_end - a_begin ), Qt::Uninitialized ),
+        m_to( m_text.data() )
+    {
+    }
+
+    /// Where the piece ended that went last.
+    const char* LastCut() const { return m_copied; }
+
+    void Cut( const char* a_begin, const char* a_end )
+    {
+        CopyTo( a_begin );
+        m_copied = a_end;
+    }
+
+    // A piece that is replaced is longer than a blank.
+    void ReplaceByBlank( const char* a_begin, const char* a_end )
+    {
+        Cut( a_begin, a_end );
+        *m_to++ = ' ';
+    }
+
+    QByteArray Finish()
+    {
+        CopyTo( m_end );
+        m_text.truncate( static_cast<int>( m_to - m_text.constData() ) );
+        return m_text;
+    }
+
+private:
+    void CopyTo( const char* a_end )
+    {
+        const auto length = static_cast<size_t>( a_end - m_copied );
+        std::memcpy( m_to, m_copied, length );
+        m_to += length;
+    }
+
+    const char* m_copied;
+    const char* m_end;
+    QByteArray m_text;
+    char* m_to;
+};
+
+// The length of an encoded line break and the soft one behind it, 0 if none begins here.
+qint64 EncodedBreakLength( const char* a_place, const char* a_end )
+{
+    if ( a_end - a_place <= s_kEncodedBreakLength ||
+         std::memcmp( a_place, s_kEncodedBreak, s_kEncodedBreakLength ) != 0 )
+        return 0;
+    const int breakLength = LineBreakLength( a_place + s_kEncodedBreakLength, a_end );
+    return breakLength == 0 ? 0 : s_kEncodedBreakLength + breakLength;
+}
+
+// The blanks at the start of a line, those among them that encoded line breaks become.
+const char* SkipIndent( const char* a_begin, const char* a_end )
+{
+    const char* place = SkipBlanks( a_begin, a_end );
+    while ( const qint64 length = EncodedBreakLength( place, a_end ) )
+        place = SkipBlanks( place + length, a_end );
+    return place;
+}
+
+// Does both in one pass, as if the encoded breaks went first and the folds after.
+QByteArray JoinLines( const char* a_begin, const char* a_end )
+{
+    Copier copier( a_begin, a_end );
+    const char* place = FindBreakCandidate( a_begin, a_end );
+    while ( place != a_end )
+    {
+        const int breakLength = LineBreakLength( place, a_end );
+        const char* next = place + std::max( breakLength, 1 );
+        if ( breakLength != 0 && ( place == a_begin || place[-1] != '=' ) )
+        {
+            const char* const text = SkipIndent( next, a_end );
+            if ( text != next )
+                copier.Cut( place, text );
+            next = text;
+        }
+        else if ( breakLength != 0 && place - copier.LastCut() >= s_kEncodedBreakLength &&
+                  EncodedBreakLength( place - s_kEncodedBreakLength, a_end ) != 0 )
+        {
+            next = SkipBlanks( next, a_end );
+            copier.ReplaceByBlank( place - s_kEncodedBreakLength, next );
+        }
+        place = FindBreakCandidate( next, a_end );
+    }
+    return copier.Finish();
+}
+
+} // namespace
+
+QByteArray PreparedText( const QByteArray& a_data )
+{
+    const char* const begin = a_data.constData();
+    const auto* const nul =
+        static_cast<const char*>( std::memchr( begin, '\0', static_cast<size_t>( a_data.size() ) ) );
+    const char* const end = nul != nullptr ? nul : begin + a_data.size();
+    if ( !IsUtf8( begin, end ) )
+    {
+        const QByteArray repaired = QString::fromUtf8( begin, static_cast<int>( end - begin ) ).toUtf8();
+        return JoinLines( repaired.constData(), repaired.constData() + repaired.size() );
+    }
+    const bool hasMark = end - begin >= s_kByteOrderMarkLength && std::memcmp( begin, "\xEF\xBB\xBF", 3 ) == 0;
+    return JoinLines( hasMark ? begin + s_kByteOrderMarkLength : begin, end );
+}
+
+} // namespace PimManager::vCard

@@ -262,7 +262,7 @@ TEST( ReferenceTest, PreparesRandomTexts )
 TEST( ReferenceTest, ScansRandomTextsWithRandomExpressions )
 {
     PimVCardReferenceTexts random( 5 );
-    for ( int i = 0; i < 6000; ++i )
+    for ( int i = 0; i < 3000; ++i )
     {
         const QByteArray text = random.Text( random.Number( 30 ) );
         ASSERT_TRUE( ScansTheSame( text, random.Script( text ) ) ) << i;

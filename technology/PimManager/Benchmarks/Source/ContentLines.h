@@ -1,0 +1,22 @@
+/// \file
+/// How a program that writes address books breaks its lines.
+
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+
+namespace PimManager::vCard::Benchmarks
+{
+
+/// Ends a line, after folding it at 75 bytes (RFC 2426, section 2.6). No fold stands inside a UTF-8 sequence or before
+/// a blank, which unfolding would take away.
+QByteArray FoldedLine( const QByteArray& a_line );
+
+/// A line with QUOTED-PRINTABLE values, line end included: every byte as "=XX", which is what phones write, with a soft
+/// line break wherever the line would grow beyond 76 bytes (RFC 2045, section 6.7).
+/// \param a_start  name, parameters and colon.
+/// \param a_values the components that semicolons stand between.
+QByteArray QuotedPrintableLine( const QByteArray& a_start, const QList<QByteArray>& a_values );
+
+} // namespace PimManager::vCard::Benchmarks

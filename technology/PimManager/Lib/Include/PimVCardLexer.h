@@ -10,12 +10,16 @@
 #include <QString>
 
 #include <array>
+#include <memory>
+#include <tuple>
+#include <utility>
 
 class QByteArray;
 
 namespace PimManager::vCard
 {
 
+class PimVCardBeginSearch;
 struct PimVCardCharacterClass;
 
 /// Cuts a text into tokens, as its caller's expressions tell it, and knows nothing of the vCard grammar.
@@ -89,29 +93,69 @@ public:
     qint32 m_lineNumber = 1;
 
 private:
-    // The parser's expressions stay as they are while the scanner lives, so it tells them beforehand.
     friend class PimVCardParser;
-    void Learn( const QRegularExpression& a_pattern );
+    // The parser's expressions stay as they are while the scanner lives, so it tells them beforehand, each with the
+    // vocabulary's pattern from which it was made.
+    void Learn( const QRegularExpression& a_pattern, const QString& a_text );
+    // GetToken() for a single delimiter that was learned; tells only if there is a token. Asked ten times a line,
+    // mostly for a delimiter that is not there.
+    bool TakeDelimiter( const QRegularExpression& a_delimiter )
+    {
+        StartToken();
+        const QString& delimiter = *m_learnedPatterns[SlotOf( a_delimiter )].m_delimiter;
+        if ( m_nextChar != *delimiter.constData() )
+            return false;
+        m_token = QString( delimiter );
+        m_stream >> m_nextChar;
+        return true;
+    }
+    // GetToken() for line ends, the same way.
+    bool TakeLineEnd( const QRegularExpression& a_lineEnds );
+    // SeekToPattern() for a BEGIN line, without the text of the line. Linear also when one long line is searched from
+    // each of its characters.
+    void SeekToBeginLine();
+    // Takes what was read out of the text, which must be the scanner's, when that is half of it or more.
+    void DropReadText( QByteArray& a_text );
 
     struct LearnedPattern
     {
         const QRegularExpression* m_pattern = nullptr;
         const PimVCardCharacterClass* m_class = nullptr;
+        const QString* m_delimiter = nullptr;
     };
+    using LearnedPatterns = std::array<LearnedPattern, 16>;
 
     class LineCount;
     class ExpressionMatcher;
 
     const PimVCardCharacterClass* ClassOf( const QRegularExpression& a_pattern ) const;
     void TakeCharacter( const QRegularExpression& a_pattern );
+    bool TakeWholeRun( const PimVCardCharacterClass& a_class );
     template <typename Matcher>
     void TakeRun( const Matcher& a_matcher );
     void TakeUnescaped( const ExpressionMatcher& a_matcher, QChar a_candidate, LineCount& a_lines );
     void TakeUnescaped( const PimVCardCharacterClass& a_class, QChar a_candidate, LineCount& a_lines );
     void AppendText( const PimVCardCharacterClass& a_class, const char* a_text, int a_length );
     bool CompleteEscapePair( QChar& a_candidate );
+    void GoBackOver( int a_lineLength );
 
-    std::array<LearnedPattern, 16> m_learnedPatterns;
+    // Expressions that are members of one object stand side by side, each in a slot of its own.
+    static size_t SlotOf( const QRegularExpression& a_pattern )
+    {
+        return reinterpret_cast<quintptr>( &a_pattern ) / sizeof( QRegularExpression ) %
+               std::tuple_size_v<LearnedPatterns>;
+    }
+
+    void StartToken()
+    {
+        m_prevToken = std::move( m_token );
+        m_token = QString();
+        if ( m_nextChar.isNull() )
+            m_stream >> m_nextChar;
+    }
+
+    LearnedPatterns m_learnedPatterns;
+    std::unique_ptr<PimVCardBeginSearch> m_beginSearch;
 };
 
 } // namespace PimManager::vCard

@@ -47,7 +47,7 @@ public:
 
     /// \return the place of the next character, in bytes from the start of the text; between the halves of a surrogate
     ///         pair, the place behind the pair.
-    qint64 pos() const { return m_next - m_begin; }
+    qint64 pos() const { return m_taken + ( m_next - m_begin ); }
 
     /// Goes to a place in bytes from the start of the text. The status stays as it is.
     /// \return false, with nothing changed, for a place before the start or behind the end of the text.
@@ -79,6 +79,16 @@ public:
     /// \pre a_next is the first byte of a character, from Next() to End(), and IsInsidePair() is false.
     void SkipTo( const char* a_next ) { m_next = a_next; }
 
+    /// Passes over the second half of a surrogate pair, or over a byte order mark where one would be swallowed.
+    /// \return true if it was a half.
+    bool PassMarkOrHalf();
+
+    /// Goes on in the same text after bytes were taken from its front. Positions stay what they were; the places of
+    /// those bytes can no longer be gone to.
+    /// \param a_data  the text without them; as for the constructor.
+    /// \param a_taken their number; all of them were read.
+    void Rebase( const QByteArray* a_data, int a_taken );
+
 private:
     static bool IsAscii( char a_byte ) { return static_cast<uchar>( a_byte ) < 0x80; }
     QChar ReadBeyondAscii();
@@ -92,6 +102,8 @@ private:
     const char* m_next;
     // Where reading began: there alone U+FEFF is a byte order mark.
     const char* m_origin;
+    // The bytes in front of m_begin that the text no longer has.
+    qint64 m_taken = 0;
     ushort m_lowSurrogate = 0;
 };
 

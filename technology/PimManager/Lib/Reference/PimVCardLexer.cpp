@@ -141,6 +141,11 @@ QString PimVCardLexer::SeekToPattern( const QRegularExpression& a_pattern )
     return line;
 }
 
+void PimVCardLexer::SeekToBeginLine()
+{
+    SeekToPattern( QRegularExpression( s_kBeginVCardPattern, QRegularExpression::CaseInsensitiveOption ) );
+}
+
 void PimVCardLexer::PrintStatus( const QRegularExpression* a_pattern ) const
 {
     qDebug() << "---------------------------- PimVCardLexer Status:";

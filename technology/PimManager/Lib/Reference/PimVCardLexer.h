@@ -102,7 +102,12 @@ public:
 private:
     friend class PimVCardParser;
     // Nothing to learn: every expression is matched anew.
-    void Learn( const QRegularExpression& /*a_pattern*/ ) {}
+    void Learn( const QRegularExpression& /*a_pattern*/, const QString& /*a_text*/ ) {}
+    bool TakeDelimiter( const QRegularExpression& a_delimiter ) { return !GetToken( a_delimiter, true ).isEmpty(); }
+    bool TakeLineEnd( const QRegularExpression& a_lineEnds ) { return !GetToken( a_lineEnds, false ).isEmpty(); }
+    void SeekToBeginLine();
+    // The text stays whole.
+    void DropReadText( const QByteArray& /*a_text*/ ) {}
 
     void TakeCharacter( const QRegularExpression& a_pattern );
     void TakeRun( const QRegularExpression& a_pattern );

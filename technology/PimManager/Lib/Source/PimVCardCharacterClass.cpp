@@ -39,7 +39,7 @@ constexpr Bytes s_kValues = Without( Without( With( s_kWide, 0x21, 0x7E ), ';' )
 
 constexpr Class Delimiter( const QString& a_delimiter, const char* a_character )
 {
-    return { With( Bytes{}, a_character ), Class::Beyond::Nothing, false, false, false, &a_delimiter };
+    return { With( Bytes{}, a_character ), Class::Beyond::Nothing, false, false, false, false, &a_delimiter };
 }
 
 constexpr Class s_kSemicolonClass = Delimiter( s_kSemicolon, ";" );
@@ -51,7 +51,7 @@ constexpr Class s_kDQuoteClass = Delimiter( s_kDQuote, "\"" );
 constexpr Class s_kNameClass = { With( s_kLettersAndDigits, "-" ), Class::Beyond::Nothing, false, false, true };
 constexpr Class s_kValueClass = { With( s_kValues, "\n" ), Class::Beyond::Everything, false, true };
 constexpr Class s_kQSafeClass = { s_kQSafe, Class::Beyond::Everything, true };
-constexpr Class s_kCrlfClass = { With( Bytes{}, 0x0A, 0x0D ), Class::Beyond::LineBreaks, false, false, true };
+constexpr Class s_kCrlfClass = { With( Bytes{}, 0x0A, 0x0D ), Class::Beyond::LineBreaks, false, false, false, true };
 constexpr Class s_kBase64Class = { With( s_kLettersAndDigits, "+/=" ) };
 
 struct Entry
@@ -85,11 +85,16 @@ bool AreSameText( const QString& a_first, const QString& a_second )
 
 const Class* Class::Find( const QRegularExpression& a_expression )
 {
-    const QString pattern = a_expression.pattern();
+    const Class* const found = Find( a_expression.pattern() );
+    return found != nullptr && a_expression.patternOptions() == QRegularExpression::NoPatternOption ? found : nullptr;
+}
+
+const Class* Class::Find( const QString& a_pattern )
+{
     for ( const Entry& entry : s_kEntries )
     {
-        if ( AreSameText( *entry.m_pattern, pattern ) )
-            return a_expression.patternOptions() == QRegularExpression::NoPatternOption ? entry.m_class : nullptr;
+        if ( AreSameText( *entry.m_pattern, a_pattern ) )
+            return entry.m_class;
     }
     return nullptr;
 }

@@ -38,6 +38,8 @@ struct PimVCardCharacterClass
     bool m_escapePairs = false;
     /// The same few tokens come again and again.
     bool m_recurs = false;
+    /// Carriage returns are accepted.
+    bool m_endsLines = false;
     /// The only character of the class; null if there are more.
     const QString* m_delimiter = nullptr;
 
@@ -45,11 +47,17 @@ struct PimVCardCharacterClass
     ///         for any other expression.
     static const PimVCardCharacterClass* Find( const QRegularExpression& a_expression );
 
+    /// The same for the pattern itself.
+    static const PimVCardCharacterClass* Find( const QString& a_pattern );
+
     bool Matches( QChar a_character ) const
     {
         const ushort code = a_character.unicode();
         return code < 0x80 ? m_bytes[code] || ( m_backslash && code == '\\' ) : MatchesBeyondAscii( code );
     }
+
+    /// True if a run may hold characters that m_bytes accepts and that are not ASCII.
+    bool MayTakeBeyondAscii() const { return m_beyond == Beyond::Everything; }
 
     /// The same for a backslash and a character.
     bool MatchesEscaped( QChar a_character ) const;

@@ -1,13 +1,15 @@
 #include "PimVCardLexer.h"
 
+#include "PimVCardBeginSearch.h"
 #include "PimVCardCharacterClass.h"
+#include "PimVCardRecurringText.h"
 #include "PimVCardVocabulary.h"
 
+#include <QByteArray>
 #include <QDebug>
 #include <QtEndian>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace PimManager::vCard
@@ -18,45 +20,37 @@ namespace
 
 constexpr QLatin1Char s_kBackslash( '\\' );
 constexpr int s_kLineEndLength = 2;
-constexpr int s_kLongestRecurringText = 24;
+constexpr int s_kLeastDrop = 0x10000;
 
-// Expressions that are members of one object stand side by side, each in a slot of its own.
-size_t SlotOf( const QRegularExpression* a_pattern, size_t a_slots )
+bool IsLetterOrDigit( char a_byte )
 {
-    return reinterpret_cast<quintptr>( a_pattern ) / sizeof( QRegularExpression ) % a_slots;
+    const auto isFrom = [a_byte]( char a_first, char a_last ) { return a_byte >= a_first && a_byte <= a_last; };
+    return isFrom( 'A', 'Z' ) || isFrom( 'a', 'z' ) || isFrom( '0', '9' );
 }
 
 bool IsAscii( const char* a_text, int a_length )
 {
     constexpr quint64 highBits = 0x8080808080808080;
     constexpr int wordLength = sizeof( quint64 );
-    int place = 0;
-    for ( ; a_length - place >= wordLength; place += wordLength )
+    const auto isAscii = []( char a_byte ) { return static_cast<uchar>( a_byte ) < 0x80; };
+    if ( a_length < wordLength )
+        return std::all_of( a_text, a_text + a_length, isAscii );
+    const char* const lastWord = a_text + a_length - wordLength;
+    for ( const char* place = a_text; place < lastWord; place += wordLength )
     {
-        if ( ( qFromUnaligned<quint64>( a_text + place ) & highBits ) != 0 )
+        if ( ( qFromUnaligned<quint64>( place ) & highBits ) != 0 )
             return false;
     }
-    for ( ; place < a_length; ++place )
-    {
-        if ( static_cast<uchar>( a_text[place] ) >= 0x80 )
-            return false;
-    }
-    return true;
+    return ( qFromUnaligned<quint64>( lastWord ) & highBits ) == 0;
 }
 
-// Names such as TEL and TYPE stand in every card, so each thread keeps the last ones and the cards share them.
-QString RecurringText( const char* a_text, int a_length )
+QString TextOf( const PimVCardCharacterClass& a_class, const char* a_text, int a_length )
 {
-    const auto byteAt = [a_text]( int a_place ) { return static_cast<uchar>( a_text[a_place] ); };
-    const int place = byteAt( 0 ) * 5 + byteAt( a_length / 2 ) + byteAt( a_length - 1 ) * 3 + a_length * 7;
-    thread_local std::array<QString, 64> t_texts;
-    QString& known = t_texts[static_cast<size_t>( place ) % t_texts.size()];
-    const bool isSame = known.size() == a_length && std::equal( a_text, a_text + a_length, known.constData(),
-                                                                []( char a_byte, QChar a_character )
-                                                                { return QLatin1Char( a_byte ) == a_character; } );
-    if ( !isSame )
-        known = QLatin1String( a_text, a_length );
-    return known;
+    if ( a_class.m_recurs )
+        return PimVCardRecurringText( a_text, a_length );
+    if ( a_class.MayTakeBeyondAscii() && !IsAscii( a_text, a_length ) )
+        return QString::fromUtf8( a_text, a_length );
+    return QLatin1String( a_text, a_length );
 }
 
 bool IsValid( const QRegularExpression& a_pattern )
@@ -139,38 +133,30 @@ PimVCardLexer::PimVCardLexer( const QByteArray* a_data ) :
 
 PimVCardLexer::~PimVCardLexer() = default;
 
-QString PimVCardLexer::GetToken( const QRegularExpression& a_pattern, bool a_single )
+bool PimVCardLexer::TakeLineEnd( const QRegularExpression& a_lineEnds )
 {
-    const PimVCardCharacterClass* const knownClass = ClassOf( a_pattern );
-    if ( knownClass == nullptr && !IsValid( a_pattern ) )
-        return QString();
-    m_prevToken = std::move( m_token );
-    m_token = QString();
-    if ( m_nextChar.isNull() )
-        m_stream >> m_nextChar;
-    if ( knownClass == nullptr )
-        a_single ? TakeCharacter( a_pattern ) : TakeRun( ExpressionMatcher( a_pattern ) );
-    else if ( !a_single )
-        TakeRun( *knownClass );
-    else if ( knownClass->m_delimiter == nullptr )
-        TakeCharacter( a_pattern );
-    else if ( m_nextChar == *knownClass->m_delimiter->constData() )
-    {
-        m_token = *knownClass->m_delimiter;
-        m_stream >> m_nextChar;
-    }
-    return m_token;
+    const char* const next = m_stream.Next();
+    const bool isOneCrlf = m_nextChar == QChar::CarriageReturn && m_stream.End() - next > 1 && next[0] == '\n' &&
+                           IsLetterOrDigit( next[1] );
+    if ( !isOneCrlf )
+        return !GetToken( a_lineEnds, false ).isEmpty();
+    StartToken();
+    m_token = QString( s_kCrlf );
+    m_nextChar = QLatin1Char( next[1] );
+    m_stream.SkipTo( next + 2 );
+    ++m_lineNumber;
+    return true;
 }
 
-void PimVCardLexer::Learn( const QRegularExpression& a_pattern )
+void PimVCardLexer::Learn( const QRegularExpression& a_pattern, const QString& a_text )
 {
-    m_learnedPatterns[SlotOf( &a_pattern, m_learnedPatterns.size() )] = { &a_pattern,
-                                                                          PimVCardCharacterClass::Find( a_pattern ) };
+    const PimVCardCharacterClass* const knownClass = PimVCardCharacterClass::Find( a_text );
+    m_learnedPatterns[SlotOf( a_pattern )] = { &a_pattern, knownClass, knownClass->m_delimiter };
 }
 
-const PimVCardCharacterClass* PimVCardLexer::ClassOf( const QRegularExpression& a_pattern ) const
+inline const PimVCardCharacterClass* PimVCardLexer::ClassOf( const QRegularExpression& a_pattern ) const
 {
-    const LearnedPattern& learned = m_learnedPatterns[SlotOf( &a_pattern, m_learnedPatterns.size() )];
+    const LearnedPattern& learned = m_learnedPatterns[SlotOf( a_pattern )];
     return learned.m_pattern == &a_pattern ? learned.m_class : PimVCardCharacterClass::Find( a_pattern );
 }
 
@@ -181,6 +167,46 @@ void PimVCardLexer::TakeCharacter( const QRegularExpression& a_pattern )
         return;
     m_token = candidate;
     m_stream >> m_nextChar;
+}
+
+// Most runs stand whole in the bytes, without a backslash, and an ASCII character ends them.
+inline bool PimVCardLexer::TakeWholeRun( const PimVCardCharacterClass& a_class )
+{
+    if ( !m_stream.IsDirectlyBehind( m_nextChar ) || !a_class.m_bytes[m_nextChar.unicode()] )
+        return false;
+    const char* const begin = m_stream.Next() - 1;
+    const char* const end = a_class.EndOfRun( m_stream.Next(), m_stream.End() );
+    if ( end == m_stream.End() || *end == s_kBackslash.toLatin1() || static_cast<uchar>( *end ) >= 0x80 )
+        return false;
+    m_stream.SkipTo( end + 1 );
+    m_nextChar = QLatin1Char( *end );
+    m_token = TextOf( a_class, begin, static_cast<int>( end - begin ) );
+    if ( a_class.m_endsLines )
+    {
+        LineCount lines;
+        lines.Add( begin, end );
+        m_lineNumber += lines.Lines();
+    }
+    return true;
+}
+
+QString PimVCardLexer::GetToken( const QRegularExpression& a_pattern, bool a_single )
+{
+    const PimVCardCharacterClass* const knownClass = ClassOf( a_pattern );
+    if ( knownClass != nullptr && !a_single )
+    {
+        StartToken();
+        if ( !TakeWholeRun( *knownClass ) )
+            TakeRun( *knownClass );
+    }
+    else if ( knownClass != nullptr || IsValid( a_pattern ) )
+    {
+        StartToken();
+        a_single ? TakeCharacter( a_pattern ) : TakeRun( ExpressionMatcher( a_pattern ) );
+    }
+    else
+        return QString();
+    return m_token;
 }
 
 template <typename Matcher>
@@ -224,7 +250,7 @@ void PimVCardLexer::TakeUnescaped( const PimVCardCharacterClass& a_class, QChar 
     const char* const end = a_class.EndOfRun( m_stream.Next(), m_stream.End() );
     m_stream.SkipTo( end );
     AppendText( a_class, begin, static_cast<int>( end - begin ) );
-    if ( a_class.Matches( QChar::CarriageReturn ) )
+    if ( a_class.m_endsLines )
         a_lines.Add( begin, end );
 }
 
@@ -232,12 +258,10 @@ void PimVCardLexer::AppendText( const PimVCardCharacterClass& a_class, const cha
 {
     if ( a_length == 0 )
         return;
-    if ( a_class.m_recurs && a_length <= s_kLongestRecurringText && m_token.isNull() )
-        m_token = RecurringText( a_text, a_length );
-    else if ( a_class.m_beyond == PimVCardCharacterClass::Beyond::Everything && !IsAscii( a_text, a_length ) )
+    if ( m_token.isNull() )
+        m_token = TextOf( a_class, a_text, a_length );
+    else if ( a_class.MayTakeBeyondAscii() && !IsAscii( a_text, a_length ) )
         m_token += QString::fromUtf8( a_text, a_length );
-    else if ( m_token.isNull() )
-        m_token = QString( QLatin1String( a_text, a_length ) );
     else
         m_token += QLatin1String( a_text, a_length );
 }
@@ -270,11 +294,49 @@ QString PimVCardLexer::SeekToPattern( const QRegularExpression& a_pattern )
 
     if ( m_stream.atEnd() )
         return QString();
-    const qint64 lineStart = m_stream.pos() - line.size() - s_kLineEndLength;
+    GoBackOver( line.size() );
+    return line;
+}
+
+void PimVCardLexer::GoBackOver( int a_lineLength )
+{
+    const qint64 lineStart = m_stream.pos() - a_lineLength - s_kLineEndLength;
     if ( lineStart >= 0 )
         m_stream.seek( lineStart );
     --m_lineNumber;
-    return line;
+}
+
+void PimVCardLexer::SeekToBeginLine()
+{
+    m_token.clear();
+    m_prevToken.clear();
+    m_nextChar = QChar();
+    if ( m_beginSearch == nullptr )
+        m_beginSearch = std::make_unique<PimVCardBeginSearch>();
+    PimVCardBeginSearch::Line line = {};
+    do
+    {
+        const bool beginsWithHalf = m_stream.PassMarkOrHalf();
+        line = m_beginSearch->LineFrom( m_stream.Next(), m_stream.End() );
+        // No expression matches a text with half a character.
+        line.m_hasBegin = line.m_hasBegin && !beginsWithHalf;
+        m_stream.SkipTo( line.m_next );
+        ++m_lineNumber;
+    } while ( !line.m_hasBegin && !m_stream.atEnd() );
+    if ( !m_stream.atEnd() )
+        GoBackOver( line.m_length );
+}
+
+void PimVCardLexer::DropReadText( QByteArray& a_text )
+{
+    const int kept = s_kLineEndLength;
+    const auto read = static_cast<int>( m_stream.Next() - a_text.constData() ) - kept;
+    if ( read < s_kLeastDrop || read < a_text.size() / 2 || !a_text.isDetached() )
+        return;
+    a_text.remove( 0, read );
+    a_text.squeeze();
+    m_beginSearch.reset();
+    m_stream.Rebase( &a_text, read );
 }
 
 void PimVCardLexer::PrintStatus( const QRegularExpression* a_pattern ) const

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QList>
+#include <QVarLengthArray>
 
 #include <memory>
 
@@ -31,14 +32,23 @@ struct OwnedListDeleter
     }
 };
 
-/// Holds a list while it is being filled; an operation that fails drops it with all that it holds.
+/// Holds a list that belongs to nobody yet; an operation that fails drops it with all that it holds.
 template <typename T>
 using OwnedList = std::unique_ptr<QList<T*>, OwnedListDeleter>;
 
-template <typename T>
-OwnedList<T> MakeOwnedList()
+/// The elements of a list in the making: those that come usually need no memory of their own.
+template <typename T, int UsualNumber>
+using OwnedElements = QVarLengthArray<std::unique_ptr<T>, UsualNumber>;
+
+/// \return a new list, just as long as it must be, that takes the elements over.
+template <typename T, int UsualNumber>
+QList<T*>* NewListOf( OwnedElements<T, UsualNumber>& a_elements )
 {
-    return OwnedList<T>( new QList<T*> );
+    OwnedList<T> list( new QList<T*> );
+    list->reserve( a_elements.size() );
+    for ( std::unique_ptr<T>& element : a_elements )
+        list->append( element.release() );
+    return list.release();
 }
 
 } // namespace PimManager::vCard

@@ -7,8 +7,10 @@
 
 #include <QDebug>
 #include <QTime>
+#include <QVarLengthArray>
 
 #include <memory>
+#include <utility>
 
 namespace PimManager::vCard
 {
@@ -17,6 +19,9 @@ namespace
 {
 
 constexpr const char* s_kPrintPrefix = "  ";
+constexpr int s_kUsualProperties = 16;
+constexpr int s_kUsualParameters = 4;
+constexpr int s_kUsualComponents = 8;
 
 // A wall clock on purpose: the timing line has always shown its time.
 QT_WARNING_PUSH
@@ -84,9 +89,22 @@ bool AreSameWord( const QString& a_first, const QString& a_second )
     return a_first == a_second || a_first.compare( a_second, Qt::CaseInsensitive ) == 0;
 }
 
-bool ContainsWord( const QString& a_text, const QString& a_word )
+void AppendTo( QString& a_text, QString&& a_piece )
 {
-    return a_text == a_word || ( a_text.size() >= a_word.size() && a_text.contains( a_word, Qt::CaseInsensitive ) );
+    if ( a_text.isNull() )
+        a_text = std::move( a_piece );
+    else
+        a_text += a_piece;
+}
+
+template <typename Texts>
+QList<QString>* NewListOf( const Texts& a_texts )
+{
+    auto list = std::make_unique<QList<QString>>();
+    list->reserve( a_texts.size() );
+    for ( const QString& text : a_texts )
+        list->append( text );
+    return list.release();
 }
 
 bool IsVCardBoundary( const PimVCardProperty* a_property, const QString& a_name )
@@ -118,11 +136,19 @@ PimVCardParser::PimVCardParser( const QByteArray& a_data ) :
 {
     PrepareInput();
     m_lexer = new PimVCardLexer( &m_data );
-    for ( const QRegularExpression* pattern :
-          { &m_dotRegex, &m_semicolonRegex, &m_colonRegex, &m_equalsRegex, &m_commaRegex, &m_dQuoteRegex, &m_crlfRegex,
-            &m_nameRegex, &m_valueCharRegex, &m_paramNameRegex, &m_paramValueRegex, &m_qSafeCharRegex,
-            &m_base64CharRegex } )
-        m_lexer->Learn( *pattern );
+    m_lexer->Learn( m_dotRegex, s_kDotPattern );
+    m_lexer->Learn( m_semicolonRegex, s_kSemicolonPattern );
+    m_lexer->Learn( m_colonRegex, s_kColonPattern );
+    m_lexer->Learn( m_equalsRegex, s_kEqualsPattern );
+    m_lexer->Learn( m_commaRegex, s_kCommaPattern );
+    m_lexer->Learn( m_dQuoteRegex, s_kDQuotePattern );
+    m_lexer->Learn( m_crlfRegex, s_kCrlfPattern );
+    m_lexer->Learn( m_nameRegex, s_kNamePattern );
+    m_lexer->Learn( m_valueCharRegex, s_kValueCharPattern );
+    m_lexer->Learn( m_paramNameRegex, s_kNamePattern );
+    m_lexer->Learn( m_paramValueRegex, s_kNamePattern );
+    m_lexer->Learn( m_qSafeCharRegex, s_kQSafeCharPattern );
+    m_lexer->Learn( m_base64CharRegex, s_kBase64CharPattern );
 }
 
 PimVCardParser::~PimVCardParser()
@@ -138,7 +164,7 @@ void PimVCardParser::PrepareInput()
 QList<PimVCard*>* PimVCardParser::ParseVCards()
 {
     const Stopwatch stopwatch;
-    auto vCards = MakeOwnedList<PimVCard>();
+    OwnedList<PimVCard> vCards( new QList<PimVCard*> );
     qint64 lastRecovery = -1;
     while ( !m_lexer->m_stream.atEnd() )
     {
@@ -148,6 +174,7 @@ QList<PimVCard*>* PimVCardParser::ParseVCards()
         if ( PimVCard* vCard = ParseVCard() )
         {
             vCards->append( vCard );
+            m_lexer->DropReadText( m_data );
             continue;
         }
         ReportError( s_kParseVCardsLabel, s_kErrCouldNotParseVCard );
@@ -159,7 +186,7 @@ QList<PimVCard*>* PimVCardParser::ParseVCards()
 
 qint64 PimVCardParser::Recover( qint64 a_lastRecovery )
 {
-    m_lexer->SeekToPattern( QRegularExpression( s_kBeginVCardPattern, QRegularExpression::CaseInsensitiveOption ) );
+    m_lexer->SeekToBeginLine();
     m_errorReported = 0;
     const qint64 place = m_lexer->m_stream.pos();
     if ( place > a_lastRecovery )
@@ -210,18 +237,17 @@ bool PimVCardParser::ParseEnd( PimVCardProperty* a_property )
 
 QList<PimVCardProperty*>* PimVCardParser::ParseProperties()
 {
-    auto properties = MakeOwnedList<PimVCardProperty>();
+    OwnedElements<PimVCardProperty, s_kUsualProperties> properties;
     do
     {
-        PimVCardProperty* property = ParseProperty();
-        if ( property == nullptr )
+        properties.append( std::unique_ptr<PimVCardProperty>( ParseProperty() ) );
+        if ( properties.last() == nullptr )
         {
             ReportError( s_kParsePropertiesLabel, s_kErrCouldNotParseProperty );
             return nullptr;
         }
-        properties->append( property );
-    } while ( !AreSameWord( properties->last()->GetName(), s_kEnd ) );
-    return properties.release();
+    } while ( !AreSameWord( properties.last()->GetName(), s_kEnd ) );
+    return NewListOf( properties );
 }
 
 PimVCardProperty* PimVCardParser::ParseProperty()
@@ -254,7 +280,7 @@ PimVCardProperty* PimVCardParser::ParseProperty()
     std::unique_ptr<QList<QString>> values( ParseValues() );
     if ( values == nullptr )
         return fail( s_kErrExpectedValuesList );
-    if ( m_lexer->GetToken( m_crlfRegex, false ).isEmpty() )
+    if ( !m_lexer->TakeLineEnd( m_crlfRegex ) )
         return fail( s_kErrExpectedCrlfToken, &m_crlfRegex );
     return new PimVCardProperty( group, name, parameters.release(), values.release() );
 }
@@ -263,9 +289,12 @@ QString PimVCardParser::ParseGroup( bool& a_vCardBoundary )
 {
     QString group;
     QString name = m_lexer->GetToken( m_nameRegex, false );
-    while ( TakeDelimiter( m_dotRegex ) )
+    for ( bool isFirst = true; TakeDelimiter( m_dotRegex ); isFirst = false )
     {
-        group += name + s_kDot;
+        if ( isFirst )
+            group = name;
+        else
+            group += s_kDot + name;
         name = m_lexer->GetToken( m_nameRegex, false );
     }
     if ( AreSameWord( name, s_kBegin ) || AreSameWord( name, s_kEnd ) )
@@ -275,22 +304,20 @@ QString PimVCardParser::ParseGroup( bool& a_vCardBoundary )
         ReportError( s_kParseGroupLabel, s_kErrIllegalCharacter, nullptr, nullptr, true );
         return QString();
     }
-    if ( !group.isEmpty() )
-        group.chop( s_kDot.size() );
     return group;
 }
 
 QList<PimVCardParameter*>* PimVCardParser::ParseParameters( bool a_vCardBoundary )
 {
-    auto parameters = MakeOwnedList<PimVCardParameter>();
+    OwnedElements<PimVCardParameter, s_kUsualParameters> parameters;
     while ( PimVCardParameter* parameter = ParseParameter( a_vCardBoundary ) )
-        parameters->append( parameter );
+        parameters.append( std::unique_ptr<PimVCardParameter>( parameter ) );
     if ( m_errorReported != 0 )
     {
         ReportError( s_kParseParametersLabel, s_kErrCouldNotParseParameter );
         return nullptr;
     }
-    return parameters.release();
+    return NewListOf( parameters );
 }
 
 PimVCardParameter* PimVCardParser::ParseParameter( bool a_vCardBoundary )
@@ -358,10 +385,13 @@ bool PimVCardParser::NoteEncoding( const QString& a_name, const QString& a_value
 {
     if ( !AreSameWord( a_name, s_kEncoding ) )
         return true;
-    if ( ContainsWord( a_value, s_kQuotedPrintable ) )
+    if ( a_value == s_kQuotedPrintable ) // as nearly every card has it
         m_quotedPrintable = true;
-    if ( ContainsWord( a_value, s_kBase64 ) || AreSameWord( a_value, s_kB ) )
-        m_base64 = true;
+    else
+    {
+        m_quotedPrintable = m_quotedPrintable || a_value.contains( s_kQuotedPrintable, Qt::CaseInsensitive );
+        m_base64 = m_base64 || a_value.contains( s_kBase64, Qt::CaseInsensitive ) || AreSameWord( a_value, s_kB );
+    }
     if ( m_quotedPrintable && m_base64 )
     {
         ReportError( s_kParseParameterLabel, s_kErrQpAndBase64 );
@@ -388,15 +418,14 @@ QString PimVCardParser::ParseQuotedParamValue()
 
 QList<QString>* PimVCardParser::ParseValues()
 {
-    auto values = std::make_unique<QList<QString>>();
-    values->reserve( 1 );
+    QVarLengthArray<QString, s_kUsualComponents> values;
     QString value;
     bool isContinued = false;
     bool isSeparated = false;
     do
     {
         const bool isBase64 = m_base64 && !isContinued;
-        value += m_lexer->GetToken( isBase64 ? m_base64CharRegex : m_valueCharRegex, false );
+        AppendTo( value, m_lexer->GetToken( isBase64 ? m_base64CharRegex : m_valueCharRegex, false ) );
         isSeparated = TakeDelimiter( m_semicolonRegex );
         isContinued = !isSeparated && m_quotedPrintable && value.endsWith( s_kEquals );
         if ( isContinued )
@@ -405,12 +434,12 @@ QList<QString>* PimVCardParser::ParseValues()
                 return nullptr;
             continue;
         }
-        values->append( value );
-        value.clear();
+        values.append( std::move( value ) );
+        value = QString();
     } while ( isContinued || isSeparated );
     m_quotedPrintable = false;
     m_base64 = false;
-    return values.release();
+    return NewListOf( values );
 }
 
 bool PimVCardParser::TakeSoftLineBreak( QString& a_value )
@@ -426,7 +455,7 @@ bool PimVCardParser::TakeSoftLineBreak( QString& a_value )
 
 bool PimVCardParser::TakeDelimiter( const QRegularExpression& a_delimiter )
 {
-    return !m_lexer->GetToken( a_delimiter, true ).isEmpty();
+    return m_lexer->TakeDelimiter( a_delimiter );
 }
 
 void PimVCardParser::SkipWhile( bool ( *a_isSkipped )( QChar ) )

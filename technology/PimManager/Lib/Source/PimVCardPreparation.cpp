@@ -116,11 +116,12 @@ class Copier
 public:
     Copier( const char* a_begin, const char* a_end ) :
         m_copied( a_begin ),
-        m_end( a_end ),
-        m_text( static_cast<int>( a_end - a_begin ), Qt::Uninitialized ),
-        m_to( m_text.data() )
+        m_end( a_end )
     {
     }
+
+    /// True if a piece went.
+    bool HasCut() const { return m_to != nullptr; }
 
     /// Where the piece ended that went last.
     const char* LastCut() const { return m_copied; }
@@ -148,6 +149,11 @@ public:
 private:
     void CopyTo( const char* a_end )
     {
+        if ( m_to == nullptr )
+        {
+            m_text = QByteArray( static_cast<int>( m_end - m_copied ), Qt::Uninitialized );
+            m_to = m_text.data();
+        }
         const auto length = static_cast<size_t>( a_end - m_copied );
         std::memcpy( m_to, m_copied, length );
         m_to += length;
@@ -156,7 +162,7 @@ private:
     const char* m_copied;
     const char* m_end;
     QByteArray m_text;
-    char* m_to;
+    char* m_to = nullptr;
 };
 
 // The length of an encoded line break and the soft one behind it, 0 if none begins here.
@@ -178,8 +184,14 @@ const char* SkipIndent( const char* a_begin, const char* a_end )
     return place;
 }
 
-// Does both in one pass, as if the encoded breaks went first and the folds after.
-QByteArray JoinLines( const char* a_begin, const char* a_end )
+// Bytes that are not the array's own may go before it does.
+bool IsWholeAndOwned( const QByteArray& a_data, const char* a_begin, const char* a_end )
+{
+    return a_data.capacity() != 0 && a_begin == a_data.constData() && a_end == a_begin + a_data.size();
+}
+
+// Does both in one pass, as if the encoded breaks went first and the folds after. The piece is one of the array.
+QByteArray JoinLines( const QByteArray& a_data, const char* a_begin, const char* a_end )
 {
     Copier copier( a_begin, a_end );
     const char* place = FindBreakCandidate( a_begin, a_end );
@@ -202,7 +214,7 @@ QByteArray JoinLines( const char* a_begin, const char* a_end )
         }
         place = FindBreakCandidate( next, a_end );
     }
-    return copier.Finish();
+    return !copier.HasCut() && IsWholeAndOwned( a_data, a_begin, a_end ) ? a_data : copier.Finish();
 }
 
 } // namespace
@@ -216,10 +228,10 @@ QByteArray PreparedText( const QByteArray& a_data )
     if ( !IsUtf8( begin, end ) )
     {
         const QByteArray repaired = QString::fromUtf8( begin, static_cast<int>( end - begin ) ).toUtf8();
-        return JoinLines( repaired.constData(), repaired.constData() + repaired.size() );
+        return JoinLines( repaired, repaired.constData(), repaired.constData() + repaired.size() );
     }
     const bool hasMark = end - begin >= s_kByteOrderMarkLength && std::memcmp( begin, "\xEF\xBB\xBF", 3 ) == 0;
-    return JoinLines( hasMark ? begin + s_kByteOrderMarkLength : begin, end );
+    return JoinLines( a_data, hasMark ? begin + s_kByteOrderMarkLength : begin, end );
 }
 
 } // namespace PimManager::vCard

@@ -1,0 +1,79 @@
+#include "PimVCardRecurringText.h"
+
+#include <QtEndian>
+
+#include <array>
+#include <utility>
+
+namespace PimManager::vCard
+{
+
+namespace
+{
+
+constexpr int s_kWord = sizeof( quint64 );
+constexpr int s_kHalfWord = sizeof( quint32 );
+constexpr int s_kLongest = 2 * s_kWord;
+constexpr size_t s_kPlaces = 128;
+
+// All bytes of a text of known length, so that a comparison is one of numbers.
+struct Key
+{
+    quint64 m_front;
+    quint64 m_back;
+};
+
+struct Entry
+{
+    Key m_key;
+    QString m_text;
+
+    bool Holds( const Key& a_key, int a_length ) const
+    {
+        return m_key.m_front == a_key.m_front && m_key.m_back == a_key.m_back && m_text.size() == a_length;
+    }
+};
+
+// Two texts that have the same place do not drive each other out.
+struct Entries
+{
+    Entry m_newer;
+    Entry m_older;
+};
+
+Key KeyOf( const char* a_text, int a_length )
+{
+    const auto byteAt = [a_text]( int a_place ) { return quint64{ static_cast<uchar>( a_text[a_place] ) }; };
+    const char* const end = a_text + a_length;
+    if ( a_length >= s_kWord )
+        return { qFromUnaligned<quint64>( a_text ), qFromUnaligned<quint64>( end - s_kWord ) };
+    if ( a_length >= s_kHalfWord )
+        return { qFromUnaligned<quint32>( a_text ), qFromUnaligned<quint32>( end - s_kHalfWord ) };
+    return { byteAt( 0 ) << 8U | byteAt( a_length / 2 ), byteAt( a_length - 1 ) };
+}
+
+size_t PlaceOf( const Key& a_key )
+{
+    constexpr quint64 spread = 0x9E3779B97F4A7C15;
+    return static_cast<size_t>( ( ( a_key.m_front + a_key.m_back * 31 ) * spread ) >> 32U ) % s_kPlaces;
+}
+
+} // namespace
+
+QString PimVCardRecurringText( const char* a_text, int a_length )
+{
+    if ( a_length > s_kLongest )
+        return QLatin1String( a_text, a_length );
+    thread_local std::array<Entries, s_kPlaces> t_entries;
+    const Key key = KeyOf( a_text, a_length );
+    Entries& entries = t_entries[PlaceOf( key )];
+    if ( entries.m_newer.Holds( key, a_length ) )
+        return entries.m_newer.m_text;
+    if ( entries.m_older.Holds( key, a_length ) )
+        return entries.m_older.m_text;
+    entries.m_older = std::move( entries.m_newer );
+    entries.m_newer = { key, QLatin1String( a_text, a_length ) };
+    return entries.m_newer.m_text;
+}
+
+} // namespace PimManager::vCard

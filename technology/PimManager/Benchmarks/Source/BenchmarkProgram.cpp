@@ -15,6 +15,7 @@
 
 using namespace PimManager;
 using namespace PimManager::vCard::Benchmarks;
+using namespace PimManager::vCard::MadeTexts;
 
 namespace
 {

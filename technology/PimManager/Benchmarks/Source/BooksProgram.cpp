@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cstdio>
 
-using namespace PimManager::vCard::Benchmarks;
+using namespace PimManager::vCard::MadeTexts;
 
 namespace
 {

@@ -14,7 +14,7 @@
 
 #include <random>
 
-namespace PimManager::vCard::Benchmarks
+namespace PimManager::vCard::MadeTexts
 {
 
 /// What a generated book is made of. Every card of every book parses.
@@ -73,4 +73,4 @@ private:
 /// \return one small card of 91 bytes.
 QByteArray SmallCard();
 
-} // namespace PimManager::vCard::Benchmarks
+} // namespace PimManager::vCard::MadeTexts

@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <QList>
 
-namespace PimManager::vCard::Benchmarks
+namespace PimManager::vCard::MadeTexts
 {
 
 /// Ends a line, after folding it at 75 bytes (RFC 2426, section 2.6). No fold stands inside a UTF-8 sequence or before
@@ -19,4 +19,4 @@ QByteArray FoldedLine( const QByteArray& a_line );
 /// \param a_values the components that semicolons stand between.
 QByteArray QuotedPrintableLine( const QByteArray& a_start, const QList<QByteArray>& a_values );
 
-} // namespace PimManager::vCard::Benchmarks
+} // namespace PimManager::vCard::MadeTexts

@@ -5,7 +5,7 @@
 #include <array>
 #include <initializer_list>
 
-namespace PimManager::vCard::Benchmarks
+namespace PimManager::vCard::MadeTexts
 {
 
 namespace
@@ -252,4 +252,4 @@ QByteArray SmallCard()
                               "TEL;CELL;HOME:555-01012\r\nEND:VCARD\r\n" );
 }
 
-} // namespace PimManager::vCard::Benchmarks
+} // namespace PimManager::vCard::MadeTexts

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace PimManager::vCard::Benchmarks
+namespace PimManager::vCard::MadeTexts
 {
 
 namespace
@@ -130,4 +130,4 @@ TEST( BookGeneratorTest, NearlyEveryLineOfTheFoldedBookIsAFold )
     EXPECT_GT( text.count( "\r\n " ), text.count( "\r\n" ) * 2 / 3 );
 }
 
-} // namespace PimManager::vCard::Benchmarks
+} // namespace PimManager::vCard::MadeTexts

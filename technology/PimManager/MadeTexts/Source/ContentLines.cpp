@@ -1,6 +1,6 @@
 #include "ContentLines.h"
 
-namespace PimManager::vCard::Benchmarks
+namespace PimManager::vCard::MadeTexts
 {
 
 namespace
@@ -70,4 +70,4 @@ QByteArray QuotedPrintableLine( const QByteArray& a_start, const QList<QByteArra
     return text + "\r\n";
 }
 
-} // namespace PimManager::vCard::Benchmarks
+} // namespace PimManager::vCard::MadeTexts

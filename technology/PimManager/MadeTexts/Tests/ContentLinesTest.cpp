@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace PimManager::vCard::Benchmarks
+namespace PimManager::vCard::MadeTexts
 {
 
 TEST( FoldedLineTest, LineOf75BytesStaysWhole )
@@ -40,4 +40,4 @@ TEST( QuotedPrintableLineTest, SoftBreakStandsBeforeAPieceThatWouldLeaveNoRoomFo
     EXPECT_EQ( start + "y=\r\n=61\r\n", QuotedPrintableLine( start + 'y', { "a" } ) );
 }
 
-} // namespace PimManager::vCard::Benchmarks
+} // namespace PimManager::vCard::MadeTexts

@@ -6,30 +6,30 @@
 
 #include <QSet>
 
-namespace PimManager::vCard::Benchmarks
+namespace PimManager::vCard::MadeTexts
 {
 
 namespace
 {
 
-constexpr int s_kRepetitions = 60;
-
-int ExpectedCards( const HostileShape& a_shape )
-{
-    if ( a_shape.m_cards == CardsGiven::Each )
-        return s_kRepetitions;
-    return a_shape.m_cards == CardsGiven::One ? 1 : 0;
-}
+constexpr int s_kFewest = 3;
+constexpr int s_kMost = 60;
 
 } // namespace
 
-TEST( HostileShapesTest, EachShapeGivesItsCards )
+// What the cards hold, and what becomes of large texts, is seen by the tests of the component.
+TEST( HostileShapesTest, ExpectationHoldsFromThreeRepetitionsOn )
 {
     const QList<HostileShape> shapes = HostileShapes();
     for ( const HostileShape& shape : shapes )
     {
-        SCOPED_TRACE( shape.m_name.constData() );
-        EXPECT_EQ( ExpectedCards( shape ), MadeTextParse( shape.Text( s_kRepetitions ) ).Cards().size() );
+        for ( const int repetitions : { s_kFewest, s_kFewest + 1, s_kMost } )
+        {
+            SCOPED_TRACE( shape.m_name.toStdString() + ' ' + std::to_string( repetitions ) );
+            const MadeTextParse text( shape.Text( repetitions ) );
+            EXPECT_EQ( shape.m_cards.For( repetitions ), text.Cards().size() );
+            EXPECT_EQ( shape.m_blocks.For( repetitions ) == 0, text.Failures() == 0 );
+        }
     }
 }
 
@@ -49,4 +49,4 @@ TEST( HostileShapesTest, TextOfLengthIsAboutThatLong )
         EXPECT_NEAR( 10000.0, shape.TextOfLength( 10000 ).size(), 120.0 ) << shape.m_name.constData();
 }
 
-} // namespace PimManager::vCard::Benchmarks
+} // namespace PimManager::vCard::MadeTexts

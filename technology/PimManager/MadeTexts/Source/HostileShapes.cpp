@@ -12,7 +12,7 @@ const char* const s_kGoodCard = "BEGIN:VCARD\r\nFN:x\r\nEND:VCARD\r\n";
 const char* const s_kGoodLine = "FN[x]\n";
 
 constexpr int s_kLines = 100000;
-constexpr int s_kParameters = 1000000;
+constexpr int s_kMillion = 1000000;
 constexpr int s_kBytes = 10000000;
 constexpr int s_kBytesOfLongestLine = 50000000;
 constexpr int s_kFailures = 20000;
@@ -89,7 +89,7 @@ HostileShape InParameters( const char* a_name, const QByteArray& a_start, const 
 {
     HostileShape shape =
         OneCard( a_name, { s_kBegin + a_start, a_piece, QByteArrayLiteral( ":x" ) + s_kEnd }, a_cardLine );
-    shape.m_repetitions = s_kParameters;
+    shape.m_repetitions = s_kMillion;
     return shape;
 }
 
@@ -112,6 +112,8 @@ QList<HostileShape> UnfinishedCards()
           { 1, 0 },
           {},
           s_kLines },
+        // No other text makes more of its bytes.
+        { "shortest-lines", { "BEGIN:VCARD\r", "a:\r", "END:VCARD\r" }, { "", "a[]", "\n" }, { 1, 0 }, {}, s_kMillion },
         { "good-cards", { "", s_kGoodCard, "" }, { "", s_kGoodLine, "" }, { 0, 1 }, {}, s_kLines },
     };
 }

@@ -433,6 +433,9 @@ INSTANTIATE_TEST_SUITE_P(
         TokenRow{ "ByteOrderMarkAtTheStartIsSwallowed", "\xEF\xBB\xBFN:", s_kNamePattern, "N", ":" },
         TokenRow{ "MalformedBytesAreReplacementCharacters", "a\xFF\x80z", s_kValueCharPattern,
                   "a\xEF\xBF\xBD\xEF\xBF\xBDz", "" },
+        TokenRow{ "SurrogatesInUtf8AreMalformed", "a\xED\xA0\x80z", s_kValueCharPattern,
+                  "a\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBDz", "" },
+        TokenRow{ "ByteThatBeginsNothingIsNotCutOffAtTheEnd", "a\xC0", s_kValueCharPattern, "a\xEF\xBF\xBD", "" },
         TokenRow{ "NoOtherEncodingIsGuessed", "\xFF\xFEN", s_kValueCharPattern, "\xEF\xBF\xBD\xEF\xBF\xBDN", "" },
         TokenRow{ "CutSequenceAtTheEnd", "a\xE2\x82", s_kNamePattern, "a", "" } ),
     NameOf<TokenRow> );
@@ -546,6 +549,15 @@ TEST( TokenScannerTest, MatchingIsCaseSensitiveUnlessTheExpressionSaysOtherwise 
     EXPECT_EQ( scanner.Run( Text( "a" ) ), Text( "a" ) );
     const QRegularExpression anyCase( Text( "a" ), QRegularExpression::CaseInsensitiveOption );
     EXPECT_EQ( scanner.Lexer().GetToken( anyCase, false ), Text( "A" ) );
+}
+
+// In any letter case U+212A, the sign of the kelvin, is a K, and U+017F a long s.
+TEST( TokenScannerTest, TokenPatternWithOptionsIsAnother )
+{
+    Scanner scanner( "a\xE2\x84\xAA\xC5\xBF:" );
+    const QRegularExpression anyCase( s_kNamePattern, QRegularExpression::CaseInsensitiveOption );
+    EXPECT_EQ( scanner.Lexer().GetToken( anyCase, false ), Text( "a\xE2\x84\xAA\xC5\xBF" ) );
+    EXPECT_EQ( scanner.Left(), Text( ":" ) );
 }
 
 // What each token pattern of the vocabulary accepts.

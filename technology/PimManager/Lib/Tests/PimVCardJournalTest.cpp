@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace PimManager::vCard
 {
 
@@ -98,7 +100,7 @@ TEST( JournalTest, RuleForDefaultCategoryLeavesCategoriesOfTheApplication )
     const QLoggingCategory application( "application" );
     const LogCapture log;
     ParseCards();
-    qCDebug( application ) << "still told";
+    qCDebug( application, "still told" );
     EXPECT_EQ( QList<QString>{ QStringLiteral( "still told" ) }, log.Texts( QtDebugMsg ) );
 }
 

@@ -516,6 +516,21 @@ TEST( TokenScannerTest, LineEndAfterABackslashIsNotCounted )
     EXPECT_EQ( scanner.Next(), QLatin1Char( 'B' ) );
 }
 
+// Long runs are looked through by words of bytes.
+TEST( TokenScannerTest, MalformedByteIsFoundInEveryPlaceOfARun )
+{
+    for ( const char byte : { '\x80', '\xFF' } )
+    {
+        for ( int length = 0; length < 20; ++length )
+        {
+            SCOPED_TRACE( length );
+            const QByteArray before( length, 'a' );
+            Scanner scanner( before + byte + "zz" );
+            EXPECT_EQ( scanner.Run( s_kValueCharPattern ), WholeText( before + "\xEF\xBF\xBDzz" ) );
+        }
+    }
+}
+
 TEST( TokenScannerTest, EscapePairWithHalfAPairLeavesBothHalves )
 {
     Scanner scanner( QByteArray( "a\\" ) + s_kFourBytes );

@@ -97,13 +97,17 @@ void AppendTo( QString& a_text, QString&& a_piece )
         a_text += a_piece;
 }
 
+// Takes the texts out: a copy would be counted, and counting across threads is slow.
 template <typename Texts>
-QList<QString>* NewListOf( const Texts& a_texts )
+QList<QString>* NewListOf( Texts& a_texts )
 {
     auto list = std::make_unique<QList<QString>>();
     list->reserve( a_texts.size() );
-    for ( const QString& text : a_texts )
-        list->append( text );
+    for ( QString& text : a_texts )
+    {
+        list->append( QString() );
+        list->last().swap( text );
+    }
     return list.release();
 }
 
@@ -340,7 +344,7 @@ PimVCardParameter* PimVCardParser::ParseParameter( bool a_vCardBoundary )
     }
     if ( TakeDelimiter( m_equalsRegex ) )
     {
-        name = value;
+        name = std::move( value );
         value = ParseParamValue();
         if ( value.isEmpty() )
         {

@@ -1,5 +1,8 @@
 #include "PimVCardRecurringText.h"
 
+#include "PimVCardVocabulary.h"
+
+#include <QByteArray>
 #include <QtEndian>
 
 #include <array>
@@ -58,22 +61,53 @@ size_t PlaceOf( const Key& a_key )
     return static_cast<size_t>( ( ( a_key.m_front + a_key.m_back * 31 ) * spread ) >> 32U ) % s_kPlaces;
 }
 
+class Cache
+{
+public:
+    // The vocabulary's words are constants: sharing them is not counted.
+    Cache()
+    {
+        for ( const QString* word : { &s_kBegin,  &s_kEnd,    &s_kN,   &s_kFn,   &s_kNickname,        &s_kPhoto,
+                                      &s_kAdr,    &s_kEmail,  &s_kTel, &s_kType, &s_kValue,           &s_kEncoding,
+                                      &s_kBase64, &s_kB,      &s_kUri, &s_kUrl,  &s_kQuotedPrintable, &s_kPostal,
+                                      &s_kHome,   &s_kVersion } )
+        {
+            const QByteArray text = word->toLatin1();
+            const Key key = KeyOf( text.constData(), text.size() );
+            Put( m_entries[PlaceOf( key )], { key, *word } );
+        }
+    }
+
+    QString TextOf( const char* a_text, int a_length )
+    {
+        const Key key = KeyOf( a_text, a_length );
+        Entries& entries = m_entries[PlaceOf( key )];
+        if ( entries.m_newer.Holds( key, a_length ) )
+            return entries.m_newer.m_text;
+        if ( entries.m_older.Holds( key, a_length ) )
+            return entries.m_older.m_text;
+        Put( entries, { key, QLatin1String( a_text, a_length ) } );
+        return entries.m_newer.m_text;
+    }
+
+private:
+    static void Put( Entries& a_entries, const Entry& a_entry )
+    {
+        a_entries.m_older = std::move( a_entries.m_newer );
+        a_entries.m_newer = a_entry;
+    }
+
+    std::array<Entries, s_kPlaces> m_entries;
+};
+
 } // namespace
 
 QString PimVCardRecurringText( const char* a_text, int a_length )
 {
     if ( a_length > s_kLongest )
         return QLatin1String( a_text, a_length );
-    thread_local std::array<Entries, s_kPlaces> t_entries;
-    const Key key = KeyOf( a_text, a_length );
-    Entries& entries = t_entries[PlaceOf( key )];
-    if ( entries.m_newer.Holds( key, a_length ) )
-        return entries.m_newer.m_text;
-    if ( entries.m_older.Holds( key, a_length ) )
-        return entries.m_older.m_text;
-    entries.m_older = std::move( entries.m_newer );
-    entries.m_newer = { key, QLatin1String( a_text, a_length ) };
-    return entries.m_newer.m_text;
+    thread_local Cache t_cache;
+    return t_cache.TextOf( a_text, a_length );
 }
 
 } // namespace PimManager::vCard

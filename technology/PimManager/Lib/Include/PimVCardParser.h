@@ -43,7 +43,8 @@ class PimVCardLexer;
 ///
 /// **Threads.** A parser belongs to the thread that uses it; any number of parsers can work side by side.
 ///
-/// **Cost.** The text is held as one copy in UTF-8 besides the caller's. Time grows with the length of the text.
+/// **Cost.** A text in which lines are to be joined is held as one copy in UTF-8 besides the caller's, which
+/// ParseVCards() gives back half by half; any other is shared with the caller. Time grows with the length of the text.
 class PimVCardParser
 {
 public:

@@ -1,6 +1,7 @@
 #include "PimVCardBeginSearch.h"
 
 #include <QByteArray>
+#include <QLatin1String>
 
 #include <algorithm>
 #include <cstring>
@@ -44,23 +45,24 @@ int CountStrayUnits( const char* a_begin, const char* a_end )
     return static_cast<int>( std::find_if_not( a_begin, a_end, IsContinuation ) - a_begin );
 }
 
-template <int Size>
-bool HasWord( const char* a_place, const char* a_end, const char ( &a_word )[Size] )
+bool HasWord( const char* a_place, const char* a_end, QLatin1String a_word )
 {
-    return a_end - a_place >= Size - 1 && qstrnicmp( a_place, a_word, Size - 1 ) == 0;
+    return a_end - a_place >= a_word.size() &&
+           qstrnicmp( a_place, a_word.data(), static_cast<uint>( a_word.size() ) ) == 0;
 }
 
 // Where the BEGIN stands that the colon belongs to; null if it belongs to none.
 const char* BeginBefore( const char* a_colon, const char* a_lineBegin, const char* a_lineEnd )
 {
-    constexpr int wordLength = 5;
-    if ( !HasWord( std::find_if_not( a_colon + 1, a_lineEnd, IsBlank ), a_lineEnd, "VCARD" ) )
+    constexpr QLatin1String begin( "BEGIN" );
+    if ( !HasWord( std::find_if_not( a_colon + 1, a_lineEnd, IsBlank ), a_lineEnd, QLatin1String( "VCARD" ) ) )
         return nullptr;
     const char* wordEnd = a_colon;
     while ( wordEnd != a_lineBegin && IsBlank( wordEnd[-1] ) )
         --wordEnd;
-    const bool hasBegin = wordEnd - a_lineBegin >= wordLength && HasWord( wordEnd - wordLength, wordEnd, "BEGIN" );
-    return hasBegin ? wordEnd - wordLength : nullptr;
+    if ( wordEnd - a_lineBegin < begin.size() || !HasWord( wordEnd - begin.size(), wordEnd, begin ) )
+        return nullptr;
+    return wordEnd - begin.size();
 }
 
 } // namespace

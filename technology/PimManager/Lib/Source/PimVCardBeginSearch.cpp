@@ -54,7 +54,7 @@ bool HasWord( const char* a_place, const char* a_end, QLatin1String a_word )
 // Where the BEGIN stands that the colon belongs to; null if it belongs to none.
 const char* BeginBefore( const char* a_colon, const char* a_lineBegin, const char* a_lineEnd )
 {
-    constexpr QLatin1String begin( "BEGIN" );
+    const QLatin1String begin( "BEGIN" );
     if ( !HasWord( std::find_if_not( a_colon + 1, a_lineEnd, IsBlank ), a_lineEnd, QLatin1String( "VCARD" ) ) )
         return nullptr;
     const char* wordEnd = a_colon;

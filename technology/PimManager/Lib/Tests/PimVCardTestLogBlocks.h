@@ -15,11 +15,11 @@ namespace PimManager::vCard
 class LogBlockCount
 {
 public:
-    LogBlockCount()
+    LogBlockCount() :
+        m_former( qInstallMessageHandler( Count ) )
     {
         sm_begun = 0;
         sm_ended = 0;
-        m_former = qInstallMessageHandler( Count );
     }
     ~LogBlockCount() { qInstallMessageHandler( m_former ); }
     Q_DISABLE_COPY( LogBlockCount )

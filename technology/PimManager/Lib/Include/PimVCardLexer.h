@@ -129,7 +129,7 @@ private:
     class ExpressionMatcher;
 
     const PimVCardCharacterClass* ClassOf( const QRegularExpression& a_pattern ) const;
-    void TakeCharacter( const QRegularExpression& a_pattern );
+    bool IsNext( const QRegularExpression& a_pattern, const PimVCardCharacterClass* a_class ) const;
     bool TakeWholeRun( const PimVCardCharacterClass& a_class );
     template <typename Matcher>
     void TakeRun( const Matcher& a_matcher );

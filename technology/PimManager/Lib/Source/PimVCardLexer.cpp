@@ -160,13 +160,11 @@ inline const PimVCardCharacterClass* PimVCardLexer::ClassOf( const QRegularExpre
     return learned.m_pattern == &a_pattern ? learned.m_class : PimVCardCharacterClass::Find( a_pattern );
 }
 
-void PimVCardLexer::TakeCharacter( const QRegularExpression& a_pattern )
+bool PimVCardLexer::IsNext( const QRegularExpression& a_pattern, const PimVCardCharacterClass* a_class ) const
 {
-    const QString candidate( m_nextChar );
-    if ( !a_pattern.match( candidate ).hasMatch() )
-        return;
-    m_token = candidate;
-    m_stream >> m_nextChar;
+    if ( a_class != nullptr && a_class->m_delimiter != nullptr )
+        return a_class->Matches( m_nextChar );
+    return a_pattern.match( QString( m_nextChar ) ).hasMatch();
 }
 
 // Most runs stand whole in the bytes, without a backslash, and an ASCII character ends them.
@@ -202,7 +200,13 @@ QString PimVCardLexer::GetToken( const QRegularExpression& a_pattern, bool a_sin
     else if ( knownClass != nullptr || IsValid( a_pattern ) )
     {
         StartToken();
-        a_single ? TakeCharacter( a_pattern ) : TakeRun( ExpressionMatcher( a_pattern ) );
+        if ( !a_single )
+            TakeRun( ExpressionMatcher( a_pattern ) );
+        else if ( IsNext( a_pattern, knownClass ) )
+        {
+            m_token = QString( m_nextChar );
+            m_stream >> m_nextChar;
+        }
     }
     else
         return QString();

@@ -130,6 +130,7 @@ void RunOnThreads( const std::function<void( int )>& a_work )
 {
     std::atomic<int> waiting = s_kThreads;
     std::vector<std::thread> threads;
+    threads.reserve( s_kThreads );
     for ( int i = 0; i < s_kThreads; ++i )
     {
         threads.emplace_back(

@@ -111,6 +111,12 @@ private:
     }
     // GetToken() for line ends, the same way.
     bool TakeLineEnd( const QRegularExpression& a_lineEnds );
+    // Takes a whole line, a_line with its CR LF, as its tokens would be taken one after another; nothing, when other
+    // bytes stand there or no letter or digit follows.
+    bool TakeLine( QLatin1String a_line );
+    // Takes one or more tokens with a comma between each two, as they would be taken one after another; nothing, when
+    // what follows them is no colon and no semicolon.
+    bool TakeNameList( const QRegularExpression& a_names, QString& a_list );
     // SeekToPattern() for a BEGIN line, without the text of the line. Linear also when one long line is searched from
     // each of its characters.
     void SeekToBeginLine();
@@ -138,6 +144,7 @@ private:
     void AppendText( const PimVCardCharacterClass& a_class, const char* a_text, int a_length );
     bool CompleteEscapePair( QChar& a_candidate );
     void GoBackOver( int a_lineLength );
+    void EndLineBefore( const char* a_nextLine );
 
     // Expressions that are members of one object stand side by side, each in a slot of its own.
     static size_t SlotOf( const QRegularExpression& a_pattern )

@@ -148,6 +148,8 @@ private:
 
     void PrepareInput();
     qint64 Recover( qint64 a_lastRecovery );
+    bool TakeBoundary( QLatin1String a_line );
+    bool ParseParamValues( QString& a_values );
     QString ParseParamValue();
     bool ParseParamValueList( QString& a_value );
     bool NoteEncoding( const QString& a_name, const QString& a_value );

@@ -141,10 +141,55 @@ bool PimVCardLexer::TakeLineEnd( const QRegularExpression& a_lineEnds )
     if ( !isOneCrlf )
         return !GetToken( a_lineEnds, false ).isEmpty();
     StartToken();
+    EndLineBefore( next + 1 );
+    return true;
+}
+
+bool PimVCardLexer::TakeLine( QLatin1String a_line )
+{
+    if ( m_nextChar.isNull() )
+        m_stream >> m_nextChar;
+    if ( !m_stream.IsDirectlyBehind( m_nextChar ) )
+        return false;
+    const char* const begin = m_stream.Next() - 1;
+    const char* const nextLine = begin + a_line.size();
+    const bool isNext = m_stream.End() - begin > a_line.size() && QLatin1String( begin, a_line.size() ) == a_line &&
+                        IsLetterOrDigit( *nextLine );
+    if ( !isNext )
+        return false;
+    m_prevToken = QString();
+    EndLineBefore( nextLine );
+    return true;
+}
+
+void PimVCardLexer::EndLineBefore( const char* a_nextLine )
+{
     m_token = QString( s_kCrlf );
-    m_nextChar = QLatin1Char( next[1] );
-    m_stream.SkipTo( next + 2 );
+    m_nextChar = QLatin1Char( *a_nextLine );
+    m_stream.SkipTo( a_nextLine + 1 );
     ++m_lineNumber;
+}
+
+bool PimVCardLexer::TakeNameList( const QRegularExpression& a_names, QString& a_list )
+{
+    if ( !m_stream.IsDirectlyBehind( m_nextChar ) )
+        return false;
+    const PimVCardCharacterClass& names = *ClassOf( a_names );
+    const char* const begin = m_stream.Next() - 1;
+    const char* lastName = begin;
+    const char* end = names.EndOfRun( begin, m_stream.End() );
+    while ( end != lastName && end != m_stream.End() && *end == ',' )
+    {
+        lastName = end + 1;
+        end = names.EndOfRun( lastName, m_stream.End() );
+    }
+    if ( end == lastName || end == m_stream.End() || ( *end != ':' && *end != ';' ) )
+        return false;
+    a_list = PimVCardRecurringText( begin, static_cast<int>( end - begin ) );
+    m_prevToken = lastName == begin ? a_list : PimVCardRecurringText( lastName, static_cast<int>( end - lastName ) );
+    m_token = QString();
+    m_nextChar = QLatin1Char( *end );
+    m_stream.SkipTo( end + 1 );
     return true;
 }
 

@@ -19,6 +19,9 @@ namespace
 {
 
 constexpr const char* s_kPrintPrefix = "  ";
+// The boundaries of a card as nearly every card has them.
+constexpr QLatin1String s_kPlainBegin( "BEGIN:VCARD\r\n" );
+constexpr QLatin1String s_kPlainEnd( "END:VCARD\r\n" );
 constexpr int s_kUsualProperties = 16;
 constexpr int s_kUsualParameters = 4;
 constexpr int s_kUsualComponents = 8;
@@ -117,6 +120,14 @@ bool IsVCardBoundary( const PimVCardProperty* a_property, const QString& a_name 
         return false;
     const QList<QString> values = a_property->GetValues();
     return values.size() == 1 && AreSameWord( values.first(), s_kVCard );
+}
+
+std::unique_ptr<PimVCardProperty> NewPlainEnd()
+{
+    auto parameters = std::make_unique<QList<PimVCardParameter*>>();
+    auto values = std::make_unique<QList<QString>>();
+    values->append( s_kVCard );
+    return std::make_unique<PimVCardProperty>( QString(), s_kEnd, parameters.release(), values.release() );
 }
 
 } // namespace
@@ -224,11 +235,23 @@ PimVCard* PimVCardParser::ParseVCard()
 
 bool PimVCardParser::ParseStart()
 {
+    if ( TakeBoundary( s_kPlainBegin ) )
+        return true;
     const std::unique_ptr<PimVCardProperty> property( ParseProperty() );
     const bool isStart = IsVCardBoundary( property.get(), s_kBegin );
     if ( !isStart )
         ReportError( s_kParseStartLabel, s_kErrCouldNotParseBegin, nullptr, property.get() );
     return isStart;
+}
+
+// As ParseProperty() takes such a line.
+bool PimVCardParser::TakeBoundary( QLatin1String a_line )
+{
+    if ( m_errorReported != 0 || !m_lexer->TakeLine( a_line ) )
+        return false;
+    m_quotedPrintable = false;
+    m_base64 = false;
+    return true;
 }
 
 bool PimVCardParser::ParseEnd( PimVCardProperty* a_property )
@@ -244,6 +267,11 @@ QList<PimVCardProperty*>* PimVCardParser::ParseProperties()
     OwnedElements<PimVCardProperty, s_kUsualProperties> properties;
     do
     {
+        if ( TakeBoundary( s_kPlainEnd ) )
+        {
+            properties.append( NewPlainEnd() );
+            break;
+        }
         properties.append( std::unique_ptr<PimVCardProperty>( ParseProperty() ) );
         if ( properties.last() == nullptr )
         {
@@ -345,16 +373,27 @@ PimVCardParameter* PimVCardParser::ParseParameter( bool a_vCardBoundary )
     if ( TakeDelimiter( m_equalsRegex ) )
     {
         name = std::move( value );
-        value = ParseParamValue();
-        if ( value.isEmpty() )
-        {
-            ReportError( s_kParseParameterLabel, s_kErrExpectedParamValue, &m_paramValueRegex );
+        if ( !ParseParamValues( value ) )
             return nullptr;
-        }
     }
-    if ( !ParseParamValueList( value ) || !NoteEncoding( name, value ) )
+    else if ( !ParseParamValueList( value ) )
+        return nullptr;
+    if ( !NoteEncoding( name, value ) )
         return nullptr;
     return new PimVCardParameter( name, value );
+}
+
+bool PimVCardParser::ParseParamValues( QString& a_values )
+{
+    if ( m_lexer->TakeNameList( m_paramValueRegex, a_values ) )
+        return true;
+    a_values = ParseParamValue();
+    if ( a_values.isEmpty() )
+    {
+        ReportError( s_kParseParameterLabel, s_kErrExpectedParamValue, &m_paramValueRegex );
+        return false;
+    }
+    return ParseParamValueList( a_values );
 }
 
 QString PimVCardParser::ParseParamValue()

@@ -150,8 +150,8 @@ TEST( ReferenceTest, ParsesTheExampleAddressBook )
     ASSERT_GT( Phonebook().size(), 5000 );
     EXPECT_TRUE( ParsesTheSame( Phonebook(), s_kParseVCards ) );
     const vCard::LogCapture log;
-    EXPECT_EQ( vCard::CountVCards( Phonebook() ), 10 );
-    EXPECT_EQ( vCardReference::CountVCards( Phonebook() ), 10 );
+    EXPECT_EQ( vCard::ParsedCards( Phonebook() ).m_count, 10 );
+    EXPECT_EQ( vCardReference::ParsedCards( Phonebook() ).m_count, 10 );
 }
 
 TEST( ReferenceTest, TranscriptTellsWhatWasParsed )

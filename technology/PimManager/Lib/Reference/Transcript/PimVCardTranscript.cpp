@@ -337,13 +337,16 @@ QByteArray Prepared( const QByteArray& a_text )
     return PreparedText( a_text );
 }
 
-int CountVCards( const QByteArray& a_text )
+PimVCardHeldCards ParsedCards( const QByteArray& a_text )
 {
+    const auto deleteAll = []( const QList<PimVCard*>* a_vCards )
+    {
+        qDeleteAll( *a_vCards );
+        delete a_vCards;
+    };
     PimVCardParser parser( a_text );
-    const std::unique_ptr<QList<PimVCard*>> vCards( parser.ParseVCards() );
-    const int count = vCards->size();
-    qDeleteAll( *vCards );
-    return count;
+    const std::shared_ptr<const QList<PimVCard*>> vCards( parser.ParseVCards(), deleteAll );
+    return { vCards->size(), vCards };
 }
 
 } // namespace PimManager::vCard

@@ -22,6 +22,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 namespace PimManager
 {
 
@@ -101,6 +103,14 @@ struct PimVCardScannerScript
     bool m_isOfParser = false;
 };
 
+/// Cards of either build.
+struct PimVCardHeldCards
+{
+    int m_count = 0;
+    /// Deletes them when it goes.
+    std::shared_ptr<const void> m_cards;
+};
+
 namespace vCard
 {
 
@@ -114,9 +124,8 @@ QStringList TranscriptOf( const QByteArray& a_text, const PimVCardScannerScript&
 /// The text as the parser prepares it.
 QByteArray Prepared( const QByteArray& a_text );
 
-/// Parses the whole text, deletes the cards and counts them. Nothing is taken down: this is what benchmarks measure.
-/// The parser's messages go to Qt's log.
-int CountVCards( const QByteArray& a_text );
+/// Parses the whole text. Nothing is taken down: this is what benchmarks measure. The parser's messages go to Qt's log.
+PimVCardHeldCards ParsedCards( const QByteArray& a_text );
 
 } // namespace vCard
 
@@ -129,7 +138,7 @@ namespace vCardReference
 QStringList TranscriptOf( const QByteArray& a_text, const QList<PimVCardParserCall>& a_calls );
 QStringList TranscriptOf( const QByteArray& a_text, const PimVCardScannerScript& a_script );
 QByteArray Prepared( const QByteArray& a_text );
-int CountVCards( const QByteArray& a_text );
+PimVCardHeldCards ParsedCards( const QByteArray& a_text );
 
 } // namespace vCardReference
 

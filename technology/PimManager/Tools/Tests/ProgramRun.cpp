@@ -34,6 +34,12 @@ QList<QByteArray> OwnEnvironment()
     return variables;
 }
 
+// The program, behind the emulator that it needs when it is not for this machine.
+QList<QByteArray> Command()
+{
+    return QByteArray( PIMVCARD_COMMAND ).split( '\n' );
+}
+
 std::vector<char*> Pointers( QList<QByteArray>& a_texts )
 {
     std::vector<char*> pointers;
@@ -68,9 +74,10 @@ private:
 int Execute( QList<QByteArray> a_arguments, QList<QByteArray> a_environment, const Redirections& a_redirections )
 {
     pid_t child = 0;
-    const int error = posix_spawn( &child, PIMVCARD_PROGRAM, a_redirections.Actions(), nullptr,
-                                   Pointers( a_arguments ).data(), Pointers( a_environment ).data() );
-    EXPECT_EQ( error, 0 ) << PIMVCARD_PROGRAM;
+    const QByteArray program = a_arguments.first();
+    const int error = posix_spawnp( &child, program.constData(), a_redirections.Actions(), nullptr,
+                                    Pointers( a_arguments ).data(), Pointers( a_environment ).data() );
+    EXPECT_EQ( error, 0 ) << program.constData();
     if ( error != 0 )
         return -1;
     int status = 0;
@@ -141,8 +148,7 @@ ProgramRun ProgramCall::Run() const
         redirections.Close( m_closed );
 
     ProgramRun run;
-    run.m_status =
-        Execute( QList<QByteArray>{ PIMVCARD_PROGRAM } + m_arguments, OwnEnvironment() + m_variables, redirections );
+    run.m_status = Execute( Command() + m_arguments, OwnEnvironment() + m_variables, redirections );
     if ( m_isPipeBroken )
         close( pipeEnd );
     if ( m_outputName.isEmpty() )

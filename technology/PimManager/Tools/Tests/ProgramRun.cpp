@@ -20,15 +20,25 @@ namespace
 
 bool IsSetting( const QByteArray& a_variable )
 {
-    return a_variable.startsWith( "LC_" ) || a_variable.startsWith( "LANG" ) || a_variable.startsWith( "QT_" );
+    return ( a_variable.startsWith( "LC_" ) && !a_variable.startsWith( "LC_ALL=" ) ) ||
+           a_variable.startsWith( "LANG=" ) || a_variable.startsWith( "QT_" );
 }
 
-QList<QByteArray> OwnEnvironment()
+QByteArray NameOf( const QByteArray& a_variable )
 {
-    QList<QByteArray> variables;
+    return a_variable.left( a_variable.indexOf( '=' ) );
+}
+
+// This process's variables but for settings, and these instead of those of the same name.
+QList<QByteArray> EnvironmentWith( const QList<QByteArray>& a_variables )
+{
+    QList<QByteArray> names;
+    for ( const QByteArray& variable : a_variables )
+        names.append( NameOf( variable ) );
+    QList<QByteArray> variables = a_variables;
     for ( char** variable = environ; *variable != nullptr; ++variable )
     {
-        if ( !IsSetting( *variable ) )
+        if ( !IsSetting( *variable ) && !names.contains( NameOf( *variable ) ) )
             variables.append( *variable );
     }
     return variables;
@@ -148,7 +158,7 @@ ProgramRun ProgramCall::Run() const
         redirections.Close( m_closed );
 
     ProgramRun run;
-    run.m_status = Execute( Command() + m_arguments, OwnEnvironment() + m_variables, redirections );
+    run.m_status = Execute( Command() + m_arguments, EnvironmentWith( m_variables ), redirections );
     if ( m_isPipeBroken )
         close( pipeEnd );
     if ( m_outputName.isEmpty() )

@@ -25,7 +25,8 @@ struct ProgramRun
     std::string LastMessage() const;
 };
 
-/// One call of the program. Its environment is the test's own, without locale and Qt settings.
+/// One call of the program. Its environment is the test's own, without Qt settings and, but for LC_ALL, locale
+/// settings.
 class ProgramCall
 {
 public:

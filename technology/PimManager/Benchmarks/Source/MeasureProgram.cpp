@@ -3,6 +3,8 @@
 //   keep FILE [SNAPSHOT]  parses once, keeps the cards, tells their number and the most memory that the process had at
 //                         once; ends without deleting the cards. Under massif, the heap with nothing but the cards in
 //                         it is written to the file SNAPSHOT.
+//   heap FILE             parses once, drops text and parser, and tells the number of the cards and how many bytes of heap
+//                         they take, with what the allocator adds.
 //   drop FILE TIMES       parses that many times, each time with a new parser, and deletes the cards.
 
 #include "PimVCard.h"
@@ -17,9 +19,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <malloc.h>
 #include <memory>
 #include <sys/resource.h>
+#if __has_include( <valgrind/valgrind.h> )
 #include <valgrind/valgrind.h>
+#else
+#define VALGRIND_MONITOR_COMMAND( command ) static_cast<void>( command )
+#endif
 
 using namespace PimManager::vCard;
 
@@ -64,6 +71,23 @@ int Keep( const char* a_file, const char* a_snapshot )
     std::_Exit( 0 );
 }
 
+qint64 HeapInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<qint64>( info.uordblks + info.hblkhd );
+}
+
+// The first text warms up what a thread keeps.
+int Heap( const char* a_file )
+{
+    qDeleteAll( *std::unique_ptr<QList<PimVCard*>>( PimVCardParser( Contents( a_file ) ).ParseVCards() ) );
+    const qint64 before = HeapInUse();
+    const QList<PimVCard*>* const cards = PimVCardParser( Contents( a_file ) ).ParseVCards();
+    std::printf( "%d cards, %lld bytes\n", cards->size(), static_cast<long long>( HeapInUse() - before ) );
+    std::fflush( stdout );
+    std::_Exit( 0 );
+}
+
 int Drop( const char* a_file, int a_times )
 {
     const QByteArray text = Contents( a_file );
@@ -86,8 +110,12 @@ int main( int argc, char* argv[] )
     Benchmarks::DropLogMessages();
     if ( argc >= 3 && std::strcmp( argv[1], "keep" ) == 0 )
         return Keep( argv[2], argc > 3 ? argv[3] : nullptr );
+    if ( argc == 3 && std::strcmp( argv[1], "heap" ) == 0 )
+        return Heap( argv[2] );
     if ( argc == 4 && std::strcmp( argv[1], "drop" ) == 0 )
         return Drop( argv[2], std::atoi( argv[3] ) );
-    std::fputs( "usage: pimvcard-measure keep FILE [SNAPSHOT]\n       pimvcard-measure drop FILE TIMES\n", stderr );
+    std::fputs( "usage: pimvcard-measure keep FILE [SNAPSHOT]\n       pimvcard-measure heap FILE\n"
+                "       pimvcard-measure drop FILE TIMES\n",
+                stderr );
     return s_kWrongUse;
 }

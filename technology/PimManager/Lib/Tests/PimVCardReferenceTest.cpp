@@ -2,6 +2,7 @@
 
 #include "PimVCardReferenceTexts.h"
 
+#include "PimVCardJudge.h"
 #include "PimVCardTestLog.h"
 #include "PimVCardTestText.h"
 
@@ -22,19 +23,6 @@ using vCard::Escaped;
 const QList<Call> s_kParseVCards = { Call::ParseVCards };
 constexpr const char* s_kByteOrderMark = "\xEF\xBB\xBF";
 constexpr int s_kLinesBefore = 6;
-
-// A text stream does not know its place any more once a seek led into the middle of a character that U+FEFF follows: it
-// takes the U+FEFF for a byte order mark. Its place decides on the recovery from a fault, so such texts are left out.
-bool IsJudgeSure( const QByteArray& a_prepared )
-{
-    for ( int mark = a_prepared.indexOf( s_kByteOrderMark ); mark >= 0;
-          mark = a_prepared.indexOf( s_kByteOrderMark, mark + 1 ) )
-    {
-        if ( mark > 0 && static_cast<uchar>( a_prepared.at( mark - 1 ) ) >= 0x80 )
-            return false;
-    }
-    return true;
-}
 
 // Long texts are shown by their ends.
 std::string Shortened( const std::string& a_text )

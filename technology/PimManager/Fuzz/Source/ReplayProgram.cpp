@@ -1,0 +1,56 @@
+// Tries each file on the command line, and each file of each folder there, with the fuzz target that it is linked with.
+// The exit status is 0 when every property held, and 2 when there was nothing to try; a broken property aborts.
+
+#include "FuzzTarget.h"
+#include "ReplayInputs.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+using namespace PimManager::vCard::Fuzz;
+
+namespace
+{
+
+constexpr int s_kNothingTried = 2;
+
+bool TryFile( const QString& a_path )
+{
+    std::printf( "%s\n", QFile::encodeName( a_path ).constData() );
+    std::fflush( stdout );
+    QFile file( a_path );
+    if ( !file.open( QIODevice::ReadOnly ) )
+        return false;
+    const QByteArray bytes = file.readAll();
+    // Memory of exactly that size, so that the sanitizer finds a read past the end.
+    const auto size = static_cast<std::size_t>( bytes.size() );
+    const std::unique_ptr<std::uint8_t[]> input( new std::uint8_t[size] );
+    std::copy( bytes.cbegin(), bytes.cend(), input.get() );
+    LLVMFuzzerTestOneInput( input.get(), size );
+    return true;
+}
+
+} // namespace
+
+int main( int argc, char* argv[] )
+{
+    QStringList paths;
+    for ( int i = 1; i < argc; ++i )
+        paths.append( QFile::decodeName( argv[i] ) );
+    ReplayInputs inputs = FindReplayInputs( paths );
+    for ( const QString& file : qAsConst( inputs.m_files ) )
+    {
+        if ( !TryFile( file ) )
+            inputs.m_error = QStringLiteral( "cannot read " ) + file;
+    }
+    if ( !inputs.m_error.isEmpty() )
+    {
+        std::fprintf( stderr, "%s: %s\n", argv[0], QFile::encodeName( inputs.m_error ).constData() );
+        return s_kNothingTried;
+    }
+    std::printf( "%d inputs tried\n", inputs.m_files.size() );
+    return 0;
+}

@@ -10,10 +10,10 @@ namespace PimManager::vCard::Fuzz
 namespace
 {
 
-// Behind the end of the text the look-ahead is U+0000, which an expression may match.
-bool IsOfText( const QString& a_token )
+// Behind the end of the text the look-ahead is U+0000, which an expression may match, alone or behind a backslash.
+QString OfText( const QString& a_token )
 {
-    return !a_token.isEmpty() && a_token != QChar();
+    return QString( a_token ).remove( QChar() );
 }
 
 } // namespace
@@ -35,8 +35,8 @@ TakenTokens TakeTokens( const QByteArray& a_text, const PimVCardScannerScript& a
         if ( step.m_call != PimVCardScannerCall::Run && step.m_call != PimVCardScannerCall::Single )
             continue;
         const bool isSingle = step.m_call == PimVCardScannerCall::Single;
-        const QString token = lexer.GetToken( expression, isSingle );
-        if ( !IsOfText( token ) )
+        const QString token = OfText( lexer.GetToken( expression, isSingle ) );
+        if ( token.isEmpty() )
             continue;
         taken.m_tokens.append( token );
         if ( isSingle )

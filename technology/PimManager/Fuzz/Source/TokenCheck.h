@@ -18,7 +18,7 @@ namespace PimManager::vCard::Fuzz
 /// What a new scanner took from a text.
 struct TakenTokens
 {
-    /// All tokens that are not empty, in order.
+    /// All tokens that are not empty, in order, without the U+0000 that stands for the end of the text.
     QStringList m_tokens;
     /// Those of them that were taken as single characters.
     QStringList m_singles;

@@ -30,6 +30,7 @@ TEST( TokenCheckTest, TokensAreTakenInOrder )
 TEST( TokenCheckTest, EndOfTextIsNoToken )
 {
     EXPECT_EQ( Take( "", Text( "(?s)." ), { { Call::Single } } ).m_tokens, QStringList() );
+    EXPECT_EQ( Take( "B\\", Text( "." ), { { Call::Run } } ).m_tokens, QStringList( Text( "B" ) ) );
 }
 
 TEST( TokenCheckTest, LineIsSoughtAndEndsTheScript )
@@ -43,7 +44,7 @@ TEST( TokenCheckTest, TokensOfTheScannerHold )
 {
     const QList<PimVCardScannerStep> steps = {
         { Call::Run }, { Call::Single }, { Call::Run }, { Call::Single }, { Call::Seek } };
-    for ( const char* text : { "", "abc", "a\\,b\\\\c;d", "\\\\\\", "\u20AC\u00E9", "x\r\nbcd\r\nz\r\n" } )
+    for ( const char* text : { "", "abc", "a\\,b\\\\c;d", "\\\\\\", "\u20AC\u00E9", "x\r\nbcd\r\nz\r\n", "B\\\xEE" } )
     {
         for ( const QString& pattern : { s_kValueCharPattern, s_kNamePattern, Text( "." ), Text( "" ), Text( "(" ) } )
             EXPECT_EQ( CheckTokens( text, Take( text, pattern, steps ) ), Violation() )

@@ -3,6 +3,7 @@
 #include "FuzzTarget.h"
 
 #include "Agreement.h"
+#include "GivingBack.h"
 #include "OperationOutcome.h"
 
 #include "SilentLog.h"
@@ -16,5 +17,6 @@ extern "C" int LLVMFuzzerTestOneInput( const std::uint8_t* a_data, std::size_t a
     vCard::Benchmarks::DropLogMessages();
     Demand( CheckOutcome( TryOperation( text, PimVCardParserCall::ParseVCards ) ), text );
     Demand( CheckAgreement( text, { PimVCardParserCall::ParseVCards } ), text );
+    Demand( CheckGivingBack( text ), text );
     return 0;
 }

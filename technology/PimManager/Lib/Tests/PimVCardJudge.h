@@ -10,7 +10,8 @@ namespace PimManager
 
 /// A text stream does not know its place any more once a seek led into the middle of a character that U+FEFF follows:
 /// it takes the U+FEFF for a byte order mark. Its place decides on the recovery from a fault, so such texts are left
-/// out. \param a_prepared the text that is scanned.
+/// out.
+/// \param a_prepared the text that is scanned.
 inline bool IsJudgeSure( const QByteArray& a_prepared )
 {
     constexpr const char* byteOrderMark = "\xEF\xBB\xBF";

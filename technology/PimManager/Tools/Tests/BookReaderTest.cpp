@@ -113,7 +113,7 @@ TEST( BookReaderTest, FileOverTheLargestBookIsRefusedUnread )
     const QTemporaryDir folder;
     const QByteArray file = WriteFile( folder, QByteArray() );
     ASSERT_EQ( truncate( file.constData(), s_kLargestBook + 1 ), 0 );
-    const char* const reason = sizeof( void* ) < 8 ? "is too large: more than 200000000 bytes cannot be read at once"
+    const char* const reason = sizeof( void* ) < 8 ? "is too large: more than 100000000 bytes cannot be read at once"
                                                    : "is too large: more than 700000000 bytes cannot be read at once";
     EXPECT_EQ( Utf8( ReadBook( file ).m_refusal ), reason );
 }

@@ -1,14 +1,26 @@
-# pimvcard_add_test(NAME [LIBRARIES ...] [SOURCES ...]): an executable NAME from NAME.cpp, each of its cases a ctest test.
-# Under an emulator, where starting a program takes long, all its cases are one test.
+# pimvcard_add_test(NAME [LIBRARIES ...] [SOURCES ...] [SLOW ...]): an executable NAME from NAME.cpp, each of its cases a
+# ctest test. Cases that fit one of the patterns after SLOW repeat the same work over many texts; they have the label slow
+# and stand in the file NAME.slow next to the executable. Under an emulator, where starting a program takes long, the
+# cases are one test, and the slow ones another.
 function(pimvcard_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 test "" "" "LIBRARIES;SOURCES")
+  cmake_parse_arguments(PARSE_ARGV 1 test "" "" "LIBRARIES;SOURCES;SLOW")
   add_executable(${name} ${name}.cpp ${test_SOURCES})
   pimvcard_configure_product(${name})
   target_link_libraries(${name} PRIVATE PimManager::vCard pimvcard-test-main ${test_LIBRARIES})
+  list(JOIN test_SLOW ":" slow)
+  file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/${name}.slow "${slow}")
   if(CMAKE_CROSSCOMPILING)
-    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
+    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1 --gtest_filter=-${slow})
     set_tests_properties(${name} PROPERTIES TIMEOUT 900)
-  else()
-    gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+    if(slow)
+      add_test(NAME ${name}.Slow COMMAND ${name} --gtest_brief=1 --gtest_filter=${slow})
+      set_tests_properties(${name}.Slow PROPERTIES LABELS slow TIMEOUT 1800 COST 100)
+    endif()
+    return()
+  endif()
+  gtest_discover_tests(${name} TEST_FILTER "-${slow}" NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+  if(slow)
+    gtest_discover_tests(${name} TEST_FILTER "${slow}" NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
+                         PROPERTIES LABELS slow TIMEOUT 300)
   endif()
 endfunction()

@@ -49,7 +49,8 @@ enum class PimVCardDiagnosticCode
     LineEnd,            ///< Repaired: a line ends in LF, CR or CR CR LF. Once for each kind and file.
     LastLineEnd,        ///< Repaired: the last line has no line end.
     TextOutside,        ///< Note: text outside cards; m_count is its number of lines.
-    EndWithoutBegin,    ///< Dropped: an END line outside cards. What stood before it is lost as text outside.
+    EndWithoutBegin,    ///< Note: an END line outside cards.
+    LostCard,           ///< Dropped: what looks like a card without BEGIN, before such an END; m_count lines.
     StrayByteOrderMark, ///< Repaired: a byte order mark at the start of a line, taken away; m_count of them.
 
     // The card.
@@ -59,9 +60,9 @@ enum class PimVCardDiagnosticCode
     IndentedCard,       ///< Repaired: every line of the card is indented; the indentation was taken away.
     MissingEnd,         ///< Repaired: the card ends where the next one begins, or with the file.
     NestedCard,         ///< Note: a card inside the card, kept as the text of its property.
-    NestingTooDeep,     ///< Refused: cards nested deeper than the limit.
+    NestingTooDeep,     ///< Dropped: cards nested deeper than the limit; the property that holds them is dropped.
     CardTooLong,        ///< Refused: more bytes than the limit.
-    TooManyCards,       ///< Refused: more cards than the limit. Once a file; m_count is the number of cards.
+    TooManyCards,       ///< Refused: more cards than the limit.
     CardUnreadable,     ///< Refused: the component took none of its lines.
 
     // The line.

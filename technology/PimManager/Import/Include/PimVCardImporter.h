@@ -128,6 +128,8 @@ public:
     const PimVCardImportAccount& Account() const;
 
 private:
+    void BeginRun( const CardHandler& a_handler );
+
     PimVCardImportOptions m_options;
     CardHandler m_cardHandler;
     RejectHandler m_rejectHandler;

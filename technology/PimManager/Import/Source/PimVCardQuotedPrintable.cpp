@@ -1,0 +1,68 @@
+#include "PimVCardQuotedPrintable.h"
+
+#include "PimVCardBytes.h"
+#include "PimVCardCharset.h"
+#include "PimVCardUtf8.h"
+
+#include <QByteArray>
+#include <QTextCodec>
+
+namespace PimManager::vCardImport
+{
+
+namespace
+{
+
+constexpr ushort s_kAsciiEnd = 0x80;
+constexpr int s_kHexBase = 16;
+
+QTextCodec* CodecFor( const QByteArray& a_bytes, QTextCodec* a_codec )
+{
+    const PimVCardUtf8Census census = Utf8CensusOf( ViewOf( a_bytes ) );
+    if ( a_codec != nullptr || census.IsValid() || census.m_wide > census.m_malformed )
+        return a_codec;
+    return CodecOf( "windows-1252" );
+}
+
+QString TextOfBytes( const QByteArray& a_bytes, QTextCodec* a_codec )
+{
+    return TextOfUtf8( ViewOf( DecodeCharset( ViewOf( a_bytes ), CodecFor( a_bytes, a_codec ) ).m_utf8 ) );
+}
+
+// The byte that is encoded at a place, -1 if none is.
+int EncodedByteAt( const QString& a_value, int a_place )
+{
+    if ( a_value.at( a_place ) != QLatin1Char( '=' ) || a_place + 2 >= a_value.size() )
+        return -1;
+    const char high = a_value.at( a_place + 1 ).toLatin1();
+    const char low = a_value.at( a_place + 2 ).toLatin1();
+    return IsHexByte( high ) && IsHexByte( low ) ? a_value.midRef( a_place + 1, 2 ).toInt( nullptr, s_kHexBase ) : -1;
+}
+
+} // namespace
+
+QString DecodeQuotedPrintable( const QString& a_value, QTextCodec* a_codec )
+{
+    QString text;
+    QByteArray bytes;
+    for ( int place = 0; place < a_value.size(); ++place )
+    {
+        const QChar character = a_value.at( place );
+        const int encoded = EncodedByteAt( a_value, place );
+        if ( encoded >= 0 )
+        {
+            bytes += static_cast<char>( encoded );
+            place += 2;
+        }
+        else if ( character.unicode() < s_kAsciiEnd )
+            bytes += character.toLatin1();
+        else
+        {
+            text += TextOfBytes( bytes, a_codec ) + character;
+            bytes.clear();
+        }
+    }
+    return text + TextOfBytes( bytes, a_codec );
+}
+
+} // namespace PimManager::vCardImport

@@ -34,9 +34,17 @@ std::string_view WithoutPaddingLeft( std::string_view a_text )
 std::string_view WithoutPadding( std::string_view a_text )
 {
     a_text = WithoutPaddingLeft( a_text );
-    while ( !a_text.empty() && IsPadding( a_text.back() ) )
-        a_text.remove_suffix( 1 );
-    return a_text;
+    for ( ;; )
+    {
+        const size_t length = a_text.size();
+        if ( length >= s_kByteOrderMark.size() &&
+             a_text.substr( length - s_kByteOrderMark.size() ) == s_kByteOrderMark )
+            a_text.remove_suffix( s_kByteOrderMark.size() );
+        else if ( length > 0 && IsPadding( a_text.back() ) )
+            a_text.remove_suffix( 1 );
+        else
+            return a_text;
+    }
 }
 
 bool EndsInWord( std::string_view a_text )
@@ -50,7 +58,7 @@ bool MayBeBoundary( std::string_view a_line )
     if ( a_line.empty() || a_line.size() > PimVCardBoundary::s_kLongest )
         return false;
     const char last = a_line.back();
-    return last == 'D' || last == 'd' || IsPadding( last );
+    return last == 'D' || last == 'd' || last == s_kByteOrderMark.back() || IsPadding( last );
 }
 
 PimVCardBoundary::Kind KindOf( const PimVCardLineHead& a_head )

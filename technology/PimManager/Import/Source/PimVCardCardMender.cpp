@@ -253,7 +253,7 @@ QByteArray PimVCardCardMender::DecodedText( const PimVCardLogicalLine& a_line )
 QByteArray PimVCardCardMender::WithoutControls( const PimVCardLogicalLine& a_line, const QByteArray& a_text )
 {
     QByteArray text = a_text;
-    qint64 marks = 0;
+    qint64 marks = a_line.m_marks;
     for ( ; ViewOf( text ).substr( 0, s_kByteOrderMark.size() ) == s_kByteOrderMark; ++marks )
         text.remove( 0, static_cast<int>( s_kByteOrderMark.size() ) );
     if ( marks > 0 )
@@ -311,7 +311,11 @@ void PimVCardCardMender::AddProperty( const PimVCardLogicalLine& a_line, const Q
     std::vector<PimVCardContentLine::Finding> findings;
     PimVCardContentLine line = PimVCardContentLine::Of( ViewOf( a_text ), ViewOf( nested ), findings );
     for ( const PimVCardContentLine::Finding& finding : findings )
-        Report( finding.m_code, a_line, finding.m_place, finding.m_count );
+    {
+        const bool isTold = finding.m_code == Code::Base64Lines && a_line.m_areBase64LinesJoined;
+        if ( !isTold )
+            Report( finding.m_code, a_line, finding.m_place, finding.m_count );
+    }
 
     PimVCardMendedCard::Property property;
     property.m_position = a_line.Position( *m_card );

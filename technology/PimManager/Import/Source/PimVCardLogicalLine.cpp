@@ -14,6 +14,8 @@ namespace
 {
 
 constexpr std::string_view s_kEncodedBreak = "=0D=0A";
+constexpr std::string_view s_kByteOrderMark = "\xEF\xBB\xBF";
+constexpr size_t s_kBase64Group = 4;
 // Where programs fold lines. A line of such a length whose successor is no property lost the indentation of the fold.
 constexpr int s_kLeastFold = 70;
 constexpr int s_kMostFold = 80;
@@ -48,6 +50,26 @@ bool EndsWith( std::string_view a_text, std::string_view a_end )
     return a_text.size() >= a_end.size() && a_text.substr( a_text.size() - a_end.size() ) == a_end;
 }
 
+std::string_view WithoutMarks( std::string_view a_text, int& a_marks )
+{
+    for ( ; a_text.substr( 0, s_kByteOrderMark.size() ) == s_kByteOrderMark; ++a_marks )
+        a_text.remove_prefix( s_kByteOrderMark.size() );
+    return a_text;
+}
+
+// A line of nothing but dashes is part of a note, and not of a name.
+bool HasWords( std::string_view a_text )
+{
+    return std::any_of( a_text.begin(), a_text.end(),
+                        []( char a_byte )
+                        { return ( a_byte != '-' && IsNameByte( a_byte ) ) || static_cast<uchar>( a_byte ) >= 0x80; } );
+}
+
+bool IsPersonName( std::string_view a_name )
+{
+    return IsSameWord( a_name, "N" ) || IsSameWord( a_name, "FN" ) || IsSameWord( a_name, "NICKNAME" );
+}
+
 bool BeginsEncoded( std::string_view a_text )
 {
     return a_text.size() >= 3 && a_text[0] == '=' && IsHexByte( a_text[1] ) && IsHexByte( a_text[2] );
@@ -71,6 +93,7 @@ private:
         PimVCardEncoding m_encoding = PimVCardEncoding::None;
         bool m_holdsText = true;
         bool m_isPicture = false;
+        bool m_isPersonName = false;
         int m_nextSize = 0;
         int m_nextForcedSize = 0;
         bool m_isQuoteOpen = false;
@@ -302,6 +325,7 @@ void Joiner::LearnHead( bool a_isForced )
     m_head.m_encoding = head.Encoding();
     m_head.m_holdsText = HoldsText( head.Name() );
     m_head.m_isPicture = IsPicture( head.Name() );
+    m_head.m_isPersonName = IsPersonName( head.Name() );
 }
 
 bool Joiner::IsFoldedNext( int a_index ) const
@@ -317,9 +341,11 @@ bool Joiner::IsFoldedNext( int a_index ) const
 void Joiner::Start( int a_index, std::string_view a_line )
 {
     Judge();
-    const std::string_view text = TrimmedLeft( a_line );
+    int marks = 0;
+    const std::string_view text = TrimmedLeft( WithoutMarks( a_line, marks ) );
     const PimVCardLooks looks = LooksOf( text );
-    const bool isData = looks == PimVCardLooks::NameOnly && HasCurrent() && HoldsBase64() && IsBase64( text );
+    const bool isData = looks == PimVCardLooks::NameOnly && HasCurrent() && HoldsBase64() && IsBase64( text ) &&
+                        text.size() % s_kBase64Group == 0;
     const bool isText = looks == PimVCardLooks::Text || isData;
     m_isTentative = ( isText || looks == PimVCardLooks::NameOnly ) && IsFoldedNext( a_index );
     if ( m_isTentative )
@@ -327,7 +353,8 @@ void Joiner::Start( int a_index, std::string_view a_line )
     if ( !isText || m_isTentative )
         StartLine( a_index, text, PlaceInLine( a_index, text ) );
     else
-        GoOnWithText( a_index, text, PlaceInLine( a_index, text ), text.size() != a_line.size() );
+        GoOnWithText( a_index, text, PlaceInLine( a_index, text ), IsBlank( a_line.front() ) );
+    Current().m_marks += marks;
 }
 
 void Joiner::StartLine( int a_index, std::string_view a_line, int a_placeInLine )
@@ -395,7 +422,8 @@ bool Joiner::MayGoOnWithText( std::string_view a_text ) const
         return true;
     if ( m_head.m_encoding == PimVCardEncoding::Base64 )
         return false;
-    return m_head.m_holdsText || IsLostFold();
+    const bool isWelcome = m_head.m_holdsText && ( !m_head.m_isPersonName || HasWords( a_text ) );
+    return isWelcome || IsLostFold();
 }
 
 bool Joiner::IsLostFold() const

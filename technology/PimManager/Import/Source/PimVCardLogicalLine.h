@@ -32,6 +32,8 @@ struct PimVCardLogicalLine
     QByteArray m_nested;
     bool m_isProperty = true;
 
+    /// Byte order marks that stood at the start.
+    int m_marks = 0;
     bool m_isFolded = false;
     bool m_isJoined = false;
     bool m_isColonAdded = false;

@@ -244,7 +244,8 @@ bool PimVCardCleanLines::TakeNewLine( std::string_view a_line )
 
 bool PimVCardCleanLines::TakeValue( std::string_view a_text )
 {
-    const bool isBase64 = m_encoding == PimVCardEncoding::Base64;
+    // A bare word does not change how the component reads the value.
+    const bool isBase64 = m_encoding == PimVCardEncoding::Base64 && m_isEncodingNamed;
     const Kinds& kinds = isBase64 ? s_kBase64Kinds : s_kValueKinds;
     const char* const end = a_text.data() + a_text.size();
     const char* place = a_text.data();

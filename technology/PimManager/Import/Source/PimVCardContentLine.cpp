@@ -68,6 +68,7 @@ public:
         }
         const QString value = ReadValue( a_parameter );
         const bool isOdd = m_isOdd || ( !a_parameter.IsBare() && !IsName( a_parameter.m_name ) );
+        m_hasStrayQuote = m_hasStrayQuote || ( isOdd && value.contains( QLatin1Char( '"' ) ) );
         if ( isOdd )
             Add( Code::OddParameter, a_parameter.m_text );
         else if ( m_isQuoted )
@@ -103,7 +104,9 @@ private:
     {
         const ElementKind kind = KindOf( a_element );
         const QString text = TextOfUtf8( a_element );
-        m_isOdd = m_isOdd || kind == ElementKind::Odd || ( a_isBareWord && !IsName( a_element ) );
+        // Quotes would give a stray one before them an end.
+        const bool isKept = kind == ElementKind::ToQuote && m_hasStrayQuote;
+        m_isOdd = m_isOdd || isKept || kind == ElementKind::Odd || ( a_isBareWord && !IsName( a_element ) );
         if ( kind != ElementKind::ToQuote )
             return text;
         m_isQuoted = true;
@@ -119,6 +122,7 @@ private:
     Findings& m_findings;
     bool m_isOdd = false;
     bool m_isQuoted = false;
+    bool m_hasStrayQuote = false;
 };
 
 /// Splits a value at its semicolons and takes the escapes away.
@@ -238,16 +242,31 @@ bool IsBase64Text( const QString& a_value )
                         { return a_character.unicode() < 0x80 && IsBase64Byte( a_character.toLatin1() ); } );
 }
 
-QByteArray WithoutBlanks( std::string_view a_text )
+QByteArray Without( std::string_view a_text, std::string_view a_bytes )
 {
     QByteArray text;
     text.reserve( static_cast<int>( a_text.size() ) );
     for ( const char byte : a_text )
     {
-        if ( !IsBlank( byte ) && byte != '\n' )
+        if ( a_bytes.find( byte ) == std::string_view::npos )
             text += byte;
     }
     return text;
+}
+
+// BASE64 knows no blanks, and no escapes. False if something else is in it.
+bool ReadBase64( std::string_view a_value, QStringList& a_values )
+{
+    QStringList values;
+    const QList<QByteArray> parts = Without( a_value, " \t\n\\" ).split( ';' );
+    for ( const QByteArray& part : parts )
+    {
+        if ( !part.isEmpty() && !IsBase64( ViewOf( part ) ) )
+            return false;
+        values.append( QString::fromLatin1( part ) );
+    }
+    a_values = values;
+    return true;
 }
 
 } // namespace
@@ -256,7 +275,7 @@ PimVCardContentLine PimVCardContentLine::Of( std::string_view a_line, std::strin
 {
     const PimVCardLineHead head = PimVCardLineHead::Of( a_line );
     PimVCardContentLine line;
-    const QByteArray groups = WithoutBlanks( head.Groups() );
+    const QByteArray groups = Without( head.Groups(), " \t" );
     line.m_group = TextOfUtf8( ViewOf( groups ) ).chopped( groups.isEmpty() ? 0 : 1 );
     line.m_name = TextOfUtf8( head.Name() );
     if ( !IsName( head.Name() ) || IsSameWord( head.Name(), "BEGIN" ) || IsSameWord( head.Name(), "END" ) )
@@ -276,16 +295,12 @@ PimVCardContentLine PimVCardContentLine::Of( std::string_view a_line, std::strin
         line.m_values.append( TextOfUtf8( a_nested ) );
         return line;
     }
-    if ( head.Encoding() == PimVCardEncoding::Base64 )
+    const bool isBase64 = head.Encoding() == PimVCardEncoding::Base64 && head.IsEncodingNamed();
+    if ( isBase64 && ReadBase64( head.m_value, line.m_values ) )
     {
-        const QByteArray data = WithoutBlanks( head.m_value );
-        if ( data.isEmpty() || IsBase64( ViewOf( data ) ) )
-        {
-            if ( static_cast<size_t>( data.size() ) != head.m_value.size() )
-                a_findings.push_back( { Code::Base64Lines, PlaceIn( a_line, head.m_value ), 1 } );
-            line.m_values.append( QString::fromLatin1( data ) );
-            return line;
-        }
+        if ( BytesOf( head.m_value ) != line.m_values.join( QLatin1Char( ';' ) ).toLatin1() )
+            a_findings.push_back( { Code::Base64Lines, PlaceIn( a_line, head.m_value ), 1 } );
+        return line;
     }
     ValueReader values( head.m_value );
     line.m_values = values.Read();
@@ -312,9 +327,13 @@ QByteArray PimVCardContentLine::CarriedText() const
     if ( !std::all_of( m_values.begin(), m_values.end(), CanCarryValue ) )
         return QByteArray();
     const PimVCardEncoding encoding = parts.Encoding();
-    if ( encoding == PimVCardEncoding::Base64 && !std::all_of( m_values.begin(), m_values.end(), IsBase64Text ) )
+    if ( encoding == PimVCardEncoding::Base64 && parts.IsEncodingNamed() &&
+         !std::all_of( m_values.begin(), m_values.end(), IsBase64Text ) )
         return QByteArray();
     if ( encoding == PimVCardEncoding::QuotedPrintable && m_values.last().endsWith( QLatin1Char( '=' ) ) )
+        return QByteArray();
+    // The component would take it for a soft line break.
+    if ( m_values.last().endsWith( QLatin1String( "=0D=0A=" ) ) )
         return QByteArray();
     QStringList values;
     for ( const QString& value : m_values )

@@ -55,7 +55,7 @@ PimVCardLineHead::Parameter ParameterOf( std::string_view a_text )
     parameter.m_text = a_text;
     const size_t equals = a_text.find( '=' );
     const bool isQuoted = !Trimmed( a_text ).empty() && Trimmed( a_text ).front() == '"';
-    if ( equals == std::string_view::npos || isQuoted )
+    if ( equals == std::string_view::npos || isQuoted || Trimmed( a_text.substr( 0, equals ) ).empty() )
         parameter.m_value = Trimmed( a_text );
     else
     {
@@ -174,6 +174,16 @@ PimVCardEncoding PimVCardLineHead::Encoding() const
             return encoding;
     }
     return PimVCardEncoding::None;
+}
+
+bool PimVCardLineHead::IsEncodingNamed() const
+{
+    return std::any_of( m_parameters.begin(), m_parameters.end(),
+                        []( const Parameter& a_parameter )
+                        {
+                            return !a_parameter.IsBare() && IsSameWord( a_parameter.m_name, "ENCODING" ) &&
+                                   EncodingOfNamed( a_parameter.m_value ) != PimVCardEncoding::None;
+                        } );
 }
 
 bool PimVCardLineHead::HasTwoEncodings() const

@@ -41,6 +41,8 @@ struct PimVCardLineHead
     std::string_view Groups() const;
     /// By ENCODING, or a bare word.
     PimVCardEncoding Encoding() const;
+    /// An ENCODING parameter says so, and not only a bare word. Only then the component reads the value by it.
+    bool IsEncodingNamed() const;
     /// ENCODING says QUOTED-PRINTABLE and BASE64 at once, which the component refuses.
     bool HasTwoEncodings() const;
     /// Of CHARSET, without quotes; empty without one.

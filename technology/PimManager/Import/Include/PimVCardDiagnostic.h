@@ -78,7 +78,8 @@ enum class PimVCardDiagnosticCode
     ControlCharacters, ///< Repaired: m_count control characters were taken away or made line breaks.
     NameBlanks,        ///< Repaired: blanks round the name or before the colon.
     OddName,           ///< Note: a property name with other characters than letters, digits and "-".
-    ParameterQuoted,   ///< Repaired: a parameter value with other characters; it was put in quotes.
+    ParameterQuoted,   ///< Repaired: a parameter value with other characters was put in quotes, or an open quote taken
+                       ///< away.
     OddParameter,      ///< Note: a parameter that the component could not have read, kept as written.
     EmptyParameter,    ///< Repaired: nothing between two semicolons; taken away.
     UnknownEscape,     ///< Note: a backslash before a character that needs none, kept as written; m_count of them.

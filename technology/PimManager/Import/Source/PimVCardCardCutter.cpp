@@ -17,10 +17,17 @@ using Kind = PimVCardBoundary::Kind;
 constexpr qint64 s_kMostCardBytes = qint64( 1 ) << 30;
 constexpr int s_kUsualCardBytes = 4 * 1024;
 constexpr int s_kRejectPiece = 64 * 1024;
+// Of text outside cards so much is kept, and up to twice as much for a while.
+constexpr int s_kOutsideBytes = 64 * 1024;
 
 bool IsBlankLine( std::string_view a_line )
 {
     return TrimmedLeft( a_line ).empty();
+}
+
+bool BeginsIndented( std::string_view a_line )
+{
+    return !a_line.empty() && IsBlank( a_line.front() );
 }
 
 // The same whether its start was let go or not.
@@ -53,7 +60,30 @@ PimVCardCardCutter::PimVCardCardCutter( PimVCardReporter& a_reporter, const PimV
 void PimVCardCardCutter::Take( const Line& a_line )
 {
     m_isCounted = true;
-    Dispatch( a_line, a_line.m_isLong ? PimVCardBoundary() : PimVCardBoundary::Of( a_line.m_text ) );
+    const PimVCardBoundary boundary = a_line.m_isLong ? PimVCardBoundary() : PimVCardBoundary::Of( a_line.m_text );
+    if ( boundary.m_kind != Kind::None && IsFold( a_line ) )
+        TakeFold( a_line, boundary.m_kind );
+    else
+        Dispatch( a_line, boundary );
+}
+
+// The words of a boundary, indented behind a line that is not: the value before goes on with them.
+bool PimVCardCardCutter::IsFold( const Line& a_line ) const
+{
+    if ( m_state != State::Inside || m_depth > 0 || m_card.m_lines.size() < 2 || !BeginsIndented( a_line.m_text ) )
+        return false;
+    return !BeginsIndented( m_card.TextOf( m_card.m_lines.front() ) ) && !IsBehindEmptyLine();
+}
+
+void PimVCardCardCutter::TakeFold( const Line& a_line, Kind a_kind )
+{
+    const int begin = m_foldedBegin;
+    TakeContent( a_line );
+    if ( m_state != State::Inside )
+        return;
+    const int index = static_cast<int>( m_card.m_lines.size() ) - 1;
+    m_foldedBegin = begin < 0 && a_kind == Kind::Begin ? index : begin;
+    m_flatEnd = a_kind == Kind::End ? index : -1;
 }
 
 void PimVCardCardCutter::Dispatch( const Line& a_line, const PimVCardBoundary& a_boundary )
@@ -163,7 +193,10 @@ void PimVCardCardCutter::TakeContent( const Line& a_line )
         return;
     }
     if ( !IsBlankLine( a_line.m_text ) )
+    {
         m_flatEnd = -1;
+        m_foldedBegin = BeginsIndented( a_line.m_text ) ? m_foldedBegin : -1;
+    }
     const bool isClean =
         m_depth == 0 && m_card.m_isClean && a_line.m_end == "\r\n" && m_cleanLines.Take( a_line.m_text );
     AddLine( a_line, m_depth > 0, isClean );
@@ -181,18 +214,16 @@ void PimVCardCardCutter::TakeOutside( const Line& a_line, bool a_isEnd )
     ++account.m_linesOutside;
     if ( a_isEnd )
     {
-        const bool isCardLost = m_outsideProperties > 0;
-        if ( isCardLost )
-            m_reporter.Report( PimVCardDiagnosticCode::LostCard, -1, m_outsideBegin, m_outsideLines + 1 );
+        if ( m_outsideProperties > 0 )
+            LoseCard( a_line );
         else
             EndTextOutside();
-        m_outsideLines = 0;
-        m_outsideProperties = 0;
         m_reporter.Report( PimVCardDiagnosticCode::EndWithoutBegin, -1, a_line.m_position );
         return;
     }
     if ( m_outsideLines++ == 0 )
         m_outsideBegin = a_line.m_position;
+    KeepOutside( a_line );
     if ( !IsLong( a_line ) && IsOfCard( a_line.m_text ) )
         ++m_outsideProperties;
 }
@@ -203,21 +234,70 @@ void PimVCardCardCutter::EndTextOutside()
         m_reporter.Report( PimVCardDiagnosticCode::TextOutside, -1, m_outsideBegin, m_outsideLines );
     m_outsideLines = 0;
     m_outsideProperties = 0;
+    m_outside.resize( 0 );
+}
+
+// Properties and an END, but no BEGIN.
+void PimVCardCardCutter::LoseCard( const Line& a_endLine )
+{
+    KeepOutside( a_endLine );
+    m_reporter.Report( PimVCardDiagnosticCode::LostCard, -1, m_outsideBegin, m_outsideLines + 1 );
+    m_reporter.Reject( { PimVCardDiagnosticCode::LostCard, -1, m_outsideBegin, m_outside } );
+    m_outsideLines = 0;
+    EndTextOutside();
+}
+
+// The last lines, for the case that they are those of a card. A long line is none.
+void PimVCardCardCutter::KeepOutside( const Line& a_line )
+{
+    if ( IsLong( a_line ) || !m_reporter.AreRejectsWanted() )
+        return;
+    Append( m_outside, a_line.m_text );
+    Append( m_outside, a_line.m_end );
+    if ( m_outside.size() > 2 * s_kOutsideBytes )
+        m_outside.remove( 0, m_outside.size() - s_kOutsideBytes );
 }
 
 // A card of which END is missing, and those inside it.
 void PimVCardCardCutter::EndOpenCards()
 {
-    if ( m_state == State::Outside )
-        return;
     if ( m_state == State::Inside && m_depth == 0 && m_flatEnd >= 0 )
     {
+        if ( m_foldedBegin >= 0 )
+        {
+            EndBeforeIndentedCards();
+            return;
+        }
         m_card.m_endLine = m_flatEnd;
+        m_card.m_isClean = false;
         m_card.m_nestedCards = 0;
         for ( PimVCardRawCard::Line& line : m_card.m_lines )
             line.m_isNested = false;
     }
+    if ( m_state != State::Outside )
+        EndCard();
+}
+
+// What looked like folds were cards: BEGIN and END and all between are indented, and no other END came.
+void PimVCardCardCutter::EndBeforeIndentedCards()
+{
+    const auto begin = m_card.m_lines.begin() + m_foldedBegin;
+    const std::vector<PimVCardRawCard::Line> lines( begin, m_card.m_lines.end() );
+    const QByteArray bytes = m_card.m_bytes.mid( begin->m_begin );
+    m_card.m_bytes.truncate( begin->m_begin );
+    m_card.m_lines.erase( begin, m_card.m_lines.end() );
     EndCard();
+    const auto viewOf = [&bytes, first = lines.front().m_begin]( int a_begin, int a_length )
+    { return std::string_view( bytes.constData() + a_begin - first, static_cast<size_t>( a_length ) ); };
+    for ( const PimVCardRawCard::Line& line : lines )
+    {
+        Line again;
+        again.m_text = viewOf( line.m_begin, line.m_length );
+        again.m_end = viewOf( line.m_begin + line.m_length, line.m_endLength );
+        again.m_position = line.m_position;
+        m_isCounted = line.m_isCounted;
+        Dispatch( again, PimVCardBoundary::Of( again.m_text ) );
+    }
 }
 
 void PimVCardCardCutter::EndCard()
@@ -239,6 +319,7 @@ void PimVCardCardCutter::EndCard()
     m_depth = 0;
     m_isInlineAgent = false;
     m_flatEnd = -1;
+    m_foldedBegin = -1;
 }
 
 bool PimVCardCardCutter::IsTooLong( size_t a_more ) const
@@ -272,6 +353,15 @@ void PimVCardCardCutter::AddLine( const Line& a_line, bool a_isNested, bool a_is
     Append( m_card.m_bytes, a_line.m_text );
     Append( m_card.m_bytes, a_line.m_end );
     m_card.m_isClean = m_card.m_isClean && a_isClean && a_line.m_end == "\r\n";
+}
+
+// A line of blanks is a fold of its own.
+bool PimVCardCardCutter::IsBehindEmptyLine() const
+{
+    const auto line = std::find_if( m_card.m_lines.rbegin(), m_card.m_lines.rend(),
+                                    [this]( const PimVCardRawCard::Line& a_line )
+                                    { return a_line.m_length == 0 || !IsBlankLine( m_card.TextOf( a_line ) ); } );
+    return line != m_card.m_lines.rend() && line->m_length == 0;
 }
 
 bool PimVCardCardCutter::IsBehindAgent() const

@@ -18,10 +18,12 @@ namespace PimManager::vCardImport
 ///
 /// - BEGIN outside cards begins one; END at the same depth ends it.
 /// - BEGIN behind an AGENT line without a value, or on it, begins a card inside the card, which stays with its
-/// property.
+///   property.
 /// - Any other BEGIN inside a card says that an END is missing: all open cards end there, and a new one begins.
 /// - END outside cards belongs to the text outside.
 /// - At the end of the file all open cards end.
+/// - In a card that is not indented, an indented BEGIN or END goes on with the value before it, as any folded line
+///   does. Where no other END comes, the indented one was meant.
 ///
 /// Depth is a number, not a stack. A card that grows beyond the limit is let go line by line.
 class PimVCardCardCutter
@@ -55,6 +57,8 @@ private:
 
     using Line = PimVCardPhysicalLine;
 
+    bool IsFold( const Line& a_line ) const;
+    void TakeFold( const Line& a_line, PimVCardBoundary::Kind a_kind );
     void Dispatch( const Line& a_line, const PimVCardBoundary& a_boundary );
     void TakeBegin( const Line& a_line, const PimVCardBoundary& a_boundary );
     void TakeNestedBegin( const Line& a_line );
@@ -64,6 +68,7 @@ private:
     void TakeContent( const Line& a_line );
     void TakeOutside( const Line& a_line, bool a_isEnd );
     void EndOpenCards();
+    void EndBeforeIndentedCards();
     void EndCard();
     void AddLine( const Line& a_line, bool a_isNested, bool a_isClean );
     void BecomeTooLong( const PimVCardPosition& a_position );
@@ -71,7 +76,10 @@ private:
     void FlushTooLong();
     void EndTooLong();
     void EndTextOutside();
+    void LoseCard( const Line& a_endLine );
+    void KeepOutside( const Line& a_line );
     bool IsBehindAgent() const;
+    bool IsBehindEmptyLine() const;
     bool IsTooLong( size_t a_more ) const;
 
     PimVCardReporter& m_reporter;
@@ -85,8 +93,11 @@ private:
     int m_depth = 0;
     // The only card inside began on its AGENT line.
     bool m_isInlineAgent = false;
-    // The line of the END that closed it; nothing but blank lines came since, so it may be that of the outer card.
+    // The line of the END that closed it, or of an indented END; nothing but blank lines came since, so it may be that
+    // of the card.
     int m_flatEnd = -1;
+    // The line of an indented BEGIN; all lines that came since are indented.
+    int m_foldedBegin = -1;
     // The line is not the second half of one that two cards share.
     bool m_isCounted = true;
 
@@ -98,6 +109,7 @@ private:
     PimVCardPosition m_outsideBegin;
     qint64 m_outsideLines = 0;
     qint64 m_outsideProperties = 0;
+    QByteArray m_outside;
 };
 
 } // namespace PimManager::vCardImport

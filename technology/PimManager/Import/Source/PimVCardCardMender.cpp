@@ -51,6 +51,56 @@ bool IsProperty( std::string_view a_text )
     return !isBoundary && LooksOf( a_text ) != PimVCardLooks::Text;
 }
 
+// A line that was joined may turn out to be part of a quoted parameter, where no line feed can stand.
+void BlankLineFeedsOfHead( QByteArray& a_text )
+{
+    const int first = a_text.indexOf( '\n' );
+    if ( first < 0 )
+        return;
+    const PimVCardLineHead head = PimVCardLineHead::Of( ViewOf( a_text ) );
+    const auto end = a_text.size() - static_cast<int>( head.m_value.size() );
+    for ( int i = first; i < end; ++i )
+    {
+        if ( a_text.at( i ) == '\n' )
+            a_text[i] = ' ';
+    }
+}
+
+bool IsUnwanted( char a_byte )
+{
+    return IsControlByte( a_byte ) && a_byte != '\n';
+}
+
+// A vertical tab or a form feed is a line break, but not in a name; what else controls a terminal means nothing in a
+// contact.
+QByteArray WithoutUnwanted( const QByteArray& a_text, int a_valueBegin )
+{
+    QByteArray result;
+    result.reserve( a_text.size() );
+    for ( int i = 0; i < a_text.size(); ++i )
+    {
+        const char byte = a_text.at( i );
+        const bool isBreak = ( byte == '\v' || byte == '\f' ) && i > a_valueBegin;
+        if ( isBreak || !IsUnwanted( byte ) )
+            result += isBreak ? '\n' : byte;
+    }
+    return result;
+}
+
+// Without byte order marks at the start, and the blanks between them.
+QByteArray WithoutMarks( const QByteArray& a_text, qint64& a_marks )
+{
+    std::string_view text = ViewOf( a_text );
+    std::string_view rest = text;
+    while ( ( rest = TrimmedLeft( rest ) ).substr( 0, s_kByteOrderMark.size() ) == s_kByteOrderMark )
+    {
+        rest.remove_prefix( s_kByteOrderMark.size() );
+        text = rest;
+        ++a_marks;
+    }
+    return text.size() == ViewOf( a_text ).size() ? a_text : BytesOf( text );
+}
+
 bool IsMedia( const PimVCardLineHead& a_head )
 {
     return a_head.Encoding() == PimVCardEncoding::Base64 || IsNamed( a_head, { "PHOTO", "LOGO", "SOUND", "KEY" } ) ||
@@ -249,35 +299,25 @@ QByteArray PimVCardCardMender::DecodedText( const PimVCardLogicalLine& a_line )
     return text.m_utf8;
 }
 
-// A vertical tab or a form feed is a line break; what else controls a terminal means nothing in a contact.
 QByteArray PimVCardCardMender::WithoutControls( const PimVCardLogicalLine& a_line, const QByteArray& a_text )
 {
     QByteArray text = a_text;
+    BlankLineFeedsOfHead( text );
+    const auto bad = std::count_if( text.cbegin(), text.cend(), IsUnwanted );
+    if ( bad > 0 )
+    {
+        const auto first = std::find_if( text.cbegin(), text.cend(), IsUnwanted );
+        Report( Code::ControlCharacters, a_line, static_cast<int>( first - text.cbegin() ), bad );
+        while ( !text.isEmpty() && IsUnwanted( text.at( text.size() - 1 ) ) )
+            text.chop( 1 );
+        const int colon = text.indexOf( ':' );
+        text = WithoutUnwanted( text, colon >= 0 ? colon : text.size() );
+    }
     qint64 marks = a_line.m_marks;
-    for ( ; ViewOf( text ).substr( 0, s_kByteOrderMark.size() ) == s_kByteOrderMark; ++marks )
-        text.remove( 0, static_cast<int>( s_kByteOrderMark.size() ) );
+    text = WithoutMarks( text, marks );
     if ( marks > 0 )
         Report( Code::StrayByteOrderMark, a_line, 0, marks );
-
-    const auto isBad = []( char a_byte ) { return IsControlByte( a_byte ) && a_byte != '\n'; };
-    const auto bad = std::count_if( text.cbegin(), text.cend(), isBad );
-    if ( bad == 0 )
-        return text;
-    const auto first = std::find_if( text.cbegin(), text.cend(), isBad );
-    Report( Code::ControlCharacters, a_line, static_cast<int>( first - text.cbegin() ), bad );
-    while ( !text.isEmpty() && isBad( text.at( text.size() - 1 ) ) )
-        text.chop( 1 );
-    const int colon = text.indexOf( ':' );
-    QByteArray result;
-    result.reserve( text.size() );
-    for ( int i = 0; i < text.size(); ++i )
-    {
-        const char byte = text.at( i );
-        const bool isBreak = ( byte == '\v' || byte == '\f' ) && colon >= 0 && i > colon;
-        if ( isBreak || !isBad( byte ) )
-            result += isBreak ? '\n' : byte;
-    }
-    return result;
+    return text;
 }
 
 // A soft line break with nothing to go on with.
@@ -305,9 +345,7 @@ void PimVCardCardMender::AddCleanProperty( const PimVCardLogicalLine& a_line, co
 
 void PimVCardCardMender::AddProperty( const PimVCardLogicalLine& a_line, const QByteArray& a_text )
 {
-    QByteArray nested = a_line.m_nested;
-    if ( !nested.isEmpty() )
-        nested = DecodeCharset( ViewOf( nested ), m_isUtf8 ? nullptr : m_cardCodec ).m_utf8;
+    const QByteArray nested = NestedText( a_line );
     std::vector<PimVCardContentLine::Finding> findings;
     PimVCardContentLine line = PimVCardContentLine::Of( ViewOf( a_text ), ViewOf( nested ), findings );
     for ( const PimVCardContentLine::Finding& finding : findings )
@@ -324,6 +362,19 @@ void PimVCardCardMender::AddProperty( const PimVCardLogicalLine& a_line, const Q
     if ( carried.isEmpty() )
         property.m_real = std::make_unique<PimVCardContentLine>( std::move( line ) );
     m_mended.m_properties.push_back( std::move( property ) );
+}
+
+QByteArray PimVCardCardMender::NestedText( const PimVCardLogicalLine& a_line )
+{
+    if ( a_line.m_nested.isEmpty() )
+        return QByteArray();
+    const PimVCardDecodedText text = DecodeCharset( ViewOf( a_line.m_nested ), CodecFor( a_line.m_nested ) );
+    m_replaced += text.m_replaced;
+    const auto bad = std::count_if( text.m_utf8.cbegin(), text.m_utf8.cend(), IsUnwanted );
+    if ( bad == 0 )
+        return text.m_utf8;
+    Report( Code::ControlCharacters, a_line, 0, bad );
+    return WithoutUnwanted( text.m_utf8, 0 );
 }
 
 void PimVCardCardMender::ReportJoins( const PimVCardLogicalLine& a_line )

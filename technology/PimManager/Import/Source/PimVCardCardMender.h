@@ -43,6 +43,7 @@ private:
     QByteArray WithoutDanglingBreak( const PimVCardLogicalLine& a_line, const QByteArray& a_text );
     void AddCleanProperty( const PimVCardLogicalLine& a_line, const QByteArray& a_text );
     void AddProperty( const PimVCardLogicalLine& a_line, const QByteArray& a_text );
+    QByteArray NestedText( const PimVCardLogicalLine& a_line );
     void ReportJoins( const PimVCardLogicalLine& a_line );
     void Drop( const PimVCardLogicalLine& a_line, Code a_code );
     QByteArray RawBytesOf( const PimVCardLogicalLine& a_line ) const;

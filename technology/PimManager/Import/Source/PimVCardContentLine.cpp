@@ -67,13 +67,16 @@ public:
             return;
         }
         const QString value = ReadValue( a_parameter );
-        const bool isOdd = m_isOdd || ( !a_parameter.IsBare() && !IsName( a_parameter.m_name ) );
-        m_hasStrayQuote = m_hasStrayQuote || ( isOdd && value.contains( QLatin1Char( '"' ) ) );
-        if ( isOdd )
-            Add( Code::OddParameter, a_parameter.m_text );
-        else if ( m_isQuoted )
+        if ( a_parameter.IsBare() && value.isEmpty() )
+        {
+            Add( Code::EmptyParameter, a_parameter.m_text );
+            return;
+        }
+        if ( m_isMended )
             Add( Code::ParameterQuoted, a_parameter.m_text );
-        else if ( HasBlanks( a_parameter ) )
+        if ( m_isOdd )
+            Add( Code::OddParameter, a_parameter.m_text );
+        else if ( !m_isMended && HasBlanks( a_parameter ) )
             Add( Code::NameBlanks, a_parameter.m_text );
         a_to.push_back( { TextOfUtf8( a_parameter.m_name ), value } );
     }
@@ -89,27 +92,33 @@ private:
         return text.size() != length;
     }
 
+    // Where one element is odd, the others are kept as they are.
     QString ReadValue( const PimVCardLineHead::Parameter& a_parameter )
     {
-        m_isOdd = false;
-        m_isQuoted = false;
-        const std::vector<std::string_view> elements = ElementsOf( a_parameter.m_value );
+        std::vector<std::string_view> elements = ElementsOf( a_parameter.m_value );
+        m_isMended = Trimmed( a_parameter.m_text ) != WithoutOpenQuotes( Trimmed( a_parameter.m_text ) );
+        for ( std::string_view& element : elements )
+        {
+            const std::string_view text = WithoutOpenQuotes( element );
+            m_isMended = m_isMended || text != element;
+            element = text;
+        }
+        const bool isFirstOdd = !IsName( a_parameter.IsBare() ? elements.front() : a_parameter.m_name );
+        m_isOdd = isFirstOdd ||
+                  std::any_of( elements.begin(), elements.end(),
+                               []( std::string_view a_element ) { return KindOf( a_element ) == ElementKind::Odd; } );
         QStringList texts;
         for ( const std::string_view element : elements )
-            texts.append( ReadElement( element, a_parameter.IsBare() && texts.isEmpty() ) );
-        return m_isOdd ? TextOfUtf8( a_parameter.m_value ) : texts.join( QLatin1Char( ',' ) );
+            texts.append( ReadElement( element ) );
+        return texts.join( QLatin1Char( ',' ) );
     }
 
-    QString ReadElement( std::string_view a_element, bool a_isBareWord )
+    QString ReadElement( std::string_view a_element )
     {
-        const ElementKind kind = KindOf( a_element );
         const QString text = TextOfUtf8( a_element );
-        // Quotes would give a stray one before them an end.
-        const bool isKept = kind == ElementKind::ToQuote && m_hasStrayQuote;
-        m_isOdd = m_isOdd || isKept || kind == ElementKind::Odd || ( a_isBareWord && !IsName( a_element ) );
-        if ( kind != ElementKind::ToQuote )
+        if ( m_isOdd || KindOf( a_element ) == ElementKind::Clean )
             return text;
-        m_isQuoted = true;
+        m_isMended = true;
         return QLatin1Char( '"' ) + text + QLatin1Char( '"' );
     }
 
@@ -121,8 +130,7 @@ private:
     std::string_view m_line;
     Findings& m_findings;
     bool m_isOdd = false;
-    bool m_isQuoted = false;
-    bool m_hasStrayQuote = false;
+    bool m_isMended = false;
 };
 
 /// Splits a value at its semicolons and takes the escapes away.
@@ -278,7 +286,8 @@ PimVCardContentLine PimVCardContentLine::Of( std::string_view a_line, std::strin
     const QByteArray groups = Without( head.Groups(), " \t" );
     line.m_group = TextOfUtf8( ViewOf( groups ) ).chopped( groups.isEmpty() ? 0 : 1 );
     line.m_name = TextOfUtf8( head.Name() );
-    if ( !IsName( head.Name() ) || IsSameWord( head.Name(), "BEGIN" ) || IsSameWord( head.Name(), "END" ) )
+    if ( !IsName( head.Name() ) || !IsPlainGroup( head.Groups() ) || IsSameWord( head.Name(), "BEGIN" ) ||
+         IsSameWord( head.Name(), "END" ) )
         a_findings.push_back( { Code::OddName, 0, 1 } );
     if ( static_cast<size_t>( groups.size() ) + head.Name().size() != head.m_fullName.size() )
         a_findings.push_back( { Code::NameBlanks, 0, 1 } );

@@ -90,6 +90,37 @@ QString TextOfBase64( const QString& a_value )
     return isText ? TextOfUtf8( ViewOf( bytes ) ) : a_value;
 }
 
+// Text between marks, of which the second is that of the end; the text itself without them.
+QString Unwrapped( const QString& a_text, const char* a_begin, const char* a_end )
+{
+    const QLatin1String begin( a_begin );
+    const QLatin1String end( a_end );
+    const bool isWrapped =
+        a_text.startsWith( begin ) && a_text.endsWith( end ) && a_text.size() >= begin.size() + end.size();
+    return isWrapped ? a_text.mid( begin.size(), a_text.size() - begin.size() - end.size() ) : a_text;
+}
+
+// Words of people, such as `_$!<Mobile>!$_`.
+QString WithoutLabelMarks( const QString& a_text )
+{
+    return Unwrapped( a_text, "_$!<", ">!$_" );
+}
+
+// Without what programs leave round a word: quotes of both kinds, backslashes, a second "=".
+QStringList TypeWordsOf( const PimVCardProperty& a_property )
+{
+    QStringList words;
+    const QStringList values = ParameterValuesOf( a_property, "TYPE" ) + ParameterValuesOf( a_property, "" );
+    for ( QString value : values )
+    {
+        value.remove( QLatin1Char( '\\' ) ).remove( QLatin1Char( '"' ) );
+        while ( value.startsWith( QLatin1Char( '=' ) ) )
+            value.remove( 0, 1 );
+        words.append( WithoutLabelMarks( Unwrapped( value.trimmed(), "'", "'" ) ) );
+    }
+    return words;
+}
+
 bool IsMedia( const PimVCardProperty& a_property )
 {
     return IsOneOf( a_property.GetName(), { "PHOTO", "LOGO", "SOUND", "KEY" } );
@@ -161,11 +192,10 @@ QString ParameterValueOf( const PimVCardProperty& a_property, const char* a_name
 QStringList TypesOf( const PimVCardProperty& a_property )
 {
     QStringList types;
-    const QStringList bareWords = ParameterValuesOf( a_property, "" );
-    const QStringList words = ParameterValuesOf( a_property, "TYPE" ) + bareWords;
+    const QStringList words = TypeWordsOf( a_property );
     for ( const QString& word : words )
     {
-        const QString type = word.trimmed().toUpper();
+        const QString type = word.toUpper();
         if ( !type.isEmpty() && !IsSame( type, "PREF" ) && !IsTechnical( type ) && !types.contains( type ) )
             types.append( type );
     }
@@ -177,8 +207,7 @@ int PreferenceOf( const PimVCardProperty& a_property )
     const int preference = ParameterValueOf( a_property, "PREF" ).toInt();
     if ( preference >= 1 && preference <= s_kLeastPreference )
         return preference;
-    const QStringList words = ParameterValuesOf( a_property, "TYPE" ) + ParameterValuesOf( a_property, "" );
-    return words.contains( QLatin1String( "PREF" ), Qt::CaseInsensitive ) ? 1 : 0;
+    return TypeWordsOf( a_property ).contains( QLatin1String( "PREF" ), Qt::CaseInsensitive ) ? 1 : 0;
 }
 
 QStringList TextsOf( const PimVCardProperty& a_property )
@@ -225,12 +254,7 @@ QString LabelOf( const PimVCard& a_card, const PimVCardProperty& a_property )
     {
         if ( !IsNamed( *property, "X-ABLabel" ) || property->GetGroupID().compare( group, Qt::CaseInsensitive ) != 0 )
             continue;
-        const QString label = TextOf( *property );
-        const QLatin1String begin( "_$!<" );
-        const QLatin1String end( ">!$_" );
-        const bool isWrapped =
-            label.startsWith( begin ) && label.endsWith( end ) && label.size() >= begin.size() + end.size();
-        return isWrapped ? label.mid( begin.size(), label.size() - begin.size() - end.size() ) : label;
+        return WithoutLabelMarks( TextOf( *property ) );
     }
     return QString();
 }

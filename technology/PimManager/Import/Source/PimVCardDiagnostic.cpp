@@ -51,7 +51,7 @@ constexpr std::array<Entry, s_kDiagnosticCodes> s_kEntries = { {
     { Code::ControlCharacters, Severity::Repaired, "control-characters", "control characters taken away: %1" },
     { Code::NameBlanks, Severity::Repaired, "name-blanks", "blanks round a name taken away" },
     { Code::OddName, Severity::Note, "odd-name", "an unusual property name kept" },
-    { Code::ParameterQuoted, Severity::Repaired, "parameter-quoted", "a parameter value put in quotes" },
+    { Code::ParameterQuoted, Severity::Repaired, "parameter-quoted", "quotes round a parameter value mended" },
     { Code::OddParameter, Severity::Note, "odd-parameter", "an unusual parameter kept as written" },
     { Code::EmptyParameter, Severity::Repaired, "empty-parameter", "an empty parameter taken away" },
     { Code::UnknownEscape, Severity::Note, "unknown-escape", "backslashes kept as written: %1" },

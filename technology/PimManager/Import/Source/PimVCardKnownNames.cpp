@@ -25,11 +25,6 @@ constexpr std::array<std::string_view, 58> s_kNames = {
     "VERSION",   "XML",
 };
 
-bool IsExtension( std::string_view a_name )
-{
-    return a_name.size() > 2 && IsSameWord( a_name.substr( 0, 2 ), "X-" );
-}
-
 bool IsLower( char a_byte )
 {
     return a_byte >= 'a' && a_byte <= 'z';
@@ -52,7 +47,7 @@ bool MayBeOddName( std::string_view a_name )
 {
     if ( a_name.empty() || std::any_of( a_name.begin(), a_name.end(), []( char a_byte ) { return a_byte == '"'; } ) )
         return false;
-    if ( IsExtension( a_name ) || IsKnownName( a_name ) )
+    if ( IsExtensionName( a_name ) || IsKnownName( a_name ) )
         return true;
     const size_t blank = a_name.find_first_of( " \t" );
     if ( blank == std::string_view::npos )
@@ -69,20 +64,35 @@ bool IsKnownName( std::string_view a_name )
                         [a_name]( std::string_view a_known ) { return IsSameWord( a_name, a_known ); } );
 }
 
+// `Third; with blanks: and so on` is no property, though its first word could be a name.
+bool HasWordsForParameters( const PimVCardLineHead& a_head )
+{
+    const auto hasBlank = []( const PimVCardLineHead::Parameter& a_parameter )
+    { return a_parameter.IsBare() && a_parameter.m_value.find( ' ' ) != std::string_view::npos; };
+    return std::any_of( a_head.m_parameters.begin(), a_head.m_parameters.end(), hasBlank );
+}
+
+bool IsExtensionName( std::string_view a_name )
+{
+    return a_name.size() > 2 && IsSameWord( a_name.substr( 0, 2 ), "X-" );
+}
+
 PimVCardLooks LooksOf( std::string_view a_line )
 {
     const PimVCardLineHead head = PimVCardLineHead::Of( a_line );
     const std::string_view name = head.Name();
     if ( !head.m_hasColon )
     {
-        const bool isNameOnly = IsKnownName( name ) && std::none_of( name.begin(), name.end(), IsLower );
+        const bool isName = IsKnownName( name ) || ( IsExtensionName( name ) && IsName( name ) );
+        const bool isNameOnly = isName && std::none_of( name.begin(), name.end(), IsLower );
         return isNameOnly ? PimVCardLooks::NameOnly : PimVCardLooks::Text;
     }
     if ( IsName( name ) )
     {
-        const bool isClear = ( IsKnownName( name ) || IsExtension( name ) ) &&
-                             IsInOneCase( IsExtension( name ) ? name.substr( 0, 1 ) : name );
-        return isClear ? PimVCardLooks::ClearlyProperty : PimVCardLooks::Property;
+        const bool isStandard = IsKnownName( name ) || IsExtensionName( name );
+        if ( isStandard && IsInOneCase( IsExtensionName( name ) ? name.substr( 0, 1 ) : name ) )
+            return PimVCardLooks::ClearlyProperty;
+        return !isStandard && HasWordsForParameters( head ) ? PimVCardLooks::Text : PimVCardLooks::Property;
     }
     return MayBeOddName( name ) ? PimVCardLooks::Property : PimVCardLooks::Text;
 }

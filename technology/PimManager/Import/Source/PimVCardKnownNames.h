@@ -11,6 +11,9 @@ namespace PimManager::vCardImport
 /// A property name of vCard 2.1, 3.0 or 4.0, in any letter case.
 bool IsKnownName( std::string_view a_name );
 
+/// "X-" and more, whatever its characters.
+bool IsExtensionName( std::string_view a_name );
+
 /// How sure it is that a line begins a property.
 enum class PimVCardLooks
 {

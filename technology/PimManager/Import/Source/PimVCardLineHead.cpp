@@ -1,6 +1,7 @@
 #include "PimVCardLineHead.h"
 
 #include "PimVCardBytes.h"
+#include "PimVCardKnownNames.h"
 
 #include <algorithm>
 
@@ -9,6 +10,9 @@ namespace PimManager::vCardImport
 
 namespace
 {
+
+// Only the first makes what stands before it a name.
+constexpr std::string_view s_kEndOfParameterName = "=\",";
 
 bool EndsElement( char a_byte )
 {
@@ -20,11 +24,12 @@ class QuoteReader
 {
 public:
     /// \return the place of the first of the delimiters, or the length of the text. A quote opens only at the start of
-    /// an
-    ///         element.
-    size_t FindUnquoted( std::string_view a_text, std::string_view a_delimiters )
+    ///         an element.
+    /// \param a_isNamed the text may begin with a name and "=".
+    size_t FindUnquoted( std::string_view a_text, std::string_view a_delimiters, bool a_isNamed )
     {
         bool isAtStart = true;
+        bool isNameOpen = a_isNamed;
         for ( size_t place = 0; place < a_text.size(); ++place )
         {
             const char byte = a_text[place];
@@ -33,7 +38,8 @@ public:
                 place += quoted - 1;
             else if ( a_delimiters.find( byte ) != std::string_view::npos )
                 return place;
-            isAtStart = byte == '=' || byte == ',' || byte == ';' || ( isAtStart && IsBlank( byte ) );
+            isAtStart = byte == ',' || ( byte == '=' && isNameOpen ) || ( isAtStart && IsBlank( byte ) );
+            isNameOpen = isNameOpen && s_kEndOfParameterName.find( byte ) == std::string_view::npos;
         }
         return a_text.size();
     }
@@ -53,14 +59,14 @@ PimVCardLineHead::Parameter ParameterOf( std::string_view a_text )
 {
     PimVCardLineHead::Parameter parameter;
     parameter.m_text = a_text;
-    const size_t equals = a_text.find( '=' );
-    const bool isQuoted = !Trimmed( a_text ).empty() && Trimmed( a_text ).front() == '"';
-    if ( equals == std::string_view::npos || isQuoted || Trimmed( a_text.substr( 0, equals ) ).empty() )
-        parameter.m_value = Trimmed( a_text );
+    const std::string_view text = WithoutOpenQuotes( Trimmed( a_text ) );
+    const size_t equals = std::min( text.find_first_of( s_kEndOfParameterName ), text.size() );
+    if ( text.substr( equals, 1 ) != "=" || Trimmed( text.substr( 0, equals ) ).empty() )
+        parameter.m_value = text;
     else
     {
-        parameter.m_name = Trimmed( a_text.substr( 0, equals ) );
-        parameter.m_value = Trimmed( a_text.substr( equals + 1 ) );
+        parameter.m_name = Trimmed( text.substr( 0, equals ) );
+        parameter.m_value = Trimmed( text.substr( equals + 1 ) );
     }
     return parameter;
 }
@@ -96,6 +102,12 @@ PimVCardEncoding EncodingOfNamed( std::string_view a_value )
 
 } // namespace
 
+bool IsPlainGroup( std::string_view a_groups )
+{
+    return std::all_of( a_groups.begin(), a_groups.end(),
+                        []( char a_byte ) { return a_byte == '.' || IsBlank( a_byte ) || IsNameByte( a_byte ); } );
+}
+
 size_t EndOfQuoted( std::string_view a_text )
 {
     for ( size_t place = a_text.find( '"', 1 ); place != std::string_view::npos; place = a_text.find( '"', place + 1 ) )
@@ -105,6 +117,13 @@ size_t EndOfQuoted( std::string_view a_text )
             return place + 1;
     }
     return 0;
+}
+
+std::string_view WithoutOpenQuotes( std::string_view a_text )
+{
+    while ( !a_text.empty() && a_text.front() == '"' && EndOfQuoted( a_text ) == 0 )
+        a_text = TrimmedLeft( a_text.substr( 1 ) );
+    return a_text;
 }
 
 std::string_view Unquoted( std::string_view a_text )
@@ -120,7 +139,7 @@ std::vector<std::string_view> ElementsOf( std::string_view a_value )
     QuoteReader quotes;
     for ( ;; )
     {
-        const size_t comma = quotes.FindUnquoted( rest, "," );
+        const size_t comma = quotes.FindUnquoted( rest, ",", false );
         elements.push_back( Trimmed( rest.substr( 0, comma ) ) );
         if ( comma == rest.size() )
             return elements;
@@ -137,7 +156,7 @@ PimVCardLineHead PimVCardLineHead::Of( std::string_view a_line )
     while ( place < a_line.size() && a_line[place] == ';' )
     {
         const std::string_view rest = a_line.substr( place + 1 );
-        const size_t end = quotes.FindUnquoted( rest, ";:" );
+        const size_t end = quotes.FindUnquoted( rest, ";:", true );
         head.m_parameters.push_back( ParameterOf( rest.substr( 0, end ) ) );
         place += 1 + end;
     }
@@ -146,14 +165,17 @@ PimVCardLineHead PimVCardLineHead::Of( std::string_view a_line )
     return head;
 }
 
+// A group of other characters is believed before a name that is surely one.
 std::string_view PimVCardLineHead::Groups() const
 {
     const size_t dot = m_fullName.rfind( '.' );
-    const bool isGrouped =
-        dot != std::string_view::npos &&
-        std::all_of( m_fullName.begin(), m_fullName.begin() + static_cast<std::ptrdiff_t>( dot ),
-                     []( char a_byte ) { return a_byte == '.' || IsBlank( a_byte ) || IsNameByte( a_byte ); } );
-    return isGrouped ? m_fullName.substr( 0, dot + 1 ) : std::string_view();
+    if ( dot == std::string_view::npos )
+        return std::string_view();
+    const std::string_view name = Trimmed( m_fullName.substr( dot + 1 ) );
+    if ( name.empty() )
+        return std::string_view();
+    const std::string_view groups = m_fullName.substr( 0, dot + 1 );
+    return IsPlainGroup( groups ) || IsKnownName( name ) || IsExtensionName( name ) ? groups : std::string_view();
 }
 
 std::string_view PimVCardLineHead::Name() const

@@ -18,7 +18,7 @@ struct PimVCardLineHead
     {
         /// All between two semicolons.
         std::string_view m_text;
-        /// Up to the "="; null for a bare word.
+        /// Up to the "="; null for a bare word. Open quotes are passed over.
         std::string_view m_name;
         /// Behind the "=", or all of it.
         std::string_view m_value;
@@ -49,13 +49,18 @@ struct PimVCardLineHead
     std::string_view Charset() const;
 };
 
+/// Nothing but names, dots and blanks.
+bool IsPlainGroup( std::string_view a_groups );
+
 /// The elements of a parameter value: what stands between commas that are not quoted.
 std::vector<std::string_view> ElementsOf( std::string_view a_value );
 
 /// \return behind the quote that closes a text whose first character is a quote; 0 if none does. A quote closes before
-/// a
-///         comma, a semicolon, a colon or the end.
+///         a comma, a semicolon, a colon or the end.
 size_t EndOfQuoted( std::string_view a_text );
+
+/// The text without quotes at its start that none closes.
+std::string_view WithoutOpenQuotes( std::string_view a_text );
 
 /// The text without the quotes round it, if it has them.
 std::string_view Unquoted( std::string_view a_text );

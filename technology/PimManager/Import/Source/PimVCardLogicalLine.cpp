@@ -57,12 +57,16 @@ std::string_view WithoutMarks( std::string_view a_text, int& a_marks )
     return a_text;
 }
 
-// A line of nothing but dashes is part of a note, and not of a name.
-bool HasWords( std::string_view a_text )
+// A line of dashes or a comment may be part of a note, but not of a name.
+bool BeginsWithWord( std::string_view a_text )
 {
-    return std::any_of( a_text.begin(), a_text.end(),
-                        []( char a_byte )
-                        { return ( a_byte != '-' && IsNameByte( a_byte ) ) || static_cast<uchar>( a_byte ) >= 0x80; } );
+    const char first = a_text.front();
+    return ( first != '-' && IsNameByte( first ) ) || static_cast<uchar>( first ) >= 0x80;
+}
+
+std::string_view NameOf( std::string_view a_line )
+{
+    return PimVCardLineHead::Of( a_line ).Name();
 }
 
 bool IsPersonName( std::string_view a_name )
@@ -106,12 +110,19 @@ private:
     PimVCardLogicalLine& Current() { return m_result.m_lines.back(); }
     bool HasCurrent() const { return !m_result.m_lines.empty() && m_result.m_lines.back().m_isProperty; }
 
+    bool HasCurrentText() const
+    {
+        return HasCurrent() && !m_isTentative && m_result.m_lines.back().m_isJoined && m_head.m_isKnown &&
+               m_head.m_holdsText;
+    }
+
     void FindIndentation();
     std::string_view TextAt( int a_index ) const;
     void TakeLine( int a_index );
     void TakeNested( int a_index );
     void TakeText( int a_index, std::string_view a_line );
     void Start( int a_index, std::string_view a_line );
+    PimVCardLooks LooksBehindText( std::string_view a_text ) const;
     void StartLine( int a_index, std::string_view a_line, int a_placeInLine );
     void Judge();
     void GoOnWithText( int a_index, std::string_view a_text, int a_placeInLine, bool a_isIndented );
@@ -343,7 +354,7 @@ void Joiner::Start( int a_index, std::string_view a_line )
     Judge();
     int marks = 0;
     const std::string_view text = TrimmedLeft( WithoutMarks( a_line, marks ) );
-    const PimVCardLooks looks = LooksOf( text );
+    const PimVCardLooks looks = LooksBehindText( text );
     const bool isData = looks == PimVCardLooks::NameOnly && HasCurrent() && HoldsBase64() && IsBase64( text ) &&
                         text.size() % s_kBase64Group == 0;
     const bool isText = looks == PimVCardLooks::Text || isData;
@@ -355,6 +366,14 @@ void Joiner::Start( int a_index, std::string_view a_line )
     else
         GoOnWithText( a_index, text, PlaceInLine( a_index, text ), IsBlank( a_line.front() ) );
     Current().m_marks += marks;
+}
+
+// In text that already went on over lines without indentation, a name that nobody knows is a word of the text.
+PimVCardLooks Joiner::LooksBehindText( std::string_view a_text ) const
+{
+    const PimVCardLooks looks = LooksOf( a_text );
+    const bool isInText = HasCurrentText() && looks == PimVCardLooks::Property && !IsKnownName( NameOf( a_text ) );
+    return isInText ? PimVCardLooks::Text : looks;
 }
 
 void Joiner::StartLine( int a_index, std::string_view a_line, int a_placeInLine )
@@ -422,7 +441,7 @@ bool Joiner::MayGoOnWithText( std::string_view a_text ) const
         return true;
     if ( m_head.m_encoding == PimVCardEncoding::Base64 )
         return false;
-    const bool isWelcome = m_head.m_holdsText && ( !m_head.m_isPersonName || HasWords( a_text ) );
+    const bool isWelcome = m_head.m_holdsText && ( !m_head.m_isPersonName || BeginsWithWord( a_text ) );
     return isWelcome || IsLostFold();
 }
 

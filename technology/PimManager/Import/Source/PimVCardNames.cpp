@@ -27,6 +27,14 @@ QString JoinedWords( const QStringList& a_words )
     return words.join( QLatin1Char( ' ' ) );
 }
 
+QStringList PartsOf( const PimVCardProperty& a_property )
+{
+    QStringList parts = TextsOf( a_property );
+    for ( QString& part : parts )
+        part = part.trimmed();
+    return parts;
+}
+
 QString SpokenNameOf( const PimVCardProperty& a_property )
 {
     const PimVCardName name = NameOf( a_property );
@@ -65,13 +73,13 @@ struct Source
 
 PimVCardName NameOf( const PimVCardProperty& a_property )
 {
-    const QStringList parts = TextsOf( a_property );
+    const QStringList parts = PartsOf( a_property );
     return { parts.value( 0 ), parts.value( 1 ), parts.value( 2 ), parts.value( 3 ), parts.value( 4 ) };
 }
 
 PimVCardAddress AddressOf( const PimVCardProperty& a_property )
 {
-    const QStringList parts = TextsOf( a_property );
+    const QStringList parts = PartsOf( a_property );
     return { parts.value( 0 ), parts.value( 1 ), parts.value( 2 ), parts.value( 3 ),
              parts.value( 4 ), parts.value( 5 ), parts.value( 6 ) };
 }

@@ -16,17 +16,25 @@ namespace
 constexpr ushort s_kAsciiEnd = 0x80;
 constexpr int s_kHexBase = 16;
 
-QTextCodec* CodecFor( const QByteArray& a_bytes, QTextCodec* a_codec )
+// What the card names is believed unless it cannot be: then UTF-8, and what is not that either is Windows-1252.
+QByteArray Utf8Of( const QByteArray& a_bytes, QTextCodec* a_codec )
 {
     const PimVCardUtf8Census census = Utf8CensusOf( ViewOf( a_bytes ) );
-    if ( a_codec != nullptr || census.IsValid() || census.m_wide > census.m_malformed )
-        return a_codec;
-    return CodecOf( "windows-1252" );
+    if ( census.IsAscii() && a_codec == nullptr )
+        return a_bytes;
+    const PimVCardDecodedText text = DecodeCharset( ViewOf( a_bytes ), a_codec );
+    if ( text.m_replaced == 0 )
+        return text.m_utf8;
+    if ( census.IsValid() )
+        return a_bytes;
+    const bool isCutShort = a_codec == nullptr && census.m_wide > census.m_malformed;
+    return a_codec != nullptr || isCutShort ? text.m_utf8
+                                            : DecodeCharset( ViewOf( a_bytes ), CodecOf( "windows-1252" ) ).m_utf8;
 }
 
 QString TextOfBytes( const QByteArray& a_bytes, QTextCodec* a_codec )
 {
-    return TextOfUtf8( ViewOf( DecodeCharset( ViewOf( a_bytes ), CodecFor( a_bytes, a_codec ) ).m_utf8 ) );
+    return TextOfUtf8( ViewOf( Utf8Of( a_bytes, a_codec ) ) );
 }
 
 // The byte that is encoded at a place, -1 if none is.

@@ -71,8 +71,7 @@ struct PimVCardImportResult
 /// They must not use the importer.
 ///
 /// **Memory** grows with the largest card, not with the file: about six times the bytes of a card with a picture, and up
-/// to fifty times those of a card of very short lines, half of which the objects take. The form that returns all cards
-/// holds all cards.
+/// to fifty times those of a card of very short lines. The form that returns all cards holds all cards.
 ///
 /// **Log.** Import writes nothing of a card to Qt's log.
 ///

@@ -7,8 +7,8 @@
 #include "CardTextWriter.h"
 #include "CommandLine.h"
 #include "ComponentLog.h"
-#include "TerminalText.h"
 #include "Version.h"
+#include "Wording.h"
 
 #include <QCommandLineOption>
 
@@ -48,22 +48,12 @@ QString HelpTail()
 std::unique_ptr<CardWriter> MakeWriter( const CommandLine& a_line, OutputDevice& a_out )
 {
     if ( a_line.IsSet( s_kJson ) )
-        return std::make_unique<CardJsonWriter>( a_out, CardJsonWriter::Form::Document );
+        return std::make_unique<CardJsonWriter>( a_out, JsonRecords::Form::Document );
     if ( a_line.IsSet( s_kJsonLines ) )
-        return std::make_unique<CardJsonWriter>( a_out, CardJsonWriter::Form::Lines );
+        return std::make_unique<CardJsonWriter>( a_out, JsonRecords::Form::Lines );
     const bool isFull = a_line.IsSet( s_kFull );
     return std::make_unique<CardTextWriter>( a_out,
                                              isFull ? CardTextWriter::Length::Full : CardTextWriter::Length::Short );
-}
-
-QString Counted( qint64 a_count, const QString& a_one, const QString& a_many )
-{
-    return QString::number( a_count ) + QLatin1Char( ' ' ) + ( a_count == 1 ? a_one : a_many );
-}
-
-QString SourceName( const QByteArray& a_fileName )
-{
-    return a_fileName == "-" ? QStringLiteral( "standard input" ) : ToShownFileName( a_fileName );
 }
 
 } // namespace

@@ -16,17 +16,22 @@ constexpr int s_kListed = 20;
 
 QString Shortened( const QString& a_text )
 {
-    if ( a_text.size() <= s_kWhole )
+    return Shortened( a_text, s_kWhole, s_kKept );
+}
+
+QString Shortened( const QString& a_text, int a_whole, int a_kept )
+{
+    if ( a_text.size() <= a_whole )
         return a_text;
     int characters = 0;
     int keptUnits = 0;
     ForEachCodePoint( a_text,
-                      [&characters, &keptUnits]( uint /*a_codePoint*/, QStringView a_units )
+                      [&characters, &keptUnits, a_kept]( uint /*a_codePoint*/, QStringView a_units )
                       {
-                          if ( characters++ < s_kKept )
+                          if ( characters++ < a_kept )
                               keptUnits += static_cast<int>( a_units.size() );
                       } );
-    if ( characters <= s_kWhole )
+    if ( characters <= a_whole )
         return a_text;
     return a_text.left( keptUnits ) + QStringLiteral( u"\u2026 (%1 characters)" ).arg( characters );
 }

@@ -13,6 +13,10 @@ namespace PimManager::vCard::Tools
 ///         `/9j/4AAQSkZJRgABAQ… (5944 characters)`. No character is cut in two.
 QString Shortened( const QString& a_text );
 
+/// The same with lengths of the caller's choice: a text of at most a_whole characters as it is, of a longer one the
+/// first a_kept.
+QString Shortened( const QString& a_text, int a_whole, int a_kept );
+
 /// \return a list of at most 20 texts as it is; of a longer one the first 20 and a text that tells how many there are.
 QStringList ShortenedList( const QStringList& a_texts );
 

@@ -3,10 +3,6 @@
 #include "ToolsTestText.h"
 
 #include <QBuffer>
-#include <QJsonArray>
-#include <QJsonDocument>
-
-#include <vector>
 
 using namespace PimManager::vCard;
 using namespace PimManager::vCard::Tools;
@@ -14,10 +10,10 @@ using namespace PimManager::vCard::Tools;
 namespace
 {
 
-constexpr CardJsonWriter::Form s_kDocument = CardJsonWriter::Form::Document;
-constexpr CardJsonWriter::Form s_kLines = CardJsonWriter::Form::Lines;
+constexpr JsonRecords::Form s_kDocument = JsonRecords::Form::Document;
+constexpr JsonRecords::Form s_kLines = JsonRecords::Form::Lines;
 
-std::string Json( CardJsonWriter::Form a_form, const QList<QByteArray>& a_cards )
+std::string Json( JsonRecords::Form a_form, const QList<QByteArray>& a_cards )
 {
     QBuffer buffer;
     buffer.open( QIODevice::WriteOnly );
@@ -65,38 +61,6 @@ TEST( CardJsonWriterTest, NothingIsCut )
     const QByteArray value( 100000, 'v' );
     EXPECT_NE( Json( s_kLines, { "NOTE:" + value + "\r\n" } ).find( '"' + value.toStdString() + '"' ),
                std::string::npos );
-}
-
-TEST( CardJsonWriterTest, UnsafeCharactersAreEscaped )
-{
-    struct Row
-    {
-        QString m_text;
-        std::string m_json;
-    };
-    const std::vector<Row> rows = {
-        { QStringLiteral( "a\"b\\c/d" ), R"(a\"b\\c/d)" },
-        { QStringLiteral( "\n\r\t" ), R"(\n\u000d\u0009)" },
-        { QString( QChar( 0 ) ), R"(\u0000)" },
-        { QStringLiteral( "\u001B\u007F" ), R"(\u001b\u007f)" },
-        { QString( QChar( 0x9B ) ) + QChar( 0x202E ) + QChar( 0x2028 ), R"(\u009b\u202e\u2028)" },
-        { QString::fromUtf8( "\xF3\xA0\x80\x81" ), R"(\udb40\udc01)" },
-        { QString::fromUtf8( "\xF0\x9F\x94\xAD \xC3\xA9" ), "\xF0\x9F\x94\xAD \xC3\xA9" },
-    };
-    for ( const Row& row : rows )
-    {
-        const QString json = ToJsonText( row.m_text );
-        EXPECT_EQ( Utf8( json ), row.m_json );
-        const QByteArray document = "[\"" + json.toUtf8() + "\"]";
-        EXPECT_EQ( QJsonDocument::fromJson( document ).array().at( 0 ).toString(), row.m_text ) << row.m_json;
-    }
-}
-
-TEST( CardJsonWriterTest, HalfOfASurrogatePairIsReplaced )
-{
-    const QString text = QStringLiteral( "a" ) + QChar( 0xD83D ) + QStringLiteral( "b" ) + QChar( 0xDD2D );
-    EXPECT_EQ( Utf8( ToJsonText( text ) ), "a\xEF\xBF\xBD"
-                                           "b\xEF\xBF\xBD" );
 }
 
 TEST( CardJsonWriterTest, NullEntriesAreSkipped )

@@ -1,0 +1,18 @@
+#include "Wording.h"
+
+#include "TerminalText.h"
+
+namespace PimManager::vCard::Tools
+{
+
+QString Counted( qint64 a_count, const QString& a_one, const QString& a_many )
+{
+    return QString::number( a_count ) + QLatin1Char( ' ' ) + ( a_count == 1 ? a_one : a_many );
+}
+
+QString SourceName( const QByteArray& a_fileName )
+{
+    return a_fileName == "-" ? QStringLiteral( "standard input" ) : ToShownFileName( a_fileName );
+}
+
+} // namespace PimManager::vCard::Tools

@@ -70,6 +70,11 @@ bool CommandLine::IsSet( const QString& a_option ) const
     return m_parser.isSet( a_option );
 }
 
+QByteArray CommandLine::Value( const QString& a_option ) const
+{
+    return m_parser.value( a_option ).toLatin1();
+}
+
 QList<QByteArray> CommandLine::Arguments() const
 {
     QList<QByteArray> arguments;

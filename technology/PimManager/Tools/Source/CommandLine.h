@@ -40,6 +40,9 @@ public:
     /// \param a_option one of its names.
     bool IsSet( const QString& a_option ) const;
 
+    /// \return what stands behind an option, byte for byte; empty when the option is not set.
+    QByteArray Value( const QString& a_option ) const;
+
     /// \return the arguments that are no options, byte for byte.
     QList<QByteArray> Arguments() const;
 

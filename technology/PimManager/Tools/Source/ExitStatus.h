@@ -13,10 +13,12 @@ enum class ExitStatus
 {
     /// Every card of every file was given.
     AllGiven = 0,
-    /// A card was refused, or a file holds no vCard.
+    /// A card was refused, something of one was dropped, or a file holds no vCard.
     SomeRefused = 1,
     /// Wrong usage, or something that cannot be read or written.
-    Trouble = 2
+    Trouble = 2,
+    /// Ctrl-C, as shells number it.
+    Interrupted = 130
 };
 
 inline ExitStatus Worse( ExitStatus a_first, ExitStatus a_second )

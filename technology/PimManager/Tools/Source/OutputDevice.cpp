@@ -58,6 +58,8 @@ qint64 OutputDevice::writeData( const char* a_data, qint64 a_size )
 
 void OutputDevice::Send( const char* a_data, qint64 a_size )
 {
+    if ( a_size > 0 && m_sendHandler )
+        m_sendHandler();
     while ( a_size > 0 && m_error == 0 )
     {
         const ssize_t sent = ::write( m_descriptor, a_data, static_cast<size_t>( a_size ) );

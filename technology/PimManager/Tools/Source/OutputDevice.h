@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QIODevice>
 
+#include <functional>
+
 namespace PimManager::vCard::Tools
 {
 
@@ -25,6 +27,9 @@ public:
 
     bool isSequential() const override { return true; }
 
+    /// Calls this before bytes go to the system, so that what else stands on the same terminal can make room.
+    void SetSendHandler( const std::function<void()>& a_handler ) { m_sendHandler = a_handler; }
+
     /// Hands all that was written to the system.
     void Flush();
 
@@ -41,6 +46,7 @@ private:
     const int m_descriptor;
     int m_error = 0;
     QByteArray m_buffer;
+    std::function<void()> m_sendHandler;
 };
 
 } // namespace PimManager::vCard::Tools

@@ -1,6 +1,8 @@
 #include "Program.h"
 
+#include "CheckCommand.h"
 #include "CommandLine.h"
+#include "ImportCommand.h"
 #include "PrintCommand.h"
 #include "TerminalText.h"
 #include "Version.h"
@@ -26,9 +28,11 @@ bool IsOption( const QByteArray& a_argument )
 ExitStatus RunWithoutCommand( const QList<QByteArray>& a_arguments, Console& a_console )
 {
     CommandLine line( QStringLiteral( "Reads the address books that phones and mail programs write (vCard)." ) );
+    line.AddArgument( QStringLiteral( "import" ), ImportCommand::Summary(), QStringLiteral( "import" ) );
+    line.AddArgument( QStringLiteral( "check" ), CheckCommand::Summary(), QStringLiteral( "| check" ) );
     line.AddArgument( QStringLiteral( "print" ),
-                      PrintCommand::Summary() + QStringLiteral( " \"pimvcard print --help\" shows more." ),
-                      QStringLiteral( "print FILE..." ) );
+                      PrintCommand::Summary() + QStringLiteral( " \"pimvcard COMMAND --help\" shows more." ),
+                      QStringLiteral( "| print FILE..." ) );
     if ( !line.Parse( a_arguments ) )
         return a_console.Refuse( line.ErrorText(), s_kProgram );
     if ( line.WantsHelp() )
@@ -40,6 +44,10 @@ ExitStatus RunWithoutCommand( const QList<QByteArray>& a_arguments, Console& a_c
 
 ExitStatus RunCommand( const QByteArray& a_command, const QList<QByteArray>& a_arguments, Console& a_console )
 {
+    if ( a_command == "import" )
+        return ImportCommand( a_console ).Run( a_arguments );
+    if ( a_command == "check" )
+        return CheckCommand( a_console ).Run( a_arguments );
     if ( a_command == "print" )
         return PrintCommand( a_console ).Run( a_arguments );
     return a_console.Refuse( QStringLiteral( "unknown command: " ) + ToShownFileName( a_command ), s_kProgram );

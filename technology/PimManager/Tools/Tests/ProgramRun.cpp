@@ -44,12 +44,6 @@ QList<QByteArray> EnvironmentWith( const QList<QByteArray>& a_variables )
     return variables;
 }
 
-// The program, behind the emulator that it needs when it is not for this machine.
-QList<QByteArray> Command()
-{
-    return QByteArray( PIMVCARD_COMMAND ).split( '\n' );
-}
-
 std::vector<char*> Pointers( QList<QByteArray>& a_texts )
 {
     std::vector<char*> pointers;
@@ -105,6 +99,11 @@ int WriteEndOfBrokenPipe()
 
 } // namespace
 
+QList<QByteArray> ProgramCommand()
+{
+    return QByteArray( PIMVCARD_COMMAND ).split( '\n' );
+}
+
 std::string ProgramRun::LastMessage() const
 {
     const size_t end = m_err.empty() ? 0 : m_err.size() - 1;
@@ -158,7 +157,7 @@ ProgramRun ProgramCall::Run() const
         redirections.Close( m_closed );
 
     ProgramRun run;
-    run.m_status = Execute( Command() + m_arguments, EnvironmentWith( m_variables ), redirections );
+    run.m_status = Execute( ProgramCommand() + m_arguments, EnvironmentWith( m_variables ), redirections );
     if ( m_isPipeBroken )
         close( pipeEnd );
     if ( m_outputName.isEmpty() )

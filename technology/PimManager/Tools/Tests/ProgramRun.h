@@ -25,6 +25,9 @@ struct ProgramRun
     std::string LastMessage() const;
 };
 
+/// \return the words that run the program: its name, behind the emulator that it needs when it is not for this machine.
+QList<QByteArray> ProgramCommand();
+
 /// One call of the program. Its environment is the test's own, without Qt settings and, but for LC_ALL, locale
 /// settings.
 class ProgramCall

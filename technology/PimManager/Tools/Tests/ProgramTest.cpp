@@ -15,7 +15,7 @@ TEST( ProgramTest, HelpGoesToStandardOutput )
         const char* m_says;
     };
     const std::vector<Row> rows = {
-        { { "--help" }, "Usage: pimvcard [options] print FILE...\n" },
+        { { "--help" }, "Usage: pimvcard [options] import | check | print FILE...\n" },
         { { "-h" }, "-v, --version" },
         { { "print", "--help" }, "Usage: pimvcard [options] print FILE...\n" },
         { { "print", "-h" }, "--json-lines" },

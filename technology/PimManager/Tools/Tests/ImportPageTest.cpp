@@ -1,0 +1,156 @@
+#include "ProgramRun.h"
+
+#include "ImportTestBooks.h"
+
+#include <QCryptographicHash>
+#include <QRegularExpression>
+
+#include <vector>
+
+using namespace PimManager::vCard::Tools;
+
+namespace
+{
+
+// The page of a book.
+QByteArray Page( const QByteArray& a_book )
+{
+    const Folder folder;
+    const QByteArray page = folder.Path( "page.html" );
+    const ProgramRun run = RunPimvcard( { "import", "--quiet", "--html", page, folder.Write( "book.vcf", a_book ) } );
+    EXPECT_LE( run.m_status, 1 ) << run.m_err;
+    EXPECT_EQ( run.m_out, "" );
+    return FileContent( page );
+}
+
+// What stands between two texts the first time.
+QByteArray Between( const QByteArray& a_page, const QByteArray& a_start, const QByteArray& a_end )
+{
+    const int start = a_page.indexOf( a_start ) + a_start.size();
+    return a_page.mid( start, a_page.indexOf( a_end, start ) - start );
+}
+
+QByteArray HashOf( const QByteArray& a_text )
+{
+    return "'sha256-" + QCryptographicHash::hash( a_text, QCryptographicHash::Sha256 ).toBase64() + "'";
+}
+
+} // namespace
+
+TEST( ImportPageTest, PolicyAllowsTheStyleTheScriptAndPicturesOfThePage )
+{
+    const QByteArray page = Page( CleanCard() );
+    EXPECT_EQ( page.count( "<script" ), 1 );
+    EXPECT_EQ( page.count( "<style" ), 1 );
+    const QByteArray policy = Between( page, "Content-Security-Policy\" content=\"", "\"" );
+    EXPECT_EQ( policy.toStdString(), "default-src 'none'; img-src data:; style-src " +
+                                         HashOf( Between( page, "<style>", "</style>" ) ).toStdString() +
+                                         "; script-src " +
+                                         HashOf( Between( page, "<script>", "</script>" ) ).toStdString() +
+                                         "; base-uri 'none'; form-action 'none'" );
+    EXPECT_LT( page.indexOf( "Content-Security-Policy" ), page.indexOf( "<style" ) );
+    EXPECT_TRUE( page.contains( "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">" ) );
+}
+
+TEST( ImportPageTest, PageNeedsNothingElse )
+{
+    const QByteArray page = Page( CleanCard() + CardText( "VERSION:3.0\r\nFN:x\r\nURL:https://example.com/\r\n" ) );
+    static const QRegularExpression s_kSource(
+        QStringLiteral( "(src|srcset|poster|data)=\"(?!data:image/)|<link|@import|url\\(" ) );
+    EXPECT_FALSE( s_kSource.match( QString::fromUtf8( page ) ).hasMatch() );
+    EXPECT_TRUE( page.contains( "rel=\"noreferrer noopener\" href=\"https://example.com/\"" ) );
+}
+
+TEST( ImportPageTest, HostileTextStaysText )
+{
+    const QByteArray text = HostileText();
+    QByteArray card = "VERSION:3.0\r\n";
+    for ( const char* name :
+          { "FN", "N", "ORG", "TITLE", "TEL", "EMAIL", "ADR", "URL", "NOTE", "X-A", "item1.TEL", "item1.X-ABLabel",
+            "TEL;TYPE=\"<b>\"", "PHOTO;ENCODING=b;TYPE=\"><script>", "PHOTO", "X-<script>", "IMPP" } )
+        card += QByteArray( name ) + ':' + text + "\r\n";
+    const QByteArray page = Page( CardText( card ) + CleanCard() );
+    EXPECT_EQ( page.count( "<script" ), 1 );
+    EXPECT_EQ( page.count( "<img" ), 0 );
+    EXPECT_FALSE( page.contains( "<b>" ) );
+    EXPECT_GT( page.count( "&lt;script&gt;document.title=&#39;run&#39;&lt;/script&gt;" ), 5 );
+    EXPECT_TRUE( IsHarmless( page.toStdString() ) );
+    // No attribute of ours is left by way of a quote.
+    static const QRegularExpression s_kHandler( QStringLiteral( "<[^>]*\\son\\w+=" ) );
+    EXPECT_FALSE( s_kHandler.match( QString::fromUtf8( page ) ).hasMatch() );
+}
+
+TEST( ImportPageTest, HostileFileNameStaysText )
+{
+    const Folder folder;
+    const QByteArray page = folder.Path( "page.html" );
+    RunPimvcard( { "import", "--html", page, folder.Write( "<img src=x onerror=alert(1)>\x1B.vcf", PartCard() ) } );
+    EXPECT_FALSE( FileContent( page ).contains( "<img" ) );
+    EXPECT_TRUE(
+        FileContent( page ).contains( "/&lt;img src=x onerror=alert(1)&gt;\\x1b.vcf</bdi>: 1 line dropped. " ) );
+}
+
+TEST( ImportPageTest, OnlyRasterPicturesByTheirBytesAreShown )
+{
+    struct Row
+    {
+        const char* m_head;
+        QByteArray m_bytes;
+        const char* m_type;
+    };
+    const std::vector<Row> rows = {
+        { "PHOTO;ENCODING=b;TYPE=JPEG", PngPicture(), "image/png" },
+        { "LOGO;ENCODING=b", GifPicture(), "image/gif" },
+        { "PHOTO;ENCODING=b;TYPE=PNG", "<svg xmlns=\"http://www.w3.org/2000/svg\"><script>alert(1)</script></svg>",
+          "" },
+        { "PHOTO;ENCODING=b;TYPE=SVG", "<?xml version=\"1.0\"?><svg/>", "" },
+        { "PHOTO;ENCODING=b;MEDIATYPE=\"image/svg+xml\"", "<html><script>alert(1)</script>", "" },
+        { "PHOTO;ENCODING=b;TYPE=PNG", "no picture", "" },
+    };
+    for ( const Row& row : rows )
+    {
+        const QByteArray page = Page( CardText( "VERSION:3.0\r\nFN:x\r\n" + PhotoLine( row.m_bytes, row.m_head ) ) );
+        EXPECT_EQ( page.count( "<img" ), *row.m_type == '\0' ? 0 : 1 ) << row.m_head;
+        EXPECT_FALSE( page.contains( "svg+xml" ) && page.contains( "<img" ) ) << row.m_head;
+        const QByteArray source = QByteArray( "src=\"data:" ) + row.m_type + ";base64," + row.m_bytes.toBase64() + '"';
+        EXPECT_EQ( page.contains( source ), *row.m_type != '\0' ) << row.m_head;
+    }
+    EXPECT_FALSE(
+        Page( CardText( "VERSION:4.0\r\nFN:x\r\nPHOTO:data:image/svg+xml;base64,PHN2Zy8+\r\n" ) ).contains( "<img" ) );
+    EXPECT_FALSE(
+        Page( CardText( "VERSION:3.0\r\nFN:x\r\nPHOTO;VALUE=uri:http://example.com/x.png\r\n" ) ).contains( "<img" ) );
+}
+
+TEST( ImportPageTest, AccountStandsOnThePage )
+{
+    const QByteArray page = Page( CleanCard() + PartCard() );
+    EXPECT_TRUE( page.contains( "</bdi>: 1 line dropped. <a href=\"#account\">" ) );
+    EXPECT_TRUE( page.contains( "<dt>Cards</dt><dd>2 cards: 1 whole, 1 in part</dd>" ) );
+    EXPECT_TRUE( page.contains( "<dt>Line ends</dt><dd>CR LF line ends</dd>" ) );
+    EXPECT_TRUE( page.contains(
+        "<li id=\"d1-2\"><span class=\"place\">9:1</span><span class=\"word dropped\">dropped</span>" ) );
+    EXPECT_TRUE( page.contains( "<a class=\"part\" href=\"#d1-2\">" ) );
+    EXPECT_TRUE( page.contains( "<article class=\"contact\" id=\"c1-2\">" ) );
+    EXPECT_EQ( page.count( "class=\"part\"" ), 1 );
+}
+
+TEST( ImportPageTest, EveryPropertyOfAContactIsSomewhere )
+{
+    const QByteArray page = Page(
+        CardText( "VERSION:3.0\r\nFN:a1\r\nN:a2;a2;;;\r\nORG:a3\r\nTITLE:a4\r\nTEL:a5\r\nEMAIL:a6\r\nADR:;;a7;;;;\r\n"
+                  "URL:a8\r\nNOTE:a9\\nb9\r\nBDAY:c1\r\nX-ODD:c2\r\nIMPP:c3\r\nROLE:c4\r\nNICKNAME:c5\r\n" ) );
+    for ( const char* text : { "a1", "a3", "a4", "a5", "a6", "a7", "a8", "a9\nb9", "c1", "c2", "c3", "c4", "c5" } )
+        EXPECT_TRUE( page.contains( QByteArray( ">" ) + text ) || page.contains( text + QByteArray( "<" ) ) ) << text;
+}
+
+TEST( ImportPageTest, HugeFieldsAndManyLinesAreCut )
+{
+    QByteArray lines =
+        "VERSION:3.0\r\nFN:" + QByteArray( 1000000, 'x' ) + "\r\nNOTE:" + QByteArray( 1000000, 'y' ) + "\r\n";
+    for ( int i = 0; i < 5000; ++i )
+        lines += "TEL:555\r\nX-A:b\r\n";
+    const QByteArray page = Page( CardText( lines ) );
+    EXPECT_LT( page.size(), 200000 );
+    EXPECT_EQ( page.count( "tel:555" ), 200 );
+    EXPECT_TRUE( page.contains( "(1000000 characters)" ) );
+}

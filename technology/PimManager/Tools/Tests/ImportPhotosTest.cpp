@@ -1,0 +1,129 @@
+#include "ProgramRun.h"
+
+#include "ImportTestBooks.h"
+
+#include <QDir>
+
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+using namespace PimManager::vCard::Tools;
+
+namespace
+{
+
+QByteArray Card( const QByteArray& a_name, const QByteArray& a_lines )
+{
+    return CardText( "VERSION:3.0\r\nFN:" + a_name + "\r\n" + a_lines );
+}
+
+ProgramRun Import( const QByteArray& a_book, const QByteArray& a_folder )
+{
+    return ProgramCall( { "import", "--photos", a_folder, "-" } ).WithInput( a_book ).Run();
+}
+
+// The names in a folder and everything below it, in order.
+std::string FilesIn( const QByteArray& a_folder )
+{
+    std::vector<std::string> names;
+    for ( const auto& entry : std::filesystem::recursive_directory_iterator( a_folder.toStdString() ) )
+        names.push_back( std::filesystem::relative( entry.path(), a_folder.toStdString() ).string() );
+    std::sort( names.begin(), names.end() );
+    std::string joined;
+    for ( const std::string& name : names )
+        joined += name + "\n";
+    return joined;
+}
+
+} // namespace
+
+TEST( ImportPhotosTest, PicturesGetTheNameOfTheirContactAndTheTypeOfTheirBytes )
+{
+    const Folder folder;
+    const QByteArray photos = folder.Path( "photos" );
+    const QByteArray book =
+        Card( "Nell Brackwater", PhotoLine( PngPicture() ) + PhotoLine( GifPicture(), "LOGO;ENCODING=b" ) ) +
+        Card( "月見里", PhotoLine( GifPicture(), "PHOTO;TYPE=../../x;ENCODING=b" ) ) +
+        CardText( "VERSION:3.0\r\n" + PhotoLine( "no picture" ) ) + CleanCard();
+    const ProgramRun run = Import( book, photos );
+    EXPECT_EQ( run.m_status, 0 ) << run.m_err;
+    EXPECT_EQ( FilesIn( photos ), "Nell-Brackwater-1.png\nNell-Brackwater-2.gif\ncontact-4.bin\n月見里-3.gif\n" );
+    EXPECT_EQ( FileContent( photos + "/Nell-Brackwater-1.png" ), PngPicture() );
+    EXPECT_EQ( FileContent( photos + "/Nell-Brackwater-2.gif" ), GifPicture() );
+    EXPECT_NE( run.LastMessage().find( ", 4 pictures written, " ), std::string::npos ) << run.m_err;
+}
+
+TEST( ImportPhotosTest, NoFileLeavesTheFolderWhateverTheName )
+{
+    const Folder folder;
+    const QByteArray photos = folder.Path( "a" ) + "/b";
+    ASSERT_EQ( mkdir( folder.Path( "a" ).constData(), 0700 ), 0 );
+    QByteArray book;
+    for ( const char* name : { "../../x", "/etc/x", "..", ".", "~root", "a/b", "%2e%2e%2fx", "..\\x", "CON", "-rf" } )
+        book += Card( name, PhotoLine( PngPicture() ) );
+    book +=
+        Card( HostileText(), PhotoLine( PngPicture() ) ) + Card( QByteArray( 100000, 'x' ), PhotoLine( PngPicture() ) );
+    EXPECT_EQ( Import( book, photos ).m_status, 0 );
+    EXPECT_EQ(
+        QDir( QFile::decodeName( photos ) ).entryList( QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden ).size(),
+        12 );
+    EXPECT_EQ( FilesIn( folder.Path( "a" ) ).find( "\n" ), 1U ) << "the folder of the pictures comes first";
+    EXPECT_EQ( QByteArray::fromStdString( FilesIn( folder.Path( "" ) ) ).count( '\n' ), 14 );
+    EXPECT_TRUE( IsHarmless( FilesIn( photos ) ) );
+}
+
+TEST( ImportPhotosTest, NothingIsOverwrittenAndNoLinkFollowed )
+{
+    const Folder folder;
+    const QByteArray photos = folder.Path( "photos" );
+    ASSERT_EQ( mkdir( photos.constData(), 0700 ), 0 );
+    folder.Write( "photos/Nell-1.png", "mine" );
+    ASSERT_EQ( symlink( "../stolen", ( photos + "/Nell-2.png" ).constData() ), 0 );
+    const ProgramRun run = Import( Card( "Nell", PhotoLine( PngPicture() ) ), photos );
+    EXPECT_EQ( run.m_status, 0 ) << run.m_err;
+    EXPECT_EQ( FileContent( photos + "/Nell-1.png" ).toStdString(), "mine" );
+    EXPECT_EQ( FileContent( photos + "/Nell-3.png" ), PngPicture() );
+    EXPECT_NE( access( folder.Path( "stolen" ).constData(), F_OK ), 0 );
+    EXPECT_EQ( Import( Card( "Nell", PhotoLine( PngPicture() ) ), photos ).m_status, 0 );
+    EXPECT_EQ( FilesIn( photos ), "Nell-1.png\nNell-2.png\nNell-3.png\nNell-4.png\n" );
+}
+
+TEST( ImportPhotosTest, PicturesElsewhereAreCountedAndNotFetched )
+{
+    const Folder folder;
+    const QByteArray book = Card( "Nell", "PHOTO;VALUE=uri:http://photos.example.com/nell.jpg\r\n" );
+    const ProgramRun run = Import( book, folder.Path( "photos" ) );
+    EXPECT_NE( run.LastMessage().find( ", 0 pictures written (1 picture only linked to, not fetched), " ),
+               std::string::npos )
+        << run.m_err;
+    EXPECT_EQ( FilesIn( folder.Path( "photos" ) ), "" );
+}
+
+TEST( ImportPhotosTest, FolderThatCannotBeUsedEndsTheRun )
+{
+    const Folder folder;
+    const QByteArray file = folder.Write( "file", "x" );
+    struct Row
+    {
+        QByteArray m_folder;
+        const char* m_reason;
+    };
+    const std::vector<Row> rows = {
+        { file, "Not a directory" },
+        { file + "/x", "Not a directory" },
+        { folder.Path( "a/b" ), "No such file or directory" },
+        { "/proc/nothing", "No such file or directory" },
+    };
+    for ( const Row& row : rows )
+    {
+        const ProgramRun run = Import( CleanCard(), row.m_folder );
+        EXPECT_EQ( run.m_status, 2 ) << row.m_folder.constData();
+        EXPECT_EQ( run.m_out, "" );
+        EXPECT_EQ( run.m_err.find( "pimvcard: " + row.m_folder.toStdString() +
+                                   ": pictures cannot be written: " + row.m_reason + "\n" ),
+                   0U )
+            << run.m_err;
+    }
+}

@@ -1,0 +1,92 @@
+#include "ProgramRun.h"
+#include "TerminalRun.h"
+
+#include "ImportTestBooks.h"
+#include "TextColumns.h"
+
+#include <csignal>
+
+using namespace PimManager::vCard::Tools;
+
+namespace
+{
+
+const QByteArray s_kWide = CardText( "VERSION:3.0\r\nFN:Otmar von Hügelstein zu Maulwurfsburg und Grashalm\r\n"
+                                     "TEL;TYPE=WORK:+1-555-0170\r\nEMAIL:otmar.von.huegelstein@example.com\r\n"
+                                     "ORG:Academy of Small Hills\r\n" );
+
+} // namespace
+
+TEST( ImportTerminalTest, TableFitsTheTerminal )
+{
+    for ( const int columns : { 40, 80, 100, 200 } )
+    {
+        TerminalRun run( { "import", "-" }, TerminalRun::Watched::Both, columns );
+        run.Feed( s_kWide );
+        EXPECT_EQ( run.Finish(), 0 );
+        const QStringList lines = QString::fromStdString( run.Screen() ).split( QLatin1Char( '\n' ) );
+        EXPECT_GT( lines.size(), 3 );
+        for ( const QString& line : lines )
+        {
+            const bool isMessage = line.startsWith( QLatin1String( "pimvcard: " ) );
+            EXPECT_TRUE( isMessage || ColumnsOf( line ) <= columns ) << columns << ": " << Utf8( line );
+        }
+    }
+}
+
+TEST( ImportTerminalTest, PipeGetsLinesThatAreNotWrapped )
+{
+    TerminalRun run( { "import", "-" }, TerminalRun::Watched::ErrorsOnly, 40 );
+    run.Feed( s_kWide );
+    EXPECT_EQ( run.Finish(), 0 );
+    EXPECT_EQ( QByteArray::fromStdString( run.Pipe() ).count( '\n' ), 2 ) << run.Pipe();
+    EXPECT_EQ( run.Screen().find( "pimvcard: 1 file, 1 contact" ), 0U ) << run.Screen();
+}
+
+TEST( ImportTerminalTest, CtrlCEndsInOrderWithWhatWasRead )
+{
+    const Folder folder;
+    const QByteArray page = folder.Path( "page.html" );
+    TerminalRun run( { "import", "--json", "--html", page, "-" }, TerminalRun::Watched::ErrorsOnly );
+    run.Feed( CleanCard() + PartCard() + "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Barnaby\r\nTEL:555-0" );
+    run.Interrupt();
+    EXPECT_EQ( run.Finish(), 130 );
+    EXPECT_NE( run.Pipe().find( "\"name\":\"Nell\"" ), std::string::npos ) << run.Pipe();
+    EXPECT_EQ( run.Pipe().find( "Barnaby" ), std::string::npos ) << run.Pipe();
+    EXPECT_EQ( run.Pipe().substr( run.Pipe().size() - 4 ), "}\n]\n" );
+    EXPECT_NE( run.Screen().find( "pimvcard: interrupted; this is what was read until then\npimvcard: 1 file, " ),
+               std::string::npos )
+        << run.Screen();
+    const QByteArray content = FileContent( page );
+    EXPECT_TRUE( content.endsWith( "</html>\n" ) );
+    EXPECT_TRUE( content.contains( "Reading was stopped" ) );
+}
+
+TEST( ImportTerminalTest, CtrlCEndsACheck )
+{
+    TerminalRun run( { "check", "-" }, TerminalRun::Watched::Both );
+    run.Feed( PartCard() );
+    run.Interrupt();
+    EXPECT_EQ( run.Finish(), 130 );
+    EXPECT_NE( run.Screen().find( "standard input:4:1: dropped: " ), std::string::npos ) << run.Screen();
+    EXPECT_NE( run.Screen().find( "; not read to its end\n" ), std::string::npos ) << run.Screen();
+}
+
+TEST( ImportTerminalTest, FilesBehindTheInterruptedOneAreNotRead )
+{
+    const Folder folder;
+    TerminalRun run( { "import", "-J", "-", folder.Write( "book", CardText( "FN:Later\r\n" ) ) },
+                     TerminalRun::Watched::ErrorsOnly );
+    run.Feed( CleanCard() );
+    run.Interrupt();
+    EXPECT_EQ( run.Finish(), 130 );
+    EXPECT_EQ( run.Pipe().find( "Later" ), std::string::npos );
+}
+
+TEST( ImportTerminalTest, ShortWorkShowsNoProgress )
+{
+    TerminalRun run( { "import", "--quiet", "-" }, TerminalRun::Watched::Both );
+    run.Feed( CleanCard() );
+    EXPECT_EQ( run.Finish(), 0 );
+    EXPECT_EQ( run.Screen().find( '\x1B' ), std::string::npos ) << run.Screen();
+}

@@ -1,0 +1,102 @@
+#include "Progress.h"
+
+#include "OutputDevice.h"
+#include "ToolsTestText.h"
+
+#include <array>
+#include <fcntl.h>
+#include <unistd.h>
+#include <vector>
+
+using namespace PimManager::vCard::Tools;
+
+namespace
+{
+
+// Takes what is written to it, and gives it away once.
+class Screen
+{
+public:
+    Screen()
+    {
+        EXPECT_EQ( pipe2( m_ends.data(), O_CLOEXEC | O_NONBLOCK ), 0 );
+        m_device = std::make_unique<OutputDevice>( m_ends[1] );
+    }
+    ~Screen()
+    {
+        m_device.reset();
+        close( m_ends[0] );
+        close( m_ends[1] );
+    }
+    Q_DISABLE_COPY( Screen )
+
+    OutputDevice* Device() { return m_device.get(); }
+
+    std::string Taken()
+    {
+        std::array<char, 4096> bytes = {};
+        const ssize_t count = read( m_ends[0], bytes.data(), bytes.size() );
+        return std::string( bytes.data(), count < 0 ? 0 : static_cast<size_t>( count ) );
+    }
+
+private:
+    std::array<int, 2> m_ends = { -1, -1 };
+    std::unique_ptr<OutputDevice> m_device;
+};
+
+} // namespace
+
+TEST( ProgressTest, StateIsToldWithShareAndTime )
+{
+    struct Row
+    {
+        ProgressState m_state;
+        const char* m_text;
+    };
+    const std::vector<Row> rows = {
+        { { 2000, 10, 25'000'000, 100'000'000 }, "25 %, 25 MB of 100 MB, 10 cards, about 7 s left" },
+        { { 60'000, 1, 10'000'000, 100'000'000 }, "10 %, 10 MB of 100 MB, 1 card, about 9 min left" },
+        { { 3'600'000, 0, 1'000'000, 100'000'000 }, "1 %, 1 MB of 100 MB, 0 cards, about 99 h left" },
+        { { 2000, 3, 500'000, 500'000 }, "100 %, 500 KB of 500 KB, 3 cards, about 1 s left" },
+        { { 2000, 3, 700'000, 500'000 }, "100 %, 500 KB of 500 KB, 3 cards, about 1 s left" },
+        { { 2000, 3, 700'000, 0 }, "700 KB, 3 cards" },
+        { { 2000, 0, 0, 500'000 }, "0 KB, 0 cards" },
+    };
+    for ( const Row& row : rows )
+        EXPECT_EQ( Utf8( ProgressText( row.m_state ) ), row.m_text );
+}
+
+TEST( ProgressTest, LineComesAfterASecondAndIsRewrittenInPlace )
+{
+    Screen screen;
+    Progress progress( screen.Device() );
+    EXPECT_FALSE( progress.Show( { 999, 1, 1000, 0 } ) );
+    EXPECT_EQ( screen.Taken(), "" );
+    EXPECT_TRUE( progress.Show( { 1000, 1, 1000, 0 } ) );
+    EXPECT_EQ( screen.Taken(), "1 KB, 1 card" );
+    EXPECT_FALSE( progress.Show( { 1199, 2, 2000, 0 } ) );
+    EXPECT_TRUE( progress.Show( { 1200, 2, 2000, 0 } ) );
+    EXPECT_EQ( screen.Taken(), "\r\x1B[K2 KB, 2 cards" );
+    progress.Hide();
+    EXPECT_EQ( screen.Taken(), "\r\x1B[K" );
+    progress.Hide();
+    EXPECT_EQ( screen.Taken(), "" );
+}
+
+TEST( ProgressTest, LineIsGoneAtTheEnd )
+{
+    Screen screen;
+    {
+        Progress progress( screen.Device() );
+        progress.Show( { 5000, 1, 1000, 0 } );
+        screen.Taken();
+    }
+    EXPECT_EQ( screen.Taken(), "\r\x1B[K" );
+}
+
+TEST( ProgressTest, NothingIsShownWithoutATerminal )
+{
+    Progress progress( nullptr );
+    EXPECT_FALSE( progress.Show( { 1'000'000, 1, 1, 1 } ) );
+    progress.Hide();
+}

@@ -1,0 +1,142 @@
+#include "TerminalRun.h"
+
+#include "ProgramRun.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/ioctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace PimManager::vCard::Tools
+{
+
+namespace
+{
+
+std::array<int, 2> NewPipe()
+{
+    std::array<int, 2> ends = { -1, -1 };
+    EXPECT_EQ( pipe2( ends.data(), O_CLOEXEC ), 0 );
+    return ends;
+}
+
+// The other end of a new terminal.
+int OpenTerminal( int a_master, int a_columns )
+{
+    EXPECT_EQ( grantpt( a_master ), 0 );
+    EXPECT_EQ( unlockpt( a_master ), 0 );
+    std::array<char, 64> name = {};
+    EXPECT_EQ( ptsname_r( a_master, name.data(), name.size() ), 0 );
+    const int terminal = open( name.data(), O_RDWR | O_NOCTTY | O_CLOEXEC );
+    EXPECT_GE( terminal, 0 );
+    const winsize size = { 40, static_cast<unsigned short>( a_columns ), 0, 0 };
+    EXPECT_EQ( ioctl( terminal, TIOCSWINSZ, &size ), 0 );
+    return terminal;
+}
+
+int Start( const QList<QByteArray>& a_arguments, int a_in, int a_out, int a_err )
+{
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init( &actions );
+    posix_spawn_file_actions_adddup2( &actions, a_in, STDIN_FILENO );
+    posix_spawn_file_actions_adddup2( &actions, a_out, STDOUT_FILENO );
+    posix_spawn_file_actions_adddup2( &actions, a_err, STDERR_FILENO );
+    QList<QByteArray> words = ProgramCommand() + a_arguments;
+    std::vector<char*> pointers;
+    for ( QByteArray& word : words )
+        pointers.push_back( word.data() );
+    pointers.push_back( nullptr );
+    pid_t child = -1;
+    EXPECT_EQ( posix_spawnp( &child, pointers.front(), &actions, nullptr, pointers.data(), environ ), 0 );
+    posix_spawn_file_actions_destroy( &actions );
+    return child;
+}
+
+// False once nothing more can come.
+bool Take( int a_descriptor, std::string& a_text )
+{
+    std::array<char, 4096> bytes = {};
+    const ssize_t count = read( a_descriptor, bytes.data(), bytes.size() );
+    for ( ssize_t i = 0; i < count; ++i )
+    {
+        const char byte = bytes.at( static_cast<size_t>( i ) );
+        const char next = i + 1 < count ? bytes.at( static_cast<size_t>( i + 1 ) ) : '\0';
+        if ( byte != '\r' || next != '\n' )
+            a_text += byte;
+    }
+    return count > 0 || ( count < 0 && errno == EINTR );
+}
+
+} // namespace
+
+TerminalRun::TerminalRun( const QList<QByteArray>& a_arguments, Watched a_watched, int a_columns ) :
+    m_terminal( posix_openpt( O_RDWR | O_NOCTTY | O_CLOEXEC ) )
+{
+    const int terminal = OpenTerminal( m_terminal, a_columns );
+    const std::array<int, 2> input = NewPipe();
+    const std::array<int, 2> output = NewPipe();
+    m_input = input[1];
+    m_output = output[0];
+    m_child = Start( a_arguments, input[0], a_watched == Watched::Both ? terminal : output[1], terminal );
+    for ( const int descriptor : { terminal, input[0], output[1] } )
+        close( descriptor );
+}
+
+TerminalRun::~TerminalRun()
+{
+    for ( const int descriptor : { m_terminal, m_input, m_output } )
+    {
+        if ( descriptor >= 0 )
+            close( descriptor );
+    }
+}
+
+void TerminalRun::Feed( const QByteArray& a_bytes )
+{
+    EXPECT_EQ( write( m_input, a_bytes.constData(), static_cast<size_t>( a_bytes.size() ) ), a_bytes.size() );
+    for ( int waiting = 1; waiting > 0; )
+    {
+        ASSERT_EQ( ioctl( m_input, FIONREAD, &waiting ), 0 );
+        usleep( 1000 );
+    }
+}
+
+void TerminalRun::Interrupt() const
+{
+    EXPECT_EQ( kill( m_child, SIGINT ), 0 );
+}
+
+int TerminalRun::Finish()
+{
+    close( m_input );
+    m_input = -1;
+    Collect();
+    int status = 0;
+    EXPECT_EQ( waitpid( m_child, &status, 0 ), m_child );
+    return WIFEXITED( status ) ? WEXITSTATUS( status ) : -WTERMSIG( status );
+}
+
+void TerminalRun::Collect()
+{
+    constexpr int s_kForEver = -1;
+    std::array<pollfd, 2> waited = { pollfd{ m_terminal, POLLIN, 0 }, pollfd{ m_output, POLLIN, 0 } };
+    while ( waited[0].fd >= 0 || waited[1].fd >= 0 )
+    {
+        poll( waited.data(), waited.size(), s_kForEver );
+        if ( waited[0].revents != 0 && !Take( m_terminal, m_screen ) )
+            waited[0].fd = -1;
+        if ( waited[1].revents != 0 && !Take( m_output, m_pipe ) )
+            waited[1].fd = -1;
+    }
+}
+
+} // namespace PimManager::vCard::Tools

@@ -131,7 +131,7 @@ void WriteVerdict( QIODevice& a_device, const QList<ImportedBook>& a_books )
         const QString losses = LossesText( book.m_account );
         if ( !losses.isEmpty() )
             a_device.write( "<p class=\"bad\"><bdi>" + Html( book.m_source ) + "</bdi>: " + Html( losses ) +
-                            ". <a href=\"#account\">Which</a></p>\n" );
+                            ". <a href=\"#account\">See which</a></p>\n" );
     }
     a_device.write( "</div>\n" );
 }

@@ -25,6 +25,12 @@ QString JoinedTexts( const PimVCardProperty& a_property )
     return texts.join( s_kBetween );
 }
 
+QString TimeText( const QDateTime& a_time )
+{
+    const QString text = a_time.toString( QStringLiteral( "yyyy-MM-dd HH:mm:ss" ) );
+    return a_time.timeSpec() == Qt::UTC ? text + QStringLiteral( " UTC" ) : text;
+}
+
 void AddEntry( QList<ContactEntry>& a_entries, const PimVCard& a_card, const PimVCardProperty& a_property )
 {
     const ContactEntry entry = EntryOf( a_card, a_property );
@@ -63,6 +69,9 @@ QString ReadableTextOf( const PimVCardProperty& a_property )
         return MailAddressOf( a_property ).trimmed();
     if ( IsNamed( a_property, "ADR" ) )
         return AddressTextOf( a_property );
+    const std::optional<PimVCardCall> call = CallOf( a_property );
+    if ( call && call->m_when.isValid() )
+        return TimeText( call->m_when );
     return JoinedTexts( a_property );
 }
 

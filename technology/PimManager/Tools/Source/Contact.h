@@ -43,8 +43,8 @@ struct Contact
 /// \return what a list shows of the card. Entries without a text are left out. Linear in the length of the card.
 Contact ReadContact( const PimVCard& a_card );
 
-/// \return a property as text for people: a number without `tel:`, an address in lines, several values joined by
-///         commas, where empty ones are left out.
+/// \return a property as text for people: a number without `tel:`, an address in lines, the time of a call, several
+///         values joined by commas, where empty ones are left out.
 QString ReadableTextOf( const PimVCardProperty& a_property );
 
 /// \return a property with what it is for.

@@ -118,7 +118,7 @@ void ContactHtml::Write( const QByteArray& a_anchor, bool a_isWhole )
     m_device.write( "<div class=\"about\">\n<h3 dir=\"auto\">" );
     WriteText( name );
     m_device.write( "</h3>\n" );
-    WriteWork();
+    WriteWork( name );
     WriteWays();
     WriteNotes();
     WriteExtraPictures();
@@ -141,14 +141,15 @@ void ContactHtml::WriteFace( const QString& a_name )
     m_device.write( "</div>\n" );
 }
 
-void ContactHtml::WriteWork()
+void ContactHtml::WriteWork( const QString& a_name )
 {
     QStringList texts;
     for ( const char* name : { "TITLE", "ORG" } )
     {
         const PimVCardProperty* const property = FindProperty( m_card, name );
         const QString text = property == nullptr ? QString() : ReadableTextOf( *property );
-        if ( !text.isEmpty() )
+        // A company is often called by its own name.
+        if ( !text.isEmpty() && text != a_name )
             texts << text;
     }
     if ( texts.isEmpty() )

@@ -31,7 +31,7 @@ public:
 
 private:
     void WriteFace( const QString& a_name );
-    void WriteWork();
+    void WriteWork( const QString& a_name );
     void WriteWays();
     void WriteWay( const PimVCardProperty& a_property );
     void WriteNotes();

@@ -85,6 +85,7 @@ ExitStatus ImportRun::ImportFile( const QByteArray& a_fileName )
 {
     m_book.m_source = SourceName( a_fileName );
     m_book.m_account = PimVCardImportAccount();
+    m_openCard = -1;
     InputDevice input( a_fileName );
     if ( input.Error() != 0 )
         return RefuseFile( input.Reason() );
@@ -113,9 +114,8 @@ ExitStatus ImportRun::ImportInput( InputDevice& a_input )
 void ImportRun::Import( InputDevice& a_input )
 {
     PimVCardImporter importer( m_options );
-    importer.SetDiagnosticHandler(
-        [this]( const PimVCardDiagnostic& a_diagnostic )
-        { ForEachOutput( [&]( ImportOutput& a_output ) { a_output.TakeDiagnostic( m_book, a_diagnostic ); } ); } );
+    importer.SetDiagnosticHandler( [this]( const PimVCardDiagnostic& a_diagnostic )
+                                   { TakeDiagnostic( a_diagnostic ); } );
     importer.SetRejectHandler(
         [this]( const PimVCardReject& a_reject )
         { ForEachOutput( [&]( ImportOutput& a_output ) { a_output.TakeReject( a_reject ); } ); } );
@@ -125,12 +125,19 @@ void ImportRun::Import( InputDevice& a_input )
     m_book.m_account.m_isStopped = m_book.m_account.m_isStopped || IsOver();
 }
 
+void ImportRun::TakeDiagnostic( const PimVCardDiagnostic& a_diagnostic )
+{
+    if ( a_diagnostic.m_code == PimVCardDiagnosticCode::MissingEnd )
+        m_openCard = a_diagnostic.m_card;
+    ForEachOutput( [&]( ImportOutput& a_output ) { a_output.TakeDiagnostic( m_book, a_diagnostic ); } );
+}
+
 bool ImportRun::TakeCard( const PimVCardImportedCard& a_card )
 {
     if ( m_stopsWithoutReader && !m_console.IsOpen() )
         return false;
     // The card that Ctrl-C cut off may end in the middle of a number.
-    if ( Interrupt::IsRequested() && !a_card.m_isWhole )
+    if ( Interrupt::IsRequested() && a_card.m_index == m_openCard )
         return true;
     ++m_cards;
     ForEachOutput( [&]( ImportOutput& a_output ) { a_output.TakeCard( m_book, a_card ); } );

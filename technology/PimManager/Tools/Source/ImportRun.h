@@ -52,6 +52,7 @@ private:
     ExitStatus ImportFile( const QByteArray& a_fileName );
     ExitStatus ImportInput( InputDevice& a_input );
     void Import( InputDevice& a_input );
+    void TakeDiagnostic( const vCardImport::PimVCardDiagnostic& a_diagnostic );
     bool TakeCard( const vCardImport::PimVCardImportedCard& a_card );
     ExitStatus RefuseFile( const QString& a_reason );
     ExitStatus Finish( ExitStatus a_status );
@@ -68,6 +69,8 @@ private:
     QElapsedTimer m_timer;
     ImportedBook m_book;
     qint64 m_cards = 0;
+    // The last card whose END was missing; -1 before there is one.
+    qint64 m_openCard = -1;
     // Of the files before this one, and of all files; 0 when that cannot be told.
     qint64 m_bytesBefore = 0;
     qint64 m_allBytes = 0;

@@ -49,19 +49,21 @@ h3 { margin: 0; font-size: 1.05rem; unicode-bidi: isolate }
 .about p { margin: .1rem 0; unicode-bidi: isolate }
 .work { color: var(--soft); font-size: .92rem }
 .ways { list-style: none; margin: .4rem 0 0; padding: 0 }
-.ways li { padding: .12rem 0 }
+.ways li { display: flex; flex-wrap: wrap; align-items: baseline; gap: 0 .5rem; padding: .12rem 0 }
+.ways .text { min-width: 0 }
 .ways a { text-decoration: none }
 .ways a:hover { text-decoration: underline }
 .text { unicode-bidi: isolate; white-space: pre-line }
-.kind { margin-left: .35rem; padding: .05rem .45rem; border-radius: 1rem; background: var(--page); color: var(--soft);
+.kind { padding: .05rem .45rem; border-radius: 1rem; background: var(--page); color: var(--soft);
   font-size: .8rem; unicode-bidi: isolate }
-.note { margin-top: .4rem !important; padding-left: .7rem; border-left: 3px solid var(--line); font-size: .92rem;
+.about .note { margin-top: .4rem; padding-left: .7rem; border-left: 3px solid var(--line); font-size: .92rem;
   white-space: pre-line }
 .extra { display: block; max-width: 100%; max-height: 10rem; margin-top: .5rem; border-radius: .4rem }
 .part { display: inline-block; margin-top: .3rem; color: var(--fair); font-size: .85rem }
 details { margin-top: .4rem; font-size: .9rem }
 summary { color: var(--soft); cursor: pointer }
-dl { display: grid; grid-template-columns: minmax(5rem, max-content) 1fr; gap: .2rem 1rem; margin: .4rem 0 }
+dl { display: grid; grid-template-columns: minmax(5rem, max-content) 1fr; gap: .2rem 1rem; align-items: baseline;
+  margin: .4rem 0 }
 .about dl { grid-template-columns: 1fr; gap: 0 }
 dt { color: var(--soft); font-size: .85rem }
 dd { margin: 0; min-width: 0; overflow-wrap: anywhere }
@@ -152,7 +154,7 @@ QByteArray PageHead()
            s_kStyle +
            "</style>\n</head>\n<body>\n<header class=\"bar\">\n<h1>Contacts</h1>\n"
            "<div class=\"search\" id=\"search\" role=\"search\" hidden>"
-           "<input type=\"search\" id=\"words\" aria-label=\"Search\" placeholder=\"Search names, numbers, notes\" "
+           "<input type=\"search\" id=\"words\" aria-label=\"Search\" placeholder=\"Name, number, note\" "
            "autocomplete=\"off\" spellcheck=\"false\"><output id=\"count\" for=\"words\"></output></div>\n"
            "<a href=\"#account\">What was read</a>\n</header>\n<main>\n"
            "<p class=\"none\" id=\"none\" hidden>No contact fits.</p>\n";

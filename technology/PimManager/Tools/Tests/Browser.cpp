@@ -114,6 +114,13 @@ void Browser::SetSize( int a_width, int a_height, bool a_isPhone )
             { QStringLiteral( "mobile" ), a_isPhone } } );
 }
 
+void Browser::SetDark()
+{
+    const QJsonObject wish = { { QStringLiteral( "name" ), QStringLiteral( "prefers-color-scheme" ) },
+                               { QStringLiteral( "value" ), QStringLiteral( "dark" ) } };
+    Call( QStringLiteral( "Emulation.setEmulatedMedia" ), { { QStringLiteral( "features" ), QJsonArray{ wish } } } );
+}
+
 void Browser::SetScriptsAllowed( bool a_areAllowed )
 {
     Call( QStringLiteral( "Emulation.setScriptExecutionDisabled" ), { { QStringLiteral( "value" ), !a_areAllowed } } );

@@ -24,6 +24,9 @@ public:
     /// Of the window, in pixels. A phone also has a pen and no mouse.
     void SetSize( int a_width, int a_height, bool a_isPhone );
 
+    /// As of a user who wants light letters on dark.
+    void SetDark();
+
     void SetScriptsAllowed( bool a_areAllowed );
 
     /// Shows a file and waits until it is there with its pictures.

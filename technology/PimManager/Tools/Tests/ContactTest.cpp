@@ -53,6 +53,9 @@ TEST( ContactTest, PropertiesAreReadable )
         { "TEL;VALUE=uri:tel:+1-555", "+1-555" },
         { "EMAIL:mailto:a@example.com", "a@example.com" },
         { "ADR:;;3 Ferry Steps;Port Lanthorn;;X1;", "3 Ferry Steps\nX1 Port Lanthorn" },
+        { "X-IRMC-CALL-DATETIME;MISSED:20240311T084512Z", "2024-03-11 08:45:12 UTC" },
+        { "X-IRMC-CALL-DATETIME;TYPE=DIALED:20240311T084512", "2024-03-11 08:45:12" },
+        { "X-IRMC-CALL-DATETIME;DIALED:yesterday", "yesterday" },
         { "NOTE;QUOTED-PRINTABLE;ENCODING=QUOTED-PRINTABLE:a=3Bb", "a;b" },
     };
     for ( const Row& row : rows )

@@ -143,6 +143,13 @@ TEST( ImportPageTest, EveryPropertyOfAContactIsSomewhere )
         EXPECT_TRUE( page.contains( QByteArray( ">" ) + text ) || page.contains( text + QByteArray( "<" ) ) ) << text;
 }
 
+TEST( ImportPageTest, OrganisationThatIsTheNameStandsOnce )
+{
+    const QByteArray page = Page( CardText( "VERSION:3.0\r\nFN:Oven Row\r\nORG:Oven Row;\r\nTITLE:Baker\r\n" ) );
+    EXPECT_EQ( page.count( "Oven Row" ), 1 );
+    EXPECT_TRUE( page.contains( ">Baker</p>" ) );
+}
+
 TEST( ImportPageTest, HugeFieldsAndManyLinesAreCut )
 {
     QByteArray lines =

@@ -52,6 +52,7 @@ TEST( ImportTerminalTest, CtrlCEndsInOrderWithWhatWasRead )
     run.Interrupt();
     EXPECT_EQ( run.Finish(), 130 );
     EXPECT_NE( run.Pipe().find( "\"name\":\"Nell\"" ), std::string::npos ) << run.Pipe();
+    EXPECT_NE( run.Pipe().find( "\"name\":\"Tobias\"" ), std::string::npos ) << run.Pipe();
     EXPECT_EQ( run.Pipe().find( "Barnaby" ), std::string::npos ) << run.Pipe();
     EXPECT_EQ( run.Pipe().substr( run.Pipe().size() - 4 ), "}\n]\n" );
     EXPECT_NE( run.Screen().find( "pimvcard: interrupted; this is what was read until then\npimvcard: 1 file, " ),

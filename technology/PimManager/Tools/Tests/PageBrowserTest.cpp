@@ -203,4 +203,9 @@ TEST( PageBrowserTest, ScreenshotsAreLeftForPeopleToLookAt )
     page.Shown().Evaluate( QStringLiteral( "scrollTo(0, 0)" ) );
     page.Shown().SetSize( 390, 844, true );
     WriteScreenshot( page.Shown(), "page-phone.png" );
+    page.Shown().SetDark();
+    page.Shown().Evaluate( s_kTypeHere );
+    page.Shown().Type( QStringLiteral( "last call" ) );
+    page.Shown().Evaluate( QStringLiteral( "document.querySelectorAll('details').forEach(d => { d.open = true; })" ) );
+    WriteScreenshot( page.Shown(), "page-dark.png" );
 }

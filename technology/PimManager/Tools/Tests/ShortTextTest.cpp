@@ -37,6 +37,13 @@ TEST( ShortTextTest, LongerTextIsCutAfterSixtyCharactersAndTellsItsLength )
     }
 }
 
+TEST( ShortTextTest, LengthsAreOfTheCallersChoice )
+{
+    EXPECT_EQ( Utf8( Shortened( Repeated( s_kTelescope, 3 ), 3, 2 ) ), Utf8( Repeated( s_kTelescope, 3 ) ) );
+    EXPECT_EQ( Utf8( Shortened( Repeated( s_kTelescope, 4 ), 3, 2 ) ),
+               Utf8( Repeated( s_kTelescope, 2 ) ) + "\xE2\x80\xA6 (4 characters)" );
+}
+
 TEST( ShortTextTest, ListOfTwentyStays )
 {
     const QStringList list = QString( 19, QLatin1Char( ';' ) ).split( QLatin1Char( ';' ) );

@@ -66,7 +66,7 @@ int Start( const QByteArray& a_profile, int a_commands, int a_answers )
     posix_spawn_file_actions_adddup2( &actions, a_answers, s_kAnswers );
     posix_spawn_file_actions_addopen( &actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0 );
     pid_t child = -1;
-    EXPECT_EQ( posix_spawn( &child, PIMVCARD_BROWSER, &actions, nullptr, pointers.data(), environ ), 0 )
+    EXPECT_EQ( posix_spawnp( &child, PIMVCARD_BROWSER, &actions, nullptr, pointers.data(), environ ), 0 )
         << PIMVCARD_BROWSER;
     posix_spawn_file_actions_destroy( &actions );
     return child;

@@ -106,7 +106,10 @@ void TerminalRun::Feed( const QByteArray& a_bytes )
     for ( int waiting = 1; waiting > 0; )
     {
         ASSERT_EQ( ioctl( m_input, FIONREAD, &waiting ), 0 );
-        usleep( 1000 );
+        constexpr int s_kMillisecond = 1;
+        pollfd reader = { m_input, 0, 0 };
+        poll( &reader, 1, s_kMillisecond );
+        ASSERT_EQ( reader.revents & POLLERR, 0 ) << "the program has ended";
     }
 }
 

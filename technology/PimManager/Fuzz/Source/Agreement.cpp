@@ -27,7 +27,7 @@ template <typename Work>
 Violation CheckAgreementOf( const QByteArray& a_text, const Work& a_work, bool a_isJudgeSure )
 {
     const QStringList transcript = vCard::TranscriptOf( a_text, a_work );
-    const Violation repeated =
+    Violation repeated =
         CheckSame( "a second parser gives the same", transcript, vCard::TranscriptOf( a_text, a_work ) );
     const bool isTooMuch = a_text.size() > s_kLongestCompared || transcript.size() > s_kMostComparedLines;
     if ( !repeated.isEmpty() || !a_isJudgeSure || isTooMuch )

@@ -6,9 +6,8 @@
 
 #include <QFile>
 
-#include <algorithm>
 #include <cstdio>
-#include <memory>
+#include <vector>
 
 using namespace PimManager::vCard::Fuzz;
 
@@ -26,10 +25,8 @@ bool TryFile( const QString& a_path )
         return false;
     const QByteArray bytes = file.readAll();
     // Memory of exactly that size, so that the sanitizer finds a read past the end.
-    const auto size = static_cast<std::size_t>( bytes.size() );
-    const std::unique_ptr<std::uint8_t[]> input( new std::uint8_t[size] );
-    std::copy( bytes.cbegin(), bytes.cend(), input.get() );
-    LLVMFuzzerTestOneInput( input.get(), size );
+    const std::vector<std::uint8_t> input( bytes.cbegin(), bytes.cend() );
+    LLVMFuzzerTestOneInput( input.data(), input.size() );
     return true;
 }
 

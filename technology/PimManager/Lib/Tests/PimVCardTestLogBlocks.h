@@ -18,29 +18,29 @@ public:
     LogBlockCount() :
         m_former( qInstallMessageHandler( Count ) )
     {
-        sm_begun = 0;
-        sm_ended = 0;
+        sm_current = this;
     }
     ~LogBlockCount() { qInstallMessageHandler( m_former ); }
     Q_DISABLE_COPY( LogBlockCount )
 
     /// The blocks of which the heading was written.
-    int Begun() const { return sm_begun; }
+    int Begun() const { return m_begun; }
     /// The blocks of which the empty last line was written.
-    int Ended() const { return sm_ended; }
+    int Ended() const { return m_ended; }
 
 private:
     static void Count( QtMsgType a_type, const QMessageLogContext& /*a_context*/, const QString& a_text )
     {
         if ( a_type != QtCriticalMsg )
             return;
-        sm_begun += a_text.startsWith( QLatin1String( "Error in" ) ) ? 1 : 0;
-        sm_ended += a_text.isEmpty() ? 1 : 0;
+        sm_current->m_begun += a_text.startsWith( QLatin1String( "Error in" ) ) ? 1 : 0;
+        sm_current->m_ended += a_text.isEmpty() ? 1 : 0;
     }
 
-    inline static int sm_begun = 0;
-    inline static int sm_ended = 0;
-    QtMessageHandler m_former;
+    inline static LogBlockCount* sm_current = nullptr;
+    const QtMessageHandler m_former;
+    int m_begun = 0;
+    int m_ended = 0;
 };
 
 } // namespace PimManager::vCard

@@ -56,7 +56,9 @@ public:
     /// tested together with it and is then left out of the token; when the pair does not match, the run ends, the
     /// backslash is lost and the character after it is the look-ahead. Before a carriage return a backslash stands
     /// alone: where the expression does not match it, it is lost, the carriage return is the look-ahead and is read
-    /// once more after that. A backslash that is already the look-ahead when the call begins is an ordinary character.
+    /// once more after that. At the end of the text U+0000 takes the place of that character: the pair is then tested
+    /// as the backslash alone, and where it matches, U+0000 ends the token. A backslash that is already the look-ahead
+    /// when the call begins is an ordinary character.
     ///
     /// The line number grows by the carriage returns of a run when the run holds as many line feeds, else not at all.
     ///

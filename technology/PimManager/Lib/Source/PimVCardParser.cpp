@@ -20,8 +20,8 @@ namespace
 
 constexpr const char* s_kPrintPrefix = "  ";
 // The boundaries of a card as nearly every card has them.
-constexpr QLatin1String s_kPlainBegin( "BEGIN:VCARD\r\n" );
-constexpr QLatin1String s_kPlainEnd( "END:VCARD\r\n" );
+constexpr QLatin1String s_kPlainBegin( "BEGIN:VCARD\r\n", 13 );
+constexpr QLatin1String s_kPlainEnd( "END:VCARD\r\n", 11 );
 constexpr int s_kUsualProperties = 16;
 constexpr int s_kUsualParameters = 4;
 constexpr int s_kUsualComponents = 8;

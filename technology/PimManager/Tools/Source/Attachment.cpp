@@ -15,14 +15,13 @@ namespace
 
 struct RasterType
 {
-    QLatin1String m_fileEnding;
+    const char* m_fileEnding;
     const char* m_mediaType;
 };
 
 constexpr std::array<RasterType, 6> s_kRasterTypes = {
-    RasterType{ QLatin1String( "jpg" ), "image/jpeg" }, RasterType{ QLatin1String( "png" ), "image/png" },
-    RasterType{ QLatin1String( "gif" ), "image/gif" },  RasterType{ QLatin1String( "webp" ), "image/webp" },
-    RasterType{ QLatin1String( "bmp" ), "image/bmp" },  RasterType{ QLatin1String( "ico" ), "image/x-icon" } };
+    RasterType{ "jpg", "image/jpeg" },  RasterType{ "png", "image/png" }, RasterType{ "gif", "image/gif" },
+    RasterType{ "webp", "image/webp" }, RasterType{ "bmp", "image/bmp" }, RasterType{ "ico", "image/x-icon" } };
 
 bool CarriesBytes( const PimVCardProperty& a_property )
 {
@@ -57,7 +56,7 @@ QByteArray RasterTypeOf( const PimVCardAttachment& a_picture )
 {
     const auto* const type = std::find_if( s_kRasterTypes.begin(), s_kRasterTypes.end(),
                                            [&a_picture]( const RasterType& a_type )
-                                           { return a_picture.m_fileEnding == a_type.m_fileEnding; } );
+                                           { return a_picture.m_fileEnding == QLatin1String( a_type.m_fileEnding ); } );
     return type == s_kRasterTypes.end() ? QByteArray() : QByteArray( type->m_mediaType );
 }
 

@@ -27,7 +27,7 @@ Book ReadAll( InputDevice& a_input, qint64 a_limit )
 {
     std::vector<char> block( static_cast<size_t>( s_kBlock ) );
     QByteArray bytes;
-    bytes.reserve( static_cast<int>( std::min( a_input.Size(), a_limit ) ) );
+    bytes.reserve( static_cast<int>( std::min( a_input.FileSize(), a_limit ) ) );
     for ( ;; )
     {
         const qint64 count = a_input.read( block.data(), s_kBlock );
@@ -48,7 +48,7 @@ Book ReadBook( const QByteArray& a_fileName, qint64 a_limit )
     InputDevice input( a_fileName );
     if ( input.Error() != 0 )
         return Refusal( input.Reason() );
-    if ( input.Size() > a_limit )
+    if ( input.FileSize() > a_limit )
         return TooLarge( a_limit );
     return ReadAll( input, a_limit );
 }

@@ -113,7 +113,7 @@ ContactHtml::ContactHtml( QIODevice& a_device, const PimVCard& a_card ) :
 void ContactHtml::Write( const QByteArray& a_anchor, bool a_isWhole )
 {
     const QString name = ReadContact( m_card ).m_name;
-    m_device.write( "<article class=\"contact\" id=\"c" + a_anchor + "\">\n" );
+    m_device.write( R"(<article class="contact" id="c)" + a_anchor + "\">\n" );
     WriteFace( name );
     m_device.write( "<div class=\"about\">\n<h3 dir=\"auto\">" );
     WriteText( name );
@@ -124,13 +124,13 @@ void ContactHtml::Write( const QByteArray& a_anchor, bool a_isWhole )
     WriteExtraPictures();
     WriteRest();
     if ( !a_isWhole )
-        m_device.write( "<a class=\"part\" href=\"#d" + a_anchor + "\">Something of this contact is missing</a>\n" );
+        m_device.write( R"(<a class="part" href="#d)" + a_anchor + "\">Something of this contact is missing</a>\n" );
     m_device.write( "</div>\n</article>\n" );
 }
 
 void ContactHtml::WriteFace( const QString& a_name )
 {
-    m_device.write( "<div class=\"" + FaceClass( a_name ) + "\" aria-hidden=\"true\">" );
+    m_device.write( "<div class=\"" + FaceClass( a_name ) + R"(" aria-hidden="true">)" );
     WriteText( InitialsOf( a_name ) );
     const QList<const PimVCardProperty*> pictures = Chosen( m_card, IsPicture );
     const auto picture =
@@ -154,7 +154,7 @@ void ContactHtml::WriteWork( const QString& a_name )
     }
     if ( texts.isEmpty() )
         return;
-    m_device.write( "<p class=\"work\" dir=\"auto\">" );
+    m_device.write( R"(<p class="work" dir="auto">)" );
     WriteText( texts.join( QStringLiteral( u" \u00B7 " ) ) );
     m_device.write( "</p>\n" );
 }
@@ -177,16 +177,16 @@ void ContactHtml::WriteWay( const PimVCardProperty& a_property )
         return;
     const QByteArray link = LinkOf( a_property, entry.m_text );
     const char* const tag = link.isEmpty() ? "span" : "a";
-    m_device.write( QByteArray( "<li><" ) + tag + " class=\"text\" dir=\"auto\"" );
+    m_device.write( QByteArray( "<li><" ) + tag + R"( class="text" dir="auto")" );
     if ( !link.isEmpty() )
-        m_device.write( " rel=\"noreferrer noopener\" href=\"" + link + "\"" );
+        m_device.write( R"( rel="noreferrer noopener" href=")" + link + "\"" );
     m_device.write( ">" );
     WriteText( entry.m_text );
     m_device.write( QByteArray( "</" ) + tag + ">" );
     const QString purpose = PurposeOf( entry );
     if ( !purpose.isEmpty() )
     {
-        m_device.write( " <span class=\"kind\" dir=\"auto\">" );
+        m_device.write( R"( <span class="kind" dir="auto">)" );
         WriteText( purpose );
         m_device.write( "</span>" );
     }
@@ -201,7 +201,7 @@ void ContactHtml::WriteNotes()
         const QString text = ReadableTextOf( *note );
         if ( text.isEmpty() )
             continue;
-        m_device.write( "<p class=\"note\" dir=\"auto\">" );
+        m_device.write( R"(<p class="note" dir="auto">)" );
         WriteText( text );
         m_device.write( "</p>\n" );
     }
@@ -239,7 +239,7 @@ void ContactHtml::WriteRestOf( const PimVCardProperty& a_property )
     WriteText( a_property.GetName() );
     if ( !purpose.isEmpty() )
         WriteText( QStringLiteral( ", " ) + purpose );
-    m_device.write( "</bdi></dt><dd class=\"text\" dir=\"auto\">" );
+    m_device.write( R"(</bdi></dt><dd class="text" dir="auto">)" );
     if ( attachment )
         WriteText( QStringLiteral( "%1 bytes %2" ).arg( attachment->m_bytes.size() ).arg( attachment->m_mediaType ) );
     else
@@ -258,8 +258,8 @@ bool ContactHtml::WritePicture( const PimVCardProperty& a_property, const char* 
     const QByteArray mediaType = picture ? RasterTypeOf( *picture ) : QByteArray();
     if ( mediaType.isEmpty() )
         return false;
-    m_device.write( QByteArray( "<img class=\"" ) + a_class +
-                    "\" alt=\"\" loading=\"lazy\" decoding=\"async\" src=\"data:" + mediaType + ";base64," );
+    m_device.write( QByteArray( "<img class=\"" ) + a_class + R"(" alt="" loading="lazy" decoding="async" src="data:)" +
+                    mediaType + ";base64," );
     m_device.write( picture->m_bytes.toBase64() );
     m_device.write( "\">" );
     return true;

@@ -35,7 +35,7 @@ public:
     QString Reason() const;
 
     /// \return the bytes of a regular file; 0 when they cannot be told beforehand.
-    qint64 Size() const { return m_size; }
+    qint64 FileSize() const { return m_size; }
 
     /// \return the bytes read so far.
     qint64 BytesRead() const { return m_bytesRead; }

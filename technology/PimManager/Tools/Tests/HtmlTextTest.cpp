@@ -20,7 +20,7 @@ TEST( HtmlTextTest, NothingOfATextIsMarkup )
         { "&lt;", "&amp;lt;" },
         { "]]> --><!--", "]]&gt; --&gt;&lt;!--" },
         { "a\nb", "a\nb" },
-        { "\x1B\x01\r", "\\x1b\\x01\\r" },
+        { "\x1B\x01\r", R"(\x1b\x01\r)" },
         { "\xE2\x80\xAE", "\\u202e" },
         { "月 é", "月 é" },
     };

@@ -15,7 +15,7 @@ TEST( InputDeviceTest, BytesComeInOrderToTheEnd )
     const Folder folder;
     const QByteArray bytes = QByteArray( "\0\xFF\r\n", 4 ).repeated( 100000 );
     InputDevice input( folder.Write( "book", bytes ) );
-    EXPECT_EQ( input.Size(), bytes.size() );
+    EXPECT_EQ( input.FileSize(), bytes.size() );
     int reads = 0;
     input.SetReadHandler( [&reads] { ++reads; } );
     QByteArray taken;
@@ -62,7 +62,7 @@ TEST( InputDeviceTest, CtrlCEndsTheBytesOfAnOpenPipe )
     {
         const Interrupt interrupt;
         InputDevice input( "/proc/self/fd/" + QByteArray::number( ends[0] ) );
-        EXPECT_EQ( input.Size(), 0 );
+        EXPECT_EQ( input.FileSize(), 0 );
         EXPECT_EQ( input.read( 10 ).toStdString(), "abc" );
         EXPECT_FALSE( Interrupt::IsRequested() );
         raise( SIGINT );

@@ -53,7 +53,7 @@ QByteArray HostileBook()
 {
     const QByteArray text = HostileText();
     QByteArray lines =
-        "VERSION:3.0\r\n" + PhotoLine( "<svg xmlns=\"http://www.w3.org/2000/svg\" onload=\"document.title='run'\"/>",
+        "VERSION:3.0\r\n" + PhotoLine( R"(<svg xmlns="http://www.w3.org/2000/svg" onload="document.title='run'"/>)",
                                        "PHOTO;ENCODING=b;TYPE=\"SVG+XML\"" );
     for ( const char* name : { "FN", "ORG", "TITLE", "TEL", "EMAIL", "ADR", "NOTE", "X-A", "item1.TEL",
                                "item1.X-ABLabel", "TEL;TYPE=\"<img src=x onerror=document.title=1>\"" } )

@@ -5,6 +5,7 @@
 #include <QCryptographicHash>
 #include <QString>
 
+#include <array>
 #include <utility>
 
 namespace PimManager::vCardImport
@@ -92,30 +93,31 @@ QByteArray DumpOf( const PimVCardPosition& a_position )
 
 QByteArray DumpOf( const PimVCardImportAccount& a_account )
 {
-    const std::pair<const char*, qint64> counts[] = {
-        { "bytes", a_account.m_bytes },
-        { "begin", a_account.m_beginLines },
-        { "whole", a_account.m_cardsWhole },
-        { "part", a_account.m_cardsInPart },
-        { "refused", a_account.m_cardsRefused },
-        { "nested", a_account.m_cardsNested },
-        { "lines", a_account.m_lines },
-        { "delivered", a_account.m_linesDelivered },
-        { "boundary", a_account.m_linesBoundary },
-        { "dropped", a_account.m_linesDropped },
-        { "of refused", a_account.m_linesRefused },
-        { "filtered", a_account.m_linesFiltered },
-        { "blank", a_account.m_linesBlank },
-        { "outside", a_account.m_linesOutside },
-        { "crlf", a_account.m_crLfs },
-        { "lf", a_account.m_lfs },
-        { "cr", a_account.m_crs },
-        { "crcrlf", a_account.m_crCrLfs },
-        { "replaced", a_account.m_charactersReplaced },
-        { "2.1", a_account.m_version21 },
-        { "3.0", a_account.m_version30 },
-        { "4.0", a_account.m_version40 },
-        { "other", a_account.m_versionOther },
+    using Count = std::pair<const char*, qint64>;
+    const std::array counts = {
+        Count{ "bytes", a_account.m_bytes },
+        Count{ "begin", a_account.m_beginLines },
+        Count{ "whole", a_account.m_cardsWhole },
+        Count{ "part", a_account.m_cardsInPart },
+        Count{ "refused", a_account.m_cardsRefused },
+        Count{ "nested", a_account.m_cardsNested },
+        Count{ "lines", a_account.m_lines },
+        Count{ "delivered", a_account.m_linesDelivered },
+        Count{ "boundary", a_account.m_linesBoundary },
+        Count{ "dropped", a_account.m_linesDropped },
+        Count{ "of refused", a_account.m_linesRefused },
+        Count{ "filtered", a_account.m_linesFiltered },
+        Count{ "blank", a_account.m_linesBlank },
+        Count{ "outside", a_account.m_linesOutside },
+        Count{ "crlf", a_account.m_crLfs },
+        Count{ "lf", a_account.m_lfs },
+        Count{ "cr", a_account.m_crs },
+        Count{ "crcrlf", a_account.m_crCrLfs },
+        Count{ "replaced", a_account.m_charactersReplaced },
+        Count{ "2.1", a_account.m_version21 },
+        Count{ "3.0", a_account.m_version30 },
+        Count{ "4.0", a_account.m_version40 },
+        Count{ "other", a_account.m_versionOther },
     };
     QByteArray text = "account " + a_account.m_charset + " by evidence " +
                       QByteArray::number( static_cast<int>( a_account.m_evidence ) );

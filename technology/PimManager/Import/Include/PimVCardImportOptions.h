@@ -22,11 +22,11 @@ namespace PimManager::vCardImport
 struct PimVCardImportLimits
 {
     /// Bytes of one content line with its continuation lines, line ends not counted.
-    qint64 m_lineBytes = 16 * 1024 * 1024;
+    qint64 m_lineBytes = qint64( 16 ) * 1024 * 1024;
     /// Bytes of what stands behind the colon of one content line.
-    qint64 m_valueBytes = 16 * 1024 * 1024;
+    qint64 m_valueBytes = qint64( 16 ) * 1024 * 1024;
     /// Bytes of one card with its line ends. While a longer card is skipped, none of it is held in memory.
-    qint64 m_cardBytes = 32 * 1024 * 1024;
+    qint64 m_cardBytes = qint64( 32 ) * 1024 * 1024;
     /// How deep a card may lie in another one: 1 is an AGENT in a card.
     int m_nesting = 8;
     /// Diagnostics kept in the account; the rest is only counted there, and told to the handler.

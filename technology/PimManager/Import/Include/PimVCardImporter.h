@@ -70,8 +70,8 @@ struct PimVCardImportResult
 /// **Handlers** are called from inside Import(), Feed() and Finish(), on the caller's thread, in the order of the file.
 /// They must not use the importer.
 ///
-/// **Memory** grows with the largest card, not with the file: about six times the bytes of a card with a picture, and up
-/// to fifty times those of a card of very short lines. The form that returns all cards holds all cards.
+/// **Memory** grows with the largest card, not with the file: about six times the bytes of a card with a picture, and
+/// up to fifty times those of a card of very short lines. The form that returns all cards holds all cards.
 ///
 /// **Log.** Import writes nothing of a card to Qt's log.
 ///

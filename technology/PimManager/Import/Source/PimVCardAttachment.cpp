@@ -76,7 +76,7 @@ QString TypeOfCard( const PimVCardProperty& a_property )
     const QStringList words = ParameterValuesOf( a_property, "MEDIATYPE" ) + TypesOf( a_property );
     for ( const QString& word : words )
     {
-        const QString type = WellFormedType( word.section( QLatin1Char( ';' ), 0, 0 ) );
+        QString type = WellFormedType( word.section( QLatin1Char( ';' ), 0, 0 ) );
         if ( !type.isEmpty() )
             return type;
     }

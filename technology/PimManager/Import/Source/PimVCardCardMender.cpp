@@ -306,7 +306,7 @@ QByteArray PimVCardCardMender::WithoutControls( const PimVCardLogicalLine& a_lin
     const auto bad = std::count_if( text.cbegin(), text.cend(), IsUnwanted );
     if ( bad > 0 )
     {
-        const auto first = std::find_if( text.cbegin(), text.cend(), IsUnwanted );
+        const auto* const first = std::find_if( text.cbegin(), text.cend(), IsUnwanted );
         Report( Code::ControlCharacters, a_line, static_cast<int>( first - text.cbegin() ), bad );
         while ( !text.isEmpty() && IsUnwanted( text.at( text.size() - 1 ) ) )
             text.chop( 1 );

@@ -290,9 +290,16 @@ bool PimVCardCleanLines::TakeValue( std::string_view a_text )
             return false;
         }
     }
+    return MayEndIn( a_text );
+}
+
+// What a line that ends in "=" means to the component.
+bool PimVCardCleanLines::MayEndIn( std::string_view a_text )
+{
     m_endsInEquals = !a_text.empty() && a_text.back() == '=';
     const bool isQuotedPrintable = m_encoding == PimVCardEncoding::QuotedPrintable;
     m_isSoftBreakOpen = isQuotedPrintable && m_endsInEquals;
+    const bool isBase64 = m_encoding == PimVCardEncoding::Base64 && m_isEncodingNamed;
     if ( !m_endsInEquals || isBase64 )
         return true;
     const std::string_view encodedBreak = "=0D=0A=";

@@ -43,6 +43,7 @@ private:
     bool TakeContinuation( std::string_view a_line );
     bool TakeNewLine( std::string_view a_line );
     bool TakeValue( std::string_view a_text );
+    bool MayEndIn( std::string_view a_text );
 
     // A value is open, and an indented line goes on with it.
     bool m_isOpen = false;

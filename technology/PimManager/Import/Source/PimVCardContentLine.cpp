@@ -115,7 +115,7 @@ private:
 
     QString ReadElement( std::string_view a_element )
     {
-        const QString text = TextOfUtf8( a_element );
+        QString text = TextOfUtf8( a_element );
         if ( m_isOdd || KindOf( a_element ) == ElementKind::Clean )
             return text;
         m_isMended = true;

@@ -3,8 +3,8 @@
 //   keep FILE [SNAPSHOT]  parses once, keeps the cards, tells their number and the most memory that the process had at
 //                         once; ends without deleting the cards. Under massif, the heap with nothing but the cards in
 //                         it is written to the file SNAPSHOT.
-//   heap FILE             parses once, drops text and parser, and tells the number of the cards and how many bytes of heap
-//                         they take, with what the allocator adds.
+//   heap FILE             parses once, drops text and parser, and tells the number of the cards and how many bytes they
+//                         take on the heap, with what the allocator adds.
 //   drop FILE TIMES       parses that many times, each time with a new parser, and deletes the cards.
 
 #include "PimVCard.h"

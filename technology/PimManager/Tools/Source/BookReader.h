@@ -10,8 +10,8 @@ namespace PimManager::vCard::Tools
 {
 
 /// The most bytes that are read from one file. The parser works on the whole text at once, and Qt's texts end at 2 GB,
-/// of which its way to UTF-8 wants three bytes for each character. Where addresses have 32 bits, the text and the cards,
-/// which take up to 28 bytes for each byte of it, must fit in 3 GB together.
+/// of which its way to UTF-8 wants three bytes for each character. Where addresses have 32 bits, the text and the
+/// cards, which take up to 28 bytes for each byte of it, must fit in 3 GB together.
 constexpr qint64 s_kLargestBook = sizeof( void* ) < 8 ? 100'000'000 : 700'000'000;
 
 /// A file that was read, or the reason why it was not.

@@ -5,6 +5,7 @@
 function(pimvcard_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 test "" "" "LIBRARIES;SOURCES;SLOW")
   add_executable(${name} ${name}.cpp ${test_SOURCES})
+  pimvcard_optimise_test(${name})
   pimvcard_configure_product(${name})
   target_link_libraries(${name} PRIVATE PimManager::vCard pimvcard-test-main ${test_LIBRARIES})
   if(PIMVCARD_PRECOMPILED_HEADERS)
@@ -25,5 +26,12 @@ function(pimvcard_add_test name)
   if(slow)
     gtest_discover_tests(${name} TEST_FILTER "${slow}" NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
                          PROPERTIES LABELS slow TIMEOUT 300)
+  endif()
+endfunction()
+
+# Under an emulator much optimisation of the tests costs more time than it saves; the component keeps its own.
+function(pimvcard_optimise_test target)
+  if(CMAKE_CROSSCOMPILING)
+    target_compile_options(${target} PRIVATE -O1)
   endif()
 endfunction()

@@ -55,8 +55,7 @@ public:
     ///               as U+FFFD, a byte order mark at the start is swallowed. The array is shared, not kept waiting for:
     ///               the caller may drop or change it at once, unless it was made with QByteArray::fromRawData(), when
     ///               its bytes must live until the constructor returns.
-    /// \pre the text has at most 700,000,000 bytes where addresses have 64 bits, and 100,000,000 where they have 32:
-    /// Qt's
+    /// \pre the text has at most 700,000,000 bytes where addresses have 64 bits, 100,000,000 where they have 32. Qt's
     ///      texts end at 2 GB, and text and cards must fit in the process together. Nothing checks it here.
     explicit PimVCardParser( const QByteArray& a_data );
     virtual ~PimVCardParser();

@@ -51,6 +51,19 @@ Kind KindOf( const Kinds& a_kinds, char a_byte )
     return a_kinds[static_cast<unsigned char>( a_byte )];
 }
 
+// Four at a time: a photo is thousands of bytes.
+const char* EndOfPlain( const Kinds& a_kinds, const char* a_begin, const char* a_end )
+{
+    const auto isPlain = [&a_kinds]( char a_byte ) { return KindOf( a_kinds, a_byte ) == Kind::Plain; };
+    const char* place = a_begin;
+    while ( a_end - place >= 4 && isPlain( place[0] ) && isPlain( place[1] ) && isPlain( place[2] ) &&
+            isPlain( place[3] ) )
+        place += 4;
+    while ( place != a_end && isPlain( *place ) )
+        ++place;
+    return place;
+}
+
 // What the component does not keep as it is: a byte order mark, and what it takes for a line break.
 bool IsKept( std::string_view a_character )
 {
@@ -258,8 +271,7 @@ bool PimVCardCleanLines::TakeValue( std::string_view a_text )
                 return false;
             m_isEscaped = false;
         }
-        while ( place != end && KindOf( kinds, *place ) == Kind::Plain )
-            ++place;
+        place = EndOfPlain( kinds, place, end );
         if ( place != run )
             m_isAtStart = false;
         if ( place == end )

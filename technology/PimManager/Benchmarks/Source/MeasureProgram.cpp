@@ -74,7 +74,7 @@ int Keep( const char* a_file, const char* a_snapshot )
 qint64 HeapInUse()
 {
     const struct mallinfo2 info = mallinfo2();
-    return static_cast<qint64>( info.uordblks + info.hblkhd );
+    return static_cast<qint64>( info.uordblks ) + static_cast<qint64>( info.hblkhd );
 }
 
 // The first text warms up what a thread keeps.

@@ -169,7 +169,7 @@ void PimVCardImportRun::RefuseCard( const PimVCardRawCard& a_card )
     m_reporter.Reject( { PimVCardDiagnosticCode::TooManyCards, a_card.m_index, a_card.Position(), a_card.m_bytes } );
 }
 
-bool PimVCardImportRun::DeliverCard( PimVCardImportedCard a_card )
+bool PimVCardImportRun::DeliverCard( PimVCardImportedCard a_card ) const
 {
     return m_handlers.m_card == nullptr || m_handlers.m_card( std::move( a_card ) );
 }

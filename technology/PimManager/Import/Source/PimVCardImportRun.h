@@ -41,7 +41,7 @@ private:
     void TakeCard( PimVCardRawCard& a_card );
     bool IsWithinLimits( const PimVCardRawCard& a_card ) const;
     void RefuseCard( const PimVCardRawCard& a_card );
-    bool DeliverCard( PimVCardImportedCard a_card );
+    bool DeliverCard( PimVCardImportedCard a_card ) const;
     bool IsStopped() const { return m_parser.IsStopped(); }
 
     PimVCardImportOptions m_options;

@@ -12,7 +12,7 @@ namespace PimManager::vCardImport
 namespace
 {
 
-constexpr qint64 s_kDevicePiece = 64 * 1024;
+constexpr qint64 s_kDevicePiece = 0x10000;
 
 } // namespace
 

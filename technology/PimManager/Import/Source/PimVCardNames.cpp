@@ -2,6 +2,8 @@
 
 #include <QList>
 
+#include <array>
+
 namespace PimManager::vCardImport
 {
 
@@ -96,14 +98,18 @@ QString AddressTextOf( const PimVCardProperty& a_property )
 
 QString DisplayNameOf( const PimVCard& a_card )
 {
-    static constexpr Source s_kSources[] = { { "FN", LineOf },          { "N", SpokenNameOf }, { "NICKNAME", LineOf },
-                                             { "ORG", OrganisationOf }, { "EMAIL", MailOf },   { "TEL", NumberOf } };
+    static constexpr std::array<Source, 6> s_kSources = { { { "FN", LineOf },
+                                                            { "N", SpokenNameOf },
+                                                            { "NICKNAME", LineOf },
+                                                            { "ORG", OrganisationOf },
+                                                            { "EMAIL", MailOf },
+                                                            { "TEL", NumberOf } } };
     const QList<PimVCardProperty*> properties = a_card.GetProperties();
     for ( const Source& source : s_kSources )
     {
         for ( const PimVCardProperty* property : properties )
         {
-            const QString name = IsNamed( *property, source.m_name ) ? source.m_read( *property ) : QString();
+            QString name = IsNamed( *property, source.m_name ) ? source.m_read( *property ) : QString();
             if ( !name.isEmpty() )
                 return name;
         }

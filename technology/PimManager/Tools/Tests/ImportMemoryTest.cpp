@@ -22,7 +22,7 @@ long MostUsed()
 
 QByteArray WriteBook( const Folder& a_folder, const QByteArray& a_name, int a_cards )
 {
-    const QByteArray path = a_folder.Write( a_name, "" );
+    QByteArray path = a_folder.Write( a_name, "" );
     QFile file( QFile::decodeName( path ) );
     EXPECT_TRUE( file.open( QIODevice::WriteOnly ) );
     const QByteArray card = CardText( "VERSION:3.0\r\nFN:Nell\r\nNOTE:" + QByteArray( 500, 'x' ) + "\\n\r\n" +

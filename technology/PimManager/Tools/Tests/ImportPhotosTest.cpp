@@ -69,7 +69,7 @@ TEST( ImportPhotosTest, NoFileLeavesTheFolderWhateverTheName )
     EXPECT_EQ(
         QDir( QFile::decodeName( photos ) ).entryList( QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden ).size(),
         12 );
-    EXPECT_EQ( FilesIn( folder.Path( "a" ) ).find( "\n" ), 1U ) << "the folder of the pictures comes first";
+    EXPECT_EQ( FilesIn( folder.Path( "a" ) ).find( '\n' ), 1U ) << "the folder of the pictures comes first";
     EXPECT_EQ( QByteArray::fromStdString( FilesIn( folder.Path( "" ) ) ).count( '\n' ), 14 );
     EXPECT_TRUE( IsHarmless( FilesIn( photos ) ) );
 }

@@ -117,9 +117,8 @@ PimVCardCardMender::PimVCardCardMender( PimVCardReporter& a_reporter, const PimV
 
 PimVCardMendedCard PimVCardCardMender::Mend( const PimVCardRawCard& a_card )
 {
-    const PimVCardLogicalLines lines = PimVCardLogicalLines::Of( a_card );
     m_card = &a_card;
-    m_lines = &lines;
+    m_lines = PimVCardLogicalLines::Of( a_card );
     m_mended = PimVCardMendedCard();
     m_mended.m_index = a_card.m_index;
     m_mended.m_position = a_card.Position();
@@ -133,13 +132,14 @@ PimVCardMendedCard PimVCardCardMender::Mend( const PimVCardRawCard& a_card )
     ReportBounds();
     DecideCharset();
     std::vector<Fate> fates;
-    for ( const PimVCardLogicalLine& line : lines.m_lines )
+    for ( const PimVCardLogicalLine& line : m_lines.m_lines )
         fates.push_back( MendLine( line ) );
     m_mended.m_text += "END:VCARD\r\n";
     if ( m_replaced > 0 )
         m_reporter.Report( Code::CharactersReplaced, a_card.m_index, a_card.Position(), m_replaced );
     m_reporter.Account().m_charactersReplaced += m_replaced;
-    Count( lines, fates );
+    Count( fates );
+    m_lines = PimVCardLogicalLines();
     return std::move( m_mended );
 }
 
@@ -152,13 +152,13 @@ void PimVCardCardMender::ReportBounds()
         const std::string_view text = m_card->TextOf( m_card->m_lines[static_cast<size_t>( a_index )] );
         return !PimVCardCleanLines::IsCleanBoundary( text );
     };
-    if ( m_lines->m_isIndented )
+    if ( m_lines.m_isIndented )
         report( Code::IndentedCard, m_card->Position() );
     else if ( isMended( 0 ) )
         report( Code::BoundaryLine, m_card->Position() );
     if ( !m_card->HasEnd() )
         report( Code::MissingEnd, m_card->Position() );
-    else if ( !m_lines->m_isIndented && isMended( m_card->m_endLine ) )
+    else if ( !m_lines.m_isIndented && isMended( m_card->m_endLine ) )
         report( Code::BoundaryLine, m_card->m_lines[static_cast<size_t>( m_card->m_endLine )].m_position );
     if ( m_card->m_nestedCards > 0 )
         report( Code::NestedCard, m_card->Position() );
@@ -170,7 +170,7 @@ void PimVCardCardMender::DecideCharset()
     m_cardCodec = nullptr;
     bool isAscii = true;
     m_isUtf8 = true;
-    for ( const PimVCardLogicalLine& line : m_lines->m_lines )
+    for ( const PimVCardLogicalLine& line : m_lines.m_lines )
     {
         for ( const QByteArray* text : { &line.m_text, &line.m_nested } )
         {
@@ -186,7 +186,7 @@ void PimVCardCardMender::DecideCharset()
             account.m_evidence = PimVCardEvidence::ValidUtf8;
         return;
     }
-    for ( const PimVCardLogicalLine& line : m_lines->m_lines )
+    for ( const PimVCardLogicalLine& line : m_lines.m_lines )
     {
         if ( m_cardCodec == nullptr )
             m_cardCodec = CodecNamedIn( line.m_text );
@@ -410,8 +410,8 @@ void PimVCardCardMender::Drop( const PimVCardLogicalLine& a_line, Code a_code )
 QByteArray PimVCardCardMender::RawBytesOf( const PimVCardLogicalLine& a_line ) const
 {
     QByteArray bytes;
-    const int owner = static_cast<int>( &a_line - m_lines->m_lines.data() );
-    const std::vector<int>& owners = m_lines->m_owners;
+    const int owner = static_cast<int>( &a_line - m_lines.m_lines.data() );
+    const std::vector<int>& owners = m_lines.m_owners;
     for ( auto i = static_cast<size_t>( a_line.m_pieces.front().m_line ); i < owners.size(); ++i )
     {
         if ( owners[i] == owner )
@@ -440,13 +440,13 @@ qint64& PimVCardCardMender::CounterOf( Fate a_fate )
     }
 }
 
-void PimVCardCardMender::Count( const PimVCardLogicalLines& a_lines, const std::vector<Fate>& a_fates )
+void PimVCardCardMender::Count( const std::vector<Fate>& a_fates )
 {
     std::vector<qint64> linesOf( a_fates.size(), 0 );
     PimVCardCardCounts& counts = m_mended.m_counts;
-    for ( size_t i = 0; i < a_lines.m_owners.size(); ++i )
+    for ( size_t i = 0; i < m_lines.m_owners.size(); ++i )
     {
-        const int owner = a_lines.m_owners[i];
+        const int owner = m_lines.m_owners[i];
         if ( !m_card->m_lines[i].m_isCounted )
             continue;
         if ( owner == PimVCardLogicalLines::s_kBoundary )

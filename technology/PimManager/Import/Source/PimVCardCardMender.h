@@ -48,7 +48,7 @@ private:
     void Drop( const PimVCardLogicalLine& a_line, Code a_code );
     QByteArray RawBytesOf( const PimVCardLogicalLine& a_line ) const;
     void Report( Code a_code, const PimVCardLogicalLine& a_line, int a_place = 0, qint64 a_count = 1 );
-    void Count( const PimVCardLogicalLines& a_lines, const std::vector<Fate>& a_fates );
+    void Count( const std::vector<Fate>& a_fates );
     qint64& CounterOf( Fate a_fate );
 
     PimVCardReporter& m_reporter;
@@ -56,7 +56,7 @@ private:
 
     // The card at work.
     const PimVCardRawCard* m_card = nullptr;
-    const PimVCardLogicalLines* m_lines = nullptr;
+    PimVCardLogicalLines m_lines;
     PimVCardMendedCard m_mended;
     QTextCodec* m_cardCodec = nullptr;
     bool m_isUtf8 = true;

@@ -311,9 +311,9 @@ bool PimVCardCleanLines::MayEndIn( std::string_view a_text )
     m_endsInEquals = !a_text.empty() && a_text.back() == '=';
     const bool isQuotedPrintable = m_encoding == PimVCardEncoding::QuotedPrintable;
     m_isSoftBreakOpen = isQuotedPrintable && m_endsInEquals;
-    const bool isBase64 = m_encoding == PimVCardEncoding::Base64 && m_isEncodingNamed;
-    if ( !m_endsInEquals || isBase64 )
+    if ( !m_endsInEquals )
         return true;
+    // An encoded line break before a line end is taken for a blank, whatever the encoding.
     const std::string_view encodedBreak = "=0D=0A=";
     const bool isBreakEncoded =
         a_text.size() >= encodedBreak.size() && a_text.substr( a_text.size() - encodedBreak.size() ) == encodedBreak;

@@ -98,6 +98,7 @@ constexpr Row s_kBase64[] = {
     { "BareLetter", "LOGO;B;GIF:AAAA\r\nBBBB\r\n", "|LOGO|[=B][=GIF]<AAAABBBB>\n", "base64-lines " },
     { "Blanks", "LOGO;ENCODING=b:AA AA\r\n", "|LOGO|[ENCODING=b]<AAAA>\n", "base64-lines " },
     { "SomethingElse", "LOGO;ENCODING=b:http://x\r\n", "|LOGO|[ENCODING=b]<http://x>\n", "" },
+    { "EncodedBreak", "LOGO;ENCODING=b:=0D=0A=\r\nTEL:1\r\n", "|LOGO|[ENCODING=b]<=0D=0A=>\n|TEL|<1>\n", "" },
 };
 
 constexpr Row s_kParameters[] = {

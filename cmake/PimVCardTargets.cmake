@@ -1,7 +1,9 @@
 # What every target of this project is compiled with.
 function(pimvcard_configure target)
-  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
-                                           -Wold-style-cast)
+  if(PimManagerVCard_IS_TOP_LEVEL)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
+                                             -Wold-style-cast)
+  endif()
   if(PIMVCARD_WARNINGS_AS_ERRORS)
     target_compile_options(${target} PRIVATE -Werror)
   endif()
@@ -29,5 +31,24 @@ function(pimvcard_precompile target)
   if(PIMVCARD_PRECOMPILED_HEADERS)
     target_precompile_headers(${target} PRIVATE <QByteArray> <QList> <QString> <QStringList> <algorithm> <array>
                               <functional> <memory> <string> <string_view> <vector>)
+  endif()
+endfunction()
+
+# pimvcard_configure_library(TARGET NAME): a library that is installed, as PimManager::NAME, with its headers in Include.
+# A shared one shows only what is marked with PIMVCARD_EXPORT.
+function(pimvcard_configure_library target name)
+  pimvcard_configure_product(${target})
+  add_library(PimManager::${name} ALIAS ${target})
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/Include> PRIVATE Source)
+  target_compile_features(${target} PUBLIC cxx_std_17)
+  set_target_properties(${target} PROPERTIES
+    EXPORT_NAME ${name}
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PIMVCARD_SOVERSION}
+    DEFINE_SYMBOL ""
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON)
+  if(PIMVCARD_INSTALL)
+    pimvcard_install_library(${target} ${name})
   endif()
 endfunction()

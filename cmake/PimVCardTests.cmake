@@ -35,3 +35,13 @@ function(pimvcard_optimise_test target)
     target_compile_options(${target} PRIVATE -O1)
   endif()
 endfunction()
+
+# Does a shared library show what the list of its symbols says? Counters and sanitizers add some of their own.
+function(pimvcard_add_symbols_test library)
+  if(BUILD_SHARED_LIBS AND NOT PIMVCARD_COVERAGE AND NOT PIMVCARD_SANITIZERS)
+    add_test(NAME SymbolsTest.LibraryShowsWhatTheListSays/${library}
+             COMMAND ${PROJECT_SOURCE_DIR}/scripts/symbols $<TARGET_FILE:${library}>
+                     ${PROJECT_SOURCE_DIR}/packaging/abi/lib${library}.symbols)
+    set_tests_properties(SymbolsTest.LibraryShowsWhatTheListSays/${library} PROPERTIES LABELS symbols TIMEOUT 60)
+  endif()
+endfunction()

@@ -12,6 +12,7 @@
 #pragma once
 
 #include "PimVCard.h"
+#include "PimVCardExport.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -88,65 +89,65 @@ struct PimVCardCall
 
 /// \param a_name in ASCII, compared in any letter case.
 /// \return true if the property has this name.
-bool IsNamed( const vCard::PimVCardProperty& a_property, const char* a_name );
+PIMVCARD_EXPORT bool IsNamed( const vCard::PimVCardProperty& a_property, const char* a_name );
 
 /// \return the first property of this name in the order of the card, null if there is none. It belongs to the card.
-const vCard::PimVCardProperty* FindProperty( const vCard::PimVCard& a_card, const char* a_name );
+PIMVCARD_EXPORT const vCard::PimVCardProperty* FindProperty( const vCard::PimVCard& a_card, const char* a_name );
 
 /// \return the encoding: `ENCODING=` with QUOTED-PRINTABLE, BASE64 or B, quoted or not, or one of these words bare.
-PimVCardEncoding EncodingOf( const vCard::PimVCardProperty& a_property );
+PIMVCARD_EXPORT PimVCardEncoding EncodingOf( const vCard::PimVCardProperty& a_property );
 
 /// \return the values of all parameters of this name, lists split at their commas, without quotes, and with `^n`, `^'`
 ///         and `^^` decoded (RFC 6868). For `TEL;TYPE="home,cell";TYPE=voice` and TYPE: home, cell, voice.
 /// \param a_name in ASCII, compared in any letter case; empty for bare words.
-QStringList ParameterValuesOf( const vCard::PimVCardProperty& a_property, const char* a_name );
+PIMVCARD_EXPORT QStringList ParameterValuesOf( const vCard::PimVCardProperty& a_property, const char* a_name );
 
 /// \return the first of them, empty if there is none. For ALTID, LANGUAGE, MEDIATYPE and the like.
-QString ParameterValueOf( const vCard::PimVCardProperty& a_property, const char* a_name );
+PIMVCARD_EXPORT QString ParameterValueOf( const vCard::PimVCardProperty& a_property, const char* a_name );
 
 /// \return the words of TYPE and the bare words, in upper case, each once, in the order of the line, without PREF, and
 ///         without words that say how the value is written: encodings, and the values of VALUE and CHARSET.
-QStringList TypesOf( const vCard::PimVCardProperty& a_property );
+PIMVCARD_EXPORT QStringList TypesOf( const vCard::PimVCardProperty& a_property );
 
 /// \return the preference from 1 (most) to 100: that of PREF= (RFC 6350, section 5.3), 1 for the word PREF, 0 for none.
-int PreferenceOf( const vCard::PimVCardProperty& a_property );
+PIMVCARD_EXPORT int PreferenceOf( const vCard::PimVCardProperty& a_property );
 
 /// \return the values as text: QUOTED-PRINTABLE decoded, in the character set of CHARSET, in UTF-8 without one; where
 ///         that does not fit the bytes, in Windows-1252. Line ends become line feeds. BASE64 that holds text is decoded
 ///         too when the property is not a picture, sound or key. As many elements as the property has values.
-QStringList TextsOf( const vCard::PimVCardProperty& a_property );
+PIMVCARD_EXPORT QStringList TextsOf( const vCard::PimVCardProperty& a_property );
 
 /// \return TextsOf() joined by semicolons: the text of a property that has one value, such as NOTE.
-QString TextOf( const vCard::PimVCardProperty& a_property );
+PIMVCARD_EXPORT QString TextOf( const vCard::PimVCardProperty& a_property );
 
 /// \return the parts of an N property.
-PimVCardName NameOf( const vCard::PimVCardProperty& a_property );
+PIMVCARD_EXPORT PimVCardName NameOf( const vCard::PimVCardProperty& a_property );
 
 /// \return the parts of an ADR property.
-PimVCardAddress AddressOf( const vCard::PimVCardProperty& a_property );
+PIMVCARD_EXPORT PimVCardAddress AddressOf( const vCard::PimVCardProperty& a_property );
 
 /// \return the parts of an ADR property as lines for people, without empty ones.
-QString AddressTextOf( const vCard::PimVCardProperty& a_property );
+PIMVCARD_EXPORT QString AddressTextOf( const vCard::PimVCardProperty& a_property );
 
 /// \return what a contact list shows: FN; else the parts of N in the order of speech; else NICKNAME, ORG, an EMAIL, a
 ///         TEL, in this order. Empty when the card has none of these. Blanks at both ends are taken away.
-QString DisplayNameOf( const vCard::PimVCard& a_card );
+PIMVCARD_EXPORT QString DisplayNameOf( const vCard::PimVCard& a_card );
 
 /// \return the number without `tel:` and its parameters, percent-decoded (RFC 3966); any other value as TextOf().
-QString TelephoneNumberOf( const vCard::PimVCardProperty& a_property );
+PIMVCARD_EXPORT QString TelephoneNumberOf( const vCard::PimVCardProperty& a_property );
 
 /// \return the address without `mailto:`, percent-decoded; any other value as TextOf().
-QString MailAddressOf( const vCard::PimVCardProperty& a_property );
+PIMVCARD_EXPORT QString MailAddressOf( const vCard::PimVCardProperty& a_property );
 
 /// \return the picture, sound or key of a property: BASE64, a `data:` URI, or an address. What cannot be decoded gives
 ///         no bytes. Linear in the length of the value.
-PimVCardAttachment AttachmentOf( const vCard::PimVCardProperty& a_property );
+PIMVCARD_EXPORT PimVCardAttachment AttachmentOf( const vCard::PimVCardProperty& a_property );
 
 /// \return the label that X-ABLabel gives to the group of a property, `_$!<` and `>!$_` round it taken away; empty
 ///         when the property has no group or the group no label. Linear in the number of properties.
-QString LabelOf( const vCard::PimVCard& a_card, const vCard::PimVCardProperty& a_property );
+PIMVCARD_EXPORT QString LabelOf( const vCard::PimVCard& a_card, const vCard::PimVCardProperty& a_property );
 
 /// \return the entry when the property is an X-IRMC-CALL-DATETIME, else nothing.
-std::optional<PimVCardCall> CallOf( const vCard::PimVCardProperty& a_property );
+PIMVCARD_EXPORT std::optional<PimVCardCall> CallOf( const vCard::PimVCardProperty& a_property );
 
 } // namespace PimManager::vCardImport

@@ -8,6 +8,8 @@
 
 #pragma once
 
+#include "PimVCardExport.h"
+
 #include <QLatin1String>
 #include <QString>
 #include <QtGlobal>
@@ -26,7 +28,7 @@ struct PimVCardPosition
     qint64 m_offset = 0;
 };
 
-bool operator==( const PimVCardPosition& a_first, const PimVCardPosition& a_second );
+PIMVCARD_EXPORT bool operator==( const PimVCardPosition& a_first, const PimVCardPosition& a_second );
 
 /// How much it matters, the least first.
 enum class PimVCardSeverity
@@ -101,19 +103,19 @@ struct PimVCardDiagnostic
     qint64 m_count = 1;
 };
 
-bool operator==( const PimVCardDiagnostic& a_first, const PimVCardDiagnostic& a_second );
+PIMVCARD_EXPORT bool operator==( const PimVCardDiagnostic& a_first, const PimVCardDiagnostic& a_second );
 
 /// \return a fixed English sentence without a full stop, such as `the last line has no line end`; with the count in it
 ///         where the code counts. It holds nothing of the file's text.
-QString TextOf( const PimVCardDiagnostic& a_diagnostic );
+PIMVCARD_EXPORT QString TextOf( const PimVCardDiagnostic& a_diagnostic );
 
 /// \return a fixed word in ASCII, such as `last-line-end`; never changes, so programs can rely on it.
-QLatin1String NameOf( PimVCardDiagnosticCode a_code );
+PIMVCARD_EXPORT QLatin1String NameOf( PimVCardDiagnosticCode a_code );
 
 /// \return `note`, `repaired`, `dropped` or `refused`.
-QLatin1String NameOf( PimVCardSeverity a_severity );
+PIMVCARD_EXPORT QLatin1String NameOf( PimVCardSeverity a_severity );
 
 /// \return how much a finding of this code matters; each code has one severity.
-PimVCardSeverity SeverityOf( PimVCardDiagnosticCode a_code );
+PIMVCARD_EXPORT PimVCardSeverity SeverityOf( PimVCardDiagnosticCode a_code );
 
 } // namespace PimManager::vCardImport

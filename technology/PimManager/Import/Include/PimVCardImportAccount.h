@@ -9,6 +9,7 @@
 #pragma once
 
 #include "PimVCardDiagnostic.h"
+#include "PimVCardExport.h"
 
 #include <QByteArray>
 #include <QList>
@@ -31,7 +32,7 @@ enum class PimVCardEvidence
 
 /// Each BEGIN line and each physical line is counted once. The counts are valid at any time, also after an import that
 /// was stopped; AddsUp() holds whenever no card is open: after Finish(), or when an Import() has returned.
-struct PimVCardImportAccount
+struct PIMVCARD_EXPORT PimVCardImportAccount
 {
     /// Bytes read.
     qint64 m_bytes = 0;

@@ -21,6 +21,7 @@
 #pragma once
 
 #include "PimVCard.h"
+#include "PimVCardExport.h"
 #include "PimVCardImportAccount.h"
 #include "PimVCardImportOptions.h"
 
@@ -77,7 +78,7 @@ struct PimVCardImportResult
 ///
 /// **Threads.** An importer belongs to the thread that uses it; any number can work side by side. Nothing throws but
 /// what a handler or the lack of memory throws.
-class PimVCardImporter
+class PIMVCARD_EXPORT PimVCardImporter
 {
 public:
     /// Takes the card over. \return false to stop: no further card comes, the rest is not read.
@@ -140,6 +141,6 @@ private:
 /// Writes a card as text that import reads without mending anything, and that gives the same card again: UTF-8, CR LF,
 /// no folding, line feeds of a value as `\n`. It is also the way to write a card that the component would not read.
 /// \return the text from BEGIN to END. Linear in the length of the card.
-QByteArray MendedTextOf( const vCard::PimVCard& a_card );
+PIMVCARD_EXPORT QByteArray MendedTextOf( const vCard::PimVCard& a_card );
 
 } // namespace PimManager::vCardImport

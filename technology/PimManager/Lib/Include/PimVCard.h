@@ -20,6 +20,8 @@
 
 #pragma once
 
+#include "PimVCardExport.h"
+
 #include <QList>
 #include <QString>
 
@@ -27,7 +29,7 @@ namespace PimManager::vCard
 {
 
 /// One parameter of a content line, such as `TYPE=WORK` in `TEL;TYPE=WORK:5550102`.
-class PimVCardParameter
+class PIMVCARD_EXPORT PimVCardParameter
 {
 public:
     /// \param a_name  the name as written; empty for a bare parameter such as `;HOME`.
@@ -52,7 +54,7 @@ private:
 };
 
 /// One content line: group, name, parameters and values (RFC 2426, section 4).
-class PimVCardProperty
+class PIMVCARD_EXPORT PimVCardProperty
 {
 public:
     /// \param a_groupID    the group without the dot that ends it; empty for a line without a group.
@@ -97,7 +99,7 @@ private:
 };
 
 /// One vCard: the properties between its BEGIN and its END line, VERSION among them, in the order of the text.
-class PimVCard
+class PIMVCARD_EXPORT PimVCard
 {
 public:
     /// \param a_properties the properties; the card takes over the list, made with `new`, and what it points to. May be

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "PimVCardExport.h"
 #include "PimVCardTextStream.h"
 
 #include <QChar>
@@ -34,7 +35,7 @@ struct PimVCardCharacterClass;
 /// lexer.GetToken( QRegularExpression( s_kNamePattern ), false ); // "BEGIN"; m_nextChar is now ':'
 /// lexer.GetToken( QRegularExpression( s_kColonPattern ), true ); // ":"; m_nextChar is now 'V'
 /// \endcode
-class PimVCardLexer
+class PIMVCARD_EXPORT PimVCardLexer
 {
 public:
     /// Opens the text for reading, without reading any of it.

@@ -15,6 +15,7 @@
 #pragma once
 
 #include "PimVCard.h"
+#include "PimVCardExport.h"
 
 #include <QByteArray>
 #include <QList>
@@ -45,7 +46,7 @@ class PimVCardLexer;
 ///
 /// **Cost.** A text in which lines are to be joined is held as one copy in UTF-8 besides the caller's, which
 /// ParseVCards() gives back half by half; any other is shared with the caller. Time grows with the length of the text.
-class PimVCardParser
+class PIMVCARD_EXPORT PimVCardParser
 {
 public:
     /// Takes the text in and prepares it: folded lines are joined (RFC 2426, section 2.6), with all white space that

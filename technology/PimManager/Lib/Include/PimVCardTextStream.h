@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "PimVCardExport.h"
+
 #include <QByteArray>
 #include <QChar>
 #include <QString>
@@ -23,7 +25,7 @@ namespace PimManager::vCard
 /// QChar character;
 /// stream >> character; // 'F'; stream.pos() is 1
 /// \endcode
-class PimVCardTextStream : public QTextStream
+class PIMVCARD_EXPORT PimVCardTextStream : public QTextStream
 {
 public:
     /// \param a_data UTF-8 under every locale; not null, may be empty. It stays the caller's, must outlive the stream

@@ -1,7 +1,6 @@
 #include "PimVCardTranscript.h"
 
 #include "PimVCardParserInspector.h"
-#include "PimVCardPreparation.h"
 
 #include <QMessageLogContext>
 
@@ -334,7 +333,8 @@ QStringList TranscriptOf( const QByteArray& a_text, const PimVCardScannerScript&
 
 QByteArray Prepared( const QByteArray& a_text )
 {
-    return PreparedText( a_text );
+    const PimVCardParser parser( a_text );
+    return PimVCardParserInspector( parser ).Data();
 }
 
 PimVCardHeldCards ParsedCards( const QByteArray& a_text )

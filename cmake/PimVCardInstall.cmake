@@ -1,0 +1,72 @@
+# What `cmake --install` puts where. Three components: runtime is the shared libraries, devel what a program needs to be
+# compiled and linked, tools the program. Nothing of it holds the prefix, so the installed folder can be moved.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(pimvcard_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/PimManagerVCard)
+
+function(pimvcard_install_library target name)
+  set(headers ${CMAKE_INSTALL_INCLUDEDIR}/PimManager/${name})
+  install(TARGETS ${target} EXPORT PimManagerVCardTargets
+          LIBRARY COMPONENT runtime NAMELINK_COMPONENT devel
+          ARCHIVE COMPONENT devel
+          INCLUDES DESTINATION ${headers})
+  install(DIRECTORY Include/ DESTINATION ${headers} COMPONENT devel
+          FILES_MATCHING PATTERN "PimVCard*.h" PATTERN Test EXCLUDE)
+  set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
+  pimvcard_install_pkg_config_file(${target})
+endfunction()
+
+# pkg-config finds the prefix from the place of the file.
+function(pimvcard_install_pkg_config_file library)
+  set(folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+  file(RELATIVE_PATH way_to_prefix /${folder} /)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/${library}.pc.in ${PROJECT_BINARY_DIR}/${library}.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/${library}.pc DESTINATION ${folder} COMPONENT devel)
+endfunction()
+
+function(pimvcard_install_program target)
+  set(zsh_folder zsh/site-functions)
+  if(PIMVCARD_DEBIAN_PACKAGES)
+    set(zsh_folder zsh/vendor-completions)
+  endif()
+  install(TARGETS ${target} RUNTIME COMPONENT tools)
+  file(RELATIVE_PATH way_to_libraries /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
+  set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${way_to_libraries}")
+  if(EXISTS ${PROJECT_SOURCE_DIR}/docs/man/${target}.1)
+    pimvcard_install_manual(${PROJECT_SOURCE_DIR}/docs/man/${target}.1)
+  endif()
+  if(IS_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/Completion)
+    install(FILES Completion/${target}.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+            RENAME ${target} COMPONENT tools)
+    install(FILES Completion/_${target} DESTINATION ${CMAKE_INSTALL_DATADIR}/${zsh_folder} COMPONENT tools)
+  endif()
+endfunction()
+
+# pimvcard_install_compressed(FILE NAME DESTINATION COMPONENT): as Debian wants its documents.
+function(pimvcard_install_compressed file name destination component)
+  find_program(PIMVCARD_GZIP gzip REQUIRED)
+  set(compressed ${PROJECT_BINARY_DIR}/packages/${component}/${name}.gz)
+  file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/packages/${component})
+  execute_process(COMMAND ${PIMVCARD_GZIP} -9nc ${file} OUTPUT_FILE ${compressed} COMMAND_ERROR_IS_FATAL ANY)
+  install(FILES ${compressed} DESTINATION ${destination} COMPONENT ${component})
+endfunction()
+
+# pimvcard_install_manual(PAGE): a manual page of section 1.
+function(pimvcard_install_manual page)
+  if(PIMVCARD_DEBIAN_PACKAGES)
+    cmake_path(GET page FILENAME name)
+    pimvcard_install_compressed(${page} ${name} ${CMAKE_INSTALL_MANDIR}/man1 tools)
+  else()
+    install(FILES ${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+  endif()
+endfunction()
+
+function(pimvcard_install_package)
+  install(EXPORT PimManagerVCardTargets NAMESPACE PimManager:: DESTINATION ${pimvcard_package_folder} COMPONENT devel)
+  write_basic_package_version_file(${PROJECT_BINARY_DIR}/PimManagerVCardConfigVersion.cmake
+                                   COMPATIBILITY SameMajorVersion)
+  install(FILES ${PROJECT_SOURCE_DIR}/cmake/PimManagerVCardConfig.cmake
+                ${PROJECT_BINARY_DIR}/PimManagerVCardConfigVersion.cmake
+          DESTINATION ${pimvcard_package_folder} COMPONENT devel)
+endfunction()

@@ -1,0 +1,26 @@
+// Prints the names and telephone numbers of an address book: the smallest program that uses both libraries.
+#include <PimVCardDecoding.h>
+#include <PimVCardImporter.h>
+
+#include <QFile>
+#include <QTextStream>
+
+using namespace PimManager;
+
+int main( int argc, char* argv[] )
+{
+    QFile file( QString::fromLocal8Bit( argc > 1 ? argv[1] : "contacts.vcf" ) );
+    if ( !file.open( QIODevice::ReadOnly ) )
+        return 1;
+    QTextStream out( stdout );
+    out.setCodec( "UTF-8" );
+    vCardImport::PimVCardImporter importer;
+    const vCardImport::PimVCardImportResult result = importer.Import( file.readAll() );
+    for ( const vCardImport::PimVCardImportedCard& card : result.m_cards )
+    {
+        out << vCardImport::DisplayNameOf( *card.m_card ) << '\n';
+        for ( const vCard::PimVCardProperty* property : card.m_card->GetProperties() )
+            if ( vCardImport::IsNamed( *property, "TEL" ) )
+                out << "    " << vCardImport::TelephoneNumberOf( *property ) << '\n';
+    }
+}

@@ -1,0 +1,76 @@
+// phonebook-worker FILE [COUNT]: imports an address book in a thread of its own. The main thread prints contacts and
+// progress as they come; it never waits for the file. With COUNT it cancels the import when it has as many contacts.
+// The exit status is 0 at the end of the file, 3 after a cancel, 1 when the file cannot be read, 2 for wrong use.
+#include "Phonebook.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+namespace
+{
+
+QTextStream& Out()
+{
+    static QTextStream s_out( stdout );
+    return s_out;
+}
+
+void PrintContacts( const Contacts& a_contacts, int a_first, int a_count )
+{
+    for ( const Contact& contact : a_contacts.mid( a_first, a_count ) )
+        Out() << contact.m_name << ": " << contact.m_numbers.join( QStringLiteral( ", " ) ) << '\n';
+}
+
+void PrintEnd( int a_contacts, qint64 a_refused, bool a_isCancelled )
+{
+    Out() << a_contacts << " contacts, " << a_refused << " cards refused" << ( a_isCancelled ? ", cancelled" : "" )
+          << '\n';
+}
+
+void PrintWhatComes( Phonebook& a_phonebook, int a_enough )
+{
+    QObject::connect( &a_phonebook, &Phonebook::ContactsAdded, &a_phonebook,
+                      [&a_phonebook, a_enough]( int a_first, int a_count )
+                      {
+                          PrintContacts( a_phonebook.AllContacts(), a_first, a_count );
+                          if ( a_enough > 0 && a_first + a_count >= a_enough )
+                              a_phonebook.Cancel();
+                      } );
+    QObject::connect( &a_phonebook, &Phonebook::Progress, &a_phonebook,
+                      []( int a_percent ) { Out() << a_percent << " %\n"; } );
+}
+
+void EndWith( Phonebook& a_phonebook )
+{
+    QObject::connect( &a_phonebook, &Phonebook::Finished, &a_phonebook,
+                      [&a_phonebook]( qint64 a_refused, bool a_isCancelled )
+                      {
+                          PrintEnd( a_phonebook.AllContacts().size(), a_refused, a_isCancelled );
+                          QCoreApplication::exit( a_isCancelled ? 3 : 0 );
+                      } );
+    QObject::connect( &a_phonebook, &Phonebook::Failed, &a_phonebook,
+                      []( const QString& a_reason )
+                      {
+                          Out() << "phonebook-worker: " << a_reason << '\n';
+                          QCoreApplication::exit( 1 );
+                      } );
+}
+
+} // namespace
+
+int main( int argc, char* argv[] )
+{
+    const QCoreApplication application( argc, argv );
+    const QStringList words = QCoreApplication::arguments();
+    Out().setCodec( "UTF-8" );
+    if ( words.size() < 2 || words.size() > 3 )
+    {
+        Out() << "Usage: phonebook-worker FILE [COUNT]\n";
+        return 2;
+    }
+    Phonebook phonebook( words[1] );
+    PrintWhatComes( phonebook, words.value( 2 ).toInt() );
+    EndWith( phonebook );
+    phonebook.Open();
+    return QCoreApplication::exec();
+}

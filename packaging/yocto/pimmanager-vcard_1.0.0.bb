@@ -1,0 +1,45 @@
+SUMMARY = "A vCard 2.1 and 3.0 reader for embedded Linux"
+DESCRIPTION = "Reads the address books that phones and desktop programs write, and turns them into contacts. With a \
+second library for messy books, and the program pimvcard."
+SECTION = "libs"
+
+# No licence has been chosen by the owner yet: all rights reserved.
+LICENSE = "CLOSED"
+
+# The sources stand beside this recipe, two folders up; nothing is fetched. A layer that keeps the recipe apart from them
+# sets SRC_URI and S instead.
+inherit externalsrc
+EXTERNALSRC = "${@os.path.realpath(os.path.join(os.path.dirname(d.getVar('FILE')), '..', '..'))}"
+EXTERNALSRC_BUILD = "${WORKDIR}/build"
+
+inherit cmake cmake_qt5 ptest
+
+DEPENDS = "qtbase"
+
+EXTRA_OECMAKE = " \
+    -DBUILD_SHARED_LIBS=ON \
+    -DPIMVCARD_BUILD_TESTS=OFF \
+    -DCMAKE_SKIP_INSTALL_RPATH=ON \
+"
+
+PACKAGECONFIG ??= "tools"
+PACKAGECONFIG[tools] = "-DPIMVCARD_BUILD_TOOLS=ON,-DPIMVCARD_BUILD_TOOLS=OFF"
+
+# The program apart from the libraries, as a device needs one or the other.
+PACKAGE_BEFORE_PN = "${PN}-tools"
+FILES:${PN}-tools = "${bindir} ${mandir} ${datadir}/bash-completion ${datadir}/zsh"
+
+# The self-check alone is compiled for the target, not the unit tests. It is built apart, so that what is packaged is the
+# same with and without it. It needs googletest, and Qt 5 Gui, which the rest does not.
+DEPENDS += "${@bb.utils.contains('PTEST_ENABLED', '1', 'googletest', '', d)}"
+
+do_compile_ptest() {
+    cmake -G Ninja -S ${S} -B ${B}/ptest -DCMAKE_TOOLCHAIN_FILE=${WORKDIR}/toolchain.cmake -DCMAKE_BUILD_TYPE=Release \
+        ${EXTRA_OECMAKE} -DPIMVCARD_BUILD_TOOLS=OFF -DPIMVCARD_BUILD_TESTS=ON
+    cmake --build ${B}/ptest --target PimVCardParserTest
+}
+
+do_install_ptest() {
+    install -m 0755 ${B}/ptest/technology/PimManager/Lib/Tests/PimVCardParserTest ${D}${PTEST_PATH}
+    install -m 0755 ${S}/packaging/yocto/run-ptest ${D}${PTEST_PATH}
+}

@@ -11,17 +11,17 @@ foreach(component runtime devel tools)
   pimvcard_install_compressed(${PROJECT_SOURCE_DIR}/packaging/debian/changelog changelog ${documents} ${component})
 endforeach()
 
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "vCard 2.1 and 3.0 reader, libraries
- Reads the address books that phones and desktop programs write, and turns
- them into contacts. A broken card is reported and left out; the cards round
- it are kept. The second library takes books as they are found and gives an
- account of all that it mended.")
-set(CPACK_COMPONENT_DEVEL_DESCRIPTION "vCard 2.1 and 3.0 reader, development files
- Headers, CMake package and pkg-config files, to compile programs that read
- address books in vCard format.")
-set(CPACK_COMPONENT_TOOLS_DESCRIPTION "vCard 2.1 and 3.0 reader, program
- Prints and checks address books in vCard format, and imports contacts and
- pictures out of messy ones, as a table, as JSON or as a page for a browser.")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "vCard 2.1 and 3.0 reader")
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Reads the address books that phones and desktop programs write, and turns
+them into contacts. A broken card is reported and left out; the cards round
+it are kept. The second library takes books as they are found and gives an
+account of all that it mended.
+.
+This package holds the libraries.")
+set(CPACK_COMPONENT_DEVEL_DESCRIPTION "Headers, CMake package and pkg-config files, to compile programs that read
+address books in vCard format.")
+set(CPACK_COMPONENT_TOOLS_DESCRIPTION "Prints and checks address books in vCard format, and imports contacts and
+pictures out of messy ones, as a table, as JSON or as a page for a browser.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEVEL_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
@@ -35,6 +35,7 @@ set(CPACK_DEBIAN_DEVEL_PACKAGE_DEPENDS "${library_package} (= ${PROJECT_VERSION}
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${library_package} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/debian/triggers)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME pimmanager-vcard)

@@ -5,7 +5,7 @@
 namespace
 {
 
-// How many pieces the worker may be ahead.
+// How many batches of contacts the worker may be ahead.
 constexpr int s_kPlaces = 4;
 
 } // namespace

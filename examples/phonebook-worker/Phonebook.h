@@ -18,7 +18,7 @@ class Phonebook : public QObject
 public:
     explicit Phonebook( const QString& a_fileName );
 
-    /// Stops the import and waits until its thread has ended: one piece of the file at most.
+    /// Stops the import and waits until its thread has ended, which takes one piece of the file at most.
     ~Phonebook() override;
 
     /// Begins to read. To be called once.

@@ -12,8 +12,10 @@ using namespace PimManager::vCardImport;
 namespace
 {
 
-// Small enough that the other thread sees progress and is heard soon, large enough that the hand-over costs little.
+// Small enough that progress is seen and a cancel is heard soon, large enough that handing over costs little. Cards
+// come out of import many at a time, so contacts are counted apart from pieces.
 constexpr int s_kPieceBytes = 16 * 1024;
+constexpr int s_kContacts = 50;
 // How long a cancel can stay unseen while the worker waits.
 constexpr int s_kWaitMilliseconds = 20;
 
@@ -73,6 +75,8 @@ bool PhonebookWorker::TakeCard( const PimVCard& a_card )
     if ( IsCancelled() )
         return false;
     m_contacts.append( ContactOf( a_card ) );
+    if ( m_contacts.size() >= s_kContacts )
+        HandOver();
     return true;
 }
 

@@ -29,7 +29,7 @@ public slots:
     void Run();
 
 signals:
-    /// Some contacts, in the order of the file.
+    /// Some contacts, 50 at most, in the order of the file.
     void ContactsRead( const Contacts& a_contacts );
     /// \param a_percent of the file, from 0 to 100, never less than before.
     void Progress( int a_percent );

@@ -1,0 +1,23 @@
+/// \file
+/// What the component and import make of an example of `docs/vcard-support.md`, in the words of that document.
+
+#pragma once
+
+#include "SupportNotation.h"
+
+#include <QString>
+
+namespace PimManager::vCard::Documents
+{
+
+/// The last two cells of a row.
+struct SupportAnswer
+{
+    QString m_component;
+    QString m_import;
+};
+
+/// Has the example read by both.
+SupportAnswer AnswerTo( const SupportExample& a_example );
+
+} // namespace PimManager::vCard::Documents

@@ -1,0 +1,28 @@
+/// \file
+/// Runs commands as a reader of the documents would.
+
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace PimManager::vCard::Documents
+{
+
+/// What a command left behind.
+struct ShellRun
+{
+    /// -1 when it could not be run.
+    int m_status = -1;
+    QString m_out;
+    QString m_err;
+};
+
+/// Runs a command of bash, with pipefail.
+/// \param a_command   what stands behind `bash -c`.
+/// \param a_folder    where it runs; empty for the folder of the test.
+/// \param a_arguments `$1` and on.
+ShellRun RunInShell( const QString& a_command, const QString& a_folder = QString(),
+                     const QStringList& a_arguments = QStringList() );
+
+} // namespace PimManager::vCard::Documents

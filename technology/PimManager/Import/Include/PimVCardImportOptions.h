@@ -3,7 +3,7 @@
 ///
 /// \code
 /// PimVCardImportOptions options;
-/// options.m_filter.m_names = { QStringLiteral( "N" ), QStringLiteral( "FN" ), QStringLiteral( "TEL" ) };
+/// options.m_filter.m_names = QStringList{ QStringLiteral( "N" ), QStringLiteral( "FN" ), QStringLiteral( "TEL" ) };
 /// options.m_limits.m_cards = 2000;
 /// PimVCardImporter importer( options );
 /// \endcode

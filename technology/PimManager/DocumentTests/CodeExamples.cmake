@@ -1,0 +1,56 @@
+# Takes C++ examples out of documents, each into a source of its own.
+
+# pimvcard_code_example(CODE NAME LIST): writes the source NAME.cpp and appends it to LIST. What defines functions or
+# variables of its own stands as it is, anything else is the body of a function.
+function(pimvcard_code_example code name list)
+  if(NOT code MATCHES "(^|\n)(TEST_F|thread_local)")
+    set(code "void Example();\nvoid Example()\n{\n${code}}\n")
+  endif()
+  file(CONFIGURE OUTPUT ${name}.cpp CONTENT "#include \"CodeExampleSurroundings.h\"\n\nnamespace\n{\n${code}}\n" @ONLY)
+  list(APPEND ${list} ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+  set(${list} ${${list}} PARENT_SCOPE)
+endfunction()
+
+# pimvcard_examples_between(FILE BEGIN END PREFIX LIST): the lines between a line BEGIN and a line END, without what
+# fits PREFIX at their start. A file without any is passed over.
+function(pimvcard_examples_between file begin end prefix list)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
+  get_filename_component(name ${file} NAME_WE)
+  file(READ ${file} text)
+  # Lists of CMake are parted by semicolons, so these are something else meanwhile.
+  string(REPLACE ";" "@semicolon@" text "${text}")
+  string(REPLACE "[" "@bracket@" text "${text}")
+  string(REPLACE "]" "@end_of_bracket@" text "${text}")
+  string(REPLACE "\\" "@backslash@" text "${text}")
+  string(REPLACE "\n" ";" lines "${text}")
+  set(count 0)
+  set(isInside FALSE)
+  foreach(line IN LISTS lines)
+    if(line MATCHES "^${end}$" AND isInside)
+      set(isInside FALSE)
+      math(EXPR count "${count} + 1")
+      string(REPLACE "@semicolon@" ";" code "${code}")
+      string(REPLACE "@bracket@" "[" code "${code}")
+      string(REPLACE "@end_of_bracket@" "]" code "${code}")
+      string(REPLACE "@backslash@" "\\" code "${code}")
+      pimvcard_code_example("${code}" ${name}Example${count} ${list})
+    elseif(line MATCHES "^${begin}$")
+      set(isInside TRUE)
+      set(code "")
+    elseif(isInside)
+      string(REGEX REPLACE "^${prefix}" "" line "${line}")
+      string(APPEND code "${line}\n")
+    endif()
+  endforeach()
+  set(${list} ${${list}} PARENT_SCOPE)
+endfunction()
+
+function(pimvcard_header_examples header list)
+  pimvcard_examples_between(${header} "/// @backslash@code" "/// @backslash@endcode" "/// ?" ${list})
+  set(${list} ${${list}} PARENT_SCOPE)
+endfunction()
+
+function(pimvcard_markdown_examples document list)
+  pimvcard_examples_between(${document} " *```cpp" " *```" "   " ${list})
+  set(${list} ${${list}} PARENT_SCOPE)
+endfunction()

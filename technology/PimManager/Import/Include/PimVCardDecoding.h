@@ -36,23 +36,23 @@ enum class PimVCardEncoding
 /// stay one text with the commas of the card.
 struct PimVCardName
 {
-    QString m_family;
-    QString m_given;
-    QString m_additional;
-    QString m_prefixes;
-    QString m_suffixes;
+    QString m_family;     ///< family name
+    QString m_given;      ///< given name
+    QString m_additional; ///< further given names
+    QString m_prefixes;   ///< such as `Dr.`
+    QString m_suffixes;   ///< such as `jr.`
 };
 
 /// The parts of an ADR property (RFC 2426, section 3.2.1). What is not there is empty.
 struct PimVCardAddress
 {
-    QString m_postOfficeBox;
-    QString m_extended;
-    QString m_street;
-    QString m_locality;
-    QString m_region;
-    QString m_postalCode;
-    QString m_country;
+    QString m_postOfficeBox; ///< post office box
+    QString m_extended;      ///< such as a floor
+    QString m_street;        ///< street and number
+    QString m_locality;      ///< town
+    QString m_region;        ///< state or county
+    QString m_postalCode;    ///< postal code
+    QString m_country;       ///< country
 };
 
 /// A picture, a sound or a key.
@@ -82,6 +82,7 @@ enum class PimVCardCallDirection
 /// An entry of a phone's call list (X-IRMC-CALL-DATETIME).
 struct PimVCardCall
 {
+    /// Unknown when the card does not say.
     PimVCardCallDirection m_direction = PimVCardCallDirection::Unknown;
     /// Invalid when the card gives no time or one that cannot be read. In UTC when it ends in Z, else local time.
     QDateTime m_when;

@@ -28,6 +28,7 @@ struct PimVCardPosition
     qint64 m_offset = 0;
 };
 
+/// \return true if it is the same place.
 PIMVCARD_EXPORT bool operator==( const PimVCardPosition& a_first, const PimVCardPosition& a_second );
 
 /// How much it matters, the least first.
@@ -93,7 +94,9 @@ constexpr int s_kDiagnosticCodes = static_cast<int>( PimVCardDiagnosticCode::Unk
 /// One finding.
 struct PimVCardDiagnostic
 {
+    /// What was found.
     PimVCardDiagnosticCode m_code = PimVCardDiagnosticCode::Encoding;
+    /// How much it matters, which each code has one of.
     PimVCardSeverity m_severity = PimVCardSeverity::Note;
     /// Which card, counted from 0 over the BEGIN lines of the file that are not nested; -1 outside cards.
     qint64 m_card = -1;
@@ -103,6 +106,7 @@ struct PimVCardDiagnostic
     qint64 m_count = 1;
 };
 
+/// \return true if all members are equal.
 PIMVCARD_EXPORT bool operator==( const PimVCardDiagnostic& a_first, const PimVCardDiagnostic& a_second );
 
 /// \return a fixed English sentence without a full stop, such as `the last line has no line end`; with the count in it

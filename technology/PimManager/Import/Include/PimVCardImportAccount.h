@@ -67,24 +67,30 @@ struct PIMVCARD_EXPORT PimVCardImportAccount
     /// Outside cards.
     qint64 m_linesOutside = 0;
 
-    /// How lines end, as found.
+    /// Lines that end in CR LF, as found.
     qint64 m_crLfs = 0;
+    /// Lines that end in LF.
     qint64 m_lfs = 0;
+    /// Lines that end in CR.
     qint64 m_crs = 0;
-    /// CR CR LF, which counts as one line end.
+    /// Lines that end in CR CR LF, which counts as one line end.
     qint64 m_crCrLfs = 0;
 
     /// The character set of the file: `UTF-8`, `UTF-16LE` or `UTF-16BE`, or that of the first card that is in none of
     /// these. Never empty.
     QByteArray m_charset = QByteArrayLiteral( "UTF-8" );
+    /// How the character set was decided.
     PimVCardEvidence m_evidence = PimVCardEvidence::None;
     /// Characters that could not be read and became U+FFFD.
     qint64 m_charactersReplaced = 0;
 
-    /// The values of VERSION lines: how many cards of version 2.1, 3.0 and 4.0, and how many with another or none.
+    /// How many cards say that they are of version 2.1.
     qint64 m_version21 = 0;
+    /// The same for 3.0.
     qint64 m_version30 = 0;
+    /// The same for 4.0.
     qint64 m_version40 = 0;
+    /// How many name another version, or none.
     qint64 m_versionOther = 0;
 
     /// The handler said stop. What follows the place was not read.
@@ -114,6 +120,7 @@ struct PimVCardReject
     PimVCardDiagnosticCode m_reason = PimVCardDiagnosticCode::NotAProperty;
     /// As in PimVCardDiagnostic.
     qint64 m_card = -1;
+    /// Where it starts.
     PimVCardPosition m_position;
     /// The bytes with their line ends, in the encoding in which they came; of a UTF-16 file in UTF-8. Of a card that is
     /// longer than the limit a piece of it: the rest follows in rejects of their own.

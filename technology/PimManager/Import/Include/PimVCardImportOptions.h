@@ -48,7 +48,9 @@ struct PimVCardImportFilter
 /// All that can be chosen. The defaults suit a desktop.
 struct PimVCardImportOptions
 {
+    /// How much is taken.
     PimVCardImportLimits m_limits;
+    /// What is taken.
     PimVCardImportFilter m_filter;
     /// The character set of a card that is not in UTF-8 and names none, by a name that QTextCodec knows. With `UTF-8`,
     /// and with a name that it does not know, what is malformed becomes U+FFFD, as in the component.

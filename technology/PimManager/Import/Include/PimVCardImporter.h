@@ -59,6 +59,7 @@ struct PimVCardImportResult
     std::vector<PimVCardImportedCard> m_cards;
     /// In the order of the file.
     std::vector<PimVCardReject> m_rejects;
+    /// Of everything that was done.
     PimVCardImportAccount m_account;
 };
 
@@ -88,6 +89,7 @@ public:
     /// Takes each finding as it is made, those beyond the limit of the account included.
     using DiagnosticHandler = std::function<void( const PimVCardDiagnostic& a_diagnostic )>;
 
+    /// \param a_options hold for every import of this importer.
     explicit PimVCardImporter( const PimVCardImportOptions& a_options = PimVCardImportOptions() );
     ~PimVCardImporter();
     Q_DISABLE_COPY( PimVCardImporter )

@@ -65,7 +65,7 @@ QString SignOf( QChar a_character )
 SupportExample ExampleOf( const QString& a_written, const QString& a_version )
 {
     static const QRegularExpression s_kOwnCard(
-        QStringLiteral( "\\A(\u2039EF\u203A\u2039BB\u203A\u2039BF\u203A)?(a\\.)?(BEGIN|END) ?:" ),
+        QStringLiteral( "\\A(\u2039EF\u203A\u2039BB\u203A\u2039BF\u203A|\u23CE)?(a\\.)?(BEGIN|END) ?:" ),
         QRegularExpression::CaseInsensitiveOption );
     const QByteArray bytes = BytesOf( a_written );
     if ( s_kOwnCard.match( a_written ).hasMatch() )

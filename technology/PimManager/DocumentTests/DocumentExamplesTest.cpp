@@ -1,0 +1,200 @@
+// The commands that the documents print, run as printed, and the output that they print.
+
+#include "DocumentFile.h"
+#include "ShellRun.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <vector>
+
+using namespace PimManager::vCard::Documents;
+
+namespace
+{
+
+// The book of README.md, of which a line is missing.
+const char* const s_kBook = "BEGIN:VCARD\nVERSION:3.0\nFN:J\u00F6rg Maulwurf\nEND:VCARD\n"
+                            "BEGIN:VCARD\nVERSION:3.0\nFN:Ada Fenwick\nTEL:+1-555-0102\n~~~\nEND:VCARD\n";
+const char* const s_kWholeBook = "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Bo Hollow\r\nEND:VCARD\r\n";
+
+// Where the commands run: the examples of the project under their names, and what else they name.
+class ExampleFolder
+{
+public:
+    ExampleFolder()
+    {
+        QDir folder( m_folder.path() );
+        EXPECT_TRUE( QFile::link( QStringLiteral( PIMVCARD_PROJECT "/examples" ), Path( "examples" ) ) );
+        EXPECT_TRUE( folder.mkpath( QStringLiteral( "books/of a phone" ) ) );
+        Write( "book.vcf", s_kBook );
+        for ( const char* const name : { "other.vcf", "books/ada.vcf", "books/of a phone/bo.vcf" } )
+            Write( name, s_kWholeBook );
+        Write( "names.txt", "book.vcf\nbooks/of a phone/bo.vcf\n" );
+    }
+
+    QString Path( const char* a_name ) const { return m_folder.filePath( QString::fromLatin1( a_name ) ); }
+
+    void Write( const char* a_name, const char* a_content ) const
+    {
+        QFile file( Path( a_name ) );
+        EXPECT_TRUE( file.open( QIODevice::WriteOnly ) ) << a_name;
+        file.write( a_content );
+    }
+
+    ShellRun Run( const QString& a_command ) const { return RunInShell( a_command, m_folder.path() ); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QStringList Documents()
+{
+    QStringList names = { QStringLiteral( "README.md" ), QStringLiteral( "SECURITY.md" ) };
+    const QDir folder( QStringLiteral( PIMVCARD_PROJECT "/docs" ) );
+    for ( const QString& name : folder.entryList( { QStringLiteral( "*.md" ) } ) )
+        names << QStringLiteral( "docs/" ) + name;
+    return names;
+}
+
+QStringList AllMatches( const QString& a_text, const QString& a_expression )
+{
+    const QRegularExpression expression( a_expression, QRegularExpression::MultilineOption );
+    QStringList matches;
+    QRegularExpressionMatchIterator all = expression.globalMatch( a_text );
+    while ( all.hasNext() )
+        matches << all.next().captured( 1 );
+    return matches;
+}
+
+// Indented lines of a Markdown document that begin with the program, but for those that stand for many commands.
+QStringList CommandsIn( const QString& a_document )
+{
+    static const QRegularExpression s_kPlaceholder( QStringLiteral( "\\b(FILE|DIR|OUT|NAME|COMMAND)\\b" ) );
+    QStringList commands = AllMatches( a_document, QStringLiteral( "^    ((?:pimvcard|find) .*)$" ) );
+    for ( int i = commands.size() - 1; i >= 0; --i )
+    {
+        if ( commands[i].contains( s_kPlaceholder ) )
+            commands.removeAt( i );
+    }
+    return commands;
+}
+
+QStringList ScriptsIn( const QString& a_document )
+{
+    return AllMatches( a_document, QStringLiteral( "^```sh\\n((?:.*\\n)*?)```$" ) );
+}
+
+QStringList CommandsOfTheManual()
+{
+    const QString page = DocumentText( QStringLiteral( "docs/man/pimvcard.1" ) );
+    QStringList commands = AllMatches( page, QStringLiteral( "^\\.EX\\n(.*)\\n\\.EE$" ) );
+    for ( QString& command : commands )
+        command.replace( QLatin1String( "\\-" ), QLatin1String( "-" ) )
+            .replace( QLatin1String( "\\(aq" ), QLatin1String( "'" ) );
+    return commands;
+}
+
+void ExpectRuns( const QString& a_command )
+{
+    const ExampleFolder folder;
+    const ShellRun run = folder.Run( a_command );
+    // 1 says that something of a book is missing, which is so in those here.
+    EXPECT_TRUE( run.m_status == 0 || run.m_status == 1 ) << a_command.toStdString() << '\n'
+                                                          << run.m_status << '\n'
+                                                          << run.m_err.toStdString();
+    EXPECT_FALSE( run.m_err.contains( QLatin1String( "command not found" ) ) ) << run.m_err.toStdString();
+}
+
+// JSON without the white space between its parts.
+QString Packed( const QString& a_json )
+{
+    QString packed;
+    bool isInText = false;
+    for ( int i = 0; i < a_json.size(); ++i )
+    {
+        const bool isEscaped = i > 0 && a_json[i - 1] == QLatin1Char( '\\' );
+        if ( a_json[i] == QLatin1Char( '"' ) && !isEscaped )
+            isInText = !isInText;
+        if ( isInText || !a_json[i].isSpace() )
+            packed += a_json[i];
+    }
+    return packed;
+}
+
+TEST( DocumentExamplesTest, CommandsOfDocumentsRun )
+{
+    int commands = 0;
+    for ( const QString& document : Documents() )
+    {
+        const QString text = DocumentText( document );
+        for ( const QString& command : CommandsIn( text ) + ScriptsIn( text ) )
+        {
+            SCOPED_TRACE( document.toStdString() );
+            ExpectRuns( command );
+            ++commands;
+        }
+    }
+    EXPECT_GT( commands, 5 );
+}
+
+TEST( DocumentExamplesTest, CommandsOfTheManualRun )
+{
+    const QStringList commands = CommandsOfTheManual();
+    EXPECT_GT( commands.size(), 3 );
+    for ( const QString& command : commands )
+        ExpectRuns( command );
+}
+
+TEST( DocumentExamplesTest, ReadmeShowsWhatCheckPrints )
+{
+    const ExampleFolder folder;
+    const ShellRun run = folder.Run( QStringLiteral( "pimvcard check book.vcf" ) );
+    EXPECT_EQ( run.m_status, 1 );
+    const QStringList shown =
+        AllMatches( DocumentText( QStringLiteral( "README.md" ) ), QStringLiteral( "^    (book\\.vcf:.*)$" ) );
+    EXPECT_EQ( ( shown.join( QLatin1Char( '\n' ) ) + QLatin1Char( '\n' ) ).toStdString(), run.m_out.toStdString() );
+}
+
+TEST( DocumentExamplesTest, ReadmeShowsWhatPrintGivesAsJson )
+{
+    const ExampleFolder folder;
+    folder.Write( "card.vcf", "BEGIN:VCARD\r\nTEL;TYPE=CELL:+1-555-0101\r\nEND:VCARD\r\n" );
+    const ShellRun run = folder.Run( QStringLiteral( "pimvcard print --json-lines card.vcf" ) );
+    EXPECT_TRUE( DocumentText( QStringLiteral( "README.md" ) ).contains( QStringLiteral( "    " ) + run.m_out ) )
+        << run.m_out.toStdString();
+}
+
+TEST( DocumentExamplesTest, JsonDocumentShowsHowTheFirstContactBegins )
+{
+    const QString document = DocumentText( QStringLiteral( "docs/json.md" ) );
+    const QString shown = AllMatches( document, QStringLiteral( "^```json\\n((?:.*\\n)*?)```$" ) ).value( 0 );
+    const ExampleFolder folder;
+    const ShellRun run =
+        folder.Run( QStringLiteral( "pimvcard import --json-lines examples/messy-phonebook.vcf 2>errors | head -1" ) );
+    EXPECT_GT( shown.size(), 100 );
+    EXPECT_TRUE( Packed( run.m_out ).startsWith( Packed( shown ) ) ) << run.m_out.toStdString();
+}
+
+TEST( DocumentExamplesTest, ScriptsOfTheScaleDocumentGiveEveryContact )
+{
+    const QStringList scripts = ScriptsIn( DocumentText( QStringLiteral( "docs/scale.md" ) ) );
+    ASSERT_EQ( scripts.size(), 2 );
+    const QString countLines = QStringLiteral( "\nwc -l < contacts.jsonl" );
+    const ExampleFolder folder;
+    const ShellRun parallel = folder.Run( scripts[0] + countLines );
+    EXPECT_EQ( parallel.m_out.toStdString(), "2\n" ) << parallel.m_err.toStdString();
+
+    const ShellRun step = folder.Run( QStringLiteral( "set -e\n" ) + scripts[1] + countLines );
+    EXPECT_EQ( step.m_status, 0 ) << step.m_err.toStdString();
+    EXPECT_EQ( step.m_out.toStdString(), "3\n" ) << step.m_err.toStdString();
+
+    folder.Write( "names.txt", "book.vcf\nmissing.vcf\n" );
+    EXPECT_NE( folder.Run( QStringLiteral( "./import-step < names.txt" ) ).m_status, 0 );
+}
+
+} // namespace

@@ -3,7 +3,7 @@
 # pimvcard_code_example(CODE NAME LIST): writes the source NAME.cpp and appends it to LIST. What defines functions or
 # variables of its own stands as it is, anything else is the body of a function.
 function(pimvcard_code_example code name list)
-  if(NOT code MATCHES "(^|\n)(TEST_F|thread_local)")
+  if(NOT code MATCHES "(^|\n)(TEST_F|thread_local|class PIMVCARD_EXPORT)")
     set(code "void Example();\nvoid Example()\n{\n${code}}\n")
   endif()
   file(CONFIGURE OUTPUT ${name}.cpp CONTENT "#include \"CodeExampleSurroundings.h\"\n\nnamespace\n{\n${code}}\n" @ONLY)

@@ -3,8 +3,10 @@
 /// without the mark is private to its library, and programs cannot come to depend on it.
 ///
 /// \code
-/// class PIMVCARD_EXPORT PimVCardParser { … };
-/// PIMVCARD_EXPORT QString DisplayNameOf( const vCard::PimVCard& a_card );
+/// class PIMVCARD_EXPORT PimVCardShown
+/// {
+/// };
+/// PIMVCARD_EXPORT void Show( const PimVCardShown& a_shown );
 /// \endcode
 ///
 /// The mark is the same for who builds a library and for who uses it, and for static libraries, so nothing has to be

@@ -98,7 +98,8 @@ public:
     ///         without an END line.
     QList<PimVCardProperty*>* ParseProperties();
 
-    /// Parses one content line with its line end and the empty lines after it: `[group.]name[;parameters]:values`.
+    /// Parses one content line with its line end and the empty lines after it: groups and a name, parameters behind
+    /// semicolons, values behind a colon.
     /// \return a new property, with at least one value; null when the line failed, as reported.
     PimVCardProperty* ParseProperty();
 

@@ -75,6 +75,8 @@ public:
 
     /// The bytes that were not read yet, from Next() to End().
     const char* Next() const { return m_next; }
+
+    /// Where those bytes end.
     const char* End() const { return m_end; }
 
     /// Passes over bytes, up to a_next.

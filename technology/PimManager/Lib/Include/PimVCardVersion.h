@@ -12,8 +12,11 @@
 
 #pragma once
 
+/// Grows with what breaks programs.
 #define PIMVCARD_VERSION_MAJOR 1
+/// Grows with what is new.
 #define PIMVCARD_VERSION_MINOR 0
+/// Grows with corrections.
 #define PIMVCARD_VERSION_PATCH 0
 
 /// A version as one number, to be compared with others. Minor and patch are below 256.

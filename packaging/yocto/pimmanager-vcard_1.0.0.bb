@@ -35,11 +35,12 @@ DEPENDS += "${@bb.utils.contains('PTEST_ENABLED', '1', 'googletest', '', d)}"
 
 do_compile_ptest() {
     cmake -G Ninja -S ${S} -B ${B}/ptest -DCMAKE_TOOLCHAIN_FILE=${WORKDIR}/toolchain.cmake -DCMAKE_BUILD_TYPE=Release \
-        ${EXTRA_OECMAKE} -DPIMVCARD_BUILD_TOOLS=OFF -DPIMVCARD_BUILD_TESTS=ON
+        ${EXTRA_OECMAKE} -DCMAKE_SKIP_RPATH=ON -DPIMVCARD_BUILD_TOOLS=OFF -DPIMVCARD_BUILD_TESTS=ON
     cmake --build ${B}/ptest --target PimVCardParserTest
 }
 
 do_install_ptest() {
+    install -d ${D}${PTEST_PATH}
     install -m 0755 ${B}/ptest/technology/PimManager/Lib/Tests/PimVCardParserTest ${D}${PTEST_PATH}
     install -m 0755 ${S}/packaging/yocto/run-ptest ${D}${PTEST_PATH}
 }

@@ -3,8 +3,8 @@
 ///
 /// The parser and the scanner take their texts from here and spell none themselves. Each constant is defined once for
 /// the whole program, and once more in each shared library that keeps its own to itself, and is built before `main`
-/// runs; within a translation unit that includes this header they are
-/// built in the order below and before any static object that follows, so such objects may use them:
+/// runs; within a translation unit that includes this header they are built in the order below and before any static
+/// object that follows, so such objects may use them:
 ///
 /// \code
 /// static const QString s_kBeginLine = s_kBegin + s_kColon + s_kVCard; // "BEGIN:VCARD"

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -30,6 +31,8 @@ int main( int argc, char* argv[] )
     // The tests know the messages of the system in English.
     setenv( "LANGUAGE", "en", 1 );
     std::setlocale( LC_ALL, "" );
+    // A shell switches Ctrl-C off for what it runs in the background, and tests of Ctrl-C would wait for ever.
+    std::signal( SIGINT, SIG_DFL );
     testing::InitGoogleTest( &argc, argv );
     return IsCharsetAsWanted() ? RUN_ALL_TESTS() : EXIT_FAILURE;
 }

@@ -25,3 +25,13 @@
 /// This version as one number.
 #define PIMVCARD_VERSION_NUMBER                                                                                        \
     PIMVCARD_MAKE_VERSION( PIMVCARD_VERSION_MAJOR, PIMVCARD_VERSION_MINOR, PIMVCARD_VERSION_PATCH )
+
+/// Three numbers as the text of a version: numbers themselves, not macros that stand for them.
+#define PIMVCARD_QUOTE_VERSION( a_major, a_minor, a_patch ) #a_major "." #a_minor "." #a_patch
+
+/// The same, for macros that stand for the numbers.
+#define PIMVCARD_QUOTE_VERSION_OF( a_major, a_minor, a_patch ) PIMVCARD_QUOTE_VERSION( a_major, a_minor, a_patch )
+
+/// This version as a literal, such as `"1.4.2"`.
+#define PIMVCARD_VERSION_STRING                                                                                        \
+    PIMVCARD_QUOTE_VERSION_OF( PIMVCARD_VERSION_MAJOR, PIMVCARD_VERSION_MINOR, PIMVCARD_VERSION_PATCH )

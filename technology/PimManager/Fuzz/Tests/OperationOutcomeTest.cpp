@@ -23,6 +23,12 @@ struct OperationRow
     const char* m_result;
 };
 
+// Found by googletest, which would show the bytes of a row, those between its members included.
+void PrintTo( const OperationRow& a_row, std::ostream* a_stream )
+{
+    *a_stream << a_row.m_name;
+}
+
 class OperationOutcomeTest : public testing::TestWithParam<OperationRow>
 {
 };

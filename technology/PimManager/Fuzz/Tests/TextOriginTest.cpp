@@ -19,6 +19,12 @@ struct OriginRow
     bool m_stands;
 };
 
+// Found by googletest, which would show the bytes of a row, those between its members included.
+void PrintTo( const OriginRow& a_row, std::ostream* a_stream )
+{
+    *a_stream << a_row.m_name;
+}
+
 QStringList Texts( const QList<const char*>& a_texts )
 {
     QStringList texts;

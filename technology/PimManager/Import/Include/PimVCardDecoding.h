@@ -88,46 +88,56 @@ struct PimVCardCall
     QDateTime m_when;
 };
 
-/// \param a_name in ASCII, compared in any letter case.
+/// \param a_name in ASCII, compared in any letter case; not null. Empty for a property without a name.
 /// \return true if the property has this name.
 PIMVCARD_EXPORT bool IsNamed( const vCard::PimVCardProperty& a_property, const char* a_name );
 
+/// \param a_name as for IsNamed().
 /// \return the first property of this name in the order of the card, null if there is none. It belongs to the card.
+///         Linear in the number of properties.
 PIMVCARD_EXPORT const vCard::PimVCardProperty* FindProperty( const vCard::PimVCard& a_card, const char* a_name );
 
-/// \return the encoding: `ENCODING=` with QUOTED-PRINTABLE, BASE64 or B, quoted or not, or one of these words bare.
+/// \return the encoding: `ENCODING=` with QUOTED-PRINTABLE, BASE64 or B, quoted or not, or one of these words bare. The
+///         first of them counts, ENCODING before bare words; None without any, or with another word.
 PIMVCARD_EXPORT PimVCardEncoding EncodingOf( const vCard::PimVCardProperty& a_property );
 
 /// \return the values of all parameters of this name, lists split at their commas, without quotes, and with `^n`, `^'`
 ///         and `^^` decoded (RFC 6868). For `TEL;TYPE="home,cell";TYPE=voice` and TYPE: home, cell, voice.
-/// \param a_name in ASCII, compared in any letter case; empty for bare words.
+///         Empty when there is none.
+/// \param a_name in ASCII, compared in any letter case; not null, empty for bare words.
 PIMVCARD_EXPORT QStringList ParameterValuesOf( const vCard::PimVCardProperty& a_property, const char* a_name );
 
 /// \return the first of them, empty if there is none. For ALTID, LANGUAGE, MEDIATYPE and the like.
 PIMVCARD_EXPORT QString ParameterValueOf( const vCard::PimVCardProperty& a_property, const char* a_name );
 
 /// \return the words of TYPE and the bare words, in upper case, each once, in the order of the line, without PREF, and
-///         without words that say how the value is written: encodings, and the values of VALUE and CHARSET.
+///         without words that say how the value is written: encodings, and the values of VALUE and CHARSET. Empty when
+///         there is none.
 PIMVCARD_EXPORT QStringList TypesOf( const vCard::PimVCardProperty& a_property );
 
-/// \return the preference from 1 (most) to 100: that of PREF= (RFC 6350, section 5.3), 1 for the word PREF, 0 for none.
+/// \return the preference from 1 (most) to 100: that of PREF= (RFC 6350, section 5.3), 1 for the word PREF, 0 for
+///         none. A PREF= that is no such number counts as none.
 PIMVCARD_EXPORT int PreferenceOf( const vCard::PimVCardProperty& a_property );
 
 /// \return the values as text: QUOTED-PRINTABLE decoded, in the character set of CHARSET, in UTF-8 without one; where
 ///         that does not fit the bytes, in Windows-1252. Line ends become line feeds. BASE64 that holds text is decoded
-///         too when the property is not a picture, sound or key. As many elements as the property has values.
+///         too when the property is not a picture, sound or key. What does not hold text, and an "=" that encodes
+///         nothing, stays as written. As many elements as the property has values, an empty one for an empty value.
 PIMVCARD_EXPORT QStringList TextsOf( const vCard::PimVCardProperty& a_property );
 
 /// \return TextsOf() joined by semicolons: the text of a property that has one value, such as NOTE.
 PIMVCARD_EXPORT QString TextOf( const vCard::PimVCardProperty& a_property );
 
-/// \return the parts of an N property.
+/// \return the parts of an N property. Any other property is taken in the same order. Blanks at both ends of a
+///         part are taken away, and further values left out.
 PIMVCARD_EXPORT PimVCardName NameOf( const vCard::PimVCardProperty& a_property );
 
-/// \return the parts of an ADR property.
+/// \return the parts of an ADR property. Any other property is taken in the same order. Blanks at both ends of a
+///         part are taken away, and further values left out.
 PIMVCARD_EXPORT PimVCardAddress AddressOf( const vCard::PimVCardProperty& a_property );
 
-/// \return the parts of an ADR property as lines for people, without empty ones.
+/// \return the parts of an ADR property as lines for people, parted by line feeds, without empty ones; empty when all
+///         parts are.
 PIMVCARD_EXPORT QString AddressTextOf( const vCard::PimVCardProperty& a_property );
 
 /// \return what a contact list shows: FN; else the parts of N in the order of speech; else NICKNAME, ORG, an EMAIL, a
@@ -135,9 +145,10 @@ PIMVCARD_EXPORT QString AddressTextOf( const vCard::PimVCardProperty& a_property
 PIMVCARD_EXPORT QString DisplayNameOf( const vCard::PimVCard& a_card );
 
 /// \return the number without `tel:` and its parameters, percent-decoded (RFC 3966); any other value as TextOf().
+///         Empty for an empty value.
 PIMVCARD_EXPORT QString TelephoneNumberOf( const vCard::PimVCardProperty& a_property );
 
-/// \return the address without `mailto:`, percent-decoded; any other value as TextOf().
+/// \return the address without `mailto:`, percent-decoded; any other value as TextOf(). Empty for an empty value.
 PIMVCARD_EXPORT QString MailAddressOf( const vCard::PimVCardProperty& a_property );
 
 /// \return the picture, sound or key of a property: BASE64, a `data:` URI, or an address. What cannot be decoded gives

@@ -33,14 +33,10 @@ function(pimvcard_install_program target)
   install(TARGETS ${target} RUNTIME COMPONENT tools)
   file(RELATIVE_PATH way_to_libraries /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
   set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${way_to_libraries}")
-  if(EXISTS ${PROJECT_SOURCE_DIR}/docs/man/${target}.1)
-    pimvcard_install_manual(${PROJECT_SOURCE_DIR}/docs/man/${target}.1)
-  endif()
-  if(IS_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/Completion)
-    install(FILES Completion/${target}.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
-            RENAME ${target} COMPONENT tools)
-    install(FILES Completion/_${target} DESTINATION ${CMAKE_INSTALL_DATADIR}/${zsh_folder} COMPONENT tools)
-  endif()
+  pimvcard_install_manual(${PROJECT_SOURCE_DIR}/docs/man/${target}.1)
+  install(FILES Completion/${target}.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+          RENAME ${target} COMPONENT tools)
+  install(FILES Completion/_${target} DESTINATION ${CMAKE_INSTALL_DATADIR}/${zsh_folder} COMPONENT tools)
 endfunction()
 
 # pimvcard_install_compressed(FILE NAME DESTINATION COMPONENT): as Debian wants its documents.

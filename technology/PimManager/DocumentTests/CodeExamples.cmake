@@ -45,8 +45,13 @@ function(pimvcard_examples_between file begin end prefix list)
   set(${list} ${${list}} PARENT_SCOPE)
 endfunction()
 
+# A public header without an example is a mistake.
 function(pimvcard_header_examples header list)
+  set(before "${${list}}")
   pimvcard_examples_between(${header} "/// @backslash@code" "/// @backslash@endcode" "/// ?" ${list})
+  if("${${list}}" STREQUAL "${before}")
+    message(FATAL_ERROR "${header} has no example")
+  endif()
   set(${list} ${${list}} PARENT_SCOPE)
 endfunction()
 

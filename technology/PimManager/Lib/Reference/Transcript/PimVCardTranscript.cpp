@@ -1,6 +1,7 @@
 #include "PimVCardTranscript.h"
 
 #include "PimVCardParserInspector.h"
+#include "PimVCardTestLog.h"
 
 #include <QMessageLogContext>
 
@@ -50,6 +51,7 @@ public:
 private:
     static void AddMessage( QtMsgType a_type, const QMessageLogContext& a_context, const QString& a_text )
     {
+        EndIfEndless( sm_lines.size() );
         sm_lines.append( QStringLiteral( "log " ) + Number( a_type ) + QLatin1Char( ' ' ) +
                          QLatin1String( a_context.category ) + QLatin1String( ": " ) + WithoutMilliseconds( a_text ) );
     }

@@ -22,6 +22,7 @@ public:
         m_parser( a_text )
     {
         m_outcome.m_call = a_call;
+        m_outcome.m_prepared = PimVCardParserInspector( m_parser ).Data();
     }
 
     void Make()
@@ -53,7 +54,7 @@ public:
     OperationOutcome Outcome()
     {
         const PimVCardParserInspector inspector( m_parser );
-        m_outcome.m_prepared = inspector.Data();
+        m_outcome.m_preparedAfter = inspector.Data();
         m_outcome.m_isMarked = IsMarked();
         m_outcome.m_hasEncoding = inspector.IsQuotedPrintable() || inspector.IsBase64();
         m_outcome.m_isAtEnd = inspector.Lexer().m_stream.atEnd();
@@ -153,6 +154,8 @@ bool ParsesWholeLines( Call a_call )
 
 Violation CheckState( const OperationOutcome& a_outcome )
 {
+    if ( a_outcome.m_preparedAfter != a_outcome.m_prepared )
+        return QStringLiteral( "parsing leaves the prepared text as it is" );
     if ( a_outcome.m_call == Call::ParseVCards )
     {
         if ( !*a_outcome.m_success )

@@ -23,7 +23,9 @@ struct OperationOutcome
     std::optional<bool> m_success;
     /// The objects and texts of the result.
     ResultVisit m_result;
+    /// The prepared text before the operation, and after it.
     QByteArray m_prepared;
+    QByteArray m_preparedAfter;
     bool m_isMarked = false;
     bool m_hasEncoding = false;
     bool m_isAtEnd = false;
@@ -32,7 +34,8 @@ struct OperationOutcome
 /// Makes a parser over the text and calls one operation of it; ParseEnd is given the property that ParseProperty gives.
 OperationOutcome TryOperation( const QByteArray& a_text, PimVCardParserCall a_call );
 
-/// Is the result complete, does each of its texts stand in the prepared text, and do result and state fit together?
+/// Is the result complete, does each of its texts stand in the prepared text, is that text unchanged, and do result and
+/// state fit together?
 ///
 /// They fit when a failure is marked and nothing else is, and when a property that was parsed to its end has left no
 /// encoding behind. ParseVCards has to end with nothing marked, at the end of the text, and with a list.

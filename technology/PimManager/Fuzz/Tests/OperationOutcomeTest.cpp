@@ -121,6 +121,13 @@ TEST( OperationOutcomeTest, EncodingLeftBehindIsTold )
     EXPECT_EQ( CheckOutcome( outcome ), Violation() );
 }
 
+TEST( OperationOutcomeTest, ChangedTextIsReported )
+{
+    OperationOutcome outcome = GoodLine();
+    outcome.m_preparedAfter.chop( 1 );
+    EXPECT_EQ( CheckOutcome( outcome ), Text( "parsing leaves the prepared text as it is" ) );
+}
+
 TEST( OperationOutcomeTest, TextFromNowhereIsTold )
 {
     OperationOutcome outcome = GoodLine();

@@ -21,9 +21,10 @@ namespace PimManager::vCard
 {
 
 class PimVCardBeginSearch;
+class PimVCardWord;
 struct PimVCardCharacterClass;
 
-/// Cuts a text into tokens, as its caller's expressions tell it, and knows nothing of the vCard grammar.
+/// Cuts a text into tokens with the expressions that its caller passes in. It knows nothing of the vCard grammar.
 ///
 /// The scanner holds one character of look-ahead, `m_nextChar`, on which the grammar decides. Its fields are open to
 /// the parser, which skips single characters with `m_stream >> m_nextChar` and asks `m_stream.atEnd()`; such reads are
@@ -40,8 +41,8 @@ class PIMVCARD_EXPORT PimVCardLexer
 public:
     /// Opens the text for reading, without reading any of it.
     /// \param a_data UTF-8 without NUL bytes, whatever the locale; may be empty, not null. It stays the caller's, must
-    ///               outlive the scanner and must not change meanwhile. A byte order mark at its start is swallowed.
-    ///               Of malformed UTF-8 each byte that belongs to no character reads as U+FFFD.
+    ///               outlive the scanner and must not change meanwhile. A byte order mark at its start is skipped.
+    ///               Each byte that belongs to no UTF-8 sequence reads as one U+FFFD.
     explicit PimVCardLexer( const QByteArray* a_data );
     virtual ~PimVCardLexer();
     Q_DISABLE_COPY( PimVCardLexer )
@@ -49,22 +50,27 @@ public:
     /// Takes the next token: the longest run of characters each of which matches by itself, or a single character.
     ///
     /// An expression is searched in one character at a time, never in the token so far, so `[a-z]` and `[a-z]+` take
-    /// the same tokens. In run mode a character is tested as it comes back from UTF-8: half of a surrogate pair as "?",
-    /// U+FEFF as the empty text. A backslash met inside a run forms an escape pair with the character after it, is
-    /// tested together with it and is then left out of the token; when the pair does not match, the run ends, the
-    /// backslash is lost and the character after it is the look-ahead. Before a carriage return a backslash stands
-    /// alone: where the expression does not match it, it is lost, the carriage return is the look-ahead and is read
-    /// once more after that. At the end of the text U+0000 takes the place of that character: the pair is then tested
-    /// as the backslash alone, and where it matches, U+0000 ends the token. A backslash that is already the look-ahead
-    /// when the call begins is an ordinary character.
+    /// the same tokens. In run mode a character is tested as it comes back from UTF-8: half of a surrogate pair is
+    /// tested as "?". U+FEFF and the end of the text end a run, whatever the expression.
+    ///
+    /// A backslash met inside a run forms an escape pair with the character after it, is tested together with it and is
+    /// then left out of the token. If the pair does not match, the run ends, the backslash is lost and the character
+    /// after it is the look-ahead. Two places differ:
+    ///
+    /// - Before a carriage return, the backslash is tested alone. If it does not match, it is lost; the carriage return
+    ///   is the look-ahead and is read once more after that.
+    /// - At the end of the text, U+0000 takes the place of the character after the backslash, and the backslash is
+    ///   tested alone. If it matches, U+0000 becomes the last character of the token.
+    ///
+    /// A backslash that is already the look-ahead when the call begins is an ordinary character.
     ///
     /// The line number grows by the carriage returns of a run when the run holds as many line feeds, else not at all.
     ///
     /// \param a_pattern the expression; need not be anchored.
     /// \param a_single  true to take one character at most, without escape pairs and line count.
     /// \return the token; empty when the look-ahead does not match, when the text is at its end in run mode, or when
-    ///         the expression is invalid, which is told on Qt's debug log and changes nothing. Linear in the characters
-    ///         taken.
+    ///         the expression is invalid, which is reported on Qt's debug log and changes nothing. Linear in the
+    ///         characters taken.
     QString GetToken( const QRegularExpression& a_pattern, bool a_single );
 
     /// Goes to the next line in which the expression is found and stands at its start.
@@ -116,15 +122,13 @@ private:
     bool TakeLineEnd( const QRegularExpression& a_lineEnds );
     // Takes a whole line, a_line with its CR LF, as its tokens would be taken one after another; nothing, when other
     // bytes stand there or no letter or digit follows.
-    bool TakeLine( QLatin1String a_line );
+    bool TakeLine( const PimVCardWord& a_line );
     // Takes one or more tokens with a comma between each two, as they would be taken one after another; nothing, when
     // what follows them is no colon and no semicolon.
     bool TakeNameList( const QRegularExpression& a_names, QString& a_list );
     // SeekToPattern() for a BEGIN line, without the text of the line. Linear also when one long line is searched from
     // each of its characters.
     void SeekToBeginLine();
-    // Takes what was read out of the text, which must be the scanner's, when that is half of it or more.
-    void DropReadText( QByteArray& a_text );
 
     struct LearnedPattern
     {

@@ -26,6 +26,7 @@ namespace PimManager::vCard
 {
 
 class PimVCardLexer;
+class PimVCardWord;
 
 /// A recursive-descent parser for vCard 2.1 and 3.0.
 ///
@@ -38,24 +39,25 @@ class PimVCardLexer;
 ///
 /// **Errors.** A failure is told on Qt's log and nowhere else. Each operation on the way out writes a block of its own,
 /// innermost first: critical messages with the operation and the reason, debug messages with the state of the scanner.
-/// A failure also marks the parser, and only ParseVCards() takes the mark away, after it has found the next card. On a
-/// parser so marked ParseProperty(), ParseParameters() and what is built on them fail, whatever the text. A line that
-/// fails after an ENCODING parameter leaves the encoding set for the next property that is parsed. Nothing throws.
+/// A failure also marks the parser. Only ParseVCards() removes the mark, after each search for the next card, whether
+/// the search found one or not. On a marked parser, ParseProperty(), ParseParameters() and the operations built on them
+/// fail, whatever the text. A line that fails after an ENCODING parameter leaves the encoding set for the next property
+/// that is parsed. Nothing throws.
 ///
 /// **Threads.** A parser belongs to the thread that uses it; any number of parsers can work side by side.
 ///
-/// **Cost.** A text in which lines are to be joined is held as one copy in UTF-8 besides the caller's, which
-/// ParseVCards() gives back half by half; any other is shared with the caller. Time grows with the length of the text.
+/// **Cost.** The parser keeps the prepared text until it is destroyed. Where lines had to be joined, that is a second
+/// copy in UTF-8; any other text is shared with the caller. Time is linear in the length of the text.
 class PIMVCARD_EXPORT PimVCardParser
 {
 public:
     /// Takes the text in and prepares it: folded lines are joined (RFC 2426, section 2.6), with all white space that
     /// begins the continuation line; an encoded line break `=0D=0A` before a soft line break becomes one blank.
     ///
-    /// \param a_data UTF-8; may be empty. What follows a NUL byte is not read, a byte sequence that is not UTF-8 reads
-    ///               as U+FFFD, a byte order mark at the start is swallowed. The array is shared, not kept waiting for:
-    ///               the caller may drop or change it at once, unless it was made with QByteArray::fromRawData(), when
-    ///               its bytes must live until the constructor returns.
+    /// \param a_data UTF-8; may be empty. What follows a NUL byte is not read. Each byte that belongs to no UTF-8
+    ///               sequence reads as one U+FFFD. A byte order mark at the start is skipped. The data is implicitly
+    ///               shared; you may change or drop it at once. The bytes of an array made with
+    ///               QByteArray::fromRawData() must live until the constructor returns.
     /// \pre the text has at most 700,000,000 bytes where addresses have 64 bits, 100,000,000 where they have 32. Qt's
     ///      texts end at 2 GB, and text and cards must fit in the process together. Nothing checks it here.
     explicit PimVCardParser( const QByteArray& a_data );
@@ -104,9 +106,9 @@ public:
     PimVCardProperty* ParseProperty();
 
     /// Parses the groups and the name of a content line. The name itself is not returned.
-    /// \param[in,out] a_vCardBoundary the caller sets it to false; true afterwards when the name is BEGIN or END, in
-    /// any
-    ///                letter case, after which blanks may come before the colon.
+    /// \param[in,out] a_vCardBoundary
+    ///         the caller sets it to false. True afterwards when the name is BEGIN or END in any letter case; blanks
+    ///         may then precede the colon.
     /// \return the groups as written, without the last dot: `item1` for `item1.ADR;`, `a.b` for `a.b.ADR:`. Empty when
     ///         there is none, and also when the name of a line other than BEGIN and END is not followed by a colon or a
     ///         semicolon, which is reported.
@@ -127,9 +129,10 @@ public:
 
     /// Parses a quoted parameter value from behind its opening quote to its closing quote. A control character other
     /// than the tab inside the quotes is a failure. A backslash is kept as the first character; elsewhere it is lost,
-    /// and the quote must then close right behind it. \return the text and the closing quote, without the opening one;
-    /// empty on failure, as reported, which a pair of
-    ///         quotes with nothing between them is too.
+    /// and the quote must then close right behind it.
+    ///
+    /// \return the text and the closing quote, without the opening one. Empty on failure, as reported; a pair of quotes
+    ///         with nothing between them is a failure.
     QString ParseQuotedParamValue();
 
     /// Parses the right side of a content line, from behind the colon up to the line end, which it leaves.
@@ -152,7 +155,7 @@ private:
 
     void PrepareInput();
     qint64 Recover( qint64 a_lastRecovery );
-    bool TakeBoundary( QLatin1String a_line );
+    bool TakeBoundary( const PimVCardWord& a_line );
     bool ParseParamValues( QString& a_values );
     QString ParseParamValue();
     bool ParseParamValueList( QString& a_value );

@@ -15,9 +15,13 @@ namespace PimManager::vCard
 
 /// Reads UTF-8 straight from a byte array, a UTF-16 unit at a time, and knows its place to the byte.
 ///
-/// It offers what the scanner and the grammar use of a QTextStream, under the same names, and the base class keeps the
-/// status. Its reading operations hide those of the base class: read it as a PimVCardTextStream, never through a
-/// reference to the base. It holds no decoded text, so telling the place and going to one cost nothing.
+/// It implements the operations of a QTextStream that the scanner and the grammar use, under the same names: reading a
+/// QChar, atEnd(), pos(), seek(), readLine() and readAll(). status(), setStatus() and resetStatus() are those of the
+/// base class. Every other operation of QTextStream, such as read( n ), readLineInto(), skipWhiteSpace() and `>>` into
+/// a text or a number, can still be called, but belongs to the base class, which has no device: it reads nothing and
+/// does not move the stream. For the same reason, do not read through a reference to the base class.
+///
+/// The stream holds no decoded text, so pos() and seek() take constant time.
 ///
 /// \code
 /// const QByteArray text( "FN:J\xC3\xB6rg\r\n" );
@@ -33,8 +37,9 @@ public:
     explicit PimVCardTextStream( const QByteArray* a_data );
 
     /// Reads the next UTF-16 unit, white space included; the halves of a character beyond U+FFFF come one after the
-    /// other. A byte order mark is passed over at the start of the text and where seek() went. A byte that belongs to
-    /// no character reads as U+FFFD. At the end of the text the unit is U+0000 and status() becomes ReadPastEnd.
+    /// other. A byte order mark is skipped at the start of the text and at a place that seek() went to. Each byte that
+    /// belongs to no UTF-8 sequence reads as one U+FFFD. At the end of the text the unit is U+0000 and status() becomes
+    /// ReadPastEnd.
     PimVCardTextStream& operator>>( QChar& a_character )
     {
         if ( m_next != m_end && IsAscii( *m_next ) && !IsInsidePair() )
@@ -49,7 +54,7 @@ public:
 
     /// \return the place of the next character, in bytes from the start of the text; between the halves of a surrogate
     ///         pair, the place behind the pair.
-    qint64 pos() const { return m_taken + ( m_next - m_begin ); }
+    qint64 pos() const { return m_next - m_begin; }
 
     /// Goes to a place in bytes from the start of the text. The status stays as it is.
     /// \return false, with nothing changed, for a place before the start or behind the end of the text.
@@ -87,12 +92,6 @@ public:
     /// \return true if it was a half.
     bool PassMarkOrHalf();
 
-    /// Goes on in the same text after bytes were taken from its front. Positions stay what they were; the places of
-    /// those bytes can no longer be gone to.
-    /// \param a_data  the text without them; as for the constructor.
-    /// \param a_taken their number; all of them were read.
-    void Rebase( const QByteArray* a_data, int a_taken );
-
 private:
     static bool IsAscii( char a_byte ) { return static_cast<uchar>( a_byte ) < 0x80; }
     QChar ReadBeyondAscii();
@@ -106,8 +105,6 @@ private:
     const char* m_next;
     // Where reading began: there alone U+FEFF is a byte order mark.
     const char* m_origin;
-    // The bytes in front of m_begin that the text no longer has.
-    qint64 m_taken = 0;
     ushort m_lowSurrogate = 0;
 };
 

@@ -1,10 +1,14 @@
 /// \file
 /// Every word, delimiter, token pattern, operation label and error message of the vCard component.
 ///
-/// The parser and the scanner take their texts from here and spell none themselves. Each constant is defined once for
-/// the whole program, and once more in each shared library that keeps its own to itself, and is built before `main`
-/// runs; within a translation unit that includes this header they are built in the order below and before any static
-/// object that follows, so such objects may use them:
+/// The preparation of the text, the scanner and the parser take these texts from here. The lines that show state on
+/// Qt's debug log (the scanner's status, a printed property, the time that a parse took) are written where they are
+/// sent, and so are the characters that no constant names: the backslash, the tab, and the ranges of the token
+/// patterns.
+///
+/// Each constant is defined once for the whole program, and once more in each shared library that hides its own. It is
+/// built before `main` runs. Within a translation unit that includes this header, the constants are built in the order
+/// below and before any static object that follows, so such objects may use them:
 ///
 /// \code
 /// static const QString s_kBeginLine = s_kBegin + s_kColon + s_kVCard; // "BEGIN:VCARD"

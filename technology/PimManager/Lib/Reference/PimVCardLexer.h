@@ -21,6 +21,8 @@ class QByteArray;
 namespace PimManager::vCard
 {
 
+class PimVCardWord;
+
 /// Cuts a text into tokens, as its caller's expressions tell it, and knows nothing of the vCard grammar.
 ///
 /// One expression match for each character, and in run mode a way through UTF-8 and back: slow, and the judge of what
@@ -109,12 +111,10 @@ private:
     bool TakeLineEnd( const QRegularExpression& a_lineEnds ) { return !GetToken( a_lineEnds, false ).isEmpty(); }
     // Whatever is only a shorter way to the same tokens is not gone here.
     // NOLINTBEGIN(readability-convert-member-functions-to-static): members, as those of the component's scanner.
-    bool TakeLine( QLatin1String /*a_line*/ ) { return false; }
+    bool TakeLine( const PimVCardWord& /*a_line*/ ) { return false; }
     bool TakeNameList( const QRegularExpression& /*a_names*/, const QString& /*a_list*/ ) { return false; }
     // NOLINTEND(readability-convert-member-functions-to-static)
     void SeekToBeginLine();
-    // The text stays whole.
-    void DropReadText( const QByteArray& /*a_text*/ ) {}
 
     void TakeCharacter( const QRegularExpression& a_pattern );
     void TakeRun( const QRegularExpression& a_pattern );

@@ -1,7 +1,8 @@
 #include "PimVCardBeginSearch.h"
 
+#include "PimVCardVocabularyBytes.h"
+
 #include <QByteArray>
-#include <QLatin1String>
 
 #include <algorithm>
 #include <cstring>
@@ -19,9 +20,9 @@ bool IsContinuation( char a_byte )
     return ( static_cast<uchar>( a_byte ) & 0xC0 ) == 0x80;
 }
 
-bool IsBlank( char a_byte )
+bool IsBlankByte( char a_byte )
 {
-    return a_byte == ' ' || a_byte == '\t';
+    return IsBlank( QLatin1Char( a_byte ) );
 }
 
 const char* Find( char a_byte, const char* a_begin, const char* a_end )
@@ -45,24 +46,25 @@ int CountStrayUnits( const char* a_begin, const char* a_end )
     return static_cast<int>( std::find_if_not( a_begin, a_end, IsContinuation ) - a_begin );
 }
 
-bool HasWord( const char* a_place, const char* a_end, QLatin1String a_word )
+bool HasWord( const char* a_place, const char* a_end, const PimVCardWord& a_word )
 {
-    return a_end - a_place >= a_word.size() &&
-           qstrnicmp( a_place, a_word.data(), static_cast<uint>( a_word.size() ) ) == 0;
+    return a_end - a_place >= a_word.Length() &&
+           qstrnicmp( a_place, a_word.Bytes(), static_cast<uint>( a_word.Length() ) ) == 0;
 }
 
 // Where the BEGIN stands that the colon belongs to; null if it belongs to none.
 const char* BeginBefore( const char* a_colon, const char* a_lineBegin, const char* a_lineEnd )
 {
-    const QLatin1String begin( "BEGIN" );
-    if ( !HasWord( std::find_if_not( a_colon + 1, a_lineEnd, IsBlank ), a_lineEnd, QLatin1String( "VCARD" ) ) )
+    static const PimVCardWord s_begin( s_kBegin );
+    static const PimVCardWord s_vCard( s_kVCard );
+    if ( !HasWord( std::find_if_not( a_colon + 1, a_lineEnd, IsBlankByte ), a_lineEnd, s_vCard ) )
         return nullptr;
     const char* wordEnd = a_colon;
-    while ( wordEnd != a_lineBegin && IsBlank( wordEnd[-1] ) )
+    while ( wordEnd != a_lineBegin && IsBlankByte( wordEnd[-1] ) )
         --wordEnd;
-    if ( wordEnd - a_lineBegin < begin.size() || !HasWord( wordEnd - begin.size(), wordEnd, begin ) )
+    if ( wordEnd - a_lineBegin < s_begin.Length() || !HasWord( wordEnd - s_begin.Length(), wordEnd, s_begin ) )
         return nullptr;
-    return wordEnd - begin.size();
+    return wordEnd - s_begin.Length();
 }
 
 } // namespace
@@ -76,18 +78,19 @@ PimVCardBeginSearch::Line PimVCardBeginSearch::LineFrom( const char* a_place, co
         Read( a_place, a_end );
     m_place = a_place;
     const int lineFeed = m_lineEnd != a_end ? 1 : 0;
-    const int carriageReturn = m_lineEnd != a_place && m_lineEnd[-1] == '\r' ? 1 : 0;
+    const int carriageReturn = m_lineEnd != a_place && m_lineEnd[-1] == ByteOf( s_kCr ) ? 1 : 0;
     const int length = CountStrayUnits( a_place, m_lineEnd ) + m_units - carriageReturn;
     return { m_lineEnd + lineFeed, length, m_lastBegin != nullptr && m_lastBegin >= a_place };
 }
 
 void PimVCardBeginSearch::Read( const char* a_place, const char* a_end )
 {
-    m_lineEnd = Find( '\n', a_place, a_end );
+    const char colonByte = ByteOf( s_kColon );
+    m_lineEnd = Find( ByteOf( s_kLf ), a_place, a_end );
     m_units = CountUnits( a_place, m_lineEnd );
     m_lastBegin = nullptr;
-    for ( const char* colon = Find( ':', a_place, m_lineEnd ); colon != m_lineEnd;
-          colon = Find( ':', colon + 1, m_lineEnd ) )
+    for ( const char* colon = Find( colonByte, a_place, m_lineEnd ); colon != m_lineEnd;
+          colon = Find( colonByte, colon + 1, m_lineEnd ) )
     {
         if ( const char* const begin = BeginBefore( colon, a_place, m_lineEnd ) )
             m_lastBegin = begin;

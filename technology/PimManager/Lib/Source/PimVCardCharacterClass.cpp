@@ -1,6 +1,7 @@
 #include "PimVCardCharacterClass.h"
 
 #include "PimVCardVocabulary.h"
+#include "PimVCardVocabularyBytes.h"
 
 namespace PimManager::vCard
 {
@@ -18,62 +19,77 @@ constexpr Bytes With( Bytes a_bytes, uchar a_first, uchar a_last )
     return a_bytes;
 }
 
-constexpr Bytes With( Bytes a_bytes, const char* a_characters )
-{
-    for ( ; *a_characters != 0; ++a_characters )
-        a_bytes[static_cast<uchar>( *a_characters )] = true;
-    return a_bytes;
-}
-
 constexpr Bytes Without( Bytes a_bytes, uchar a_byte )
 {
     a_bytes[a_byte] = false;
     return a_bytes;
 }
 
-constexpr Bytes s_kLettersAndDigits = With( With( With( Bytes{}, '0', '9' ), 'A', 'Z' ), 'a', 'z' );
-// U+FEFF, whose first byte is 0xEF, ends a run.
-constexpr Bytes s_kWide = Without( With( With( Bytes{}, " \t" ), 0x80, 0xFF ), 0xEF );
-constexpr Bytes s_kQSafe = Without( Without( With( s_kWide, 0x21, 0x7E ), '"' ), '\\' );
-constexpr Bytes s_kValues = Without( Without( With( s_kWide, 0x21, 0x7E ), ';' ), '\\' );
-
-constexpr Class Delimiter( const QString& a_delimiter, const char* a_character )
+Bytes With( const Bytes& a_bytes, const QString& a_delimiter )
 {
-    return { With( Bytes{}, a_character ), Class::Beyond::Nothing, false, false, false, false, &a_delimiter };
+    const auto byte = static_cast<uchar>( ByteOf( a_delimiter ) );
+    return With( a_bytes, byte, byte );
 }
 
-constexpr Class s_kSemicolonClass = Delimiter( s_kSemicolon, ";" );
-constexpr Class s_kDotClass = Delimiter( s_kDot, "." );
-constexpr Class s_kEqualsClass = Delimiter( s_kEquals, "=" );
-constexpr Class s_kCommaClass = Delimiter( s_kComma, "," );
-constexpr Class s_kColonClass = Delimiter( s_kColon, ":" );
-constexpr Class s_kDQuoteClass = Delimiter( s_kDQuote, "\"" );
-constexpr Class s_kNameClass = { With( s_kLettersAndDigits, "-" ), Class::Beyond::Nothing, false, false, true };
-constexpr Class s_kValueClass = { With( s_kValues, "\n" ), Class::Beyond::Everything, false, true };
-constexpr Class s_kQSafeClass = { s_kQSafe, Class::Beyond::Everything, true };
-constexpr Class s_kCrlfClass = { With( Bytes{}, 0x0A, 0x0D ), Class::Beyond::LineBreaks, false, false, false, true };
-constexpr Class s_kBase64Class = { With( s_kLettersAndDigits, "+/=" ) };
+Bytes Without( const Bytes& a_bytes, const QString& a_delimiter )
+{
+    return Without( a_bytes, static_cast<uchar>( ByteOf( a_delimiter ) ) );
+}
+
+constexpr Bytes s_kLettersAndDigits = With( With( With( Bytes{}, '0', '9' ), 'A', 'Z' ), 'a', 'z' );
+constexpr Bytes s_kNameBytes = With( s_kLettersAndDigits, '-', '-' );
+constexpr Bytes s_kBase64Bytes = With( With( s_kLettersAndDigits, '+', '+' ), '/', '/' );
+constexpr Bytes s_kPrintableBytes = Without( With( With( Bytes{}, '\t', '\t' ), 0x20, 0x7E ), '\\' );
+// U+FEFF, whose first byte is 0xEF, ends a run.
+constexpr Bytes s_kWideBytes = Without( With( s_kPrintableBytes, 0x80, 0xFF ), 0xEF );
+
+Class Delimiter( const QString& a_delimiter )
+{
+    return { With( Bytes{}, a_delimiter ), Class::Beyond::Nothing, false, false, false, false, &a_delimiter };
+}
+
+struct Classes
+{
+    Class m_semicolon = Delimiter( s_kSemicolon );
+    Class m_dot = Delimiter( s_kDot );
+    Class m_equals = Delimiter( s_kEquals );
+    Class m_comma = Delimiter( s_kComma );
+    Class m_colon = Delimiter( s_kColon );
+    Class m_dQuote = Delimiter( s_kDQuote );
+    Class m_name = { s_kNameBytes, Class::Beyond::Nothing, false, false, true };
+    Class m_value = { With( Without( s_kWideBytes, s_kSemicolon ), s_kLf ), Class::Beyond::Everything, false, true };
+    Class m_qSafe = { Without( s_kWideBytes, s_kDQuote ), Class::Beyond::Everything, true };
+    Class m_crlf = { With( Bytes{}, 0x0A, 0x0D ), Class::Beyond::LineBreaks, false, false, false, true };
+    Class m_base64 = { With( s_kBase64Bytes, s_kEquals ) };
+};
 
 struct Entry
 {
     const QString* m_pattern;
-    const Class* m_class;
+    Class Classes::*m_class;
 };
 
 // The most wanted come first.
 constexpr std::array<Entry, 11> s_kEntries = { {
-    { &s_kSemicolonPattern, &s_kSemicolonClass },
-    { &s_kNamePattern, &s_kNameClass },
-    { &s_kValueCharPattern, &s_kValueClass },
-    { &s_kDotPattern, &s_kDotClass },
-    { &s_kCrlfPattern, &s_kCrlfClass },
-    { &s_kColonPattern, &s_kColonClass },
-    { &s_kEqualsPattern, &s_kEqualsClass },
-    { &s_kCommaPattern, &s_kCommaClass },
-    { &s_kDQuotePattern, &s_kDQuoteClass },
-    { &s_kBase64CharPattern, &s_kBase64Class },
-    { &s_kQSafeCharPattern, &s_kQSafeClass },
+    { &s_kSemicolonPattern, &Classes::m_semicolon },
+    { &s_kNamePattern, &Classes::m_name },
+    { &s_kValueCharPattern, &Classes::m_value },
+    { &s_kDotPattern, &Classes::m_dot },
+    { &s_kCrlfPattern, &Classes::m_crlf },
+    { &s_kColonPattern, &Classes::m_colon },
+    { &s_kEqualsPattern, &Classes::m_equals },
+    { &s_kCommaPattern, &Classes::m_comma },
+    { &s_kDQuotePattern, &Classes::m_dQuote },
+    { &s_kBase64CharPattern, &Classes::m_base64 },
+    { &s_kQSafeCharPattern, &Classes::m_qSafe },
 } };
+
+// Made by the first scanner, which may be a static object of another source.
+const Classes& AllClasses()
+{
+    static const Classes s_classes;
+    return s_classes;
+}
 
 // The vocabulary's texts are never copied, so a pattern is known by where it stands.
 bool AreSameText( const QString& a_first, const QString& a_second )
@@ -94,25 +110,18 @@ const Class* Class::Find( const QString& a_pattern )
     for ( const Entry& entry : s_kEntries )
     {
         if ( AreSameText( *entry.m_pattern, a_pattern ) )
-            return entry.m_class;
+            return &( AllClasses().*entry.m_class );
     }
     return nullptr;
 }
 
 bool Class::MatchesEscaped( QChar a_character ) const
 {
-    switch ( a_character.unicode() )
-    {
-    case '\\':
-    case ',':
-    case ';':
-    case ':':
-        return m_escapePairs;
-    case 0: // the text ends behind the backslash, which is then tested alone
+    // Where the text ends behind the backslash, it is tested alone.
+    if ( a_character.isNull() )
         return m_backslash;
-    default:
-        return false;
-    }
+    const auto is = [a_character]( const QString& a_delimiter ) { return a_character == *a_delimiter.constData(); };
+    return m_escapePairs && ( a_character == s_kBackslash || is( s_kComma ) || is( s_kSemicolon ) || is( s_kColon ) );
 }
 
 bool Class::MatchesBeyondAscii( ushort a_code ) const

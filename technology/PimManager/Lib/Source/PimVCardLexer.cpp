@@ -4,8 +4,8 @@
 #include "PimVCardCharacterClass.h"
 #include "PimVCardRecurringText.h"
 #include "PimVCardVocabulary.h"
+#include "PimVCardVocabularyBytes.h"
 
-#include <QByteArray>
 #include <QDebug>
 #include <QtEndian>
 
@@ -18,9 +18,7 @@ namespace PimManager::vCard
 namespace
 {
 
-constexpr QLatin1Char s_kBackslash( '\\' );
 constexpr int s_kLineEndLength = 2;
-constexpr int s_kLeastDrop = 0x10000;
 
 bool IsLetterOrDigit( char a_byte )
 {
@@ -89,8 +87,8 @@ class PimVCardLexer::LineCount
 public:
     void Add( QChar a_character )
     {
-        m_carriageReturns += a_character == QChar::CarriageReturn ? 1 : 0;
-        m_lineFeeds += a_character == QChar::LineFeed ? 1 : 0;
+        m_carriageReturns += a_character == *s_kCr.constData() ? 1 : 0;
+        m_lineFeeds += a_character == *s_kLf.constData() ? 1 : 0;
     }
     void Add( const char* a_begin, const char* a_end )
     {
@@ -136,8 +134,8 @@ PimVCardLexer::~PimVCardLexer() = default;
 bool PimVCardLexer::TakeLineEnd( const QRegularExpression& a_lineEnds )
 {
     const char* const next = m_stream.Next();
-    const bool isOneCrlf = m_nextChar == QChar::CarriageReturn && m_stream.End() - next > 1 && next[0] == '\n' &&
-                           IsLetterOrDigit( next[1] );
+    const bool isOneCrlf = m_nextChar == *s_kCr.constData() && m_stream.End() - next > 1 &&
+                           next[0] == ByteOf( s_kLf ) && IsLetterOrDigit( next[1] );
     if ( !isOneCrlf )
         return !GetToken( a_lineEnds, false ).isEmpty();
     StartToken();
@@ -145,16 +143,16 @@ bool PimVCardLexer::TakeLineEnd( const QRegularExpression& a_lineEnds )
     return true;
 }
 
-bool PimVCardLexer::TakeLine( QLatin1String a_line )
+bool PimVCardLexer::TakeLine( const PimVCardWord& a_line )
 {
     if ( m_nextChar.isNull() )
         m_stream >> m_nextChar;
-    if ( !m_stream.IsDirectlyBehind( m_nextChar ) )
+    if ( m_nextChar != QLatin1Char( *a_line.Bytes() ) || !m_stream.IsDirectlyBehind( m_nextChar ) )
         return false;
     const char* const begin = m_stream.Next() - 1;
-    const char* const nextLine = begin + a_line.size();
-    const bool isNext = m_stream.End() - begin > a_line.size() && QLatin1String( begin, a_line.size() ) == a_line &&
-                        IsLetterOrDigit( *nextLine );
+    const char* const nextLine = begin + a_line.Length();
+    const bool isNext =
+        m_stream.End() - begin > a_line.Length() && a_line.IsAt( begin ) && IsLetterOrDigit( *nextLine );
     if ( !isNext )
         return false;
     m_prevToken = QString();
@@ -174,16 +172,17 @@ bool PimVCardLexer::TakeNameList( const QRegularExpression& a_names, QString& a_
 {
     if ( !m_stream.IsDirectlyBehind( m_nextChar ) )
         return false;
+    const char comma = ByteOf( s_kComma );
     const PimVCardCharacterClass& names = *ClassOf( a_names );
     const char* const begin = m_stream.Next() - 1;
     const char* lastName = begin;
     const char* end = names.EndOfRun( begin, m_stream.End() );
-    while ( end != lastName && end != m_stream.End() && *end == ',' )
+    while ( end != lastName && end != m_stream.End() && *end == comma )
     {
         lastName = end + 1;
         end = names.EndOfRun( lastName, m_stream.End() );
     }
-    if ( end == lastName || end == m_stream.End() || ( *end != ':' && *end != ';' ) )
+    if ( end == lastName || end == m_stream.End() || ( *end != ByteOf( s_kColon ) && *end != ByteOf( s_kSemicolon ) ) )
         return false;
     a_list = PimVCardRecurringText( begin, static_cast<int>( end - begin ) );
     m_prevToken = lastName == begin ? a_list : PimVCardRecurringText( lastName, static_cast<int>( end - lastName ) );
@@ -318,7 +317,7 @@ void PimVCardLexer::AppendText( const PimVCardCharacterClass& a_class, const cha
 bool PimVCardLexer::CompleteEscapePair( QChar& a_candidate )
 {
     m_stream >> m_nextChar;
-    if ( m_nextChar == QChar::CarriageReturn )
+    if ( m_nextChar == *s_kCr.constData() )
     {
         m_stream.seek( m_stream.pos() - 1 );
         return false;
@@ -374,18 +373,6 @@ void PimVCardLexer::SeekToBeginLine()
     } while ( !line.m_hasBegin && !m_stream.atEnd() );
     if ( !m_stream.atEnd() )
         GoBackOver( line.m_length );
-}
-
-void PimVCardLexer::DropReadText( QByteArray& a_text )
-{
-    const int kept = s_kLineEndLength;
-    const auto read = static_cast<int>( m_stream.Next() - a_text.constData() ) - kept;
-    if ( read < s_kLeastDrop || read < a_text.size() / 2 || !a_text.isDetached() )
-        return;
-    a_text.remove( 0, read );
-    a_text.squeeze();
-    m_beginSearch.reset();
-    m_stream.Rebase( &a_text, read );
 }
 
 void PimVCardLexer::PrintStatus( const QRegularExpression* a_pattern ) const

@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QVarLengthArray>
+#include <QtAlgorithms>
 
 #include <memory>
 
@@ -36,19 +37,39 @@ struct OwnedListDeleter
 template <typename T>
 using OwnedList = std::unique_ptr<QList<T*>, OwnedListDeleter>;
 
-/// The elements of a list in the making: those that come usually need no memory of their own.
+/// The elements of a list in the making. Up to UsualNumber of them need no memory of their own. Those that were not
+/// taken are deleted, from the first on.
 template <typename T, int UsualNumber>
-using OwnedElements = QVarLengthArray<std::unique_ptr<T>, UsualNumber>;
-
-/// \return a new list, just as long as it must be, that takes the elements over.
-template <typename T, int UsualNumber>
-QList<T*>* NewListOf( OwnedElements<T, UsualNumber>& a_elements )
+class OwnedElements
 {
-    OwnedList<T> list( new QList<T*> );
-    list->reserve( a_elements.size() );
-    for ( std::unique_ptr<T>& element : a_elements )
-        list->append( element.release() );
-    return list.release();
-}
+public:
+    OwnedElements() = default;
+    ~OwnedElements() { qDeleteAll( m_elements ); }
+    Q_DISABLE_COPY( OwnedElements )
+
+    /// \param a_element not null.
+    void Append( std::unique_ptr<T> a_element )
+    {
+        m_elements.append( a_element.get() );
+        static_cast<void>( a_element.release() );
+    }
+
+    /// \pre there is an element.
+    const T& Last() const { return *m_elements.last(); }
+
+    /// \return a new list, just as long as it must be, that takes the elements over.
+    QList<T*>* TakeAsList()
+    {
+        OwnedList<T> list( new QList<T*> );
+        list->reserve( m_elements.size() );
+        for ( T* element : m_elements )
+            list->append( element );
+        m_elements.clear();
+        return list.release();
+    }
+
+private:
+    QVarLengthArray<T*, UsualNumber> m_elements;
+};
 
 } // namespace PimManager::vCard

@@ -4,6 +4,7 @@
 #include "PimVCardOwnedList.h"
 #include "PimVCardPreparation.h"
 #include "PimVCardVocabulary.h"
+#include "PimVCardVocabularyBytes.h"
 
 #include <QDebug>
 #include <QTime>
@@ -19,9 +20,6 @@ namespace
 {
 
 constexpr const char* s_kPrintPrefix = "  ";
-// The boundaries of a card as nearly every card has them.
-constexpr QLatin1String s_kPlainBegin( "BEGIN:VCARD\r\n", 13 );
-constexpr QLatin1String s_kPlainEnd( "END:VCARD\r\n", 11 );
 constexpr int s_kUsualProperties = 16;
 constexpr int s_kUsualParameters = 4;
 constexpr int s_kUsualComponents = 8;
@@ -62,9 +60,17 @@ const TokenExpressions& ThreadExpressions()
     return t_expressions;
 }
 
-bool IsBlank( QChar a_character )
+// The boundaries of a card as nearly every card has them.
+struct PlainLines
 {
-    return a_character == QChar::Tabulation || a_character == QChar::Space;
+    const PimVCardWord m_begin{ s_kBegin + s_kColon + s_kVCard + s_kCrlf };
+    const PimVCardWord m_end{ s_kEnd + s_kColon + s_kVCard + s_kCrlf };
+};
+
+const PlainLines& Plain()
+{
+    static const PlainLines s_lines;
+    return s_lines;
 }
 
 bool IsBlankOrLineBreak( QChar a_character )
@@ -189,7 +195,6 @@ QList<PimVCard*>* PimVCardParser::ParseVCards()
         if ( PimVCard* vCard = ParseVCard() )
         {
             vCards->append( vCard );
-            m_lexer->DropReadText( m_data );
             continue;
         }
         ReportError( s_kParseVCardsLabel, s_kErrCouldNotParseVCard );
@@ -235,7 +240,7 @@ PimVCard* PimVCardParser::ParseVCard()
 
 bool PimVCardParser::ParseStart()
 {
-    if ( TakeBoundary( s_kPlainBegin ) )
+    if ( TakeBoundary( Plain().m_begin ) )
         return true;
     const std::unique_ptr<PimVCardProperty> property( ParseProperty() );
     const bool isStart = IsVCardBoundary( property.get(), s_kBegin );
@@ -245,7 +250,7 @@ bool PimVCardParser::ParseStart()
 }
 
 // As ParseProperty() takes such a line.
-bool PimVCardParser::TakeBoundary( QLatin1String a_line )
+bool PimVCardParser::TakeBoundary( const PimVCardWord& a_line )
 {
     if ( m_errorReported != 0 || !m_lexer->TakeLine( a_line ) )
         return false;
@@ -267,19 +272,20 @@ QList<PimVCardProperty*>* PimVCardParser::ParseProperties()
     OwnedElements<PimVCardProperty, s_kUsualProperties> properties;
     do
     {
-        if ( TakeBoundary( s_kPlainEnd ) )
+        if ( TakeBoundary( Plain().m_end ) )
         {
-            properties.append( NewPlainEnd() );
+            properties.Append( NewPlainEnd() );
             break;
         }
-        properties.append( std::unique_ptr<PimVCardProperty>( ParseProperty() ) );
-        if ( properties.last() == nullptr )
+        std::unique_ptr<PimVCardProperty> property( ParseProperty() );
+        if ( property == nullptr )
         {
             ReportError( s_kParsePropertiesLabel, s_kErrCouldNotParseProperty );
             return nullptr;
         }
-    } while ( !AreSameWord( properties.last()->GetName(), s_kEnd ) );
-    return NewListOf( properties );
+        properties.Append( std::move( property ) );
+    } while ( !AreSameWord( properties.Last().GetName(), s_kEnd ) );
+    return properties.TakeAsList();
 }
 
 PimVCardProperty* PimVCardParser::ParseProperty()
@@ -343,13 +349,13 @@ QList<PimVCardParameter*>* PimVCardParser::ParseParameters( bool a_vCardBoundary
 {
     OwnedElements<PimVCardParameter, s_kUsualParameters> parameters;
     while ( PimVCardParameter* parameter = ParseParameter( a_vCardBoundary ) )
-        parameters.append( std::unique_ptr<PimVCardParameter>( parameter ) );
+        parameters.Append( std::unique_ptr<PimVCardParameter>( parameter ) );
     if ( m_errorReported != 0 )
     {
         ReportError( s_kParseParametersLabel, s_kErrCouldNotParseParameter );
         return nullptr;
     }
-    return NewListOf( parameters );
+    return parameters.TakeAsList();
 }
 
 PimVCardParameter* PimVCardParser::ParseParameter( bool a_vCardBoundary )

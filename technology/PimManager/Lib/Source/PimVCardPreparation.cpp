@@ -1,5 +1,7 @@
 #include "PimVCardPreparation.h"
 
+#include "PimVCardVocabularyBytes.h"
+
 #include <QString>
 #include <QtEndian>
 
@@ -15,8 +17,13 @@ namespace
 constexpr quint64 s_kHighBits = 0x8080808080808080;
 constexpr int s_kWord = sizeof( quint64 );
 constexpr int s_kByteOrderMarkLength = 3;
-constexpr const char* s_kEncodedBreak = "=0D=0A=";
-constexpr int s_kEncodedBreakLength = 7;
+
+// "=0D=0A=": the pattern up to its line break, which is the first thing in it that is not plain text.
+const PimVCardWord& EncodedBreak()
+{
+    static const PimVCardWord s_text( s_kQpSoftBreakPattern.section( s_kBackslash, 0, 0 ) );
+    return s_text;
+}
 
 quint64 WordAt( const char* a_place )
 {
@@ -62,7 +69,7 @@ int LineBreakLength( const char* a_place, const char* a_end )
 const char* SkipBlanks( const char* a_begin, const char* a_end )
 {
     const char* place = a_begin;
-    while ( place != a_end && ( *place == ' ' || *place == '\t' ) )
+    while ( place != a_end && IsBlank( QLatin1Char( *place ) ) )
         ++place;
     return place;
 }
@@ -136,7 +143,7 @@ public:
     void ReplaceByBlank( const char* a_begin, const char* a_end )
     {
         Cut( a_begin, a_end );
-        *m_to++ = ' ';
+        *m_to++ = ByteOf( s_kSpace );
     }
 
     QByteArray Finish()
@@ -168,11 +175,11 @@ private:
 // The length of an encoded line break and the soft one behind it, 0 if none begins here.
 qint64 EncodedBreakLength( const char* a_place, const char* a_end )
 {
-    if ( a_end - a_place <= s_kEncodedBreakLength ||
-         std::memcmp( a_place, s_kEncodedBreak, s_kEncodedBreakLength ) != 0 )
+    const PimVCardWord& text = EncodedBreak();
+    if ( a_end - a_place <= text.Length() || *a_place != *text.Bytes() || !text.IsAt( a_place ) )
         return 0;
-    const int breakLength = LineBreakLength( a_place + s_kEncodedBreakLength, a_end );
-    return breakLength == 0 ? 0 : s_kEncodedBreakLength + breakLength;
+    const int breakLength = LineBreakLength( a_place + text.Length(), a_end );
+    return breakLength == 0 ? 0 : text.Length() + breakLength;
 }
 
 // The blanks at the start of a line, those among them that encoded line breaks become.
@@ -193,24 +200,26 @@ bool IsWholeAndOwned( const QByteArray& a_data, const char* a_begin, const char*
 // Does both in one pass, as if the encoded breaks went first and the folds after. The piece is one of the array.
 QByteArray JoinLines( const QByteArray& a_data, const char* a_begin, const char* a_end )
 {
+    const char equals = ByteOf( s_kEquals );
+    const int encodedBreak = EncodedBreak().Length();
     Copier copier( a_begin, a_end );
     const char* place = FindBreakCandidate( a_begin, a_end );
     while ( place != a_end )
     {
         const int breakLength = LineBreakLength( place, a_end );
         const char* next = place + std::max( breakLength, 1 );
-        if ( breakLength != 0 && ( place == a_begin || place[-1] != '=' ) )
+        if ( breakLength != 0 && ( place == a_begin || place[-1] != equals ) )
         {
             const char* const text = SkipIndent( next, a_end );
             if ( text != next )
                 copier.Cut( place, text );
             next = text;
         }
-        else if ( breakLength != 0 && place - copier.LastCut() >= s_kEncodedBreakLength &&
-                  EncodedBreakLength( place - s_kEncodedBreakLength, a_end ) != 0 )
+        else if ( breakLength != 0 && place - copier.LastCut() >= encodedBreak &&
+                  EncodedBreakLength( place - encodedBreak, a_end ) != 0 )
         {
             next = SkipBlanks( next, a_end );
-            copier.ReplaceByBlank( place - s_kEncodedBreakLength, next );
+            copier.ReplaceByBlank( place - encodedBreak, next );
         }
         place = FindBreakCandidate( next, a_end );
     }

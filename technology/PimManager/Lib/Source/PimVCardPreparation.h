@@ -15,9 +15,8 @@ namespace PimManager::vCard
 /// `s_kQpSoftBreakPattern`, become one blank. Any other line break with blanks or tabs after it, and no "=" before it,
 /// goes with them, `s_kUnfoldPattern`; CR LF is one line break.
 ///
-/// \return the new text, in UTF-8, never longer than the old one if that is UTF-8. It shares the memory of the old one
-/// if
-///         nothing was to be done, unless that belongs to somebody else (QByteArray::fromRawData()).
+/// \return the new text, in UTF-8, never longer than the old one if that is UTF-8. If there was nothing to do, it
+///         shares the memory of the old one, unless that belongs to somebody else (QByteArray::fromRawData()).
 QByteArray PreparedText( const QByteArray& a_data );
 
 } // namespace PimManager::vCard

@@ -58,10 +58,9 @@ PimVCardTextStream::PimVCardTextStream( const QByteArray* a_data ) :
 
 bool PimVCardTextStream::seek( qint64 a_place )
 {
-    const qint64 place = a_place - m_taken;
-    if ( place < 0 || place > m_end - m_begin )
+    if ( a_place < 0 || a_place > m_end - m_begin )
         return false;
-    m_next = m_begin + place;
+    m_next = m_begin + a_place;
     m_origin = m_next;
     m_lowSurrogate = 0;
     return true;
@@ -128,17 +127,6 @@ bool PimVCardTextStream::PassMarkOrHalf()
     if ( m_next == m_origin )
         SkipByteOrderMark();
     return false;
-}
-
-void PimVCardTextStream::Rebase( const QByteArray* a_data, int a_taken )
-{
-    const auto next = m_next - m_begin - a_taken;
-    const auto end = m_end - m_begin - a_taken;
-    m_begin = a_data->constData();
-    m_next = m_begin + next;
-    m_end = m_begin + end;
-    m_origin = nullptr;
-    m_taken += a_taken;
 }
 
 QString PimVCardTextStream::readLine()

@@ -1,6 +1,7 @@
 // The stream alone: bytes that are no characters, which the parser never shows it, and places outside the text.
 
 #include "PimVCardTextStream.h"
+#include "PimVCardTestLog.h"
 
 #include <gtest/gtest.h>
 
@@ -88,19 +89,22 @@ TEST( TextStreamSeekTest, PlaceOutsideTheTextIsRefusedAndNothingChanges )
     EXPECT_EQ( unit, QLatin1Char( 'b' ) );
 }
 
-TEST( TextStreamSeekTest, PlaceInTextThatWasTakenIsRefused )
+TEST( TextStreamBaseTest, OperationsOfTheBaseClassReadNothingAndMoveNothing )
 {
-    const QByteArray text( "abcdef" );
+    const QByteArray text( " 12 words" );
     PimVCardTextStream stream( &text );
-    ASSERT_TRUE( stream.seek( 4 ) );
-    const QByteArray rest( "cdef" );
-    stream.Rebase( &rest, 2 );
-    EXPECT_EQ( stream.pos(), 4 );
-    EXPECT_FALSE( stream.seek( 1 ) );
-    EXPECT_EQ( stream.pos(), 4 );
-    EXPECT_TRUE( stream.seek( 2 ) );
-    EXPECT_EQ( stream.readAll(), QStringLiteral( "cdef" ) );
-    EXPECT_FALSE( stream.seek( 7 ) );
+    const LogCapture log;
+    QString line;
+    int number = -1;
+    EXPECT_EQ( stream.read( 3 ), QString() );
+    EXPECT_FALSE( stream.readLineInto( &line ) );
+    stream.skipWhiteSpace();
+    static_cast<QTextStream&>( stream ) >> number >> line;
+    EXPECT_EQ( number, -1 );
+    EXPECT_EQ( line, QString() );
+    EXPECT_EQ( stream.pos(), 0 );
+    EXPECT_EQ( stream.status(), QTextStream::Ok );
+    EXPECT_EQ( stream.readAll(), QString::fromLatin1( text ) );
 }
 
 } // namespace PimManager::vCard

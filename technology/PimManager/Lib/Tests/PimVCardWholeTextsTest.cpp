@@ -412,6 +412,29 @@ TEST( RecoveryTest, LineNumberIsRightAgain )
     EXPECT_EQ( ( std::vector<int>{ 5, 5, 5, 5, 5, 8, 8, 8, 8, 8, 16, 16, 16, 16, 16 } ), LineNumbersOf( log ) );
 }
 
+TEST( RecoveryTest, SearchForNextCardDropsTokensAndLookAhead )
+{
+    const LogCapture log;
+    PimVCardParser parser( "BEGIN:VCARD\r\nFN;a!:x\r\nEND:VCARD\r\n" );
+    EXPECT_EQ( std::vector<CardData>(), Take( parser.ParseVCards() ) );
+    const PimVCardLexer& lexer = PimVCardParserInspector( parser ).Lexer();
+    EXPECT_EQ( QString(), lexer.m_token );
+    EXPECT_EQ( QString(), lexer.m_prevToken );
+    EXPECT_EQ( QChar(), lexer.m_nextChar );
+}
+
+TEST( RecoveryTest, MarkIsRemovedWhetherOrNotThereIsANextCard )
+{
+    for ( const std::string& next : { std::string(), s_kA + s_kB } )
+    {
+        SCOPED_TRACE( next );
+        const LogCapture log;
+        PimVCardParser parser = ParserOf( s_kBroken + next );
+        EXPECT_TRUE( Take( parser.ParseVCards() ).has_value() );
+        EXPECT_EQ( 0, PimVCardParserInspector( parser ).ErrorReported() );
+    }
+}
+
 TEST( RecoveryTest, EncodingOutlivesRecovery )
 {
     const LogCapture log;
@@ -666,6 +689,25 @@ TEST( OwnershipTest, CallerMayDropRawDataAfterConstruction )
     PimVCardParser parser( QByteArray::fromRawData( bytes->data(), static_cast<int>( bytes->size() ) ) );
     bytes.reset();
     EXPECT_EQ( Card( "A" ), Take( parser.ParseVCard() ) );
+}
+
+// A book that is prepared into a copy, since its notes are folded, and is longer than any block that is read at once.
+TEST( OwnershipTest, TextStaysWholeWhileCardsAreParsed )
+{
+    std::string text;
+    std::vector<CardData> expected;
+    for ( int i = 0; i < 4000; ++i )
+    {
+        text += i % 100 == 99 ? s_kBroken : "BEGIN:VCARD\r\nNOTE:folded\r\n  note\r\nEND:VCARD\r\n";
+        if ( i % 100 != 99 )
+            expected.push_back( { { "", "NOTE", {}, { "foldednote" } } } );
+    }
+    const LogCapture log;
+    PimVCardParser parser = ParserOf( text );
+    const QByteArray prepared = PimVCardParserInspector( parser ).Data();
+    ASSERT_LT( 100000, prepared.size() );
+    EXPECT_EQ( expected, Take( parser.ParseVCards() ) );
+    EXPECT_EQ( prepared, PimVCardParserInspector( parser ).Data() );
 }
 
 TEST( OwnershipTest, CardsOutliveParser )

@@ -1,3 +1,9 @@
+# CMake puts CMAKE_CXX_FLAGS before the flags of the build type and before ours. Whoever builds the project has the last
+# word, so they follow once more at the end.
+if(PimManagerVCard_IS_TOP_LEVEL)
+  string(REPLACE "<FLAGS>" "<FLAGS> ${CMAKE_CXX_FLAGS}" CMAKE_CXX_COMPILE_OBJECT "${CMAKE_CXX_COMPILE_OBJECT}")
+endif()
+
 # What every target of this project is compiled with.
 function(pimvcard_configure target)
   if(PimManagerVCard_IS_TOP_LEVEL)

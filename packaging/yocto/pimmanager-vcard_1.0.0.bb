@@ -16,10 +16,12 @@ inherit cmake cmake_qt5 ptest
 
 DEPENDS = "qtbase"
 
+# Linked as they are installed, the libraries never hold the path of the build.
 EXTRA_OECMAKE = " \
     -DBUILD_SHARED_LIBS=ON \
     -DPIMVCARD_BUILD_TESTS=OFF \
     -DCMAKE_SKIP_INSTALL_RPATH=ON \
+    -DCMAKE_BUILD_WITH_INSTALL_RPATH=ON \
 "
 
 PACKAGECONFIG ??= "tools"

@@ -5,22 +5,28 @@ include(CMakePackageConfigHelpers)
 
 set(pimvcard_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/PimManagerVCard)
 
+# A header is included by its name alone, or with its folder, as <PimManager/NAME/...>.
 function(pimvcard_install_library target name)
   set(headers ${CMAKE_INSTALL_INCLUDEDIR}/PimManager/${name})
   install(TARGETS ${target} EXPORT PimManagerVCardTargets
           LIBRARY COMPONENT runtime NAMELINK_COMPONENT devel
           ARCHIVE COMPONENT devel
-          INCLUDES DESTINATION ${headers})
+          INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} ${headers})
   install(DIRECTORY Include/ DESTINATION ${headers} COMPONENT devel
           FILES_MATCHING PATTERN "PimVCard*.h" PATTERN Test EXCLUDE)
   set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
   pimvcard_install_pkg_config_file(${target})
 endfunction()
 
-# pkg-config finds the prefix from the place of the file.
+# pkg-config finds the prefix from the place of the file. It knows /usr/include, which a compiler must not be given once
+# more, by this name alone; so what is made for /usr says so.
 function(pimvcard_install_pkg_config_file library)
   set(folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
   file(RELATIVE_PATH way_to_prefix /${folder} /)
+  set(prefix "\${pcfiledir}/${way_to_prefix}")
+  if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    set(prefix /usr)
+  endif()
   configure_file(${PROJECT_SOURCE_DIR}/cmake/${library}.pc.in ${PROJECT_BINARY_DIR}/${library}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${library}.pc DESTINATION ${folder} COMPONENT devel)
 endfunction()

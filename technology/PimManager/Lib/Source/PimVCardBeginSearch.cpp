@@ -20,9 +20,9 @@ bool IsContinuation( char a_byte )
     return ( static_cast<uchar>( a_byte ) & 0xC0 ) == 0x80;
 }
 
-bool IsBlankByte( char a_byte )
+bool IsBlank( char a_byte )
 {
-    return IsBlank( QLatin1Char( a_byte ) );
+    return PimVCardVocabularyBytes::Get().IsBlank( a_byte );
 }
 
 const char* Find( char a_byte, const char* a_begin, const char* a_end )
@@ -55,16 +55,16 @@ bool HasWord( const char* a_place, const char* a_end, const PimVCardWord& a_word
 // Where the BEGIN stands that the colon belongs to; null if it belongs to none.
 const char* BeginBefore( const char* a_colon, const char* a_lineBegin, const char* a_lineEnd )
 {
-    static const PimVCardWord s_begin( s_kBegin );
-    static const PimVCardWord s_vCard( s_kVCard );
-    if ( !HasWord( std::find_if_not( a_colon + 1, a_lineEnd, IsBlankByte ), a_lineEnd, s_vCard ) )
+    const PimVCardWord& begin = PimVCardVocabularyBytes::Get().m_begin;
+    const PimVCardWord& vCard = PimVCardVocabularyBytes::Get().m_vCard;
+    if ( !HasWord( std::find_if_not( a_colon + 1, a_lineEnd, IsBlank ), a_lineEnd, vCard ) )
         return nullptr;
     const char* wordEnd = a_colon;
-    while ( wordEnd != a_lineBegin && IsBlankByte( wordEnd[-1] ) )
+    while ( wordEnd != a_lineBegin && IsBlank( wordEnd[-1] ) )
         --wordEnd;
-    if ( wordEnd - a_lineBegin < s_begin.Length() || !HasWord( wordEnd - s_begin.Length(), wordEnd, s_begin ) )
+    if ( wordEnd - a_lineBegin < begin.Length() || !HasWord( wordEnd - begin.Length(), wordEnd, begin ) )
         return nullptr;
-    return wordEnd - s_begin.Length();
+    return wordEnd - begin.Length();
 }
 
 } // namespace
@@ -78,19 +78,19 @@ PimVCardBeginSearch::Line PimVCardBeginSearch::LineFrom( const char* a_place, co
         Read( a_place, a_end );
     m_place = a_place;
     const int lineFeed = m_lineEnd != a_end ? 1 : 0;
-    const int carriageReturn = m_lineEnd != a_place && m_lineEnd[-1] == ByteOf( s_kCr ) ? 1 : 0;
+    const int carriageReturn = m_lineEnd != a_place && m_lineEnd[-1] == PimVCardVocabularyBytes::Get().m_cr ? 1 : 0;
     const int length = CountStrayUnits( a_place, m_lineEnd ) + m_units - carriageReturn;
     return { m_lineEnd + lineFeed, length, m_lastBegin != nullptr && m_lastBegin >= a_place };
 }
 
 void PimVCardBeginSearch::Read( const char* a_place, const char* a_end )
 {
-    const char colonByte = ByteOf( s_kColon );
-    m_lineEnd = Find( ByteOf( s_kLf ), a_place, a_end );
+    const PimVCardVocabularyBytes& bytes = PimVCardVocabularyBytes::Get();
+    m_lineEnd = Find( bytes.m_lf, a_place, a_end );
     m_units = CountUnits( a_place, m_lineEnd );
     m_lastBegin = nullptr;
-    for ( const char* colon = Find( colonByte, a_place, m_lineEnd ); colon != m_lineEnd;
-          colon = Find( colonByte, colon + 1, m_lineEnd ) )
+    for ( const char* colon = Find( bytes.m_colon, a_place, m_lineEnd ); colon != m_lineEnd;
+          colon = Find( bytes.m_colon, colon + 1, m_lineEnd ) )
     {
         if ( const char* const begin = BeginBefore( colon, a_place, m_lineEnd ) )
             m_lastBegin = begin;

@@ -99,6 +99,18 @@ bool AreSameText( const QString& a_first, const QString& a_second )
 
 } // namespace
 
+const PimVCardVocabularyBytes& PimVCardVocabularyBytes::Get()
+{
+    // The encoded break is the pattern up to its line break, which is the first thing in it that is not plain text.
+    static const PimVCardVocabularyBytes s_bytes = {
+        ByteOf( s_kSpace ),       ByteOf( s_kCr ),
+        ByteOf( s_kLf ),          ByteOf( s_kColon ),
+        ByteOf( s_kEquals ),      PimVCardWord( s_kBegin ),
+        PimVCardWord( s_kVCard ), PimVCardWord( s_kQpSoftBreakPattern.section( s_kBackslash, 0, 0 ) ),
+    };
+    return s_bytes;
+}
+
 const Class* Class::Find( const QRegularExpression& a_expression )
 {
     const Class* const found = Find( a_expression.pattern() );

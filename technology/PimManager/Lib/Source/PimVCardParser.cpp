@@ -60,6 +60,11 @@ const TokenExpressions& ThreadExpressions()
     return t_expressions;
 }
 
+bool IsBlank( QChar a_character )
+{
+    return a_character == *s_kSpace.constData() || a_character == QChar::Tabulation;
+}
+
 // The boundaries of a card as nearly every card has them.
 struct PlainLines
 {

@@ -18,13 +18,6 @@ constexpr quint64 s_kHighBits = 0x8080808080808080;
 constexpr int s_kWord = sizeof( quint64 );
 constexpr int s_kByteOrderMarkLength = 3;
 
-// "=0D=0A=": the pattern up to its line break, which is the first thing in it that is not plain text.
-const PimVCardWord& EncodedBreak()
-{
-    static const PimVCardWord s_text( s_kQpSoftBreakPattern.section( s_kBackslash, 0, 0 ) );
-    return s_text;
-}
-
 quint64 WordAt( const char* a_place )
 {
     return qFromLittleEndian<quint64>( a_place );
@@ -68,10 +61,8 @@ int LineBreakLength( const char* a_place, const char* a_end )
 
 const char* SkipBlanks( const char* a_begin, const char* a_end )
 {
-    const char* place = a_begin;
-    while ( place != a_end && IsBlank( QLatin1Char( *place ) ) )
-        ++place;
-    return place;
+    const PimVCardVocabularyBytes& bytes = PimVCardVocabularyBytes::Get();
+    return std::find_if_not( a_begin, a_end, [&bytes]( char a_byte ) { return bytes.IsBlank( a_byte ); } );
 }
 
 const char* SkipAscii( const char* a_begin, const char* a_end )
@@ -143,7 +134,7 @@ public:
     void ReplaceByBlank( const char* a_begin, const char* a_end )
     {
         Cut( a_begin, a_end );
-        *m_to++ = ByteOf( s_kSpace );
+        *m_to++ = PimVCardVocabularyBytes::Get().m_blank;
     }
 
     QByteArray Finish()
@@ -175,7 +166,7 @@ private:
 // The length of an encoded line break and the soft one behind it, 0 if none begins here.
 qint64 EncodedBreakLength( const char* a_place, const char* a_end )
 {
-    const PimVCardWord& text = EncodedBreak();
+    const PimVCardWord& text = PimVCardVocabularyBytes::Get().m_encodedBreak;
     if ( a_end - a_place <= text.Length() || *a_place != *text.Bytes() || !text.IsAt( a_place ) )
         return 0;
     const int breakLength = LineBreakLength( a_place + text.Length(), a_end );
@@ -200,8 +191,8 @@ bool IsWholeAndOwned( const QByteArray& a_data, const char* a_begin, const char*
 // Does both in one pass, as if the encoded breaks went first and the folds after. The piece is one of the array.
 QByteArray JoinLines( const QByteArray& a_data, const char* a_begin, const char* a_end )
 {
-    const char equals = ByteOf( s_kEquals );
-    const int encodedBreak = EncodedBreak().Length();
+    const char equals = PimVCardVocabularyBytes::Get().m_equals;
+    const int encodedBreak = PimVCardVocabularyBytes::Get().m_encodedBreak.Length();
     Copier copier( a_begin, a_end );
     const char* place = FindBreakCandidate( a_begin, a_end );
     while ( place != a_end )

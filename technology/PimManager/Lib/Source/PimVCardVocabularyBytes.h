@@ -3,9 +3,8 @@
 
 #pragma once
 
-#include "PimVCardVocabulary.h"
-
 #include <QChar>
+#include <QLatin1Char>
 #include <QString>
 
 #include <algorithm>
@@ -22,12 +21,6 @@ constexpr QLatin1Char s_kBackslash( '\\' );
 inline char ByteOf( const QString& a_delimiter )
 {
     return a_delimiter.constData()->toLatin1();
-}
-
-/// \return true for a blank or a tab.
-inline bool IsBlank( QChar a_character )
-{
-    return a_character == *s_kSpace.constData() || a_character == QChar::Tabulation;
 }
 
 /// A word of the vocabulary, or several put together, as the bytes that they are in a text.
@@ -56,6 +49,27 @@ public:
 private:
     std::array<char, 16> m_bytes{};
     int m_length;
+};
+
+/// The words and delimiters that the preparation and the search for the next card look for. Each source that includes
+/// the vocabulary itself builds all of its constants, which is 10 KB of code on the target, so these two do not.
+struct PimVCardVocabularyBytes
+{
+    const char m_blank;
+    const char m_cr;
+    const char m_lf;
+    const char m_colon;
+    const char m_equals;
+    const PimVCardWord m_begin;
+    const PimVCardWord m_vCard;
+    /// "=0D=0A=".
+    const PimVCardWord m_encodedBreak;
+
+    /// \return true for a blank or a tab.
+    bool IsBlank( char a_byte ) const { return a_byte == m_blank || a_byte == '\t'; }
+
+    /// \return the only object, made by the first call. Any thread may call.
+    static const PimVCardVocabularyBytes& Get();
 };
 
 } // namespace PimManager::vCard

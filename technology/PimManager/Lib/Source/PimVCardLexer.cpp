@@ -342,7 +342,7 @@ QString PimVCardLexer::SeekToPattern( const QRegularExpression& a_pattern )
 
     if ( m_stream.atEnd() )
         return QString();
-    GoBackOver( line.size() );
+    GoBackOver( static_cast<int>( line.size() ) );
     return line;
 }
 

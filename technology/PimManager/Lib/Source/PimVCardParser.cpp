@@ -25,18 +25,19 @@ constexpr int s_kUsualParameters = 4;
 constexpr int s_kUsualComponents = 8;
 
 // A wall clock on purpose: the timing line has always shown its time.
-QT_WARNING_PUSH
-QT_WARNING_DISABLE_DEPRECATED
 class Stopwatch
 {
 public:
-    Stopwatch() { m_time.start(); }
-    int Milliseconds() const { return m_time.elapsed(); }
+    int Milliseconds() const
+    {
+        const int time = m_start.msecsTo( QTime::currentTime() );
+        return time < 0 ? time + s_kMillisecondsOfDay : time;
+    }
 
 private:
-    QTime m_time;
+    static constexpr int s_kMillisecondsOfDay = 24 * 60 * 60 * 1000;
+    const QTime m_start = QTime::currentTime();
 };
-QT_WARNING_POP
 
 // What the parsers of one thread share: making an expression costs more than parsing a line.
 struct TokenExpressions

@@ -73,7 +73,7 @@ public:
                                       &s_kHome,   &s_kVersion } )
         {
             const QByteArray text = word->toLatin1();
-            const Key key = KeyOf( text.constData(), text.size() );
+            const Key key = KeyOf( text.constData(), static_cast<int>( text.size() ) );
             Put( m_entries[PlaceOf( key )], { key, *word } );
         }
     }

@@ -3,7 +3,8 @@
 #include <PimVCardImporter.h>
 
 #include <QFile>
-#include <QTextStream>
+
+#include <iostream>
 
 using namespace PimManager;
 
@@ -12,15 +13,13 @@ int main( int argc, char* argv[] )
     QFile file( QString::fromLocal8Bit( argc > 1 ? argv[1] : "contacts.vcf" ) );
     if ( !file.open( QIODevice::ReadOnly ) )
         return 1;
-    QTextStream out( stdout );
-    out.setCodec( "UTF-8" );
     vCardImport::PimVCardImporter importer;
     const vCardImport::PimVCardImportResult result = importer.Import( file.readAll() );
     for ( const vCardImport::PimVCardImportedCard& card : result.m_cards )
     {
-        out << vCardImport::DisplayNameOf( *card.m_card ) << '\n';
+        std::cout << vCardImport::DisplayNameOf( *card.m_card ).toStdString() << '\n';
         for ( const vCard::PimVCardProperty* property : card.m_card->GetProperties() )
             if ( vCardImport::IsNamed( *property, "TEL" ) )
-                out << "    " << vCardImport::TelephoneNumberOf( *property ) << '\n';
+                std::cout << "    " << vCardImport::TelephoneNumberOf( *property ).toStdString() << '\n';
     }
 }

@@ -44,8 +44,8 @@ void Phonebook::Cancel()
 
 void Phonebook::Add( const Contacts& a_contacts )
 {
-    const int first = m_contacts.size();
+    const auto first = static_cast<int>( m_contacts.size() );
     m_contacts += a_contacts;
     m_places.release();
-    emit ContactsAdded( first, a_contacts.size() );
+    emit ContactsAdded( first, static_cast<int>( a_contacts.size() ) );
 }

@@ -4,27 +4,23 @@
 #include "Phonebook.h"
 
 #include <QCoreApplication>
-#include <QTextStream>
+
+#include <iostream>
 
 namespace
 {
 
-QTextStream& Out()
-{
-    static QTextStream s_out( stdout );
-    return s_out;
-}
-
 void PrintContacts( const Contacts& a_contacts, int a_first, int a_count )
 {
     for ( const Contact& contact : a_contacts.mid( a_first, a_count ) )
-        Out() << contact.m_name << ": " << contact.m_numbers.join( QStringLiteral( ", " ) ) << '\n';
+        std::cout << contact.m_name.toStdString() << ": "
+                  << contact.m_numbers.join( QStringLiteral( ", " ) ).toStdString() << '\n';
 }
 
-void PrintEnd( int a_contacts, qint64 a_refused, bool a_isCancelled )
+void PrintEnd( qint64 a_contacts, qint64 a_refused, bool a_isCancelled )
 {
-    Out() << a_contacts << " contacts, " << a_refused << " cards refused" << ( a_isCancelled ? ", cancelled" : "" )
-          << '\n';
+    std::cout << a_contacts << " contacts, " << a_refused << " cards refused" << ( a_isCancelled ? ", cancelled" : "" )
+              << '\n';
 }
 
 void PrintWhatComes( Phonebook& a_phonebook, int a_enough )
@@ -37,7 +33,7 @@ void PrintWhatComes( Phonebook& a_phonebook, int a_enough )
                               a_phonebook.Cancel();
                       } );
     QObject::connect( &a_phonebook, &Phonebook::Progress, &a_phonebook,
-                      []( int a_percent ) { Out() << a_percent << " %\n"; } );
+                      []( int a_percent ) { std::cout << a_percent << " %\n"; } );
 }
 
 void EndWith( Phonebook& a_phonebook )
@@ -51,7 +47,7 @@ void EndWith( Phonebook& a_phonebook )
     QObject::connect( &a_phonebook, &Phonebook::Failed, &a_phonebook,
                       []( const QString& a_reason )
                       {
-                          Out() << "phonebook-worker: " << a_reason << '\n';
+                          std::cout << "phonebook-worker: " << a_reason.toStdString() << '\n';
                           QCoreApplication::exit( 1 );
                       } );
 }
@@ -62,10 +58,9 @@ int main( int argc, char* argv[] )
 {
     const QCoreApplication application( argc, argv );
     const QStringList words = QCoreApplication::arguments();
-    Out().setCodec( "UTF-8" );
     if ( words.size() < 2 || words.size() > 3 )
     {
-        Out() << "Usage: phonebook-worker FILE [COUNT]\n";
+        std::cout << "Usage: phonebook-worker FILE [COUNT]\n";
         return 2;
     }
     Phonebook phonebook( words[1] );

@@ -76,7 +76,7 @@ QStringList CommandsIn( const QString& a_document )
 {
     static const QRegularExpression s_kPlaceholder( QStringLiteral( "\\b(FILE|DIR|OUT|NAME|COMMAND)\\b" ) );
     QStringList commands = AllMatches( a_document, QStringLiteral( "^    ((?:pimvcard|find) .*)$" ) );
-    for ( int i = commands.size() - 1; i >= 0; --i )
+    for ( auto i = commands.size() - 1; i >= 0; --i )
     {
         if ( commands[i].contains( s_kPlaceholder ) )
             commands.removeAt( i );

@@ -35,7 +35,7 @@ QByteArray BytesOf( const QString& a_written )
         const QRegularExpressionMatch match = matches.next();
         bytes += a_written.mid( end, match.capturedStart() - end ).toUtf8();
         bytes += QByteArray::fromHex( match.captured( 1 ).toLatin1() );
-        end = match.capturedEnd();
+        end = static_cast<int>( match.capturedEnd() );
     }
     bytes += a_written.mid( end ).toUtf8();
     for ( const Sign& sign : s_kSigns )

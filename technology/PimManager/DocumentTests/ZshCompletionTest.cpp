@@ -31,7 +31,7 @@ QStringList OptionsNamedIn( const QString& a_text )
 QString BranchOf( const QString& a_command )
 {
     const QString text = Completion();
-    const int begin = text.indexOf(
+    const auto begin = text.indexOf(
         QRegularExpression( QStringLiteral( "^ +%1\\)" ).arg( a_command ), QRegularExpression::MultilineOption ) );
     EXPECT_GE( begin, 0 ) << a_command.toStdString();
     QString branch = text.mid( begin, text.indexOf( QLatin1String( ";;" ), begin ) - begin );

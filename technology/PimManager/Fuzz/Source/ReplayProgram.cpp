@@ -48,6 +48,6 @@ int main( int argc, char* argv[] )
         std::fprintf( stderr, "%s: %s\n", argv[0], QFile::encodeName( inputs.m_error ).constData() );
         return s_kNothingTried;
     }
-    std::printf( "%d inputs tried\n", inputs.m_files.size() );
+    std::printf( "%d inputs tried\n", static_cast<int>( inputs.m_files.size() ) );
     return 0;
 }

@@ -63,11 +63,11 @@ private:
     int Expression( int a_number )
     {
         static const QList<PimVCardScannerExpression> s_expressions = ScannerExpressions();
-        const int number = a_number % s_expressions.size();
-        int place = m_numbers.indexOf( number );
+        const int number = a_number % static_cast<int>( s_expressions.size() );
+        int place = static_cast<int>( m_numbers.indexOf( number ) );
         if ( place < 0 )
         {
-            place = m_numbers.size();
+            place = static_cast<int>( m_numbers.size() );
             m_numbers.append( number );
             m_script.m_expressions.append( s_expressions.at( number ) );
         }
@@ -79,7 +79,7 @@ private:
         for ( PimVCardScannerStep& step : m_script.m_steps )
         {
             if ( step.m_call == PimVCardScannerCall::GoTo )
-                step.m_argument %= a_text.size() + 1;
+                step.m_argument %= static_cast<int>( a_text.size() ) + 1;
         }
     }
 

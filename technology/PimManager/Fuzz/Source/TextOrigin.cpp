@@ -13,6 +13,7 @@ namespace
 {
 
 constexpr QLatin1Char s_kBackslash( '\\' );
+constexpr int s_kSoftLineBreakLength = 3; // "=", CR, LF
 
 /// Follows a text through the source from one place on. Where a backslash may be a character of the text or one that
 /// was left out, it follows both ways.
@@ -53,7 +54,7 @@ private:
         if ( At( a_place ) == s_kBackslash && MayBeEscaped( a_character ) && At( a_place + 1 ) == a_character )
             Add( a_place + 2, a_next );
         if ( m_change == TextChange::Results && IsSoftLineBreak( a_place ) )
-            AdvanceBehindSoftLineBreak( a_place + s_kEquals.size() + s_kCrlf.size(), a_character, a_next );
+            AdvanceBehindSoftLineBreak( a_place + s_kSoftLineBreakLength, a_character, a_next );
     }
 
     void AdvanceBehindSoftLineBreak( int a_place, QChar a_character, Places& a_next ) const

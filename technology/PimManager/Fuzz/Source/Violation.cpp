@@ -11,7 +11,7 @@ void Demand( const Violation& a_violation, const QByteArray& a_input )
     if ( a_violation.isEmpty() )
         return;
     std::fprintf( stderr, "Broken property: %s\nInput, %d bytes: %s\n", a_violation.toUtf8().constData(),
-                  a_input.size(), Shown( a_input ).toUtf8().constData() );
+                  static_cast<int>( a_input.size() ), Shown( a_input ).toUtf8().constData() );
     std::abort();
 }
 

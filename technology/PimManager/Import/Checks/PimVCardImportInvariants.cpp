@@ -65,7 +65,8 @@ QByteArray BrokenInvariantOf( const QByteArray& a_bytes, unsigned a_seed )
          0 )
         return "The component refused what was mended: " + DumpOf( whole );
 
-    const PimVCardImportResult pieces = ImportInPieces( a_bytes, RandomPlaces( a_bytes.size(), a_seed ) );
+    const PimVCardImportResult pieces =
+        ImportInPieces( a_bytes, RandomPlaces( static_cast<int>( a_bytes.size() ), a_seed ) );
     if ( DumpOf( whole ) != DumpOf( pieces ) )
         return "Pieces give something else:\n" + DumpOf( pieces ) + "than the whole:\n" + DumpOf( whole );
 

@@ -91,11 +91,11 @@ bool IsDataUri( const QString& a_text )
 // RFC 2397.
 void ReadDataUri( const QString& a_text, PimVCardAttachment& a_attachment )
 {
-    const int comma = a_text.indexOf( QLatin1Char( ',' ) );
+    const auto comma = a_text.indexOf( QLatin1Char( ',' ) );
     if ( comma < 0 )
         return;
     const QString head = a_text.mid( 5, comma - 5 );
-    const QByteArray data = QByteArray::fromPercentEncoding( a_text.midRef( comma + 1 ).toUtf8() );
+    const QByteArray data = QByteArray::fromPercentEncoding( QStringView( a_text ).mid( comma + 1 ).toUtf8() );
     const bool isBase64 = head.contains( QLatin1String( ";base64" ), Qt::CaseInsensitive );
     a_attachment.m_bytes = isBase64 ? QByteArray::fromBase64( data ) : data;
     a_attachment.m_mediaType = WellFormedType( head.section( QLatin1Char( ';' ), 0, 0 ) );
@@ -104,7 +104,7 @@ void ReadDataUri( const QString& a_text, PimVCardAttachment& a_attachment )
 // An address such as http://… or cid:…
 bool IsAddress( const QString& a_text )
 {
-    const int colon = a_text.indexOf( QLatin1Char( ':' ) );
+    const auto colon = a_text.indexOf( QLatin1Char( ':' ) );
     return colon > 1 && std::all_of( a_text.begin(), a_text.begin() + colon, IsTokenCharacter );
 }
 

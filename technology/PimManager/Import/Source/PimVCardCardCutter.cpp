@@ -343,7 +343,7 @@ void PimVCardCardCutter::AddLine( const Line& a_line, bool a_isNested, bool a_is
         return;
     }
     PimVCardRawCard::Line line;
-    line.m_begin = m_card.m_bytes.size();
+    line.m_begin = static_cast<int>( m_card.m_bytes.size() );
     line.m_length = static_cast<int>( a_line.m_text.size() );
     line.m_endLength = static_cast<int>( a_line.m_end.size() );
     line.m_position = a_line.m_position;

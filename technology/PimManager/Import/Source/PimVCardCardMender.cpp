@@ -54,12 +54,12 @@ bool IsProperty( std::string_view a_text )
 // A line that was joined may turn out to be part of a quoted parameter, where no line feed can stand.
 void BlankLineFeedsOfHead( QByteArray& a_text )
 {
-    const int first = a_text.indexOf( '\n' );
+    const auto first = a_text.indexOf( '\n' );
     if ( first < 0 )
         return;
     const PimVCardLineHead head = PimVCardLineHead::Of( ViewOf( a_text ) );
     const auto end = a_text.size() - static_cast<int>( head.m_value.size() );
-    for ( int i = first; i < end; ++i )
+    for ( auto i = first; i < end; ++i )
     {
         if ( a_text.at( i ) == '\n' )
             a_text[i] = ' ';
@@ -310,8 +310,8 @@ QByteArray PimVCardCardMender::WithoutControls( const PimVCardLogicalLine& a_lin
         Report( Code::ControlCharacters, a_line, static_cast<int>( first - text.cbegin() ), bad );
         while ( !text.isEmpty() && IsUnwanted( text.at( text.size() - 1 ) ) )
             text.chop( 1 );
-        const int colon = text.indexOf( ':' );
-        text = WithoutUnwanted( text, colon >= 0 ? colon : text.size() );
+        const auto colon = text.indexOf( ':' );
+        text = WithoutUnwanted( text, static_cast<int>( colon >= 0 ? colon : text.size() ) );
     }
     qint64 marks = a_line.m_marks;
     text = WithoutMarks( text, marks );
@@ -327,8 +327,8 @@ QByteArray PimVCardCardMender::WithoutDanglingBreak( const PimVCardLogicalLine& 
     if ( trimmed.empty() || trimmed.back() != '=' ||
          PimVCardLineHead::Of( ViewOf( a_text ) ).Encoding() != PimVCardEncoding::QuotedPrintable )
         return a_text;
-    Report( Code::SoftLineBreak, a_line, a_text.size() - 1 );
-    int length = a_text.size();
+    auto length = a_text.size();
+    Report( Code::SoftLineBreak, a_line, static_cast<int>( length ) - 1 );
     while ( length > 0 && ( a_text.at( length - 1 ) == '=' || IsBlank( a_text.at( length - 1 ) ) ) )
         --length;
     return a_text.left( length );

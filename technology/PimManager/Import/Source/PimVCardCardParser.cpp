@@ -37,8 +37,8 @@ PimVCardProperty* CopyOf( const PimVCardProperty& a_property )
 QList<QByteArray> ContentLinesOf( const QByteArray& a_text )
 {
     QList<QByteArray> lines;
-    int begin = a_text.indexOf( "\r\n" ) + 2;
-    for ( int end = a_text.indexOf( "\r\n", begin ); end >= 0; end = a_text.indexOf( "\r\n", begin ) )
+    auto begin = a_text.indexOf( "\r\n" ) + 2;
+    for ( auto end = a_text.indexOf( "\r\n", begin ); end >= 0; end = a_text.indexOf( "\r\n", begin ) )
     {
         const QByteArray line = a_text.mid( begin, end + 2 - begin );
         const bool isContinuation = line.startsWith( ' ' ) || line.startsWith( '\t' );
@@ -65,8 +65,8 @@ PimVCardCardParser::PimVCardCardParser( PimVCardReporter& a_reporter, const Card
 void PimVCardCardParser::Add( PimVCardMendedCard a_card )
 {
     Waiting waiting;
-    waiting.m_begin = m_text.size();
-    waiting.m_length = a_card.m_text.size();
+    waiting.m_begin = static_cast<int>( m_text.size() );
+    waiting.m_length = static_cast<int>( a_card.m_text.size() );
     m_text += a_card.m_text;
     a_card.m_text = QByteArray();
     waiting.m_card = std::move( a_card );

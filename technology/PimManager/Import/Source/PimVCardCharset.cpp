@@ -56,7 +56,7 @@ PimVCardDecodedText DecodeCharset( std::string_view a_bytes, QTextCodec* a_codec
     const QString text = a_codec->toUnicode( a_bytes.data(), static_cast<int>( a_bytes.size() ), &state );
     PimVCardDecodedText decoded;
     decoded.m_utf8 = text.toUtf8();
-    decoded.m_replaced = text.count( QChar( QChar::ReplacementCharacter ) );
+    decoded.m_replaced = static_cast<int>( text.count( QChar( QChar::ReplacementCharacter ) ) );
     return decoded;
 }
 

@@ -46,9 +46,10 @@ PimVCardImportRun::PimVCardImportRun( const PimVCardImportOptions& a_options, co
 
 bool PimVCardImportRun::Feed( const QByteArray& a_piece )
 {
-    for ( int begin = 0; begin < a_piece.size() && !IsStopped(); begin += s_kPiece )
+    const auto size = static_cast<int>( a_piece.size() );
+    for ( int begin = 0; begin < size && !IsStopped(); begin += s_kPiece )
     {
-        const int length = std::min( s_kPiece, a_piece.size() - begin );
+        const int length = std::min( s_kPiece, size - begin );
         m_account.m_bytes += length;
         FeedText( m_decoder.Decode( QByteArray::fromRawData( a_piece.constData() + begin, length ) ) );
     }

@@ -274,7 +274,7 @@ void Joiner::AppendBehindSoftBreak( int a_index, std::string_view a_line )
     m_head.m_indentedBreaks += blanks > 0 ? 1 : 0;
     const bool isOneBlank = blanks == 1 && a_line.front() == ' ' && !isEncodedBreak && !BeginsEncoded( text );
     if ( isOneBlank )
-        m_head.m_keptBlanks.push_back( line.m_text.size() );
+        m_head.m_keptBlanks.push_back( static_cast<int>( line.m_text.size() ) );
     line.m_isSoftBreakMended = line.m_isSoftBreakMended || ( blanks > 0 && !isOneBlank && !isEncodedBreak );
     Append( a_index, isOneBlank ? a_line : text );
 }
@@ -315,7 +315,7 @@ void Joiner::Append( int a_index, std::string_view a_text )
 void Joiner::AppendPiece( int a_index, std::string_view a_text, int a_placeInLine )
 {
     PimVCardLogicalLine& line = Current();
-    line.m_pieces.push_back( { line.m_text.size(), a_index, a_placeInLine } );
+    line.m_pieces.push_back( { static_cast<int>( line.m_text.size() ), a_index, a_placeInLine } );
     vCardImport::Append( line.m_text, a_text );
     const auto quotes = std::count( a_text.begin(), a_text.end(), '"' );
     m_head.m_isQuoteOpen = !m_head.m_isKnown && m_head.m_isQuoteOpen != ( quotes % 2 != 0 );
@@ -331,7 +331,7 @@ void Joiner::LearnHead( bool a_isForced )
     if ( m_head.m_isKnown || text.size() < nextSize || ( !a_isForced && m_head.m_isQuoteOpen ) )
         return;
     const PimVCardLineHead head = PimVCardLineHead::Of( ViewOf( text ) );
-    nextSize = text.size() * 2;
+    nextSize = static_cast<int>( text.size() ) * 2;
     m_head.m_isKnown = head.m_hasColon;
     m_head.m_encoding = head.Encoding();
     m_head.m_holdsText = HoldsText( head.Name() );

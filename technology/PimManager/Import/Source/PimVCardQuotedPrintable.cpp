@@ -44,7 +44,8 @@ int EncodedByteAt( const QString& a_value, int a_place )
         return -1;
     const char high = a_value.at( a_place + 1 ).toLatin1();
     const char low = a_value.at( a_place + 2 ).toLatin1();
-    return IsHexByte( high ) && IsHexByte( low ) ? a_value.midRef( a_place + 1, 2 ).toInt( nullptr, s_kHexBase ) : -1;
+    const QStringView digits = QStringView( a_value ).mid( a_place + 1, 2 );
+    return IsHexByte( high ) && IsHexByte( low ) ? digits.toInt( nullptr, s_kHexBase ) : -1;
 }
 
 } // namespace

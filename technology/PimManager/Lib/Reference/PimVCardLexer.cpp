@@ -52,7 +52,9 @@ PimVCardLexer::PimVCardLexer( const QByteArray* a_data ) :
     m_stream( m_device.get() )
 {
     m_stream.setAutoDetectUnicode( false );
-    m_stream.setCodec( "UTF-8" );
+#if QT_VERSION < QT_VERSION_CHECK( 6, 0, 0 )
+    m_stream.setCodec( "UTF-8" ); // what Qt 6 begins with
+#endif
 }
 
 PimVCardLexer::~PimVCardLexer() = default;

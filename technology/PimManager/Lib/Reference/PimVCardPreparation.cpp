@@ -11,8 +11,8 @@ namespace PimManager::vCard
 // Two expressions over the whole text, each written as its rule: the judge of the component's preparation.
 QByteArray PreparedText( const QByteArray& a_data )
 {
-    const uint length = qstrnlen( a_data.constData(), static_cast<uint>( a_data.size() ) );
-    QString text = QString::fromUtf8( a_data.constData(), static_cast<int>( length ) );
+    const auto nul = a_data.indexOf( '\0' );
+    QString text = QString::fromUtf8( nul >= 0 ? a_data.left( nul ) : a_data );
     text.replace( QRegularExpression( s_kQpSoftBreakPattern ), s_kSpace );
     // A CR LF is one line break: where its CR is protected by a "=" before it, its LF begins no fold either.
     const QString notInsideCrlf = QStringLiteral( R"((?!(?<=\r)\n))" );

@@ -40,7 +40,7 @@ public:
     ~WatchedParameter() override
     {
         m_deletions.m_names.append( GetName() );
-        m_deletions.m_remaining.append( m_list.size() );
+        m_deletions.m_remaining.append( static_cast<int>( m_list.size() ) );
     }
 
 private:
@@ -61,7 +61,7 @@ public:
     ~WatchedProperty() override
     {
         m_deletions.m_names.append( GetName() );
-        m_deletions.m_remaining.append( m_list.size() );
+        m_deletions.m_remaining.append( static_cast<int>( m_list.size() ) );
     }
 
 private:

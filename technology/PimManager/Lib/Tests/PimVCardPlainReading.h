@@ -85,7 +85,7 @@ private:
     ushort At( int a_place ) const { return a_place < Size() ? m_units[static_cast<size_t>( a_place )].first : 0; }
     int ByteAt( int a_place ) const
     {
-        return a_place < Size() ? m_units[static_cast<size_t>( a_place )].second : m_bytes.size();
+        return a_place < Size() ? m_units[static_cast<size_t>( a_place )].second : static_cast<int>( m_bytes.size() );
     }
     // The character at the place was read; nothing is left when none stands behind it.
     int FirstUnread() const { return std::min( Size(), m_place + ( m_hasStarted ? 1 : 0 ) ); }
@@ -310,8 +310,9 @@ private:
         }
         // The way back is counted in characters and gone in bytes.
         int target = ByteAt( end );
-        if ( end < Size() && target >= line.size() + 2 )
-            target -= line.size() + 2;
+        const int wayBack = static_cast<int>( line.size() ) + 2;
+        if ( end < Size() && target >= wayBack )
+            target -= wayBack;
         GoTo( target > a_lastRecovery ? target : a_lastRecovery + 1 );
         return std::max( target, a_lastRecovery + 1 );
     }

@@ -173,9 +173,9 @@ TEST( ReferenceTest, ParsesEveryTruncationOfTheExampleCards )
     const QByteArray book = PhonebookWithSmallPhotos();
     const QByteArray begin( "BEGIN:VCARD" );
     ASSERT_LT( book.size(), 4000 );
-    for ( int card = 0; card >= 0; card = book.indexOf( begin, card + 1 ) )
+    for ( auto card = book.indexOf( begin ); card >= 0; card = book.indexOf( begin, card + 1 ) )
     {
-        const int next = book.indexOf( begin, card + 1 );
+        const auto next = book.indexOf( begin, card + 1 );
         const QByteArray text = book.mid( card, next < 0 ? -1 : next - card );
         for ( int length = 0; length < text.size(); ++length )
             ASSERT_TRUE( ParsesTheSame( text.left( length ), s_kParseVCards ) );

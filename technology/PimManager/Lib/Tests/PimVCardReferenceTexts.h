@@ -273,11 +273,11 @@ public:
         PimVCardScannerScript script;
         script.m_watchesPosition = Number( 2 ) == 0;
         script.m_isOfParser = Number( 4 ) == 0;
-        const int length = script.m_isOfParser ? vCardReference::Prepared( a_text ).size() : a_text.size();
+        const auto length = script.m_isOfParser ? vCardReference::Prepared( a_text ).size() : a_text.size();
         for ( int i = 0; i < s_kExpressions; ++i )
             script.m_expressions.append( Pick( m_expressions ) );
         for ( int i = Number( 20 ); i >= 0; --i )
-            script.m_steps.append( Step( length ) );
+            script.m_steps.append( Step( static_cast<int>( length ) ) );
         return script;
     }
 
@@ -287,7 +287,7 @@ private:
     template <typename T>
     const T& Pick( const QList<T>& a_list )
     {
-        return a_list.at( Number( a_list.size() ) );
+        return a_list.at( Number( static_cast<int>( a_list.size() ) ) );
     }
 
     QByteArray Joined( const QList<QByteArray>& a_list, int a_count )
@@ -300,7 +300,7 @@ private:
 
     void Change( QByteArray& a_text )
     {
-        const int place = Number( a_text.size() + 1 );
+        const int place = Number( static_cast<int>( a_text.size() ) + 1 );
         switch ( Number( 5 ) )
         {
         case 0:

@@ -55,7 +55,7 @@ QByteArray FoldedLine( const QByteArray& a_line )
 QByteArray QuotedPrintableLine( const QByteArray& a_start, const QList<QByteArray>& a_values )
 {
     QByteArray text = a_start;
-    int column = a_start.size();
+    auto column = a_start.size();
     const QList<QByteArray> pieces = Encoded( a_values );
     for ( const QByteArray& piece : pieces )
     {

@@ -36,7 +36,7 @@ QByteArray CardWith( const QByteArray& a_line, const char* a_lineEnd = "\r\n" )
 HostileShape Lost( const char* a_name, const RepeatedText& a_text, const GrowingCount& a_blocks,
                    int a_bytes = s_kBytes )
 {
-    return { a_name, a_text, {}, {}, a_blocks, a_bytes / a_text.m_piece.size() };
+    return { a_name, a_text, {}, {}, a_blocks, a_text.RepetitionsIn( a_bytes ) };
 }
 
 // One piece, repeated, and nothing else.
@@ -62,7 +62,7 @@ HostileShape BeforeGoodCard( const char* a_name, const QByteArray& a_piece, cons
 HostileShape OneCard( const char* a_name, const RepeatedText& a_text, const RepeatedText& a_cardLine,
                       int a_bytes = s_kBytes )
 {
-    return { a_name, a_text, a_cardLine, { 1, 0 }, {}, a_bytes / a_text.m_piece.size() };
+    return { a_name, a_text, a_cardLine, { 1, 0 }, {}, a_text.RepetitionsIn( a_bytes ) };
 }
 
 HostileShape InValue( const char* a_name, const QByteArray& a_piece, const QByteArray& a_given, int a_bytes = s_kBytes )

@@ -20,6 +20,9 @@ struct RepeatedText
 
     /// \return the text with that many repetitions.
     QByteArray Text( int a_repetitions ) const { return m_head + m_piece.repeated( a_repetitions ) + m_tail; }
+
+    /// \return how many pieces there are in that many bytes.
+    int RepetitionsIn( int a_bytes ) const { return a_bytes / static_cast<int>( m_piece.size() ); }
 };
 
 /// A number that grows with the repetitions.
@@ -51,7 +54,7 @@ struct HostileShape
     QByteArray Text( int a_repetitions ) const { return m_text.Text( a_repetitions ); }
 
     /// \return the text with as many repetitions as make it about that long.
-    QByteArray TextOfLength( int a_bytes ) const { return Text( a_bytes / m_text.m_piece.size() ); }
+    QByteArray TextOfLength( int a_bytes ) const { return Text( m_text.RepetitionsIn( a_bytes ) ); }
 };
 
 /// All rows; their names are different words of ASCII letters, digits and "-". Expectations hold from three repetitions

@@ -46,7 +46,8 @@ TEST( HostileShapesTest, TextOfLengthIsAboutThatLong )
 {
     const QList<HostileShape> shapes = HostileShapes();
     for ( const HostileShape& shape : shapes )
-        EXPECT_NEAR( 10000.0, shape.TextOfLength( 10000 ).size(), 120.0 ) << shape.m_name.constData();
+        EXPECT_NEAR( 10000.0, static_cast<int>( shape.TextOfLength( 10000 ).size() ), 120.0 )
+            << shape.m_name.constData();
 }
 
 } // namespace PimManager::vCard::MadeTexts

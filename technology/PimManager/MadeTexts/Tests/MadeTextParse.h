@@ -23,7 +23,7 @@ public:
     {
         const LogCapture log;
         m_cards.reset( PimVCardParser( a_text ).ParseVCards() );
-        m_failures = log.Texts( QtCriticalMsg ).size();
+        m_failures = static_cast<int>( log.Texts( QtCriticalMsg ).size() );
     }
     ~MadeTextParse() { qDeleteAll( *m_cards ); }
     Q_DISABLE_COPY( MadeTextParse )

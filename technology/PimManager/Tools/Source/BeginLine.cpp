@@ -27,10 +27,10 @@ bool IsSameWord( const QString& a_first, const QString& a_second )
 bool EndsInVCard( const QByteArray& a_line )
 {
     static const QByteArray s_kWord = s_kVCard.toUtf8();
-    int end = a_line.size();
+    auto end = a_line.size();
     while ( end > 0 && IsBlank( a_line.at( end - 1 ) ) )
         --end;
-    const int start = end - s_kWord.size();
+    const auto start = end - s_kWord.size();
     return start >= 0 && qstrnicmp( a_line.constData() + start, s_kWord.constData(), uint( s_kWord.size() ) ) == 0;
 }
 

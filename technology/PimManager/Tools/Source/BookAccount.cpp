@@ -78,7 +78,7 @@ qint64 BookAccount::Refused() const
 void ExamineText( const QByteArray& a_bytes, BookAccount& a_account )
 {
     a_account.m_size = a_bytes.size();
-    const int nul = a_bytes.indexOf( '\0' );
+    const auto nul = a_bytes.indexOf( '\0' );
     const bool hasNul = nul >= 0;
     a_account.m_nulPosition = nul;
     a_account.m_lineEnds = CountLineEnds( hasNul ? a_bytes.left( nul ) : a_bytes );

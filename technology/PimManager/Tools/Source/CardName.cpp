@@ -33,7 +33,8 @@ QString Decoded( const QString& a_value )
 {
     const QByteArray bytes = QByteArray::fromPercentEncoding( a_value.toUtf8(), '=' );
     QTextCodec::ConverterState state;
-    const QString text = QTextCodec::codecForName( "UTF-8" )->toUnicode( bytes.constData(), bytes.size(), &state );
+    const QString text =
+        QTextCodec::codecForName( "UTF-8" )->toUnicode( bytes.constData(), static_cast<int>( bytes.size() ), &state );
     return state.invalidChars == 0 && state.remainingChars == 0 ? text : a_value;
 }
 

@@ -115,7 +115,7 @@ int CardTextWriter::LabelWidth( const PimVCard& a_card ) const
     for ( const PimVCardProperty* property : properties )
     {
         if ( property != nullptr )
-            width = std::max( width, Label( *property ).size() );
+            width = std::max( width, static_cast<int>( Label( *property ).size() ) );
     }
     return std::min( width, s_kWidestLabel );
 }

@@ -5,8 +5,9 @@
 
 #include "CardWriter.h"
 
+#include <QStringList>
+
 class QIODevice;
-class QStringList;
 
 namespace PimManager::vCard
 {

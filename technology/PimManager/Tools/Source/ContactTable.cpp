@@ -135,7 +135,7 @@ void ContactTable::WriteRow( const Row& a_row )
     {
         if ( m_columns > 0 )
             row.at( column ) = WrappedLines( row.at( column ), m_widths.at( column ) );
-        lines = std::max( lines, row.at( column ).size() );
+        lines = std::max( lines, static_cast<int>( row.at( column ).size() ) );
     }
     for ( int line = 0; line < lines; ++line )
         WriteLine( { row[0].value( line ), row[1].value( line ), row[2].value( line ), row[3].value( line ) } );

@@ -40,7 +40,8 @@ bool IsQuotedPrintable( const QByteArray& a_line )
     static const QRegularExpression s_kHead(
         QStringLiteral( R"(\A(?:[^":]|"[^"]*+")*?;[ \t]?ENCODING=[^:;]*QUOTED-PRINTABLE)" ),
         QRegularExpression::CaseInsensitiveOption );
-    return s_kHead.match( QString::fromUtf8( a_line ) ).hasMatch();
+    const QString line = QString::fromUtf8( a_line.constData(), static_cast<int>( a_line.size() ) );
+    return s_kHead.match( line ).hasMatch();
 }
 
 } // namespace

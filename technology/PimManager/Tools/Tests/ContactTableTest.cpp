@@ -96,7 +96,7 @@ TEST( ContactTableTest, ContactsBeyondTheFirstComeAtOnce )
         table.Take( contact );
     EXPECT_EQ( buffer.data().size(), 0 );
     table.Take( contact );
-    const int written = buffer.data().size();
+    const auto written = buffer.data().size();
     EXPECT_GT( written, 0 );
     table.Take( contact );
     EXPECT_GT( buffer.data().size(), written );

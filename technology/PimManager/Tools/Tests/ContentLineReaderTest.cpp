@@ -63,4 +63,6 @@ TEST( ContentLineReaderTest, LinesArePutTogetherAsTheParserDoes )
 TEST( ContentLineReaderTest, NulBytesAreOrdinary )
 {
     EXPECT_EQ( Lines( QByteArray( "A:\0b\r\nC:d", 9 ) ), std::string( "A:\0b|C:d", 8 ) );
+    EXPECT_EQ( Lines( QByteArray( "A\0;ENCODING=QUOTED-PRINTABLE:b=\r\nC", 34 ) ),
+               std::string( "A\0;ENCODING=QUOTED-PRINTABLE:bC", 31 ) );
 }

@@ -26,7 +26,7 @@ QByteArray Page( const QByteArray& a_book )
 // What stands between two texts the first time.
 QByteArray Between( const QByteArray& a_page, const QByteArray& a_start, const QByteArray& a_end )
 {
-    const int start = a_page.indexOf( a_start ) + a_start.size();
+    const auto start = a_page.indexOf( a_start ) + a_start.size();
     return a_page.mid( start, a_page.indexOf( a_end, start ) - start );
 }
 

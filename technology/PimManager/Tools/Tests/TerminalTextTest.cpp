@@ -76,7 +76,7 @@ TEST( TerminalTextTest, BackslashAndSemicolonOfAValueAreTold )
 
 TEST( TerminalTextTest, EveryCharacterIsShownHarmless )
 {
-    for ( uint code = 0; code <= 0x10FFFF; ++code )
+    for ( char32_t code = 0; code <= 0x10FFFF; ++code )
     {
         const QString text = QChar::requiresSurrogates( code ) ? QString::fromUcs4( &code, 1 )
                                                                : QString( QChar( static_cast<ushort>( code ) ) );

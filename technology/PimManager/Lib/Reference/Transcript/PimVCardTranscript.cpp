@@ -348,7 +348,7 @@ PimVCardHeldCards ParsedCards( const QByteArray& a_text )
     };
     PimVCardParser parser( a_text );
     const std::shared_ptr<const QList<PimVCard*>> vCards( parser.ParseVCards(), deleteAll );
-    return { vCards->size(), vCards };
+    return { static_cast<int>( vCards->size() ), vCards };
 }
 
 } // namespace PimManager::vCard

@@ -3,12 +3,16 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-set(pimvcard_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/PimManagerVCard)
+set(pimvcard_package PimManagerVCard)
+if(PIMVCARD_QT_VERSION STREQUAL 6)
+  set(pimvcard_package PimManagerVCardQt6)
+endif()
+set(pimvcard_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/${pimvcard_package})
 
 # A header is included by its name alone, or with its folder, as <PimManager/NAME/...>.
 function(pimvcard_install_library target name)
   set(headers ${CMAKE_INSTALL_INCLUDEDIR}/PimManager/${name})
-  install(TARGETS ${target} EXPORT PimManagerVCardTargets
+  install(TARGETS ${target} EXPORT ${pimvcard_package}Targets
           LIBRARY COMPONENT runtime NAMELINK_COMPONENT devel
           ARCHIVE COMPONENT devel
           INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} ${headers})
@@ -27,8 +31,9 @@ function(pimvcard_install_pkg_config_file library)
   if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
     set(prefix /usr)
   endif()
-  configure_file(${PROJECT_SOURCE_DIR}/cmake/${library}.pc.in ${PROJECT_BINARY_DIR}/${library}.pc @ONLY)
-  install(FILES ${PROJECT_BINARY_DIR}/${library}.pc DESTINATION ${folder} COMPONENT devel)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/${library}.pc.in
+                 ${PROJECT_BINARY_DIR}/${library}${pimvcard_name_suffix}.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/${library}${pimvcard_name_suffix}.pc DESTINATION ${folder} COMPONENT devel)
 endfunction()
 
 function(pimvcard_install_program target)
@@ -65,10 +70,12 @@ function(pimvcard_install_manual page)
 endfunction()
 
 function(pimvcard_install_package)
-  install(EXPORT PimManagerVCardTargets NAMESPACE PimManager:: DESTINATION ${pimvcard_package_folder} COMPONENT devel)
-  write_basic_package_version_file(${PROJECT_BINARY_DIR}/PimManagerVCardConfigVersion.cmake
+  install(EXPORT ${pimvcard_package}Targets NAMESPACE PimManager:: DESTINATION ${pimvcard_package_folder} COMPONENT devel)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/PimManagerVCardConfig.cmake.in
+                 ${PROJECT_BINARY_DIR}/${pimvcard_package}Config.cmake @ONLY)
+  write_basic_package_version_file(${PROJECT_BINARY_DIR}/${pimvcard_package}ConfigVersion.cmake
                                    COMPATIBILITY SameMajorVersion)
-  install(FILES ${PROJECT_SOURCE_DIR}/cmake/PimManagerVCardConfig.cmake
-                ${PROJECT_BINARY_DIR}/PimManagerVCardConfigVersion.cmake
+  install(FILES ${PROJECT_BINARY_DIR}/${pimvcard_package}Config.cmake
+                ${PROJECT_BINARY_DIR}/${pimvcard_package}ConfigVersion.cmake
           DESTINATION ${pimvcard_package_folder} COMPONENT devel)
 endfunction()

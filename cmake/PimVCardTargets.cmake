@@ -49,6 +49,9 @@ function(pimvcard_configure_library target name)
   target_compile_features(${target} PUBLIC cxx_std_17)
   set_target_properties(${target} PROPERTIES
     EXPORT_NAME ${name}
+    OUTPUT_NAME ${target}${pimvcard_name_suffix}
+    PIMVCARD_QT_VERSION ${PIMVCARD_QT_VERSION}
+    EXPORT_PROPERTIES PIMVCARD_QT_VERSION
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PIMVCARD_SOVERSION}
     DEFINE_SYMBOL ""

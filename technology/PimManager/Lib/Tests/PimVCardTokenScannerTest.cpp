@@ -5,8 +5,6 @@
 #include "PimVCardTestText.h"
 #include "PimVCardVocabulary.h"
 
-#include <QTextCodec>
-
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -119,17 +117,6 @@ void PrintTo( const StatusRow& a_row, std::ostream* a_stream )
     *a_stream << a_row.m_message;
 }
 
-struct LocaleRow
-{
-    const char* m_name;
-    const char* m_codec;
-};
-
-void PrintTo( const LocaleRow& a_row, std::ostream* a_stream )
-{
-    *a_stream << a_row.m_codec;
-}
-
 class TokenScannerRunTest : public testing::TestWithParam<TokenRow>
 {
 };
@@ -144,23 +131,6 @@ class TokenScannerPatternTest : public testing::TestWithParam<PatternRow>
 
 class TokenScannerStatusTest : public testing::TestWithParam<StatusRow>
 {
-};
-
-/// Runs a test as if the system's locale had another encoding.
-class TokenScannerLocaleTest : public testing::TestWithParam<LocaleRow>
-{
-protected:
-    void SetUp() override
-    {
-        m_former = QTextCodec::codecForLocale();
-        QTextCodec* const codec = QTextCodec::codecForName( GetParam().m_codec );
-        ASSERT_NE( codec, nullptr );
-        QTextCodec::setCodecForLocale( codec );
-    }
-    void TearDown() override { QTextCodec::setCodecForLocale( m_former ); }
-
-private:
-    QTextCodec* m_former = nullptr;
 };
 
 bool IsBetween( ushort a_unit, ushort a_first, ushort a_last )
@@ -890,33 +860,6 @@ INSTANTIATE_TEST_SUITE_P( Streams, TokenScannerStatusTest,
 
 // Decoding.
 
-TEST_P( TokenScannerLocaleTest, TextIsReadAsUtf8 )
-{
-    const QByteArray text = MixedText( 3 ) + ";x";
-    Scanner scanner( text );
-    EXPECT_EQ( scanner.Run( s_kValueCharPattern ), QString::fromUtf8( MixedText( 3 ) ) );
-    EXPECT_EQ( scanner.Left(), Text( ";x" ) );
-}
-
-TEST_P( TokenScannerLocaleTest, ParserPreparesAndReadsUtf8 )
-{
-    PimVCardParser parser( QByteArray( s_kTwoBytes ) + "\r\n " + s_kFourBytes );
-    EXPECT_EQ( PimVCardParserInspector( parser ).Data(), QByteArray( s_kTwoBytes ) + s_kFourBytes );
-    EXPECT_EQ( PimVCardParserInspector( parser ).Lexer().m_stream.readAll(), Text( "\xC3\xA9\xF0\x9F\x98\x80" ) );
-}
-
-TEST_P( TokenScannerLocaleTest, PositionsAreThoseOfUtf8 )
-{
-    Scanner scanner( MixedText( 3 ) + "\r\nBEGIN\r\nx" );
-    EXPECT_EQ( scanner.Seek( Text( "BEGIN" ) ), Text( "BEGIN" ) );
-    EXPECT_EQ( scanner.Position(), MixedText( 3 ).size() + 2 );
-}
-
-INSTANTIATE_TEST_SUITE_P( Encodings, TokenScannerLocaleTest,
-                          testing::Values( LocaleRow{ "Latin1", "ISO-8859-1" }, LocaleRow{ "Ascii", "US-ASCII" },
-                                           LocaleRow{ "Utf16", "UTF-16" }, LocaleRow{ "Utf8", "UTF-8" } ),
-                          NameOf<LocaleRow> );
-
 TEST( TokenScannerTest, StreamDeliversEveryCharacter )
 {
     QString text;
@@ -935,7 +878,7 @@ TEST( TokenScannerPositionTest, IsExactBehindEveryCharacterOfTheFirstBlocks )
 {
     const QByteArray bytes = TextWithByteOrderMarks( 130 );
     ASSERT_GT( bytes.size(), 2 * 1024 );
-    ExpectExactPositions( bytes, 0, bytes.size() );
+    ExpectExactPositions( bytes, 0, static_cast<int>( bytes.size() ) );
 }
 
 TEST( TokenScannerPositionTest, IsExactWhereverACharacterStraddlesABlockEnd )
@@ -944,7 +887,7 @@ TEST( TokenScannerPositionTest, IsExactWhereverACharacterStraddlesABlockEnd )
     {
         SCOPED_TRACE( shift );
         const QByteArray bytes = QByteArray( shift, 'x' ) + TextWithByteOrderMarks( 80 );
-        const int units = WholeText( bytes.left( 1024 ) ).size();
+        const auto units = static_cast<int>( WholeText( bytes.left( 1024 ) ).size() );
         ExpectExactPositions( bytes, units - 9, units + 9 );
     }
 }
@@ -956,7 +899,7 @@ TEST( TokenScannerPositionTest, IsExactRoundTheBlockEndsOfTheStream )
     ASSERT_GT( bytes.size(), 6 * s_kStreamBlock );
     for ( int end = s_kStreamBlock; end < bytes.size(); end += s_kStreamBlock )
     {
-        const int units = WholeText( bytes.left( end ) ).size();
+        const auto units = static_cast<int>( WholeText( bytes.left( end ) ).size() );
         ExpectExactPositions( bytes, units - 9, units + 9 );
     }
 }

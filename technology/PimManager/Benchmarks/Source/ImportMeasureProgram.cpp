@@ -74,15 +74,16 @@ int Drop( const char* a_file, int a_times )
 int Stream( const char* a_file, int a_copies )
 {
     const QByteArray text = Contents( a_file );
+    const auto size = static_cast<int>( text.size() );
     PimVCardImportOptions options;
     options.m_limits.m_cards = 0;
     PimVCardImporter importer( options );
     importer.SetCardHandler( DropCard );
     for ( int copy = 0; copy < a_copies; ++copy )
     {
-        for ( int begin = 0; begin < text.size(); begin += s_kPiece )
+        for ( int begin = 0; begin < size; begin += s_kPiece )
         {
-            const int length = std::min( s_kPiece, text.size() - begin );
+            const int length = std::min( s_kPiece, size - begin );
             importer.Feed( QByteArray::fromRawData( text.constData() + begin, length ) );
         }
     }

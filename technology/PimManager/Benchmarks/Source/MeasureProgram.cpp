@@ -62,7 +62,7 @@ int Keep( const char* a_file, const char* a_snapshot )
     QByteArray text = Contents( a_file );
     auto parser = std::make_unique<PimVCardParser>( text );
     const QList<PimVCard*>* const cards = parser->ParseVCards();
-    std::printf( "%d cards, %ld kilobytes\n", cards->size(), PeakResidentKilobytes() );
+    std::printf( "%d cards, %ld kilobytes\n", static_cast<int>( cards->size() ), PeakResidentKilobytes() );
     std::fflush( stdout );
     parser.reset();
     text = QByteArray();
@@ -83,7 +83,8 @@ int Heap( const char* a_file )
     qDeleteAll( *std::unique_ptr<QList<PimVCard*>>( PimVCardParser( Contents( a_file ) ).ParseVCards() ) );
     const qint64 before = HeapInUse();
     const QList<PimVCard*>* const cards = PimVCardParser( Contents( a_file ) ).ParseVCards();
-    std::printf( "%d cards, %lld bytes\n", cards->size(), static_cast<long long>( HeapInUse() - before ) );
+    std::printf( "%d cards, %lld bytes\n", static_cast<int>( cards->size() ),
+                 static_cast<long long>( HeapInUse() - before ) );
     std::fflush( stdout );
     std::_Exit( 0 );
 }
@@ -96,7 +97,7 @@ int Drop( const char* a_file, int a_times )
     {
         PimVCardParser parser( text );
         const std::unique_ptr<QList<PimVCard*>> cards( parser.ParseVCards() );
-        count += cards->size();
+        count += static_cast<int>( cards->size() );
         qDeleteAll( *cards );
     }
     std::printf( "%d cards\n", count );

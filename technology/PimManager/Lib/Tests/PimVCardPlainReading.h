@@ -210,7 +210,7 @@ private:
 
     bool TakeColon( bool a_isFrame )
     {
-        const auto skipBlanks = [=]
+        const auto skipBlanks = [this, a_isFrame]
         {
             while ( a_isFrame && IsOneOf( " \t" ) )
                 ++m_place;

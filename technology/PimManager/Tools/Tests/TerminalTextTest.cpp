@@ -80,7 +80,8 @@ TEST( TerminalTextTest, EveryCharacterIsShownHarmless )
     {
         const QString text = QChar::requiresSurrogates( code ) ? QString::fromUcs4( &code, 1 )
                                                                : QString( QChar( static_cast<ushort>( code ) ) );
-        ASSERT_TRUE( IsHarmless( Utf8( ToTerminalText( text ) ) ) ) << "U+" << std::hex << code;
+        ASSERT_TRUE( IsHarmless( Utf8( ToTerminalText( text ) ) ) )
+            << "U+" << std::hex << static_cast<unsigned>( code );
     }
 }
 

@@ -12,7 +12,7 @@ namespace
 {
 
 // What a piece may be at most, so that memory does not depend on the caller's pieces.
-constexpr int s_kPiece = 64 * 1024;
+constexpr qsizetype s_kPiece = 64 * 1024;
 
 // A clean card goes to the component as it is.
 PimVCardMendedCard CleanCardOf( PimVCardRawCard& a_card )
@@ -46,10 +46,10 @@ PimVCardImportRun::PimVCardImportRun( const PimVCardImportOptions& a_options, co
 
 bool PimVCardImportRun::Feed( const QByteArray& a_piece )
 {
-    const auto size = static_cast<int>( a_piece.size() );
-    for ( int begin = 0; begin < size && !IsStopped(); begin += s_kPiece )
+    const qsizetype size = a_piece.size(); // with Qt 6 it may be more than an int can count
+    for ( qsizetype begin = 0; begin < size && !IsStopped(); begin += s_kPiece )
     {
-        const int length = std::min( s_kPiece, size - begin );
+        const auto length = static_cast<int>( std::min( s_kPiece, size - begin ) );
         m_account.m_bytes += length;
         FeedText( m_decoder.Decode( QByteArray::fromRawData( a_piece.constData() + begin, length ) ) );
     }

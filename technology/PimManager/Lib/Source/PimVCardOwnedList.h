@@ -37,7 +37,7 @@ struct OwnedListDeleter
 template <typename T>
 using OwnedList = std::unique_ptr<QList<T*>, OwnedListDeleter>;
 
-/// The elements of a list in the making. Up to UsualNumber of them need no memory of their own. Those that were not
+/// Collects the elements of a list. Up to UsualNumber pointers are held without an allocation. Elements that were not
 /// taken are deleted, from the first on.
 template <typename T, int UsualNumber>
 class OwnedElements

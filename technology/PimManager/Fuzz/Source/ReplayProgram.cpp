@@ -7,6 +7,7 @@
 #include <QFile>
 
 #include <cstdio>
+#include <utility>
 #include <vector>
 
 using namespace PimManager::vCard::Fuzz;
@@ -38,7 +39,7 @@ int main( int argc, char* argv[] )
     for ( int i = 1; i < argc; ++i )
         paths.append( QFile::decodeName( argv[i] ) );
     ReplayInputs inputs = FindReplayInputs( paths );
-    for ( const QString& file : qAsConst( inputs.m_files ) )
+    for ( const QString& file : std::as_const( inputs.m_files ) )
     {
         if ( !TryFile( file ) )
             inputs.m_error = QStringLiteral( "cannot read " ) + file;

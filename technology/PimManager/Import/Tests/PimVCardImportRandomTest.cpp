@@ -12,6 +12,7 @@
 #include <array>
 #include <memory>
 #include <random>
+#include <utility>
 
 namespace PimManager::vCardImport
 {
@@ -175,7 +176,7 @@ bool IsAcceptedWhole( const QByteArray& a_text, QByteArray& a_dump )
     const std::unique_ptr<QList<vCard::PimVCard*>> cards( parser.ParseVCards() );
     qInstallMessageHandler( former );
     bool hasBegin = false;
-    for ( const vCard::PimVCard* card : qAsConst( *cards ) )
+    for ( const vCard::PimVCard* card : std::as_const( *cards ) )
     {
         a_dump += "card\n" + DumpOf( *card );
         const QList<vCard::PimVCardProperty*> properties = card->GetProperties();

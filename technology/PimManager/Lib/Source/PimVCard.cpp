@@ -4,6 +4,8 @@
 
 #include <QDebug>
 
+#include <utility>
+
 namespace PimManager::vCard
 {
 
@@ -83,10 +85,10 @@ void PimVCardProperty::Print( const char* a_prefix ) const
     qDebug() << a_prefix << "PimVCardProperty:";
     qDebug() << a_prefix << "Group: " << m_groupID;
     qDebug() << a_prefix << "Name:  " << m_name;
-    for ( const PimVCardParameter* parameter : qAsConst( *m_parameters ) )
+    for ( const PimVCardParameter* parameter : std::as_const( *m_parameters ) )
         parameter->Print( a_prefix );
     qDebug() << a_prefix << "Values:";
-    for ( const QString& value : qAsConst( *m_values ) )
+    for ( const QString& value : std::as_const( *m_values ) )
         qDebug() << a_prefix << a_prefix << value;
 }
 

@@ -3,14 +3,14 @@
 
 #pragma once
 
+#include "PimVCardTestLogBound.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QMessageLogContext>
 #include <QString>
 #include <QtGlobal>
 
-#include <cstdio>
-#include <cstdlib>
 #include <ostream>
 
 namespace PimManager::vCard
@@ -45,17 +45,6 @@ inline std::ostream& operator<<( std::ostream& a_stream, const LogMessage& a_mes
     return a_stream << '\n'
                     << ( a_message.m_type == QtCriticalMsg ? "critical" : "type " ) << int( a_message.m_type ) << " ["
                     << a_message.m_category.constData() << "] " << a_message.m_text.toStdString();
-}
-
-/// Ends the program when a log holds more messages than any test writes. A parser that recovers to the same place again
-/// and again would otherwise fill the memory of the machine.
-inline void EndIfEndless( qint64 a_messages )
-{
-    constexpr qint64 s_kMost = 200000;
-    if ( a_messages <= s_kMost )
-        return;
-    std::fprintf( stderr, "more than %d messages in the log: does the parser recover for ever?\n", int( s_kMost ) );
-    std::abort();
 }
 
 /// Collects all messages between its construction and its destruction and keeps them off the screen. One at a time, on

@@ -11,6 +11,7 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace PimManager::vCard
@@ -112,7 +113,7 @@ auto Take( QList<T*>* a_results ) -> std::optional<std::vector<decltype( DataOf(
     if ( owner == nullptr )
         return std::nullopt;
     std::vector<decltype( DataOf( *a_results->first() ) )> data;
-    for ( const T* result : qAsConst( *owner ) )
+    for ( const T* result : std::as_const( *owner ) )
         data.push_back( DataOf( *result ) );
     qDeleteAll( *owner );
     return data;

@@ -1,11 +1,12 @@
 #include "PimVCardTranscript.h"
 
 #include "PimVCardParserInspector.h"
-#include "PimVCardTestLog.h"
+#include "PimVCardTestLogBound.h"
 
 #include <QMessageLogContext>
 
 #include <memory>
+#include <utility>
 
 namespace PimManager::vCard
 {
@@ -137,7 +138,7 @@ void Add( std::unique_ptr<QList<T>> a_result )
         return;
     }
     Transcript::Add( QLatin1String( "elements" ), Number( a_result->size() ) );
-    for ( const T& element : qAsConst( *a_result ) )
+    for ( const T& element : std::as_const( *a_result ) )
         AddElement( element );
 }
 

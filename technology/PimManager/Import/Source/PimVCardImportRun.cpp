@@ -12,7 +12,7 @@ namespace
 {
 
 // What a piece may be at most, so that memory does not depend on the caller's pieces.
-constexpr qsizetype s_kPiece = 64 * 1024;
+constexpr qsizetype s_kPiece = 0x10000;
 
 // A clean card goes to the component as it is.
 PimVCardMendedCard CleanCardOf( PimVCardRawCard& a_card )

@@ -417,7 +417,8 @@ TEST( RecoveryTest, SearchForNextCardDropsTokensAndLookAhead )
     const LogCapture log;
     PimVCardParser parser( "BEGIN:VCARD\r\nFN;a!:x\r\nEND:VCARD\r\n" );
     EXPECT_EQ( std::vector<CardData>(), Take( parser.ParseVCards() ) );
-    const PimVCardLexer& lexer = PimVCardParserInspector( parser ).Lexer();
+    const PimVCardParserInspector inspector( parser );
+    const PimVCardLexer& lexer = inspector.Lexer();
     EXPECT_EQ( QString(), lexer.m_token );
     EXPECT_EQ( QString(), lexer.m_prevToken );
     EXPECT_EQ( QChar(), lexer.m_nextChar );

@@ -44,10 +44,9 @@ public:
     /// The parser of the running case: null until the case sets it, with `new`; owned by the fixture from then on.
     static inline PimVCardParser* sm_parser = nullptr;
 
-    /// \return the prepared text, in UTF-8: the text that the parser was given, up to its first NUL byte, without a
-    /// byte
-    ///         order mark at its start, with folded lines and encoded line breaks joined and U+FFFD for bytes that are
-    ///         not UTF-8. It is the same before and after any parse operation.
+    /// \return the prepared text, in UTF-8: the text that the parser was given, up to its first NUL byte, without the
+    ///         byte order mark at its start, with folded lines and encoded line breaks joined, and with U+FFFD for
+    ///         bytes that are not UTF-8. It is the same before and after any parse operation.
     static QByteArray GetParserData();
 
     /// Drives ParseGroup().

@@ -9,15 +9,21 @@ if(PIMVCARD_QT_VERSION STREQUAL 6)
 endif()
 set(pimvcard_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/${pimvcard_package})
 
-# A header is included by its name alone, or with its folder, as <PimManager/NAME/...>.
+# All headers are installed into include/PimManager/NAME. A library that has them in Include/PimManager/NAME includes them
+# as <PimManager/NAME/...> only. The headers of any other library can also be included by their names alone.
 function(pimvcard_install_library target name)
-  set(headers ${CMAKE_INSTALL_INCLUDEDIR}/PimManager/${name})
+  set(headers ${CMAKE_INSTALL_INCLUDEDIR})
+  set(include_folders ${CMAKE_INSTALL_INCLUDEDIR})
+  if(NOT IS_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/Include/PimManager/${name})
+    string(APPEND headers /PimManager/${name})
+    list(APPEND include_folders ${headers})
+  endif()
   install(TARGETS ${target} EXPORT ${pimvcard_package}Targets
           LIBRARY COMPONENT runtime NAMELINK_COMPONENT devel
           ARCHIVE COMPONENT devel
-          INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} ${headers})
+          INCLUDES DESTINATION ${include_folders})
   install(DIRECTORY Include/ DESTINATION ${headers} COMPONENT devel
-          FILES_MATCHING PATTERN "PimVCard*.h" PATTERN Test EXCLUDE)
+          FILES_MATCHING PATTERN "Pim*.h" PATTERN Test EXCLUDE)
   set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
   pimvcard_install_pkg_config_file(${target})
 endfunction()

@@ -1,0 +1,19 @@
+/// \file
+/// What holds of every reading, whatever the bytes and the options. Tests and fuzzers call it.
+
+#pragma once
+
+#include <PimManager/Contacts/PimContactOptions.h>
+
+#include <QByteArray>
+
+namespace PimManager::Contacts::Checks
+{
+
+/// Reads the bytes in several ways and looks at all that the reader returns. The headers of the checks list the
+/// properties.
+/// \param a_seed chooses where pieces end and what is inserted.
+/// \return the first broken property in English; empty if all hold.
+QByteArray BrokenInvariantOf( const QByteArray& a_bytes, const PimContactOptions& a_options, unsigned a_seed );
+
+} // namespace PimManager::Contacts::Checks

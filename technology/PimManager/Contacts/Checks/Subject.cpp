@@ -1,0 +1,43 @@
+#include "Checks/Subject.h"
+
+#include "Checks/ConvertedText.h"
+
+namespace PimManager::Contacts::Checks
+{
+
+Subject::Subject( const QByteArray& a_bytes, const PimContactOptions& a_options, unsigned a_seed ) :
+    m_bytes( a_bytes ),
+    m_options( a_options ),
+    m_seed( a_seed ),
+    m_text( ConvertedTextOf( a_bytes ) ),
+    m_lines( PhysicalLinesOf( m_text ) ),
+    m_reading( ReadWhole( a_bytes, a_options ) )
+{
+}
+
+bool IsRefusedKind( PimContactFileKind a_kind )
+{
+    return a_kind == PimContactFileKind::Compressed || a_kind == PimContactFileKind::Document ||
+           a_kind == PimContactFileKind::Image;
+}
+
+Broken Holds( bool a_isTrue, const char* a_what )
+{
+    return a_isTrue ? Broken() : Broken( a_what );
+}
+
+Broken Same( const char* a_what, qint64 a_found, qint64 a_expected )
+{
+    if ( a_found == a_expected )
+        return Broken();
+    return QByteArray( a_what ) + ": " + QByteArray::number( a_found ) + " instead of " +
+           QByteArray::number( a_expected );
+}
+
+QByteArray Slice( const QByteArray& a_text, qint64 a_offset, qint64 a_length )
+{
+    using Place = decltype( a_text.size() );
+    return a_text.mid( static_cast<Place>( a_offset ), static_cast<Place>( a_length ) );
+}
+
+} // namespace PimManager::Contacts::Checks

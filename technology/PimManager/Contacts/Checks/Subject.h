@@ -1,0 +1,69 @@
+/// \file
+/// What the checks look at.
+
+#pragma once
+
+#include "Checks/PhysicalLines.h"
+#include "Checks/Reading.h"
+
+#include <QByteArray>
+
+#include <vector>
+
+namespace PimManager::Contacts::Checks
+{
+
+/// A broken property in English; empty if it holds.
+using Broken = QByteArray;
+
+/// A file that was read, and all that the reader returned.
+struct Subject
+{
+    /// Reads the bytes with one call of Feed().
+    Subject( const QByteArray& a_bytes, const PimContactOptions& a_options, unsigned a_seed );
+
+    QByteArray m_bytes;
+    PimContactOptions m_options;
+    /// Chooses what is left to chance.
+    unsigned m_seed;
+    /// The bytes, of UTF-16 in UTF-8: what offsets refer to.
+    QByteArray m_text;
+    std::vector<PhysicalLine> m_lines;
+    Reading m_reading;
+};
+
+/// \return true if the file was refused because of its first bytes.
+bool IsRefusedKind( PimContactFileKind a_kind );
+
+/// \return nothing if it is true, else the property.
+Broken Holds( bool a_isTrue, const char* a_what );
+
+/// \param a_what the property.
+/// \return the property, and the two numbers if they differ; else nothing.
+Broken Same( const char* a_what, qint64 a_found, qint64 a_expected );
+
+/// \return the bytes from the offset on; fewer if the text ends before.
+QByteArray Slice( const QByteArray& a_text, qint64 a_offset, qint64 a_length );
+
+/// Calls functions without arguments that return Broken, one after the other, up to the first broken property.
+template <typename... Checks>
+Broken FirstBroken( const Checks&... a_checks )
+{
+    Broken broken;
+    static_cast<void>( ( ... || !( broken = a_checks() ).isEmpty() ) );
+    return broken;
+}
+
+/// Calls a function for each element, up to the first broken property.
+template <typename Container, typename Check>
+Broken FirstBrokenOf( const Container& a_container, const Check& a_check )
+{
+    for ( const auto& element : a_container )
+    {
+        if ( const Broken broken = a_check( element ); !broken.isEmpty() )
+            return broken;
+    }
+    return Broken();
+}
+
+} // namespace PimManager::Contacts::Checks

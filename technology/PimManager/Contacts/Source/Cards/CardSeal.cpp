@@ -1,0 +1,194 @@
+#include "Cards/CardSeal.h"
+
+#include "Lines/LinePieces.h"
+#include "Text/Bytes.h"
+#include "Text/CharsetChoice.h"
+
+namespace PimManager::Contacts
+{
+
+namespace
+{
+
+/// The entries of one card, each with its bytes.
+class CardEntries
+{
+public:
+    CardEntries( IndexBytes a_entries, std::string_view a_bytes, quint32 a_begin ) :
+        m_entries( a_entries ),
+        m_reader( a_entries.m_data, 0, a_entries.m_size ),
+        m_bytes( a_bytes ),
+        m_next( a_begin )
+    {
+    }
+
+    bool Next( bool a_isBrief )
+    {
+        if ( m_reader.AtEnd() )
+            return false;
+        m_begin = m_next;
+        m_from = m_reader.Place();
+        m_reader.Next( m_entry, a_isBrief );
+        m_next += m_entry.m_length;
+        return true;
+    }
+
+    IndexEntry& Entry() { return m_entry; }
+    quint32 Begin() const { return m_begin; }
+    std::string_view Line() const { return WithoutLineEnd( m_bytes.substr( m_begin, m_entry.m_length ) ); }
+    bool IsLine() const { return m_entry.m_kind == EntryKind::Line; }
+    // As they are written.
+    IndexBytes Raw() const { return { m_entries.m_data + m_from, m_reader.Place() - m_from }; }
+
+private:
+    IndexBytes m_entries;
+    IndexReader m_reader;
+    std::string_view m_bytes;
+    IndexEntry m_entry;
+    quint32 m_begin = 0;
+    quint32 m_from = 0;
+    quint32 m_next;
+};
+
+/// Decides about the character sets of the lines of a card.
+class LineCharsets
+{
+public:
+    LineCharsets( IndexBytes a_entries, std::string_view a_bytes, const CardRecord& a_record ) :
+        m_entries( a_entries ),
+        m_bytes( a_bytes ),
+        m_record( a_record )
+    {
+    }
+
+    void Decide( bool a_isCardUtf8, bool a_isDefaultKnown, CardIndex& a_index ) const
+    {
+        const std::string_view cardCharset = CardCharset();
+        const CharsetChoice choice( a_isCardUtf8, !cardCharset.empty(), a_isDefaultKnown );
+        IndexWriter writer;
+        for ( CardEntries entries( m_entries, m_bytes, m_record.m_begin ); entries.Next( false ); )
+        {
+            if ( entries.IsLine() )
+            {
+                const QByteArray text = TextOf( entries );
+                const LineHead head = LineHead::Of( ViewOf( text ) );
+                entries.Entry().m_charset = choice.Of( ViewOf( text ), head.m_charset.In( ViewOf( text ) ) );
+                writer.Add( entries.Entry() );
+            }
+            else
+                writer.AddRaw( entries.Raw() );
+        }
+        a_index.Set( m_record, writer.Bytes(), cardCharset );
+    }
+
+private:
+    QByteArray TextOf( CardEntries& a_entries ) const
+    {
+        const std::string_view line = a_entries.Line();
+        return Unfolded( line, a_entries.Entry(), m_record.FoldStyle(), { 0, static_cast<quint32>( line.size() ) } );
+    }
+
+    // The first one that is known and is not folded; also that of a filtered line.
+    std::string_view CardCharset() const
+    {
+        for ( CardEntries entries( m_entries, m_bytes, m_record.m_begin ); entries.Next( false ); )
+        {
+            if ( !entries.IsLine() && entries.Entry().m_kind != EntryKind::Filtered )
+                continue;
+            const std::string_view charset = LineHead::Of( entries.Line() ).m_charset.In( entries.Line() );
+            if ( IsKnownCharset( charset ) )
+                return charset;
+        }
+        return std::string_view();
+    }
+
+    IndexBytes m_entries;
+    std::string_view m_bytes;
+    const CardRecord& m_record;
+};
+
+/// Copies a card and its nested cards, but for the filtered lines.
+class FilteredCopy
+{
+public:
+    FilteredCopy( const uchar* a_index, std::string_view a_bytes ) :
+        m_index( a_index ),
+        m_bytes( a_bytes )
+    {
+    }
+
+    // Calls itself for nested cards, so at most as deeply as the limit of nesting allows.
+    CardIndex Copy( quint32 a_record )
+    {
+        CardRecord record = CardRecord::At( m_index + a_record );
+        const auto begin = static_cast<quint32>( m_kept.size() );
+        IndexWriter writer;
+        IndexEntry entry;
+        for ( IndexReader reader = EntriesOf( m_index, a_record ); !reader.AtEnd(); )
+        {
+            const quint32 from = reader.Place();
+            reader.Next( entry, true );
+            if ( entry.m_kind == EntryKind::Filtered )
+            {
+                m_place += entry.m_length;
+                continue;
+            }
+            if ( entry.m_kind == EntryKind::Nested )
+            {
+                const auto nestedBegin = static_cast<quint32>( m_kept.size() );
+                const CardIndex nested = Copy( entry.m_indexBegin );
+                writer.AddNested( static_cast<quint32>( m_kept.size() ) - nestedBegin, nested.Bytes() );
+                continue;
+            }
+            writer.AddRaw( { m_index + from, reader.Place() - from } );
+            m_kept.append( m_bytes.data() + m_place, static_cast<int>( entry.m_length ) );
+            m_place += entry.m_length;
+        }
+        record.m_begin = begin;
+        record.m_length = static_cast<quint32>( m_kept.size() ) - begin;
+        CardIndex index;
+        index.Set( record, writer.Bytes(), CharsetOf( m_index, a_record ) );
+        return index;
+    }
+
+    const QByteArray& Bytes() const { return m_kept; }
+
+private:
+    const uchar* m_index;
+    std::string_view m_bytes;
+    quint32 m_place = 0;
+    QByteArray m_kept;
+};
+
+} // namespace
+
+void SealCard( const CardFacts& a_facts, IndexBytes a_entries, CardRecord a_record, std::string_view a_bytes,
+               bool a_isDefaultKnown, CardIndex& a_index )
+{
+    a_record.m_lines = a_facts.m_parts[static_cast<size_t>( EntryKind::Line )];
+    a_record.m_version = static_cast<quint8>( a_facts.m_version );
+    const bool isVersion21 = a_facts.m_version == PimContactVersion::V21;
+    const bool foldsByLength = isVersion21 && a_facts.m_folds.IsByLength();
+    a_record.m_foldStyle = static_cast<quint8>( isVersion21 && !foldsByLength ? PimContactFoldStyle::BlankKept
+                                                                              : PimContactFoldStyle::BlankRemoved );
+    a_record.Set( CardRecord::FoldsByLength, foldsByLength );
+    a_record.Set( CardRecord::IsFiltered, a_facts.m_isFiltered );
+    a_record.Set( CardRecord::IsOtherCharset, !a_facts.m_isValidUtf8 );
+    a_record.Set( CardRecord::IsWhole,
+                  !a_facts.m_isDropped && a_record.Has( CardRecord::HasBegin ) && a_record.Has( CardRecord::HasEnd ) );
+    if ( a_facts.m_isValidUtf8 && !a_facts.m_mayBeShifted )
+        a_index.Set( a_record, a_entries, std::string_view() );
+    else
+        LineCharsets( a_entries, a_bytes, a_record ).Decide( a_facts.m_isValidUtf8, a_isDefaultKnown, a_index );
+}
+
+FilteredCard WithoutFilteredLines( const CardIndex& a_index, std::string_view a_bytes )
+{
+    FilteredCopy copy( a_index.Base(), a_bytes );
+    FilteredCard card;
+    card.m_index = copy.Copy( 0 );
+    card.m_bytes = copy.Bytes();
+    return card;
+}
+
+} // namespace PimManager::Contacts

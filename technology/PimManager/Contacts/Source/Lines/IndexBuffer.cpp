@@ -1,0 +1,44 @@
+#include "Lines/IndexBuffer.h"
+
+#include <cstring>
+
+namespace PimManager::Contacts
+{
+
+quint32 ReadNumber( const uchar*& a_place )
+{
+    uint byte = *a_place++;
+    if ( byte < s_kNumberContinues )
+        return byte;
+    quint32 number = byte & ~s_kNumberContinues;
+    for ( uint shift = s_kBitsOfNumberByte; byte >= s_kNumberContinues; shift += s_kBitsOfNumberByte )
+    {
+        byte = *a_place++;
+        number |= ( byte & ~s_kNumberContinues ) << shift;
+    }
+    return number;
+}
+
+// Large indexes grow by a quarter, not to twice their size: they count in the memory that a reader may take.
+void IndexBuffer::Grow( size_t a_size )
+{
+    constexpr size_t s_kLarge = size_t( 16 ) * 1024;
+    const size_t needed = m_bytes.size() + a_size;
+    m_bytes.resize( needed + ( needed > s_kLarge ? needed / 8 : needed ) );
+}
+
+void IndexBuffer::Release()
+{
+    constexpr size_t s_kLarge = size_t( 64 ) * 1024;
+    m_size = 0;
+    if ( m_bytes.size() > s_kLarge )
+        m_bytes = std::vector<uchar>();
+}
+
+void IndexBuffer::Copy( IndexBytes a_bytes )
+{
+    std::memcpy( Begin( a_bytes.m_size ), a_bytes.m_data, a_bytes.m_size );
+    m_size += a_bytes.m_size;
+}
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,69 @@
+/// \file
+/// The bytes of an index.
+
+#pragma once
+
+#include <QtGlobal>
+
+#include <vector>
+
+namespace PimManager::Contacts
+{
+
+/// Bytes of an index that are written elsewhere. Not owned.
+struct IndexBytes
+{
+    const uchar* m_data = nullptr;
+    quint32 m_size = 0;
+};
+
+/// Numbers have seven bits a byte, the lowest first; the high bit says that more follow.
+constexpr uint s_kNumberContinues = 0x80;
+constexpr uint s_kBitsOfNumberByte = 7;
+constexpr size_t s_kLongestNumber = 5;
+
+/// Writes a number. \return the place behind it; at most s_kLongestNumber bytes are written.
+inline uchar* WriteNumber( uchar* a_place, quint32 a_number )
+{
+    for ( ; a_number >= s_kNumberContinues; a_number >>= s_kBitsOfNumberByte )
+        *a_place++ = static_cast<uchar>( a_number | s_kNumberContinues );
+    *a_place = static_cast<uchar>( a_number );
+    return a_place + 1;
+}
+
+/// Reads a number and steps behind it.
+quint32 ReadNumber( const uchar*& a_place );
+
+/// A growing run of bytes. It keeps its memory when it is cleared.
+class IndexBuffer
+{
+public:
+    void Clear() { m_size = 0; }
+    /// Gives the memory back if it is large.
+    void Release();
+    void Add( IndexBytes a_bytes )
+    {
+        if ( a_bytes.m_size > 0 )
+            Copy( a_bytes );
+    }
+
+    /// \return where that many bytes can be written. End() must be told where they end.
+    uchar* Begin( size_t a_most )
+    {
+        if ( m_bytes.size() - m_size < a_most )
+            Grow( a_most );
+        return m_bytes.data() + m_size;
+    }
+    void End( const uchar* a_end ) { m_size = static_cast<size_t>( a_end - m_bytes.data() ); }
+
+    IndexBytes Bytes() const { return { m_bytes.data(), static_cast<quint32>( m_size ) }; }
+
+private:
+    void Copy( IndexBytes a_bytes );
+    void Grow( size_t a_size );
+
+    std::vector<uchar> m_bytes;
+    size_t m_size = 0;
+};
+
+} // namespace PimManager::Contacts

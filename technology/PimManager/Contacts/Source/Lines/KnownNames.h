@@ -1,0 +1,25 @@
+/// \file
+/// The property names of the standards.
+
+#pragma once
+
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// \return true for a property name of vCard 2.1, RFC 2426, RFC 6350 and its extensions (RFC 6474, 6715, 8605, 9554 and
+///         9555), in any letter case, BEGIN and END included. Takes constant time.
+bool IsKnownName( std::string_view a_name );
+
+/// \return true for a name that begins with `X-` in any letter case and is longer.
+bool IsExtensionName( std::string_view a_name );
+
+/// \return false for TEL, EMAIL, BDAY and other names whose values are one word, a number, a date or a picture, because
+///         a line of text does not continue these values. Returns true for every other name, known or not.
+bool HoldsText( std::string_view a_name );
+
+/// \return true for N, FN and NICKNAME.
+bool IsPersonName( std::string_view a_name );
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,185 @@
+/// \file
+/// The index of a card: a run of entries, one for each part of the card's bytes.
+///
+/// The entries follow each other as the parts do, and their lengths add up to the length of the card, so no byte is
+/// without an entry. An entry has two to five bytes in a clean card:
+///
+///     header byte | length | [reason] | [lengths of name, group, parameters | extras: encoding, joins, oddities ...]
+///
+/// All numbers but the header are varints: seven bits a byte, the lowest first, the high bit says that more follow.
+
+#pragma once
+
+#include "Lines/IndexBuffer.h"
+#include "Lines/LineHead.h"
+#include "Text/CharsetChoice.h"
+
+#include <QtGlobal>
+
+namespace PimManager::Contacts
+{
+
+/// What a part of a card is.
+enum class EntryKind : quint8
+{
+    Line,     ///< a property
+    Boundary, ///< of a BEGIN or END line
+    Blank,    ///< blank lines
+    Dropped,  ///< left out, see DropReason
+    Filtered, ///< left out by the caller's filter
+    Mark,     ///< byte order marks
+    Nested,   ///< a card inside the card; it belongs to the property before it
+};
+
+/// The number of kinds.
+constexpr int s_kEntryKinds = static_cast<int>( EntryKind::Nested ) + 1;
+
+/// Why a part was left out.
+enum class DropReason : quint8
+{
+    NotAProperty,
+    Comment,
+    LineTooLong,
+    NestingTooDeep,
+    BoundaryText,
+};
+
+/// How a break between two physical lines is undone, where it is no plain fold.
+struct LineJoin
+{
+    /// Of what the join covers, in the line.
+    quint32 m_begin = 0;
+    quint32 m_length = 0;
+    PimContactJoin m_kind = PimContactJoin::Direct;
+    /// Of LineFeed: how many line feeds the break becomes.
+    quint8 m_lineFeeds = 0;
+
+    quint32 End() const { return m_begin + m_length; }
+};
+
+/// An entry, decoded.
+struct IndexEntry
+{
+    EntryKind m_kind = EntryKind::Line;
+    /// Of the part in the bytes of the card; of Nested that of the nested card.
+    quint32 m_length = 0;
+
+    DropReason m_reason = DropReason::NotAProperty; // of Dropped
+    bool m_isMended = false;                        // of Boundary: blanks or control characters round it
+
+    // Of Line.
+    ByteRange m_group;
+    ByteRange m_name;
+    ByteRange m_parameters;
+    quint32 m_valueBegin = 0;
+    bool m_hasColon = false;
+    bool m_hasFolds = false;
+    PimContactEncoding m_encoding = PimContactEncoding::None;
+    LineCharset m_charset = LineCharset::Utf8;
+    PimContactOddities m_oddities;
+    /// As JoinWriter writes them. Not owned.
+    IndexBytes m_joins;
+    bool m_doSoftBreaksTakeBlank = false;
+
+    /// Of Nested: where the record and the index of the nested card are, and how long they are.
+    quint32 m_indexBegin = 0;
+    quint32 m_indexLength = 0;
+};
+
+/// Writes the joins of a line, two bytes or a little more for each.
+class JoinWriter
+{
+public:
+    void Clear()
+    {
+        m_buffer.Clear();
+        m_place = 0;
+    }
+    void Add( const LineJoin& a_join );
+    IndexBytes Bytes() const { return m_buffer.Bytes(); }
+
+private:
+    IndexBuffer m_buffer;
+    quint32 m_place = 0;
+};
+
+/// Reads the joins of a line one after the other.
+class JoinReader
+{
+public:
+    /// \param a_entry a line; its index must outlive the reader.
+    explicit JoinReader( const IndexEntry& a_entry );
+
+    /// \return false behind the last one.
+    bool Next( LineJoin& a_join );
+
+private:
+    const uchar* m_bytes;
+    quint32 m_left;
+    bool m_doSoftBreaksTakeBlank;
+    // The end of the last join, as it was written.
+    quint32 m_begin = 0;
+};
+
+/// Writes entries.
+class IndexWriter
+{
+public:
+    void Clear() { m_buffer.Clear(); }
+    void Release() { m_buffer.Release(); }
+    void Add( const IndexEntry& a_entry );
+    /// Adds a line whose group, name, parameters and colon follow each other without a gap, and which has no oddity.
+    void AddClean( const LineHead& a_head, quint32 a_length, bool a_hasFolds, IndexBytes a_joins );
+    void AddPart( EntryKind a_kind, quint32 a_length ) { AddPart( a_kind, a_length, 0 ); }
+    void AddDropped( DropReason a_reason, quint32 a_length );
+    void AddBoundary( quint32 a_length, bool a_isMended )
+    {
+        AddPart( EntryKind::Boundary, a_length, a_isMended ? 1 : 0 );
+    }
+    /// \param a_index record and index of a nested card of that length.
+    void AddNested( quint32 a_length, IndexBytes a_index );
+    /// Entries as they are written elsewhere.
+    void AddRaw( IndexBytes a_entries ) { m_buffer.Add( a_entries ); }
+
+    IndexBytes Bytes() const { return m_buffer.Bytes(); }
+
+private:
+    void AddPart( EntryKind a_kind, quint32 a_length, uint a_detail );
+    static uchar* WriteExtras( uchar* a_place, const IndexEntry& a_entry, uint a_extras );
+
+    IndexBuffer m_buffer;
+};
+
+/// Reads entries one after the other.
+class IndexReader
+{
+public:
+    /// \param a_index the entries of one card; must outlive the reader. The places of nested indexes count from a_base.
+    IndexReader( const uchar* a_base, quint32 a_begin, quint32 a_end ) :
+        m_base( a_base ),
+        m_place( a_begin ),
+        m_end( a_end )
+    {
+    }
+
+    bool AtEnd() const { return m_place >= m_end; }
+    /// Where the next entry begins.
+    quint32 Place() const { return m_place; }
+    /// Goes on at the beginning of another entry.
+    void StepTo( quint32 a_place ) { m_place = a_place; }
+
+    /// Reads the next entry and steps behind it. If a_isBrief is set, the places and the character set of a line are
+    /// not read.
+    void Next( IndexEntry& a_entry, bool a_isBrief = false );
+
+private:
+    void ReadLine( IndexEntry& a_entry, uint a_header );
+    void ReadExtras( IndexEntry& a_entry );
+    quint32 Number();
+
+    const uchar* m_base;
+    quint32 m_place;
+    quint32 m_end;
+};
+
+} // namespace PimManager::Contacts

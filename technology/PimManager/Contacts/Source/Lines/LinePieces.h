@@ -1,0 +1,70 @@
+/// \file
+/// Unfolding.
+
+#pragma once
+
+#include "Lines/LineIndex.h"
+
+#include <PimManager/Contacts/PimContactCard.h>
+
+#include <QByteArray>
+
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// The text of a content line, piece by piece: what is between the breaks of its physical lines. This is the only place
+/// that undoes folds and soft line breaks.
+///
+/// A break is undone as the index says. A break that the index does not mention is a plain fold: the line ending goes,
+/// and one blank or tab with it, unless the fold style of the card keeps it.
+class LinePieces
+{
+public:
+    /// \param a_line  the bytes of the line without its last line ending; must outlive the pieces.
+    /// \param a_entry its entry in the index, of which only the joins are read.
+    /// \param a_range the part of the line that is wanted.
+    LinePieces( std::string_view a_line, const IndexEntry& a_entry, PimContactFoldStyle a_style, ByteRange a_range );
+
+    /// \return false behind the last piece.
+    bool Next();
+
+    std::string_view Text() const { return m_text; }
+    /// The place of the piece in the line.
+    quint32 Begin() const { return static_cast<quint32>( m_text.data() - m_line.data() ); }
+    /// How many line feeds precede the piece.
+    int LineFeeds() const { return m_lineFeeds; }
+    /// How the break before the piece is undone; not for the first piece.
+    PimContactJoin Join() const { return m_join; }
+
+private:
+    quint32 FindBreak() const;
+    void StepOver( quint32 a_break );
+    void ReadJoin();
+
+    std::string_view m_line;
+    JoinReader m_joins;
+    PimContactFoldStyle m_style;
+    ByteRange m_range;
+    LineJoin m_next;
+    bool m_hasNext = false;
+    // Where the next piece begins.
+    quint32 m_place = 0;
+    bool m_isAtEnd = false;
+    int m_lineFeedsBefore = 0;
+    PimContactJoin m_joinBefore = PimContactJoin::Fold;
+
+    std::string_view m_text;
+    int m_lineFeeds = 0;
+    PimContactJoin m_join = PimContactJoin::Fold;
+};
+
+/// \return a part of a line without its breaks, see LinePieces.
+QByteArray Unfolded( std::string_view a_line, const IndexEntry& a_entry, PimContactFoldStyle a_style,
+                     ByteRange a_range );
+
+/// \return the line without its line ending.
+std::string_view WithoutLineEnd( std::string_view a_line );
+
+} // namespace PimManager::Contacts

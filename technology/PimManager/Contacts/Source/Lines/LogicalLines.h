@@ -1,0 +1,224 @@
+/// \file
+/// Content lines, put together from the physical lines of a card.
+
+#pragma once
+
+#include "Lines/FoldEvidence.h"
+#include "Lines/LineFilter.h"
+#include "Lines/LineHead.h"
+#include "Lines/LineIndex.h"
+
+#include <PimManager/Contacts/PimContactCard.h>
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace PimManager::Contacts
+{
+
+/// A physical line of a card. Places count from the first byte of the outermost card.
+struct CardLine
+{
+    quint32 m_begin = 0;
+    /// Without the line ending.
+    quint32 m_textEnd = 0;
+    quint32 m_end = 0;
+    bool m_isWide = false;
+    bool m_hasControls = false;
+};
+
+/// What the lines of a card say about the card.
+struct CardFacts
+{
+    /// There is something to tell about a part of the card, or a card in it.
+    bool m_isOdd = false;
+    /// The parts of each kind, and their bytes.
+    std::array<quint32, s_kEntryKinds> m_parts = {};
+    std::array<quint32, s_kEntryKinds> m_bytes = {};
+
+    PimContactVersion m_version = PimContactVersion::Unknown;
+    /// There are characters beyond ASCII.
+    bool m_isWide = false;
+    bool m_isValidUtf8 = true;
+    /// A line may be in ISO-2022-JP.
+    bool m_mayBeShifted = false;
+    /// Of the folded lines of text; not if the version is known to be another one than 2.1.
+    FoldEvidence m_folds;
+    /// A part of the card was left out, or a line was.
+    bool m_isDropped = false;
+    bool m_isFiltered = false;
+};
+
+/// \return the version that a VERSION line names; Unknown for another line, and for another version.
+/// \param a_value the value as written, on one line.
+PimContactVersion VersionOf( std::string_view a_name, std::string_view a_value );
+
+/// Puts the lines of one card together and writes their index. The rules, from top to bottom:
+///
+/// - An empty line, or one of white space that does not follow a property directly, is blank.
+/// - Behind the "=" of a QUOTED-PRINTABLE value the next line continues it, indented or not, unless it is clearly a
+///   property.
+/// - An indented line continues the line before.
+/// - A line that is no property continues the text before it: directly when the line before it was folded without
+///   indentation, otherwise behind a line feed. Behind BASE64 a line of BASE64 continues directly.
+/// - What remains is no property and is dropped.
+///
+/// Whether a line is a property is known when its folds are known. So two lines are open at a time: the current
+/// property, which text may continue, and a candidate, which is not settled yet:
+///
+///     NOTE:first part         the current property
+///     second: part            a candidate; a fold may follow. It is settled when the next line begins another one
+///
+/// Each byte is looked at a constant number of times.
+class LogicalLines
+{
+public:
+    /// \param a_filter must outlive this object.
+    LogicalLines( const LineFilter& a_filter, qint64 a_mostLineBytes );
+    Q_DISABLE_COPY( LogicalLines )
+
+    /// Begins a card.
+    /// \param a_begin       the place of its first byte.
+    /// \param a_indentation how many blanks precede each line of an indented card.
+    void Begin( quint32 a_begin, quint32 a_indentation );
+
+    /// The bytes of the outermost card, from its first byte to the end of the line that is taken next; valid until the
+    /// next call.
+    void SetBytes( const char* a_bytes ) { m_bytes = a_bytes; }
+
+    /// Takes the next line between BEGIN and END.
+    void Take( const CardLine& a_line );
+
+    /// Ends all open lines, so that IndexWriter entries can be added for what follows.
+    void Close();
+
+    /// The current property is an AGENT without a value. Settles the candidate.
+    bool IsBehindOpenAgent();
+    /// What the current property will be written as: Line, Filtered or Dropped.
+    EntryKind FateOfCurrent() const { return m_isEveryLineWanted ? EntryKind::Line : FateOf( *m_current ); }
+    /// Forgets the current property. The caller writes its bytes, from Written() on.
+    void LeaveCurrent();
+
+    /// A line continues if it is indented: no empty line precedes it, and there is one to continue.
+    bool MayFold() const { return m_emptyLines == 0 && ( m_candidate->m_isOpen || m_current->m_isOpen ); }
+
+    /// Up to which byte the index has been written, and more of it.
+    quint32 Written() const { return m_written; }
+    void WriteBlankUpTo( quint32 a_place );
+    void WriteBoundary( quint32 a_length, bool a_isMended );
+    void WritePart( EntryKind a_kind, quint32 a_length );
+    void WriteDropped( DropReason a_reason, quint32 a_length );
+    void WriteNested( quint32 a_length, IndexBytes a_index );
+
+    const IndexWriter& Index() const { return m_index; }
+    /// The index is no longer needed, and its memory is given back if it is large.
+    void ReleaseIndex() { m_index.Release(); }
+    const CardFacts& Facts() const { return m_facts; }
+    CardFacts& Facts() { return m_facts; }
+
+private:
+    // A content line in the making. Places count from the first byte of the card.
+    struct OpenLine
+    {
+        void Begin( const CardLine& a_line, quint32 a_marks, int a_emptyLinesBefore );
+        void Extend( const CardLine& a_line );
+
+        bool m_isOpen = false;
+        quint32 m_begin = 0;
+        // Byte order marks before it, in bytes.
+        quint32 m_marks = 0;
+        quint32 m_firstTextEnd = 0;
+        quint32 m_end = 0;
+        // Of its last physical line.
+        quint32 m_lastBegin = 0;
+        quint32 m_lastTextEnd = 0;
+        bool m_hasFolds = false;
+        bool m_isWide = false;
+        bool m_hasControls = false;
+        bool m_isJoined = false;
+        int m_emptyLinesBefore = 0;
+        LineHead m_head;
+        bool m_isHeadRead = false;
+        // Folds precede its colon. What it looks like, and its name, can then be read only without them.
+        bool m_isHeadFolded = false;
+        LineLooks m_looks = LineLooks::Text;
+        QByteArray m_foldedName;
+        // Below this length another look for the colon is not worth it, so that all looks together are linear.
+        quint32 m_nextLook = 0;
+        PimContactOddities m_oddities;
+        JoinWriter m_joins;
+        // Soft line breaks; those before exactly one blank; and whether the lines before them have the length of folds.
+        int m_softBreaks = 0;
+        int m_blankBreaks = 0;
+        bool m_areBreaksAtFoldLength = true;
+    };
+
+    std::string_view View( quint32 a_begin, quint32 a_end ) const
+    {
+        return std::string_view( m_bytes + a_begin, a_end - a_begin );
+    }
+    std::string_view TextOf( const OpenLine& a_line ) const { return View( a_line.m_begin, a_line.m_lastTextEnd ); }
+    std::string_view NameOf( const OpenLine& a_line ) const;
+    static quint32 ValueBegin( const OpenLine& a_line )
+    {
+        return std::min( a_line.m_head.m_valueBegin, a_line.m_lastTextEnd - a_line.m_begin );
+    }
+    quint32 ContentBegin( const CardLine& a_line ) const;
+
+    void Start( const CardLine& a_line );
+    void TakeFold( OpenLine& a_line, const CardLine& a_by ) const;
+
+    void ReadHead( OpenLine& a_line ) const;
+    void ReadFoldedHead( OpenLine& a_line ) const;
+    bool HasColonSoFar( OpenLine& a_line ) const;
+    void JoinFoldsOfHead( OpenLine& a_line ) const;
+
+    bool EndsInEquals( const OpenLine& a_line ) const;
+    bool TakeBehindEquals( const CardLine& a_line, bool a_isFold );
+    bool IsSoftBreakOpen() const;
+    bool ContinuesSoftBreak( std::string_view a_text ) const;
+    void TakeBehindSoftBreak( const CardLine& a_line );
+
+    void Settle();
+    bool IsCandidateProperty() const;
+    bool IsCandidateData() const;
+    LineLooks LooksOfCandidate() const;
+    bool MayJoin() const;
+    bool MayJoinComment() const;
+    bool IsLostFold() const;
+    bool HoldsBase64() const;
+    bool IsFoldBehindEmptyLine( quint32 a_blanks ) const;
+    LineJoin JoinOfCandidate( bool a_isData ) const;
+    void JoinCandidate();
+    void DropCandidate();
+
+    void Wrote( EntryKind a_kind, quint32 a_length, bool a_isOdd );
+    void WriteCurrent();
+    void WriteLine( const OpenLine& a_line, IndexEntry& a_entry );
+    static IndexEntry EntryOf( const OpenLine& a_line );
+    EntryKind FateOf( const OpenLine& a_line ) const;
+    void CloseSoftBreaks( OpenLine& a_line ) const;
+    void InspectCharacters( const OpenLine& a_line, IndexEntry& a_entry );
+    bool HasUnknownEscape( const OpenLine& a_line, const IndexEntry& a_entry ) const;
+
+    const LineFilter& m_filter;
+    qint64 m_mostLineBytes;
+    // There is no filter and no limit.
+    bool m_isEveryLineWanted;
+    const char* m_bytes = nullptr;
+    quint32 m_indentation = 0;
+    quint32 m_written = 0;
+    int m_emptyLines = 0;
+    std::array<OpenLine, 2> m_lines;
+    OpenLine* m_current = m_lines.data();
+    OpenLine* m_candidate = m_lines.data() + 1;
+    CardFacts m_facts;
+    IndexWriter m_index;
+};
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,27 @@
+/// \file
+/// The backslashes of a value.
+
+#pragma once
+
+#include "Lines/LineIndex.h"
+
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// Backslashes before a character that needs none.
+struct UnknownEscapes
+{
+    qint64 m_count = 0;
+    /// The place of the first one in the line.
+    quint32 m_first = 0;
+};
+
+/// \param a_line a content line without its last line ending; may have continuation lines.
+/// \return the backslashes of its value that precede neither a backslash, a comma, a semicolon, a colon nor the letter
+/// n
+///         (RFC 2426, section 4; RFC 6350, section 3.4).
+UnknownEscapes UnknownEscapesIn( std::string_view a_line, const IndexEntry& a_entry );
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,67 @@
+/// \file
+/// Decides which character set applies to a line of a card.
+
+#pragma once
+
+#include <QtGlobal>
+
+#include <string_view>
+
+class QTextCodec;
+
+namespace PimManager::Contacts
+{
+
+/// Where the character set of a line is named. The numbers are stored in cards.
+enum class LineCharset : quint8
+{
+    Utf8 = 0,      ///< nowhere; the line is UTF-8 or ASCII
+    Default = 1,   ///< the caller's default
+    Card = 2,      ///< the first CHARSET parameter of the card whose value is known
+    Line = 3,      ///< the CHARSET parameter of the line
+    Iso2022Jp = 4, ///< nowhere; the line has the escape sequences of ISO-2022-JP
+};
+
+/// Finds the codec of a character set by the name that a card or a caller uses. Letter case, punctuation, and blanks
+/// round the name are ignored. Names are unknown if they are longer than 40 bytes, or have other characters than
+/// letters, digits and `-_.:+()`.
+///
+/// \return null for unknown names, and for all forms of Unicode and ASCII.
+/// \note   QTextCodec::codecForName() is slow for names that it does not know, and for some that it does, such as
+///         `windows-1252`. This function is slow once for each listed name only. It may be called in several threads.
+QTextCodec* CodecOf( std::string_view a_name );
+
+/// \return true if CodecOf() finds a codec.
+bool IsKnownCharset( std::string_view a_name );
+
+/// \return true if the text has an escape character, so that it may be in ISO-2022-JP.
+bool MayBeShifted( std::string_view a_text );
+
+/// Decides about the lines of one card. The first rule that applies decides:
+///
+/// 1. A line with an escape character and a known CHARSET whose name begins with `ISO-2022` is in that character set.
+/// 2. A line with an escape sequence of ISO-2022-JP (`ESC $ B` or `ESC $ @`) is in ISO-2022-JP.
+/// 3. If the whole card is valid UTF-8, so is each line, whatever its CHARSET says.
+/// 4. A line in ASCII is UTF-8.
+/// 5. A line with a known CHARSET is in that character set.
+/// 6. A line with more complete characters of UTF-8 than malformed bytes is UTF-8 that was damaged.
+/// 7. Any other line is in the card's character set. Without one, it is in the caller's default if that is known, or
+///    else in UTF-8.
+class CharsetChoice
+{
+public:
+    /// \param a_isCardUtf8     the card is valid UTF-8.
+    /// \param a_hasCardCharset a line of the card names a known character set.
+    /// \param a_isDefaultKnown the caller's default is known, and not UTF-8.
+    CharsetChoice( bool a_isCardUtf8, bool a_hasCardCharset, bool a_isDefaultKnown );
+
+    /// \param a_text  the line with its continuation lines joined.
+    /// \param a_named the value of its CHARSET parameter; empty without one.
+    LineCharset Of( std::string_view a_text, std::string_view a_named ) const;
+
+private:
+    bool m_isCardUtf8;
+    LineCharset m_cardCharset;
+};
+
+} // namespace PimManager::Contacts

@@ -81,6 +81,8 @@ TEST_F( BashCompletionTest, WordBecomesWhatFits )
         { "import --rejects = n", "notes.txt" },
         { "import --charset = windows-125", "windows-1250|windows-1251|windows-1252" },
         { "check -c KO", "KOI8-R" },
+        { "check --max-c", "--max-card-bytes|--max-card-lines|--max-cards" },
+        { "check --max-cards ", "" },
         { "print -l c", "cy.vcard" },
     };
     for ( const Row& row : rows )

@@ -35,12 +35,14 @@ QString Below( const QString& a_page, const QString& a_heading )
 
 QStringList OptionsNamedIn( const QString& a_text )
 {
-    static const QRegularExpression s_kOption( QStringLiteral( "^ +(-[a-zA-Z])(?: [A-Z]+)?, (--[a-z-]+)(?: [A-Z]+)?$" ),
-                                               QRegularExpression::MultilineOption );
+    static const QRegularExpression s_kOption(
+        QStringLiteral( "^ +(?:(-[a-zA-Z])(?: [A-Z]+)?, )?(--[a-z-]+)(?: [A-Z]+)?$" ),
+        QRegularExpression::MultilineOption );
     QStringList options;
     QRegularExpressionMatchIterator matches = s_kOption.globalMatch( a_text );
     while ( matches.hasNext() )
         options += matches.next().capturedTexts().mid( 1 );
+    options.removeAll( QString() );
     options.sort();
     return options;
 }
@@ -68,6 +70,22 @@ TEST( ManualTest, OptionsAreThoseOfTheProgram )
                    ProgramOptions( command ).join( QLatin1Char( ' ' ) ).toStdString() )
             << command.toStdString();
     }
+}
+
+TEST( ManualTest, DefaultsOfLimitsAreThoseOfTheProgram )
+{
+    static const QRegularExpression s_kLimit( QStringLiteral( "(--max-[a-z-]+) <NUMBER> ([^;]+; [^.]+\\.)" ) );
+    const QString page = ShownPage().simplified();
+    QRegularExpressionMatchIterator limits =
+        s_kLimit.globalMatch( RunInShell( QStringLiteral( "pimvcard check --help" ) ).m_out.simplified() );
+    int count = 0;
+    for ( ; limits.hasNext(); ++count )
+    {
+        const QRegularExpressionMatch limit = limits.next();
+        const QString shown = limit.captured( 1 ) + QStringLiteral( " NUMBER " ) + limit.captured( 2 );
+        EXPECT_TRUE( page.contains( shown ) ) << shown.toStdString();
+    }
+    EXPECT_EQ( count, 6 );
 }
 
 TEST( ManualTest, CommandsStandInTheSynopsis )

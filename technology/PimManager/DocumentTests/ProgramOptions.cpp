@@ -19,7 +19,7 @@ QStringList ProgramCommands()
 
 QStringList ProgramOptions( const QString& a_command )
 {
-    static const QRegularExpression s_kOptions( QStringLiteral( "^  (-[a-zA-Z]), (--[a-z-]+)" ),
+    static const QRegularExpression s_kOptions( QStringLiteral( "^  (?:(-[a-zA-Z]), )?(--[a-z-]+)" ),
                                                 QRegularExpression::MultilineOption );
     const ShellRun help = RunInShell( QStringLiteral( "pimvcard " ) + a_command + QStringLiteral( " --help" ) );
     EXPECT_EQ( help.m_status, 0 );
@@ -27,6 +27,7 @@ QStringList ProgramOptions( const QString& a_command )
     QRegularExpressionMatchIterator matches = s_kOptions.globalMatch( help.m_out );
     while ( matches.hasNext() )
         options += matches.next().capturedTexts().mid( 1 );
+    options.removeAll( QString() );
     options.sort();
     return options;
 }

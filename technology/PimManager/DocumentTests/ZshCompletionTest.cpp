@@ -19,11 +19,12 @@ QString Completion()
 
 QStringList OptionsNamedIn( const QString& a_text )
 {
-    static const QRegularExpression s_kOption( QStringLiteral( "\\{(-[a-zA-Z])\\+?,(--[a-z-]+)=?\\}" ) );
+    static const QRegularExpression s_kOption( QStringLiteral( "(?:\\{(-[a-zA-Z])\\+?,|')(--[a-z-]+)=?[\\[}]" ) );
     QStringList options;
     QRegularExpressionMatchIterator matches = s_kOption.globalMatch( a_text );
     while ( matches.hasNext() )
         options += matches.next().capturedTexts().mid( 1 );
+    options.removeAll( QString() );
     return options;
 }
 

@@ -10,6 +10,7 @@ _pimvcard_values()
                   ISO-2022-JP GB18030 Big5 EUC-KR" -- "$2" ;;
     -p | --photos) compgen -d -- "$2" ;;
     -r | --rejects | -o | --html) compgen -f -- "$2" ;;
+    --max-*) ;;
     *) return 1 ;;
   esac
   return 0
@@ -20,7 +21,9 @@ _pimvcard_options()
   local options="-h --help -v --version"
   case $1 in
     import) options+=" -c --charset -j --json -J --json-lines -q --quiet -p --photos -r --rejects -o --html" ;;
-    check) options+=" -c --charset" ;;
+    check)
+      options+=" -c --charset -e --extents --max-card-bytes --max-line-bytes --max-card-lines --max-nesting --max-cards"
+      options+=" --max-book-bytes" ;;
     print) options+=" -f --full -j --json -J --json-lines -l --log" ;;
   esac
   compgen -W "$options" -- "$2"

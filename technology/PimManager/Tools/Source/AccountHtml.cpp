@@ -49,7 +49,7 @@ void WriteFacts( QIODevice& a_device, const PimVCardImportAccount& a_account )
     a_device.write( "<dl>\n" );
     WriteFact( a_device, "Cards", CardsText( a_account ) );
     WriteFact( a_device, "Lines", LinesText( a_account ) );
-    WriteFact( a_device, "Line ends", LineEndsText( a_account ) );
+    WriteFact( a_device, "Line endings", LineEndsText( a_account ) );
     WriteFact( a_device, "Encoding", EncodingText( a_account ) );
     WriteFact( a_device, "Versions", VersionsText( a_account ) );
     a_device.write( "</dl>\n" );

@@ -16,7 +16,7 @@ namespace PimManager::vCard::Tools
 /// \return the cards, such as `12 cards: 11 whole, 1 in part, 2 refused`.
 QString CardsText( const vCardImport::PimVCardImportAccount& a_account );
 
-/// \return how the lines end, such as `LF line ends` or `mixed line ends (10 CR LF, 2 LF)`.
+/// \return how the lines end, such as `LF line endings` or `mixed line endings (10 CR LF, 2 LF)`.
 QString LineEndsText( const vCardImport::PimVCardImportAccount& a_account );
 
 /// \return the encoding and what speaks for it, such as `windows-1252 (assumed)`.

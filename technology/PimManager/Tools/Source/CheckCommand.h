@@ -13,7 +13,7 @@
 namespace PimManager::vCard::Tools
 {
 
-/// Tells everything that import had to mend, drop or refuse in address books, and what kind of files they are.
+/// Reports everything that the reader repairs, drops or refuses in address books, and what kinds of files they are.
 class CheckCommand
 {
 public:

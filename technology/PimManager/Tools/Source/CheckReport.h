@@ -1,30 +1,32 @@
 /// \file
-/// What `pimvcard check` prints.
+/// What `pimvcard check` prints without `--extents`.
 
 #pragma once
 
-#include "ImportOutput.h"
+#include "CheckOutput.h"
 
 class QIODevice;
 
 namespace PimManager::vCard::Tools
 {
 
-/// Writes each finding as it is made, in a line as compilers write them, and behind them a line for each file:
+/// Writes one line for each finding as soon as it is made, in the form that compilers use, and a summary after each
+/// file:
 ///
-///     book.vcf:12:7: repaired: the last line has no line end [last-line-end]
-///     book.vcf: 3 cards: 3 whole; LF line ends; UTF-8 (valid); version 3.0; 1 × line-end, 1 × last-line-end
-class CheckReport : public ImportOutput
+///     book.vcf:12:7: repaired: the last line has no line ending [last-line-end]
+///     book.vcf: 3 cards: 3 whole; CR LF line endings; UTF-8 (valid); version 3.0; 1 × last-line-end
+class CheckReport : public CheckOutput
 {
 public:
     /// \param a_device must be open and outlive the report.
     explicit CheckReport( QIODevice& a_device );
 
-    void TakeDiagnostic( const ImportedBook& a_book, const vCardImport::PimVCardDiagnostic& a_diagnostic ) override;
-    void EndBook( const ImportedBook& a_book ) override;
+    void BeginBook( const QString& a_source, Contacts::PimContactReader& a_reader ) override;
+    void EndBook( const Contacts::PimContactReport& a_report, bool a_isReadToEnd ) override;
 
 private:
     QIODevice& m_device;
+    QString m_source;
 };
 
 } // namespace PimManager::vCard::Tools

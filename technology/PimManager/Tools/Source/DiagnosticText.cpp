@@ -3,15 +3,15 @@
 namespace PimManager::vCard::Tools
 {
 
-using namespace vCardImport;
+using namespace Contacts;
 
-QString DiagnosticText( const QString& a_source, const PimVCardDiagnostic& a_diagnostic )
+QString DiagnosticText( const QString& a_source, const PimContactDiagnostic& a_diagnostic )
 {
     const QLatin1Char colon( ':' );
-    return a_source + colon + QString::number( a_diagnostic.m_position.m_line ) + colon +
-           QString::number( a_diagnostic.m_position.m_column ) + QStringLiteral( ": " ) +
-           QString( NameOf( a_diagnostic.m_severity ) ) + QStringLiteral( ": " ) + TextOf( a_diagnostic ) +
-           QStringLiteral( " [" ) + QString( NameOf( a_diagnostic.m_code ) ) + QLatin1Char( ']' );
+    return a_source + colon + QString::number( a_diagnostic.Line() ) + colon +
+           QString::number( a_diagnostic.Column() ) + QStringLiteral( ": " ) +
+           QString( NameOf( a_diagnostic.Severity() ) ) + QStringLiteral( ": " ) + a_diagnostic.Text() +
+           QStringLiteral( " [" ) + QString( NameOf( a_diagnostic.Code() ) ) + QLatin1Char( ']' );
 }
 
 } // namespace PimManager::vCard::Tools

@@ -1,9 +1,9 @@
 /// \file
-/// Diagnostics as compilers write them.
+/// Diagnostics in the form that compilers use.
 
 #pragma once
 
-#include "PimVCardDiagnostic.h"
+#include <PimManager/Contacts/PimContactDiagnostic.h>
 
 #include <QString>
 
@@ -11,7 +11,8 @@ namespace PimManager::vCard::Tools
 {
 
 /// \param a_source the name of the file, safe for a terminal.
-/// \return one line without its end, such as `book.vcf:12:7: repaired: the last line has no line end [last-line-end]`.
-QString DiagnosticText( const QString& a_source, const vCardImport::PimVCardDiagnostic& a_diagnostic );
+/// \return one line without its line ending, such as
+///         `book.vcf:12:7: repaired: the last line has no line ending [last-line-end]`.
+QString DiagnosticText( const QString& a_source, const Contacts::PimContactDiagnostic& a_diagnostic );
 
 } // namespace PimManager::vCard::Tools

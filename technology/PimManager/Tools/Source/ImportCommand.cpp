@@ -1,9 +1,9 @@
 #include "ImportCommand.h"
 
+#include "BookCommandLine.h"
 #include "ContactJson.h"
 #include "ContactPage.h"
 #include "ContactTable.h"
-#include "ImportLine.h"
 #include "ImportNotes.h"
 #include "ImportRun.h"
 #include "PhotoFolder.h"
@@ -105,7 +105,7 @@ ImportCommand::ImportCommand( Console& a_console ) :
 
 ExitStatus ImportCommand::Run( const QList<QByteArray>& a_arguments )
 {
-    ImportLine line( QStringLiteral( "import" ), Summary() );
+    BookCommandLine line( QStringLiteral( "import" ), Summary() );
     AddOptions( line );
     if ( const std::optional<ExitStatus> status = line.ParseFor( m_console, a_arguments, HelpTail() ) )
         return *status;
@@ -117,8 +117,10 @@ ExitStatus ImportCommand::Run( const QList<QByteArray>& a_arguments )
     outputs.push_back( std::make_unique<ImportNotes>( m_console ) );
     AddFiles( outputs, line );
     const bool makesFiles = outputs.size() > 2 || line.IsSet( s_kQuiet );
-    return ImportRun( m_console, line.ImportOptions(), std::move( outputs ),
-                      makesFiles ? ImportRun::WithoutReader::GoOn : ImportRun::WithoutReader::Stop )
+    vCardImport::PimVCardImportOptions options;
+    options.m_defaultCharset = line.CharsetOr( options.m_defaultCharset );
+    return ImportRun( m_console, options, std::move( outputs ),
+                      makesFiles ? BookRun::WithoutReader::GoOn : BookRun::WithoutReader::Stop )
         .Run( line.Arguments() );
 }
 

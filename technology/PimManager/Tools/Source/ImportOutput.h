@@ -36,10 +36,6 @@ public:
     virtual void BeginBook( const ImportedBook& /*a_book*/ ) {}
     virtual void TakeCard( const ImportedBook& /*a_book*/, const vCardImport::PimVCardImportedCard& /*a_card*/ ) {}
     virtual void TakeReject( const vCardImport::PimVCardReject& /*a_reject*/ ) {}
-    virtual void TakeDiagnostic( const ImportedBook& /*a_book*/,
-                                 const vCardImport::PimVCardDiagnostic& /*a_diagnostic*/ )
-    {
-    }
     /// The account of the book is complete now.
     virtual void EndBook( const ImportedBook& /*a_book*/ ) {}
     /// Comes last.

@@ -35,12 +35,12 @@ TEST( AccountTextTest, LineEndsAreNamed )
         const char* m_text;
     };
     const std::vector<Row> rows = {
-        { "", "no line ends" },
-        { "x", "no line ends" },
-        { "x\r\ny\r\n", "CR LF line ends" },
-        { "x\ny\n", "LF line ends" },
-        { "x\ry\rz", "CR line ends" },
-        { "x\r\ny\nz\n", "mixed line ends (1 CR LF, 2 LF)" },
+        { "", "no line endings" },
+        { "x", "no line endings" },
+        { "x\r\ny\r\n", "CR LF line endings" },
+        { "x\ny\n", "LF line endings" },
+        { "x\ry\rz", "CR line endings" },
+        { "x\r\ny\nz\n", "mixed line endings (1 CR LF, 2 LF)" },
     };
     for ( const Row& row : rows )
         EXPECT_EQ( Utf8( LineEndsText( AccountOf( row.m_book ) ) ), row.m_text ) << row.m_book;

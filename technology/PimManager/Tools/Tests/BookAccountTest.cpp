@@ -26,14 +26,6 @@ std::string Notes( const QByteArray& a_text )
     return Utf8( NotesOn( AccountOf( a_text ) ).join( QLatin1Char( '\n' ) ) );
 }
 
-QByteArray Utf16( const QByteArray& a_text )
-{
-    QByteArray bytes( "\xFF\xFE" );
-    for ( const char letter : a_text )
-        bytes.append( letter ).append( '\0' );
-    return bytes;
-}
-
 const QByteArray s_kGood = CardText( "FN:Nell\r\n" );
 const QByteArray s_kBroken = CardText( "X_Y:z\r\n" );
 const QByteArray s_kWithoutEnd = "BEGIN:VCARD\r\nFN:Tobias\r\n";

@@ -126,7 +126,7 @@ TEST( ImportPageTest, AccountStandsOnThePage )
     const QByteArray page = Page( CleanCard() + PartCard() );
     EXPECT_TRUE( page.contains( "</bdi>: 1 line dropped. <a href=\"#account\">" ) );
     EXPECT_TRUE( page.contains( "<dt>Cards</dt><dd>2 cards: 1 whole, 1 in part</dd>" ) );
-    EXPECT_TRUE( page.contains( "<dt>Line ends</dt><dd>CR LF line ends</dd>" ) );
+    EXPECT_TRUE( page.contains( "<dt>Line endings</dt><dd>CR LF line endings</dd>" ) );
     EXPECT_TRUE( page.contains(
         "<li id=\"d1-2\"><span class=\"place\">9:1</span><span class=\"word dropped\">dropped</span>" ) );
     EXPECT_TRUE( page.contains( "<a class=\"part\" href=\"#d1-2\">" ) );

@@ -1,5 +1,5 @@
 /// \file
-/// Books for the tests of import.
+/// Books for the tests of import and check.
 
 #pragma once
 
@@ -28,13 +28,13 @@ inline QByteArray PhotoLine( const QByteArray& a_picture, const QByteArray& a_he
     return a_head + ':' + a_picture.toBase64() + "\r\n";
 }
 
-/// A card that import delivers without mending anything.
+/// A card that is delivered without a finding.
 inline QByteArray CleanCard()
 {
     return CardText( "VERSION:3.0\r\nFN:Nell\r\nTEL;TYPE=CELL:555-0100\r\n" );
 }
 
-/// A card that import delivers, but for one line that is no property.
+/// A card that is delivered without one line, which is no property.
 inline QByteArray PartCard()
 {
     return CardText( "VERSION:3.0\r\nFN:Tobias\r\n\x01\x02 %%%\r\n" );

@@ -28,6 +28,15 @@ inline QByteArray CardText( const QByteArray& a_lines )
     return "BEGIN:VCARD\r\n" + a_lines + "END:VCARD\r\n";
 }
 
+/// ASCII text in UTF-16, little endian, with a byte order mark.
+inline QByteArray Utf16( const QByteArray& a_text )
+{
+    QByteArray bytes( "\xFF\xFE" );
+    for ( const char letter : a_text )
+        bytes.append( letter ).append( '\0' );
+    return bytes;
+}
+
 /// The only card of a text.
 inline std::unique_ptr<PimVCard> OnlyCard( const QByteArray& a_lines )
 {

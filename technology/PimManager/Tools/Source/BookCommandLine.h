@@ -6,8 +6,6 @@
 #include "CommandLine.h"
 #include "Console.h"
 
-#include "PimVCardImportOptions.h"
-
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -17,25 +15,25 @@
 namespace PimManager::vCard::Tools
 {
 
-/// The command line of a command that imports.
-class ImportLine : public CommandLine
+/// The command line of a command that reads address books of any kind.
+class BookCommandLine : public CommandLine
 {
 public:
     /// Has the options of every command, and `--charset`.
     /// \param a_command one word, such as `import`.
-    ImportLine( const QString& a_command, const QString& a_description );
+    BookCommandLine( const QString& a_command, const QString& a_description );
 
-    /// Reads what the user wrote, and answers when that needs no import: help, version, or a mistake.
-    /// \param a_helpTail stands below the options in the help.
-    /// \return the status of the command when it is done with that; nothing when there are files to import.
+    /// Reads what the user wrote, and answers it if no file has to be read: help, version, or a mistake.
+    /// \param a_helpTail the text below the options in the help.
+    /// \return the exit status if the command is finished; nothing if there are files to read.
     std::optional<ExitStatus> ParseFor( Console& a_console, const QList<QByteArray>& a_arguments,
                                         const QString& a_helpTail );
 
-    /// Tells that the command was called wrongly.
+    /// Reports wrong usage.
     ExitStatus Refuse( Console& a_console, const QString& a_reason ) const;
 
-    /// \return the options of import that the user chose.
-    vCardImport::PimVCardImportOptions ImportOptions() const;
+    /// \return the default character set that the user chose; without that option a_default.
+    QByteArray CharsetOr( const QByteArray& a_default ) const;
 
 private:
     const QString m_command;

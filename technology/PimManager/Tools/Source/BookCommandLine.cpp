@@ -1,4 +1,4 @@
-#include "ImportLine.h"
+#include "BookCommandLine.h"
 
 #include "Version.h"
 
@@ -15,7 +15,7 @@ const QString s_kCharset = QStringLiteral( "charset" );
 
 } // namespace
 
-ImportLine::ImportLine( const QString& a_command, const QString& a_description ) :
+BookCommandLine::BookCommandLine( const QString& a_command, const QString& a_description ) :
     CommandLine( a_description ),
     m_command( a_command )
 {
@@ -28,8 +28,8 @@ ImportLine::ImportLine( const QString& a_command, const QString& a_description )
                  QStringLiteral( "NAME" ) } );
 }
 
-std::optional<ExitStatus> ImportLine::ParseFor( Console& a_console, const QList<QByteArray>& a_arguments,
-                                                const QString& a_helpTail )
+std::optional<ExitStatus> BookCommandLine::ParseFor( Console& a_console, const QList<QByteArray>& a_arguments,
+                                                     const QString& a_helpTail )
 {
     if ( !Parse( a_arguments ) )
         return Refuse( a_console, ErrorText() );
@@ -44,17 +44,14 @@ std::optional<ExitStatus> ImportLine::ParseFor( Console& a_console, const QList<
     return std::nullopt;
 }
 
-ExitStatus ImportLine::Refuse( Console& a_console, const QString& a_reason ) const
+ExitStatus BookCommandLine::Refuse( Console& a_console, const QString& a_reason ) const
 {
     return a_console.Refuse( a_reason, QStringLiteral( "pimvcard " ) + m_command );
 }
 
-vCardImport::PimVCardImportOptions ImportLine::ImportOptions() const
+QByteArray BookCommandLine::CharsetOr( const QByteArray& a_default ) const
 {
-    vCardImport::PimVCardImportOptions options;
-    if ( IsSet( s_kCharset ) )
-        options.m_defaultCharset = Value( s_kCharset );
-    return options;
+    return IsSet( s_kCharset ) ? Value( s_kCharset ) : a_default;
 }
 
 } // namespace PimManager::vCard::Tools

@@ -1,0 +1,66 @@
+#include "ExtentList.h"
+
+#include <QIODevice>
+
+#include <array>
+#include <charconv>
+#include <limits>
+
+namespace PimManager::vCard::Tools
+{
+
+using namespace Contacts;
+
+namespace
+{
+
+constexpr int s_kLineCapacity = 128;
+
+// QByteArray::number() would allocate for each of the many numbers.
+void AppendNumber( QByteArray& a_line, qint64 a_number )
+{
+    std::array<char, std::numeric_limits<qint64>::digits10 + 2> digits = {};
+    const char* const end = std::to_chars( digits.data(), digits.data() + digits.size(), a_number ).ptr;
+    a_line.append( digits.data(), static_cast<int>( end - digits.data() ) );
+}
+
+} // namespace
+
+ExtentList::ExtentList( QIODevice& a_device, bool a_areNamed ) :
+    m_device( a_device ),
+    m_areNamed( a_areNamed )
+{
+    m_line.reserve( s_kLineCapacity );
+}
+
+void ExtentList::BeginBook( const QString& a_source, PimContactReader& a_reader )
+{
+    if ( m_areNamed )
+        m_device.write( "file " + a_source.toUtf8() + '\n' );
+    a_reader.SetExtentHandler(
+        [this, &a_reader]( const PimContactExtent& a_extent )
+        {
+            if ( a_extent.Offset() == 0 && a_reader.Report().IsConverted() )
+                m_device.write( "converted " + a_reader.Report().Charset() + '\n' );
+            Write( a_extent );
+        } );
+}
+
+void ExtentList::EndBook( const PimContactReport& /*a_report*/, bool /*a_isReadToEnd*/ ) {}
+
+void ExtentList::Write( const PimContactExtent& a_extent )
+{
+    const QLatin1String kind = NameOf( a_extent.Kind() );
+    m_line.resize( 0 );
+    AppendNumber( m_line, a_extent.Offset() );
+    m_line += ' ';
+    AppendNumber( m_line, a_extent.Length() );
+    m_line += ' ';
+    m_line.append( kind.data(), static_cast<int>( kind.size() ) );
+    m_line += ' ';
+    AppendNumber( m_line, a_extent.Card() );
+    m_line += '\n';
+    m_device.write( m_line );
+}
+
+} // namespace PimManager::vCard::Tools

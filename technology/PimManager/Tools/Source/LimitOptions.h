@@ -1,0 +1,23 @@
+/// \file
+/// The limits of the reader as options of the command line.
+
+#pragma once
+
+#include "CommandLine.h"
+
+#include <PimManager/Contacts/PimContactOptions.h>
+
+#include <QString>
+
+namespace PimManager::vCard::Tools
+{
+
+/// Adds an option for each limit, such as `--max-card-bytes`. The help shows the defaults of the reader.
+void AddLimitOptions( CommandLine& a_line );
+
+/// Sets the limits that the user gave; the others keep their values.
+/// \param[in,out] a_options the options of the reader.
+/// \return what is wrong with a number, safe for a terminal; empty if all of them are understood.
+QString ApplyLimits( const CommandLine& a_line, Contacts::PimContactOptions& a_options );
+
+} // namespace PimManager::vCard::Tools

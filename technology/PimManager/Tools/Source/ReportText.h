@@ -1,0 +1,26 @@
+/// \file
+/// The report on a file in words. None of them contains text of the file.
+
+#pragma once
+
+#include "ExitStatus.h"
+
+#include <PimManager/Contacts/PimContactReport.h>
+
+#include <QString>
+
+namespace PimManager::vCard::Tools
+{
+
+/// \param a_isReadToEnd false if the reading was interrupted or failed.
+/// \return one line about the file without its name, such as
+///         `2 cards: 1 whole, 1 in part; LF line endings; UTF-8 (valid); version 3.0; 1 × not-a-property`. Of a file
+///         without cards it says what the file is, such as `is a PDF document; 1 × document-file`.
+QString SummaryText( const Contacts::PimContactReport& a_report, bool a_isReadToEnd );
+
+/// \param a_isReadToEnd false if the reading was interrupted or failed.
+/// \return SomeRefused if something was dropped or refused, or if a file that is not empty holds no vCard; otherwise
+///         AllGiven.
+ExitStatus StatusOf( const Contacts::PimContactReport& a_report, bool a_isReadToEnd );
+
+} // namespace PimManager::vCard::Tools

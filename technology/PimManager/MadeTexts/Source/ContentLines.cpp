@@ -6,7 +6,6 @@ namespace PimManager::vCard::MadeTexts
 namespace
 {
 
-constexpr int s_kFoldColumn = 75;
 constexpr int s_kLongestEncodedLine = 76;
 
 bool MayFoldBefore( char a_byte )
@@ -35,11 +34,11 @@ QList<QByteArray> Encoded( const QList<QByteArray>& a_values )
 
 } // namespace
 
-QByteArray FoldedLine( const QByteArray& a_line )
+QByteArray FoldedLine( const QByteArray& a_line, int a_column )
 {
     QByteArray folded;
     int start = 0;
-    int room = s_kFoldColumn;
+    int room = a_column;
     while ( a_line.size() - start > room )
     {
         int end = start + room;
@@ -47,7 +46,7 @@ QByteArray FoldedLine( const QByteArray& a_line )
             --end;
         folded += a_line.mid( start, end - start ) + "\r\n ";
         start = end;
-        room = s_kFoldColumn - 1;
+        room = a_column - 1;
     }
     return folded + a_line.mid( start ) + "\r\n";
 }

@@ -9,9 +9,10 @@
 namespace PimManager::vCard::MadeTexts
 {
 
-/// Ends a line, after folding it at 75 bytes (RFC 2426, section 2.6). No fold stands inside a UTF-8 sequence or before
-/// a blank, which unfolding would take away.
-QByteArray FoldedLine( const QByteArray& a_line );
+/// Ends a line, after folding it (RFC 2426, section 2.6). No fold is inside a UTF-8 sequence or before a blank, which
+/// unfolding would remove.
+/// \param a_column the most bytes of a physical line, without its line ending.
+QByteArray FoldedLine( const QByteArray& a_line, int a_column = 75 );
 
 /// A line with QUOTED-PRINTABLE values, line end included: every byte as "=XX", which is what phones write, with a soft
 /// line break wherever the line would grow beyond 76 bytes (RFC 2045, section 6.7).

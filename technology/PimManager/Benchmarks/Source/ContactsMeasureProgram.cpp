@@ -1,0 +1,172 @@
+// pimvcard-measure-contacts: reads an address book with Contacts, for tools that watch a process from outside.
+//
+//   keep FILE [SNAPSHOT]         reads the file into a book; ends without deleting it. Under massif, the heap with
+//   nothing
+//                                but the book in it is written to the file SNAPSHOT.
+//   lines FILE                   the same, and copies group, name, parameters and value of every line.
+//   pieces FILE BYTES [LIMIT]    feeds the file in pieces of that many bytes, and drops each card. LIMIT is the largest
+//                                card in bytes.
+//   stream FILE TIMES            feeds the file that many times over as one text, in pieces of 64 KB, and drops each
+//   card;
+//                                the file is the only text in memory.
+//
+// Each prints the number of cards, the bytes that were read, and the most memory that the process had at once.
+
+#include <PimManager/Contacts/PimContactBook.h>
+#include <PimManager/Contacts/PimContactReader.h>
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <sys/resource.h>
+#include <vector>
+#if __has_include( <valgrind/valgrind.h> )
+#include <valgrind/valgrind.h>
+#else
+#define VALGRIND_MONITOR_COMMAND( command ) static_cast<void>( command )
+#endif
+
+using namespace PimManager::Contacts;
+
+namespace
+{
+
+constexpr int s_kWrongUse = 2;
+constexpr qint64 s_kBlock = 64 * 1024;
+
+void Open( QFile& a_file, const char* a_name )
+{
+    a_file.setFileName( QString::fromLocal8Bit( a_name ) );
+    if ( a_file.open( QIODevice::ReadOnly | QIODevice::Unbuffered ) )
+        return;
+    std::fprintf( stderr, "pimvcard-measure-contacts: cannot read %s\n", a_name );
+    std::exit( s_kWrongUse );
+}
+
+void Print( const PimContactReport& a_report )
+{
+    rusage usage = {};
+    getrusage( RUSAGE_SELF, &usage );
+    std::printf( "%lld cards, %lld bytes, %ld kilobytes\n",
+                 static_cast<long long>( a_report.CardsWhole() + a_report.CardsInPart() ),
+                 static_cast<long long>( a_report.Bytes() ), usage.ru_maxrss );
+}
+
+PimContactBook ReadBook( const char* a_name )
+{
+    QFile file;
+    Open( file, a_name );
+    return PimContactBook::Read( file );
+}
+
+// Ends the process at once, so that deleting the book is not measured.
+[[noreturn]] void EndWith( const PimContactBook& a_book )
+{
+    Print( a_book.Report() );
+    std::fflush( stdout );
+    std::_Exit( 0 );
+}
+
+int Keep( const char* a_name, const char* a_snapshot )
+{
+    const PimContactBook book = ReadBook( a_name );
+    if ( a_snapshot != nullptr )
+    {
+        const QByteArray command = QByteArrayLiteral( "snapshot " ) + a_snapshot;
+        VALGRIND_MONITOR_COMMAND( command.constData() );
+    }
+    EndWith( book );
+}
+
+qint64 CopiedBytes( const PimContactLine& a_line )
+{
+    qint64 bytes = a_line.Group().size() + a_line.Name().size() + a_line.Value().size();
+    const QList<QByteArray> parameters = a_line.Parameters();
+    for ( const QByteArray& parameter : parameters )
+        bytes += parameter.size();
+    return bytes;
+}
+
+int Lines( const char* a_name )
+{
+    const PimContactBook book = ReadBook( a_name );
+    volatile qint64 bytes = 0; // written, so that the compiler leaves no copy out
+    for ( const PimContactCard& card : book )
+    {
+        for ( const PimContactLine& line : card )
+            bytes = bytes + CopiedBytes( line );
+    }
+    EndWith( book );
+}
+
+bool DropCard( const PimContactCard& /*a_card*/ )
+{
+    return true;
+}
+
+int Pieces( const char* a_name, qint64 a_bytes, qint64 a_limit )
+{
+    QFile file;
+    Open( file, a_name );
+    PimContactOptions options;
+    if ( a_limit > 0 )
+        options.SetCardBytes( a_limit );
+    PimContactReader reader( options );
+    reader.SetCardHandler( DropCard );
+    std::vector<char> block( static_cast<size_t>( std::max( a_bytes, s_kBlock / a_bytes * a_bytes ) ) );
+    qint64 read = 0;
+    while ( ( read = file.read( block.data(), static_cast<qint64>( block.size() ) ) ) > 0 )
+    {
+        for ( qint64 begin = 0; begin < read; begin += a_bytes )
+            reader.Feed( block.data() + begin, std::min( a_bytes, read - begin ) );
+    }
+    reader.Finish();
+    Print( reader.Report() );
+    return 0;
+}
+
+int Stream( const char* a_name, int a_times )
+{
+    QFile file;
+    Open( file, a_name );
+    const QByteArray text = file.readAll();
+    PimContactOptions options;
+    options.SetCards( 0 );
+    options.SetBookBytes( 0 );
+    PimContactReader reader( options );
+    reader.SetCardHandler( DropCard );
+    for ( int i = 0; i < a_times; ++i )
+    {
+        for ( qint64 begin = 0; begin < text.size(); begin += s_kBlock )
+            reader.Feed( text.constData() + begin, std::min( s_kBlock, text.size() - begin ) );
+    }
+    reader.Finish();
+    Print( reader.Report() );
+    return 0;
+}
+
+} // namespace
+
+int main( int argc, char* argv[] )
+{
+    const QByteArray command = argc >= 3 ? QByteArray( argv[1] ) : QByteArray();
+    const qint64 number = argc >= 4 ? std::atoll( argv[3] ) : 0;
+    if ( command == "keep" )
+        return Keep( argv[2], argc > 3 ? argv[3] : nullptr );
+    if ( command == "lines" )
+        return Lines( argv[2] );
+    if ( command == "pieces" && number > 0 )
+        return Pieces( argv[2], number, argc > 4 ? std::atoll( argv[4] ) : 0 );
+    if ( command == "stream" && number > 0 )
+        return Stream( argv[2], static_cast<int>( number ) );
+    std::fputs( "usage: pimvcard-measure-contacts keep FILE [SNAPSHOT]\n       pimvcard-measure-contacts lines FILE\n"
+                "       pimvcard-measure-contacts pieces FILE BYTES [LIMIT]\n"
+                "       pimvcard-measure-contacts stream FILE TIMES\n",
+                stderr );
+    return s_kWrongUse;
+}

@@ -1,6 +1,6 @@
 SUMMARY = "A vCard 2.1 and 3.0 reader for embedded Linux"
-DESCRIPTION = "Reads the address books that phones and desktop programs write, and turns them into contacts. With a \
-second library for messy books, and the program pimvcard."
+DESCRIPTION = "Reads the address books that phones and desktop programs write, and turns them into contacts. With \
+libraries for messy books, and the program pimvcard."
 SECTION = "libs"
 
 # No licence has been chosen by the owner yet: all rights reserved.

@@ -1,12 +1,32 @@
-# Takes C++ examples out of documents, each into a source of its own.
+# Takes C++ examples out of documents, each into a source of its own. Each source includes the header that the variable
+# surroundings names.
+
+# pimvcard_add_code_examples(TARGET SURROUNDINGS [HEADERS ...] [DOCUMENTS ...] [LIBRARIES ...]): compiles the examples of
+# public headers and of Markdown documents.
+function(pimvcard_add_code_examples target surroundings)
+  cmake_parse_arguments(PARSE_ARGV 2 code "" "" "HEADERS;DOCUMENTS;LIBRARIES")
+  set(examples "")
+  foreach(header IN LISTS code_HEADERS)
+    pimvcard_header_examples(${header} examples)
+  endforeach()
+  foreach(document IN LISTS code_DOCUMENTS)
+    pimvcard_markdown_examples(${document} examples)
+  endforeach()
+  add_library(${target} OBJECT ${examples} ${surroundings})
+  pimvcard_configure(${target})
+  # An example names things that the reader's own code has too, and leaves some unused.
+  target_compile_options(${target} PRIVATE -Wno-shadow -Wno-unused)
+  target_include_directories(${target} PRIVATE .)
+  target_link_libraries(${target} PRIVATE ${code_LIBRARIES})
+endfunction()
 
 # pimvcard_code_example(CODE NAME LIST): writes the source NAME.cpp and appends it to LIST. What defines functions or
 # variables of its own stands as it is, anything else is the body of a function.
 function(pimvcard_code_example code name list)
-  if(NOT code MATCHES "(^|\n)(TEST_F|thread_local|class PIMVCARD_EXPORT)")
+  if(NOT code MATCHES "(^|\n)(TEST_F|thread_local|class PIM(VCARD|CONTACT)_EXPORT)")
     set(code "void Example();\nvoid Example()\n{\n${code}}\n")
   endif()
-  file(CONFIGURE OUTPUT ${name}.cpp CONTENT "#include \"CodeExampleSurroundings.h\"\n\nnamespace\n{\n${code}}\n" @ONLY)
+  file(CONFIGURE OUTPUT ${name}.cpp CONTENT "#include \"${surroundings}\"\n\nnamespace\n{\n${code}}\n" @ONLY)
   list(APPEND ${list} ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
   set(${list} ${${list}} PARENT_SCOPE)
 endfunction()

@@ -1,0 +1,28 @@
+/// \file
+/// What the examples of PimManager::Contacts take for granted: headers, the namespace, and the reader's own things,
+/// which are declared and never defined.
+
+#pragma once
+
+#include <PimManager/Contacts/PimContactBook.h>
+#include <PimManager/Contacts/PimContactReader.h>
+
+#include <QByteArray>
+#include <QDebug>
+#include <QString>
+
+using namespace PimManager::Contacts;
+
+/// Something that returns the pieces of a text.
+struct Connection
+{
+    bool Read( QByteArray& a_piece );
+};
+
+bool Store( const PimContactCard& a_card );
+
+extern const PimContactCard card;
+extern const PimContactReport report;
+extern PimContactReader reader;
+extern Connection connection;
+extern QByteArray piece;

@@ -56,15 +56,16 @@ struct PlainBytes
 inline PlainBytes PassVectors( const char* a_begin, const char* a_end )
 {
     constexpr int s_kVectorBytes = 16;
-    const __m128i lastControl = _mm_set1_epi8( 0x1F );
+    const __m128i blank = _mm_set1_epi8( ' ' );
     uint wide = 0;
     const char* place = a_begin;
     for ( ; a_end - place >= s_kVectorBytes; place += s_kVectorBytes )
     {
         const __m128i vector = _mm_loadu_si128( reinterpret_cast<const __m128i*>( place ) );
-        const __m128i isControl = _mm_cmpeq_epi8( _mm_min_epu8( vector, lastControl ), vector );
-        const auto controls = static_cast<uint>( _mm_movemask_epi8( isControl ) );
         const auto highBits = static_cast<uint>( _mm_movemask_epi8( vector ) );
+        // Bytes are signed here, so those beyond ASCII are less than a blank, too.
+        const auto less = static_cast<uint>( _mm_movemask_epi8( _mm_cmplt_epi8( vector, blank ) ) );
+        const uint controls = less & ~highBits;
         if ( controls != 0 )
         {
             // Only the bytes before the control character count.

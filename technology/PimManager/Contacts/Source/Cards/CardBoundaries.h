@@ -52,8 +52,6 @@ struct CardBoundary
     /// There are blanks, control characters or byte order marks, but for a mark at the start.
     bool m_isMended = false;
 
-    bool HasText() const { return m_group.m_length + m_parameters.m_length + m_rest.m_length > 0; }
-
     static constexpr std::array<bool, 256> s_kLastBytes = LastBytesOfBoundaries();
 
     /// The longest line that can be one.

@@ -266,18 +266,12 @@ void CardCutter::ReleaseHeld( qint64 a_end )
     m_state = State::Outside;
     m_depth = 0;
     m_absorbedDepth = 0;
-    Line line = m_card.m_first;
-    while ( line.m_offset < a_end )
+    qint64 number = m_card.m_first.m_number;
+    for ( qint64 place = m_card.m_first.m_offset; place < a_end; ++number )
     {
-        const char* const begin = m_scanner.At( line.m_offset );
-        const char* const end = m_scanner.At( line.m_offset ) + ( a_end - line.m_offset );
-        const char* const place = LineEndSearch().Find( begin, end );
-        line.m_length = place - begin;
-        line.m_endLength = place == end ? 0 : LineEndSearch::LengthOfEnd( place, end, true );
+        const Line line = LineAt( place, a_end, number );
         AddOutside( line );
-        line.m_offset = line.End();
-        line.m_lineOffset = line.m_offset;
-        ++line.m_number;
+        place = line.End();
     }
 }
 
@@ -676,22 +670,32 @@ void CardCutter::EndOpenCard( qint64 a_end )
         CloseCard( a_end, nullptr );
 }
 
+// A line that the scanner has already returned.
+CardCutter::Line CardCutter::LineAt( qint64 a_offset, qint64 a_end, qint64 a_number ) const
+{
+    const char* const begin = m_scanner.At( a_offset );
+    const char* const end = begin + ( a_end - a_offset );
+    LineEndSearch search;
+    const char* const place = search.Find( begin, end );
+    Line line;
+    line.m_offset = a_offset;
+    line.m_lineOffset = a_offset == m_card.m_first.m_offset ? m_card.m_first.m_lineOffset : a_offset;
+    line.m_number = a_number;
+    line.m_length = place - begin;
+    line.m_endLength = place == end ? 0 : LineEndSearch::LengthOfEnd( place, end, true );
+    line.m_isWide = search.IsWide();
+    line.m_hasControls = search.HasControls();
+    return line;
+}
+
 // Takes the lines of a part of the text once more.
 void CardCutter::TakeAll( qint64 a_begin, qint64 a_end, qint64 a_number )
 {
-    Line line;
-    line.m_number = a_number;
-    for ( line.m_offset = a_begin; line.m_offset < a_end; line.m_offset = line.End(), ++line.m_number )
+    qint64 number = a_number;
+    for ( qint64 place = a_begin; place < a_end; ++number )
     {
-        line.m_lineOffset = line.m_offset;
-        const char* const begin = m_scanner.At( line.m_offset );
-        const char* const end = begin + ( a_end - line.m_offset );
-        LineEndSearch search;
-        const char* const place = search.Find( begin, end );
-        line.m_length = place - begin;
-        line.m_endLength = place == end ? 0 : LineEndSearch::LengthOfEnd( place, end, true );
-        line.m_isWide = search.IsWide();
-        line.m_hasControls = search.HasControls();
+        const Line line = LineAt( place, a_end, number );
+        place = line.End();
         Take( line );
     }
 }

@@ -91,7 +91,7 @@ private:
         bool m_isFlatAgent = false; // `AGENT:BEGIN:VCARD` begins no card
     };
 
-    // A card in the making, which ends when its END comes. Reset as a whole.
+    // The card that is being read. A new card begins with a new object.
     struct OpenCard
     {
         Line m_first;
@@ -171,6 +171,7 @@ private:
 
     void EndOpenCard( qint64 a_end );
     void ReadAgain( qint64 a_end, Knowledge a_knowledge );
+    Line LineAt( qint64 a_offset, qint64 a_end, qint64 a_number ) const;
     void TakeAll( qint64 a_begin, qint64 a_end, qint64 a_number );
     void EndAtPendingEnd( qint64 a_end );
     void EndBeforeFoldedBegin( qint64 a_end );

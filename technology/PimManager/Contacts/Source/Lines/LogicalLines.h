@@ -122,7 +122,7 @@ public:
     CardFacts& Facts() { return m_facts; }
 
 private:
-    // A content line in the making. Places count from the first byte of the card.
+    // A content line that may still continue. Places count from the first byte of the card.
     struct OpenLine
     {
         void Begin( const CardLine& a_line, quint32 a_marks, int a_emptyLinesBefore );

@@ -89,7 +89,7 @@ ByteRange RangeOf( size_t a_begin, size_t a_end )
 
 ByteRange RangeOf( std::string_view a_line, std::string_view a_part )
 {
-    const size_t begin = static_cast<size_t>( a_part.data() - a_line.data() );
+    const auto begin = static_cast<size_t>( a_part.data() - a_line.data() );
     return RangeOf( begin, begin + a_part.size() );
 }
 

@@ -140,6 +140,12 @@ CardBoundary CardBoundary::Of( std::string_view a_line )
         return boundary;
     }
     const std::string_view text = WithoutPadding( a_line );
+    if ( text.data() == a_line.data() && ( text == s_kBegin || text == s_kEnd ) )
+    {
+        boundary.m_kind = text == s_kBegin ? Kind::Begin : Kind::End;
+        boundary.m_isMended = true;
+        return boundary;
+    }
     if ( BeginsAsOne( a_line ) && PlaceOfBegin( text ) == 0 )
     {
         for ( const std::string_view word : { s_kBegin, s_kEnd } )

@@ -22,8 +22,6 @@ using Extent = PimContactExtentKind;
 
 constexpr qint64 s_kMostCardBytes = qint64( 1 ) << 30;
 constexpr int s_kMostNesting = 64;
-constexpr std::string_view s_kBegin = "BEGIN:VCARD";
-constexpr size_t s_kLongestLineEnd = 3;
 // What is left out is passed on in pieces of this length.
 constexpr qint64 s_kPiece = qint64( 64 ) * 1024;
 
@@ -76,7 +74,7 @@ CardCutter::CardCutter( LineScanner& a_scanner, Ledger& a_ledger, const PimConta
     m_mostLineBytes( a_options.LineBytes() ),
     m_defaultCharset( a_options.DefaultCharset() ),
     m_isDefaultKnown( IsKnownCharset( ViewOf( m_defaultCharset ) ) ),
-    m_mayTakeCleanCards( m_filter.IsEmpty() && m_mostLineBytes <= 0 )
+    m_mayTakePlainCards( m_filter.IsEmpty() && m_mostLineBytes <= 0 )
 {
     m_frames.push_back( std::make_unique<Frame>( m_filter, m_mostLineBytes ) );
 }
@@ -131,38 +129,53 @@ void CardCutter::Take( const Line& a_line )
     }
 }
 
-bool CardCutter::TakeCleanCard()
+bool CardCutter::TakePlainCard()
 {
     const ReportData& data = m_ledger.Data();
     const std::string_view text = m_scanner.Rest();
-    if ( m_state != State::Outside || !m_mayTakeCleanCards || m_scanner.IsLong() ||
-         text.substr( 0, s_kBegin.size() ) != s_kBegin || text.size() < s_kBegin.size() + s_kLongestLineEnd )
+    if ( m_state != State::Outside || !m_mayTakePlainCards || m_scanner.IsLong() || !m_plainCard.Begin( text ) )
         return false;
-    const char* const lineEnd = text.data() + s_kBegin.size();
-    const int length = LineEndSearch::LengthOfEnd( lineEnd, text.data() + text.size(), false );
-    const PimContactLineEnd kind = LineEndSearch::KindOf( lineEnd, length );
+    const PimContactLineEnd kind = m_plainCard.LineEnd();
     // The first line ending of a kind is told, where it is.
-    if ( !IsLineEndByte( *lineEnd ) || data.m_lineEnds[static_cast<size_t>( kind )] == 0 ||
+    if ( data.m_lineEnds[static_cast<size_t>( kind )] == 0 ||
          ( m_mostCards > 0 && data.m_cardsWhole + data.m_cardsInPart >= m_mostCards ) )
         return false;
-    const quint32 cardLength = m_cleanCard.Read( text, kind );
-    if ( cardLength == 0 || cardLength > m_mostCardBytes || m_cleanCard.Lines() > m_mostCardLines )
+    const quint32 cardLength = m_plainCard.Read();
+    if ( std::max( cardLength, m_plainCard.BytesClosed() ) > m_mostCardBytes || m_plainCard.Lines() > m_mostCardLines )
         return false;
+    if ( cardLength == 0 )
+    {
+        BeginFromPlainCard();
+        return true;
+    }
     EndTextOutside();
     m_card.m_first.m_offset = m_scanner.NextOffset();
     m_card.m_first.m_number = m_scanner.NextNumber();
     m_card.m_first.m_lineOffset = m_card.m_first.m_offset;
     m_card.m_hasBegin = true;
     m_scanner.Release( m_card.m_first.m_offset );
-    m_scanner.PassLines( cardLength, m_cleanCard.Lines() );
-    m_ledger.Data().m_lineEnds[static_cast<size_t>( kind )] += m_cleanCard.Lines();
+    m_scanner.PassLines( cardLength, m_plainCard.Lines() );
+    m_ledger.Data().m_lineEnds[static_cast<size_t>( kind )] += m_plainCard.Lines();
     CardRecord record;
     record.m_length = cardLength;
     record.m_flags = CardRecord::HasBegin | CardRecord::HasEnd;
-    SealCard( m_cleanCard.Facts(), m_cleanCard.Index(), record, text.substr( 0, cardLength ), m_isDefaultKnown,
+    SealCard( m_plainCard.Facts(), m_plainCard.Index(), record, text.substr( 0, cardLength ), m_isDefaultKnown,
               m_sealed );
-    Deliver( m_sealed, m_cleanCard.Facts(), m_scanner.NextOffset() );
+    Deliver( m_sealed, m_plainCard.Facts(), m_scanner.NextOffset() );
     return true;
+}
+
+// The lines that were read on the short road need not be read again.
+void CardCutter::BeginFromPlainCard()
+{
+    Line begin;
+    m_scanner.Next( begin );
+    TakeBeginOutside( begin );
+    m_card.m_lines = m_plainCard.LinesClosed();
+    m_card.m_isFirstLineBehind = m_card.m_lines == 1;
+    m_scanner.PassLines( m_plainCard.BytesClosed() - ( begin.End() - begin.m_offset ), m_card.m_lines - 1 );
+    m_ledger.Data().m_lineEnds[static_cast<size_t>( m_plainCard.LineEnd() )] += m_card.m_lines;
+    Lines().Continue( m_plainCard.Writer(), m_plainCard.FactsClosed(), m_plainCard.BytesClosed() );
 }
 
 // --- Outside cards
@@ -204,7 +217,7 @@ void CardCutter::TakeBeginOutside( const Line& a_line )
                          static_cast<qint64>( marks / s_kByteOrderMark.size() ) );
         m_ledger.Add( Extent::Mark, text.substr( 0, marks ), 0 );
     }
-    BeginCard( Part( a_line, static_cast<qint64>( marks ), a_line.m_length ), true );
+    BeginCard( marks == 0 ? a_line : Part( a_line, static_cast<qint64>( marks ), a_line.m_length ), true );
 }
 
 bool CardCutter::MayBeHeld( const Line& a_line ) const
@@ -826,11 +839,14 @@ void CardCutter::Deliver( const CardIndex& a_index, const CardFacts& a_facts, qi
     m_taker( std::move( card ) );
 }
 
-// Most cards are clean, and then nothing but numbers is added.
+// For most cards nothing but numbers is added.
 void CardCutter::Tell( const CardIndex& a_index, const CardFacts& a_facts, std::string_view a_bytes )
 {
-    constexpr quint8 s_kCleanFlags = CardRecord::HasBegin | CardRecord::HasEnd | CardRecord::IsWhole;
-    if ( a_facts.m_isOdd || a_index.Record().m_flags != s_kCleanFlags || m_ledger.HasExtentHandler() )
+    constexpr quint8 s_kUsualFlags = CardRecord::HasBegin | CardRecord::HasEnd | CardRecord::IsWhole;
+    const bool isUsual =
+        a_index.Record().m_flags == s_kUsualFlags && !a_facts.HasOddParts() && !m_ledger.HasExtentHandler();
+    const bool isOdd = a_facts.m_hasOddLines || a_facts.m_mendedBoundaries > 0;
+    if ( !isUsual || ( isOdd && !m_ledger.IsOnlyCounting() ) )
     {
         const bool isEndOfText =
             m_isEndOfText && m_card.m_first.m_offset + static_cast<qint64>( a_bytes.size() ) == m_scanner.NextOffset();
@@ -846,6 +862,8 @@ void CardCutter::Tell( const CardIndex& a_index, const CardFacts& a_facts, std::
     add( Extent::Line, EntryKind::Line );
     add( Extent::Boundary, EntryKind::Boundary );
     add( Extent::Blank, EntryKind::Blank );
+    if ( isOdd )
+        CardFindings::Count( m_ledger, a_facts );
 }
 
 void CardCutter::Count( const CardIndex& a_index, const CardFacts& a_facts )

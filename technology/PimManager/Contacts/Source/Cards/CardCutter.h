@@ -5,8 +5,8 @@
 
 #include "Cards/CardBoundaries.h"
 #include "Cards/CardRecord.h"
-#include "Cards/CleanCard.h"
 #include "Cards/Ledger.h"
+#include "Cards/PlainCard.h"
 #include "Lines/LineFilter.h"
 #include "Lines/LineScanner.h"
 #include "Lines/LogicalLines.h"
@@ -52,8 +52,9 @@ public:
     /// Forgets the text.
     void Reset( bool a_isConverted );
 
-    /// Takes the next card of the scanner, if it is clean and has come whole. \return false if it takes nothing.
-    bool TakeCleanCard();
+    /// Takes the next card of the scanner, or its first lines, if it is plain so far. \return false if it takes
+    /// nothing.
+    bool TakePlainCard();
 
     /// Takes the next line of the scanner.
     void Take( const PhysicalLine& a_line );
@@ -137,6 +138,7 @@ private:
     static TextPlace PlaceOf( const Line& a_line ) { return { a_line.m_offset, a_line.m_number, a_line.m_lineOffset }; }
     Line Part( const Line& a_line, qint64 a_begin, qint64 a_end ) const;
 
+    void BeginFromPlainCard();
     void TakeOutside( const Line& a_line );
     void TakeEndOutside( const Line& a_line );
     void AddOutside( const Line& a_line );
@@ -203,10 +205,10 @@ private:
 
     State m_state = State::Outside;
     OpenCard m_card;
-    CleanCard m_cleanCard;
+    PlainCard m_plainCard;
     // Of the card that is delivered; kept for its memory.
     CardIndex m_sealed;
-    bool m_mayTakeCleanCards;
+    bool m_mayTakePlainCards;
     std::vector<std::unique_ptr<Frame>> m_frames;
     size_t m_depth = 0;
     // Cards nested deeper than the limit.

@@ -17,8 +17,6 @@ namespace
 using Code = PimContactDiagnosticCode;
 using Oddity = PimContactOddity;
 
-constexpr int s_kOddities = 11;
-static_assert( static_cast<int>( Oddity::UnknownEscape ) == 1 << ( s_kOddities - 1 ) );
 static_assert( static_cast<int>( Code::UnknownEscape ) - static_cast<int>( Code::LineJoined ) == s_kOddities - 1 );
 
 // An oddity of a line, where it is.
@@ -28,6 +26,11 @@ struct Finding
     quint32 m_place = 0;
     qint64 m_count = 1;
 };
+
+Code CodeOfOddity( int a_bit )
+{
+    return static_cast<Code>( static_cast<int>( Code::LineJoined ) + a_bit );
+}
 
 Code CodeOf( DropReason a_reason )
 {
@@ -138,6 +141,13 @@ CardFindings::CardFindings( Ledger& a_ledger, const CardIndex& a_index, std::str
 {
 }
 
+void CardFindings::Count( Ledger& a_ledger, const CardFacts& a_facts )
+{
+    a_ledger.CountFindings( Code::BoundaryLine, a_facts.m_mendedBoundaries );
+    for ( int bit = 0; bit < s_kOddities; ++bit )
+        a_ledger.CountFindings( CodeOfOddity( bit ), a_facts.m_oddLines[static_cast<size_t>( bit )] );
+}
+
 void CardFindings::Tell( bool a_isEndOfFile )
 {
     m_isEndOfFile = a_isEndOfFile;
@@ -204,31 +214,23 @@ void CardFindings::TellEntry( const IndexEntry& a_entry, const CardRecord& a_rec
 
 void CardFindings::TellLine( const IndexEntry& a_entry )
 {
-    PimContactOddities oddities = a_entry.m_oddities;
-    oddities.setFlag( Oddity::MissingColon, !a_entry.m_hasColon );
+    const PimContactOddities oddities = a_entry.AllOddities();
     if ( !oddities )
         return;
     if ( m_ledger.IsOnlyCounting() )
     {
-        for ( int bit = 0; bit < s_kOddities; ++bit )
-        {
-            if ( oddities.testFlag( static_cast<Oddity>( 1 << bit ) ) )
-                m_ledger.CountFinding( static_cast<Code>( static_cast<int>( Code::LineJoined ) + bit ) );
-        }
+        ForEachOddity( oddities, [this]( int a_bit ) { m_ledger.CountFindings( CodeOfOddity( a_bit ), 1 ); } );
         return;
     }
     const std::string_view line = WithoutLineEnd( m_bytes.substr( m_place, a_entry.m_length ) );
     std::array<Finding, s_kOddities> findings;
     size_t count = 0;
-    for ( int bit = 0; bit < s_kOddities; ++bit )
-    {
-        const auto oddity = static_cast<Oddity>( 1 << bit );
-        if ( !oddities.testFlag( oddity ) )
-            continue;
-        Finding finding = FindingOf( oddity, line, a_entry );
-        finding.m_code = static_cast<Code>( static_cast<int>( Code::LineJoined ) + bit );
-        findings[count++] = finding;
-    }
+    ForEachOddity( oddities,
+                   [&]( int a_bit )
+                   {
+                       findings[count] = FindingOf( static_cast<Oddity>( 1 << a_bit ), line, a_entry );
+                       findings[count++].m_code = CodeOfOddity( a_bit );
+                   } );
     Finding* const end = findings.data() + count;
     if ( count > 1 )
         std::stable_sort( findings.data(), end,
@@ -242,7 +244,7 @@ void CardFindings::Report( Code a_code, quint32 a_place, qint64 a_count )
 {
     if ( m_ledger.IsOnlyCounting() )
     {
-        m_ledger.CountFinding( a_code );
+        m_ledger.CountFindings( a_code, 1 );
         return;
     }
     const char* const begin = m_bytes.data() + ( m_reported.m_offset - m_offset );

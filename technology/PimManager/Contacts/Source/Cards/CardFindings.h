@@ -5,6 +5,7 @@
 
 #include "Cards/CardRecord.h"
 #include "Cards/Ledger.h"
+#include "Lines/CardFacts.h"
 
 #include <string_view>
 
@@ -20,6 +21,9 @@ public:
     /// \param a_begin where the card is in the text.
     CardFindings( Ledger& a_ledger, const CardIndex& a_index, std::string_view a_bytes, const TextPlace& a_begin,
                   qint64 a_number );
+
+    /// Counts the findings of a card that has no other oddities than those of its lines and boundaries.
+    static void Count( Ledger& a_ledger, const CardFacts& a_facts );
 
     /// \param a_isEndOfFile the card is the last one, and nothing follows it.
     void Tell( bool a_isEndOfFile );

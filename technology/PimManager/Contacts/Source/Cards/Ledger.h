@@ -90,7 +90,10 @@ public:
     {
         return !m_diagnosticHandler && m_mostDiagnostics >= 0 && m_data.m_diagnostics.size() >= m_mostDiagnostics;
     }
-    void CountFinding( PimContactDiagnosticCode a_code ) { ++m_data.m_findings[static_cast<size_t>( a_code )]; }
+    void CountFindings( PimContactDiagnosticCode a_code, qint64 a_count )
+    {
+        m_data.m_findings[static_cast<size_t>( a_code )] += a_count;
+    }
     /// Reports a finding. Findings are reported in the order of the text, but for those that were announced.
     void Report( PimContactDiagnosticCode a_code, qint64 a_card, const TextPlace& a_place, qint64 a_count = 1 );
     /// Reports a finding as soon as no earlier one can come.

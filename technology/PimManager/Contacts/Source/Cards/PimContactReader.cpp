@@ -213,7 +213,7 @@ void PimContactReaderPrivate::TakeLines()
     PhysicalLine line;
     while ( !m_ledger.Data().m_isStopped && m_pulled.empty() )
     {
-        if ( m_cutter.TakeCleanCard() )
+        if ( m_cutter.TakePlainCard() )
             continue;
         if ( !m_scanner.Next( line ) )
             break;

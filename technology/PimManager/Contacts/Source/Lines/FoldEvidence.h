@@ -36,6 +36,12 @@ public:
     /// \param a_isAscii every character is one byte, so characters need not be counted.
     void Take( std::string_view a_line, const IndexEntry& a_entry, bool a_isAscii );
 
+    /// Takes one fold of a line of text.
+    /// \param a_before         the text of the physical line before it, without the blank of its own fold.
+    /// \param a_isContinuation a fold precedes that line, too.
+    /// \param a_behind         the text behind the fold, without the blank; not empty.
+    void TakeFold( std::string_view a_before, bool a_isContinuation, std::string_view a_behind, bool a_isAscii );
+
     bool IsByLength() const;
 
 private:
@@ -48,8 +54,6 @@ private:
         void Narrow( qint64 a_least, qint64 a_most );
         bool Has( qint64 a_least, qint64 a_most ) const;
     };
-
-    void TakeFold( std::string_view a_before, bool a_isContinuation, std::string_view a_behind, bool a_isAscii );
 
     // In bytes and in characters, each with the blank of continuation lines and without it.
     std::array<Lengths, 4> m_lengths;

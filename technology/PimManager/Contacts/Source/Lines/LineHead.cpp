@@ -3,8 +3,14 @@
 #include "Lines/KnownNames.h"
 #include "Text/Bytes.h"
 
+#include <QtAlgorithms>
+
 #include <algorithm>
 #include <array>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace PimManager::Contacts
 {
@@ -71,6 +77,71 @@ size_t SkipClasses( std::string_view a_text, size_t a_place, int a_classes )
         ++a_place;
     return a_place;
 }
+
+/// Finds the bytes of a text that are no name bytes, one after the other.
+class Delimiters
+{
+public:
+    explicit Delimiters( std::string_view a_text ) :
+        m_text( a_text )
+    {
+    }
+
+    /// \return the next place, or the length of the text.
+    size_t Next()
+    {
+#ifdef __SSE2__
+        for ( ; m_found == 0 && m_place + s_kVectorBytes <= m_text.size(); m_place += s_kVectorBytes )
+            m_found = DelimitersIn( m_text.data() + m_place );
+        if ( m_found != 0 )
+        {
+            const uint bit = m_found;
+            m_found &= m_found - 1;
+            return m_place - s_kVectorBytes + qCountTrailingZeroBits( bit | s_kBehindVector );
+        }
+#endif
+        const size_t place = SkipClasses( m_text, m_place, s_kNameByte );
+        m_place = place + 1;
+        return place;
+    }
+
+private:
+#ifdef __SSE2__
+    static constexpr size_t s_kVectorBytes = 16;
+    static constexpr uint s_kBehindVector = 1U << s_kVectorBytes;
+
+    static __m128i VectorOf( char a_byte )
+    {
+        return _mm_set1_epi8( a_byte );
+    }
+
+    // 0xFF for each byte between two, and 0 for others.
+    static __m128i Between( __m128i a_bytes, char a_first, char a_last )
+    {
+        const __m128i distances = _mm_sub_epi8( a_bytes, VectorOf( a_first ) );
+        const __m128i most = VectorOf( static_cast<char>( a_last - a_first ) );
+        return _mm_cmpeq_epi8( _mm_min_epu8( distances, most ), distances );
+    }
+
+    // A bit for each byte.
+    static uint DelimitersIn( const char* a_bytes )
+    {
+        // Letters differ from capitals in this bit.
+        constexpr char caseBit = 0x20;
+        const __m128i bytes = _mm_loadu_si128( reinterpret_cast<const __m128i*>( a_bytes ) );
+        const __m128i letters = Between( _mm_or_si128( bytes, VectorOf( caseBit ) ), 'a', 'z' );
+        const __m128i others = _mm_or_si128( Between( bytes, '0', '9' ), _mm_cmpeq_epi8( bytes, VectorOf( '-' ) ) );
+        const int names = _mm_movemask_epi8( _mm_or_si128( letters, others ) );
+        return static_cast<uint>( names ) ^ ( s_kBehindVector - 1 );
+    }
+
+    // In the vector before m_place.
+    uint m_found = 0;
+#endif
+
+    std::string_view m_text;
+    size_t m_place = 0;
+};
 
 bool IsEndAt( std::string_view a_text, size_t a_place )
 {
@@ -355,13 +426,16 @@ public:
 
     /// \param a_wordEnd behind the name bytes at the start of the line.
     void Read( size_t a_wordEnd );
+    /// Reads the parameters of a line whose name has been read.
+    /// \param a_begin behind the name.
+    /// \param a_next  behind the parameters that have been read and noted.
+    void ReadParameters( size_t a_begin, size_t a_next );
+    void NoteParameter( const Parameter& a_parameter );
 
 private:
     size_t ReadPlainName( size_t a_wordEnd );
     Q_NEVER_INLINE size_t ReadAnyName();
     void NoteName( std::string_view a_name, std::string_view a_group, bool a_isPlainGroup );
-    size_t ReadParameters( size_t a_begin );
-    void NoteParameter( const Parameter& a_parameter );
     void NoteEncoding( PimContactEncoding a_encoding );
     void NoteEncodings( std::string_view a_value );
 
@@ -376,11 +450,7 @@ void HeadReader::Read( size_t a_wordEnd )
         place = ReadAnyName();
     if ( IsBoundaryName( Part( m_line, m_head.m_name.m_begin, m_head.m_name.End() ) ) )
         m_head.m_oddities |= PimContactOddity::OddName;
-    m_head.m_parameters = RangeOf( place, place );
-    if ( place < m_line.size() && m_line[place] == ';' )
-        place = ReadParameters( place );
-    m_head.m_hasColon = place < m_line.size();
-    m_head.m_valueBegin = static_cast<quint32>( place + ( m_head.m_hasColon ? 1 : 0 ) );
+    ReadParameters( place, place );
 }
 
 /// Reads a name such as `TEL` or `item1.TEL`.
@@ -434,10 +504,10 @@ void HeadReader::NoteName( std::string_view a_name, std::string_view a_group, bo
         m_head.m_oddities |= PimContactOddity::NameBlanks;
 }
 
-size_t HeadReader::ReadParameters( size_t a_begin )
+void HeadReader::ReadParameters( size_t a_begin, size_t a_next )
 {
     ParameterReader parameters( m_line );
-    size_t place = a_begin;
+    size_t place = a_next;
     while ( place < m_line.size() && m_line[place] == ';' )
     {
         const Parameter parameter = parameters.Read( place + 1 );
@@ -446,7 +516,8 @@ size_t HeadReader::ReadParameters( size_t a_begin )
     }
     m_head.m_parameters = RangeOf( a_begin, place );
     m_head.m_oddities |= parameters.Oddities();
-    return place;
+    m_head.m_hasColon = place < m_line.size();
+    m_head.m_valueBegin = static_cast<quint32>( place + ( m_head.m_hasColon ? 1 : 0 ) );
 }
 
 void HeadReader::NoteParameter( const Parameter& a_parameter )
@@ -455,6 +526,8 @@ void HeadReader::NoteParameter( const Parameter& a_parameter )
     const std::string_view value = Part( m_line, a_parameter.m_valueBegin, a_parameter.m_valueEnd );
     if ( name.empty() )
     {
+        if ( value.empty() )
+            return;
         NoteEncoding( EncodingOfWord( value ) );
         m_head.m_hasWordsForParameters = m_head.m_hasWordsForParameters || ContainsBlank( value );
     }
@@ -493,30 +566,49 @@ inline bool MayTellEncoding( char a_first, bool a_isBare )
     return a_isBare ? first == 'B' || first == 'Q' : first == 'E' || first == 'C';
 }
 
-// Passes over parameters such as `;HOME` and `;TYPE=HOME,WORK`, of which nothing has to be noted.
-inline size_t PassPlainParameters( std::string_view a_text, size_t a_begin )
+// Without a call for most lines.
+Q_NEVER_INLINE void NoteParameter( std::string_view a_text, const Parameter& a_parameter, LineHead& a_head )
 {
-    size_t place = a_begin;
-    while ( place < a_text.size() && a_text[place] == ';' )
-    {
-        const size_t wordEnd = SkipClasses( a_text, place + 1, s_kNameByte );
-        const bool isBare = wordEnd < a_text.size() && a_text[wordEnd] != '=';
-        const size_t end =
-            isBare ? wordEnd : SkipClasses( a_text, wordEnd, s_kNameByte | s_kOther | s_kComma | s_kEquals );
-        if ( wordEnd == place + 1 || MayTellEncoding( a_text[place + 1], isBare ) || end == a_text.size() ||
-             ClassOf( a_text[end] ) != s_kEnd )
-            return place;
-        place = end;
-    }
-    return place;
+    HeadReader( a_text, a_head ).NoteParameter( a_parameter );
 }
 
-// Not inlined, so that most lines, which LineHead::Of() reads itself, do not save its registers.
+// Passes over parameters such as `;HOME` and `;TYPE=HOME,WORK`.
+// \return the place behind them.
+inline size_t PassPlainParameters( std::string_view a_text, size_t a_begin, Delimiters& a_delimiters, LineHead& a_head )
+{
+    size_t begin = a_begin;
+    while ( begin < a_text.size() && a_text[begin] == ';' )
+    {
+        const size_t word = begin + 1;
+        const size_t wordEnd = a_delimiters.Next();
+        if ( wordEnd == word || wordEnd >= a_text.size() )
+            return begin;
+        const bool isBare = a_text[wordEnd] != '=';
+        size_t end = wordEnd;
+        while ( !isBare && end < a_text.size() &&
+                ( ClassOf( a_text[end] ) & ( s_kOther | s_kComma | s_kEquals ) ) != 0 )
+            end = a_delimiters.Next();
+        if ( end >= a_text.size() || ClassOf( a_text[end] ) != s_kEnd )
+            return begin;
+        if ( MayTellEncoding( a_text[word], isBare ) )
+            NoteParameter( a_text, { word, word, isBare ? word : wordEnd, isBare ? word : wordEnd + 1, end, end },
+                           a_head );
+        begin = end;
+    }
+    return begin;
+}
+
+// These are not inlined, so that most lines, which LineHead::Read() reads itself, do not save their registers.
 Q_NEVER_INLINE LineHead AnyHeadOf( std::string_view a_line, size_t a_wordEnd )
 {
     LineHead head;
     HeadReader( a_line, head ).Read( a_wordEnd );
     return head;
+}
+
+Q_NEVER_INLINE void ReadAnyParameters( std::string_view a_line, size_t a_begin, size_t a_next, LineHead& a_head )
+{
+    HeadReader( a_line, a_head ).ReadParameters( a_begin, a_next );
 }
 
 bool HasLower( std::string_view a_text )
@@ -553,13 +645,12 @@ LineLooks LooksWithoutColon( std::string_view a_name )
 
 bool LineHead::Read( std::string_view a_line )
 {
-    const size_t wordEnd = SkipClasses( a_line, 0, s_kNameByte );
+    Delimiters delimiters( a_line );
+    const size_t wordEnd = delimiters.Next();
     const bool hasGroup = wordEnd > 0 && wordEnd < a_line.size() && a_line[wordEnd] == '.';
     const size_t nameBegin = hasGroup ? wordEnd + 1 : 0;
-    const size_t nameEnd = hasGroup ? SkipClasses( a_line, nameBegin, s_kNameByte ) : wordEnd;
-    const size_t colon = PassPlainParameters( a_line, nameEnd );
-    const bool isPlain = nameEnd > nameBegin && colon < a_line.size() && a_line[colon] == ':';
-    if ( !isPlain || IsBoundaryName( Part( a_line, nameBegin, nameEnd ) ) )
+    const size_t nameEnd = hasGroup ? delimiters.Next() : wordEnd;
+    if ( nameEnd == nameBegin || !IsEndAt( a_line, nameEnd ) || IsBoundaryName( Part( a_line, nameBegin, nameEnd ) ) )
     {
         *this = AnyHeadOf( a_line, wordEnd );
         return false;
@@ -568,10 +659,16 @@ bool LineHead::Read( std::string_view a_line )
     if ( hasGroup )
         m_group = RangeOf( 0, wordEnd );
     m_name = RangeOf( nameBegin, nameEnd );
+    const size_t colon = PassPlainParameters( a_line, nameEnd, delimiters, *this );
+    if ( colon == a_line.size() || a_line[colon] == ';' )
+    {
+        ReadAnyParameters( a_line, nameEnd, colon, *this );
+        return false;
+    }
     m_parameters = RangeOf( nameEnd, colon );
     m_hasColon = true;
     m_valueBegin = static_cast<quint32>( colon + 1 );
-    return true;
+    return !m_oddities;
 }
 
 LineLooks LooksOf( const LineHead& a_head, std::string_view a_line )

@@ -112,6 +112,21 @@ uint ExtrasOf( const IndexEntry& a_entry, bool a_isPlain )
 
 } // namespace
 
+void IndexEntry::SetHead( const LineHead& a_head )
+{
+    m_group = a_head.m_group;
+    m_name = a_head.m_name;
+    m_parameters = a_head.m_parameters;
+    m_valueBegin = a_head.m_valueBegin;
+    m_hasColon = a_head.m_hasColon;
+    m_encoding = a_head.m_encoding;
+    m_oddities = a_head.m_oddities;
+    if ( m_parameters.m_length == 0 )
+        m_parameters.m_begin = m_name.End();
+    if ( !m_hasColon )
+        m_valueBegin = m_parameters.End();
+}
+
 void JoinWriter::Add( const LineJoin& a_join )
 {
     uchar* place = m_buffer.Begin( 2 * s_kLongestNumber );
@@ -188,7 +203,7 @@ void IndexWriter::Add( const IndexEntry& a_entry )
     m_buffer.Add( a_entry.m_joins );
 }
 
-void IndexWriter::AddClean( const LineHead& a_head, quint32 a_length, bool a_hasFolds, IndexBytes a_joins )
+void IndexWriter::AddPlain( const LineHead& a_head, quint32 a_length, bool a_hasFolds, IndexBytes a_joins )
 {
     const uint extras = static_cast<uint>( a_head.m_encoding ) | ( a_joins.m_size > 0 ? s_kHasJoins : 0 );
     uchar* place = m_buffer.Begin( s_kMostOfLine );
@@ -197,9 +212,12 @@ void IndexWriter::AddClean( const LineHead& a_head, quint32 a_length, bool a_has
     place = WriteLengths( place, a_head );
     if ( extras != 0 )
         place = WriteNumber( place, extras );
-    if ( a_joins.m_size > 0 )
-        place = WriteNumber( place, a_joins.m_size );
-    m_buffer.End( place );
+    if ( a_joins.m_size == 0 )
+    {
+        m_buffer.End( place );
+        return;
+    }
+    m_buffer.End( WriteNumber( place, a_joins.m_size ) );
     m_buffer.Add( a_joins );
 }
 

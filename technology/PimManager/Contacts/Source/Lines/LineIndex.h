@@ -81,6 +81,15 @@ struct IndexEntry
     IndexBytes m_joins;
     bool m_doSoftBreaksTakeBlank = false;
 
+    /// Sets what the head of the line says.
+    void SetHead( const LineHead& a_head );
+
+    /// With MissingColon, which is not stored as an oddity.
+    PimContactOddities AllOddities() const
+    {
+        return m_hasColon ? m_oddities : m_oddities | PimContactOddity::MissingColon;
+    }
+
     /// Of Nested: where the record and the index of the nested card are, and how long they are.
     quint32 m_indexBegin = 0;
     quint32 m_indexLength = 0;
@@ -128,8 +137,8 @@ public:
     void Clear() { m_buffer.Clear(); }
     void Release() { m_buffer.Release(); }
     void Add( const IndexEntry& a_entry );
-    /// Adds a line whose group, name, parameters and colon follow each other without a gap, and which has no oddity.
-    void AddClean( const LineHead& a_head, quint32 a_length, bool a_hasFolds, IndexBytes a_joins );
+    /// Adds a line whose head LineHead::Read() has called plain, and which has no oddity.
+    void AddPlain( const LineHead& a_head, quint32 a_length, bool a_hasFolds, IndexBytes a_joins );
     void AddPart( EntryKind a_kind, quint32 a_length ) { AddPart( a_kind, a_length, 0 ); }
     void AddDropped( DropReason a_reason, quint32 a_length );
     void AddBoundary( quint32 a_length, bool a_isMended )

@@ -130,6 +130,13 @@ void LogicalLines::Begin( quint32 a_begin, quint32 a_indentation )
     m_index.Clear();
 }
 
+void LogicalLines::Continue( IndexWriter& a_index, const CardFacts& a_facts, quint32 a_written )
+{
+    std::swap( m_index, a_index );
+    m_facts = a_facts;
+    m_written = a_written;
+}
+
 // Behind the indentation of the card.
 quint32 LogicalLines::ContentBegin( const CardLine& a_line ) const
 {
@@ -490,18 +497,16 @@ EntryKind LogicalLines::FateOf( const OpenLine& a_line ) const
     return m_mostLineBytes > 0 && length > m_mostLineBytes ? EntryKind::Dropped : EntryKind::Line;
 }
 
-void LogicalLines::Wrote( EntryKind a_kind, quint32 a_length, bool a_isOdd )
+void LogicalLines::Wrote( EntryKind a_kind, quint32 a_length )
 {
     m_written += a_length;
-    ++m_facts.m_parts[static_cast<size_t>( a_kind )];
-    m_facts.m_bytes[static_cast<size_t>( a_kind )] += a_length;
-    m_facts.m_isOdd = m_facts.m_isOdd || a_isOdd;
+    m_facts.Count( a_kind, a_length );
 }
 
 void LogicalLines::WritePart( EntryKind a_kind, quint32 a_length )
 {
     m_index.AddPart( a_kind, a_length );
-    Wrote( a_kind, a_length, a_kind == EntryKind::Mark );
+    Wrote( a_kind, a_length );
     m_facts.m_isFiltered = m_facts.m_isFiltered || a_kind == EntryKind::Filtered;
 }
 
@@ -516,20 +521,21 @@ void LogicalLines::WriteBoundary( quint32 a_length, bool a_isMended )
     if ( a_length == 0 )
         return;
     m_index.AddBoundary( a_length, a_isMended );
-    Wrote( EntryKind::Boundary, a_length, a_isMended );
+    Wrote( EntryKind::Boundary, a_length );
+    m_facts.m_mendedBoundaries += a_isMended ? 1U : 0U;
 }
 
 void LogicalLines::WriteDropped( DropReason a_reason, quint32 a_length )
 {
     m_index.AddDropped( a_reason, a_length );
-    Wrote( EntryKind::Dropped, a_length, true );
+    Wrote( EntryKind::Dropped, a_length );
     m_facts.m_isDropped = true;
 }
 
 void LogicalLines::WriteNested( quint32 a_length, IndexBytes a_index )
 {
     m_index.AddNested( a_length, a_index );
-    Wrote( EntryKind::Nested, a_length, true );
+    Wrote( EntryKind::Nested, a_length );
 }
 
 void LogicalLines::WriteCurrent()
@@ -564,28 +570,20 @@ void LogicalLines::WriteLine( const OpenLine& a_line, IndexEntry& a_entry )
     if ( HasUnknownEscape( a_line, a_entry ) )
         a_entry.m_oddities |= PimContactOddity::UnknownEscape;
     m_index.Add( a_entry );
-    Wrote( EntryKind::Line, a_entry.m_length, static_cast<int>( a_entry.m_oddities ) != 0 || !a_entry.m_hasColon );
+    Wrote( EntryKind::Line, a_entry.m_length );
+    m_facts.CountOddities( a_entry.AllOddities() );
 }
 
 IndexEntry LogicalLines::EntryOf( const OpenLine& a_line )
 {
     IndexEntry entry;
     entry.m_length = a_line.m_end - a_line.m_begin;
-    entry.m_group = a_line.m_head.m_group;
-    entry.m_name = a_line.m_head.m_name;
-    entry.m_parameters = a_line.m_head.m_parameters;
-    entry.m_valueBegin = a_line.m_head.m_valueBegin;
-    entry.m_hasColon = a_line.m_head.m_hasColon;
+    entry.SetHead( a_line.m_head );
     entry.m_hasFolds = a_line.m_hasFolds;
-    entry.m_encoding = a_line.m_head.m_encoding;
-    entry.m_oddities = a_line.m_oddities | a_line.m_head.m_oddities;
+    entry.m_oddities |= a_line.m_oddities;
     entry.m_joins = a_line.m_joins.Bytes();
     const bool takesBlanks = a_line.m_softBreaks > 1 && a_line.m_blankBreaks == a_line.m_softBreaks;
     entry.m_doSoftBreaksTakeBlank = takesBlanks && a_line.m_areBreaksAtFoldLength;
-    if ( entry.m_parameters.m_length == 0 )
-        entry.m_parameters.m_begin = entry.m_name.End();
-    if ( !entry.m_hasColon )
-        entry.m_valueBegin = entry.m_parameters.End();
     return entry;
 }
 
@@ -633,7 +631,7 @@ bool LogicalLines::HasUnknownEscape( const OpenLine& a_line, const IndexEntry& a
     if ( begin >= text.size() || std::memchr( text.data() + begin, '\\', text.size() - begin ) == nullptr ||
          a_entry.m_encoding == PimContactEncoding::Base64 || m_facts.m_version == PimContactVersion::V21 )
         return false;
-    return UnknownEscapesIn( text, a_entry ).m_count > 0;
+    return HasUnknownEscapes( text, a_entry );
 }
 
 } // namespace PimManager::Contacts

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "Lines/FoldEvidence.h"
+#include "Lines/CardFacts.h"
 #include "Lines/LineFilter.h"
 #include "Lines/LineHead.h"
 #include "Lines/LineIndex.h"
@@ -30,28 +30,6 @@ struct CardLine
     quint32 m_end = 0;
     bool m_isWide = false;
     bool m_hasControls = false;
-};
-
-/// What the lines of a card say about the card.
-struct CardFacts
-{
-    /// There is something to tell about a part of the card, or a card in it.
-    bool m_isOdd = false;
-    /// The parts of each kind, and their bytes.
-    std::array<quint32, s_kEntryKinds> m_parts = {};
-    std::array<quint32, s_kEntryKinds> m_bytes = {};
-
-    PimContactVersion m_version = PimContactVersion::Unknown;
-    /// There are characters beyond ASCII.
-    bool m_isWide = false;
-    bool m_isValidUtf8 = true;
-    /// A line may be in ISO-2022-JP.
-    bool m_mayBeShifted = false;
-    /// Of the folded lines of text; not if the version is known to be another one than 2.1.
-    FoldEvidence m_folds;
-    /// A part of the card was left out, or a line was.
-    bool m_isDropped = false;
-    bool m_isFiltered = false;
 };
 
 /// \return the version that a VERSION line names; Unknown for another line, and for another version.
@@ -86,6 +64,10 @@ public:
     /// \param a_begin       the place of its first byte.
     /// \param a_indentation how many blanks precede each line of an indented card.
     void Begin( quint32 a_begin, quint32 a_indentation );
+
+    /// Takes the place of another reader of the card, which has closed all lines up to a_written.
+    /// \param[in,out] a_index the entries up to there; gets other memory for its own.
+    void Continue( IndexWriter& a_index, const CardFacts& a_facts, quint32 a_written );
 
     /// The bytes of the outermost card, from its first byte to the end of the line that is taken next; valid until the
     /// next call.
@@ -197,7 +179,7 @@ private:
     void JoinCandidate();
     void DropCandidate();
 
-    void Wrote( EntryKind a_kind, quint32 a_length, bool a_isOdd );
+    void Wrote( EntryKind a_kind, quint32 a_length );
     void WriteCurrent();
     void WriteLine( const OpenLine& a_line, IndexEntry& a_entry );
     static IndexEntry EntryOf( const OpenLine& a_line );

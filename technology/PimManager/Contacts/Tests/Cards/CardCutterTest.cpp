@@ -45,7 +45,7 @@ std::string Replaced( std::string a_text, char a_from, char a_to )
 class CutText
 {
 public:
-    CutText( const CutRow& a_row, bool a_areCleanCardsTaken )
+    CutText( const CutRow& a_row, bool a_arePlainCardsTaken )
     {
         PimContactOptions options;
         if ( a_row.m_change )
@@ -60,7 +60,7 @@ public:
         scanner.Finish();
         for ( PhysicalLine line;; )
         {
-            if ( a_areCleanCardsTaken && cutter.TakeCleanCard() )
+            if ( a_arePlainCardsTaken && cutter.TakePlainCard() )
                 continue;
             if ( !scanner.Next( line ) )
                 break;
@@ -157,10 +157,10 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_P( CardCutterTest, CardsAreCutOutOfTheText )
 {
-    for ( const bool areCleanCardsTaken : { false, true } )
+    for ( const bool arePlainCardsTaken : { false, true } )
     {
-        SCOPED_TRACE( areCleanCardsTaken ? "the short road" : "line by line" );
-        const CutText text( GetParam(), areCleanCardsTaken );
+        SCOPED_TRACE( arePlainCardsTaken ? "the short road" : "line by line" );
+        const CutText text( GetParam(), arePlainCardsTaken );
         EXPECT_EQ( text.m_cards, GetParam().m_cards );
         EXPECT_EQ( text.m_others, GetParam().m_others );
         EXPECT_EQ( text.m_findings, GetParam().m_findings );

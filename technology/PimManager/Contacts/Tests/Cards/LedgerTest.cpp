@@ -126,7 +126,7 @@ TEST_F( LedgerTest, LedgerOnlyCountsWhenNobodyTakesMore )
     EXPECT_FALSE( m_ledger.IsOnlyCounting() );
     m_ledger.Report( Code::Comment, 1, {} );
     EXPECT_TRUE( m_ledger.IsOnlyCounting() );
-    m_ledger.CountFinding( Code::Comment );
+    m_ledger.CountFindings( Code::Comment, 1 );
     m_ledger.Report( Code::Comment, 1, {} );
     EXPECT_EQ( Counted( Code::Comment ), 3 );
     EXPECT_EQ( m_ledger.Data().m_diagnostics.size(), 1 );

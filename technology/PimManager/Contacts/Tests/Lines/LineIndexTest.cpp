@@ -263,7 +263,7 @@ TEST( LineIndexTest, CleanLinesAreWrittenLikeOthers )
             entry.m_joins = bytes;
             IndexWriter clean;
             IndexWriter other;
-            clean.AddClean( head, 200, true, bytes );
+            clean.AddPlain( head, 200, true, bytes );
             other.Add( entry );
             const IndexBytes first = clean.Bytes();
             const IndexBytes second = other.Bytes();

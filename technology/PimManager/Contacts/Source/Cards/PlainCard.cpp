@@ -1,0 +1,307 @@
+#include "Cards/PlainCard.h"
+
+#include "Lines/LineScanner.h"
+#include "Lines/ValueEscapes.h"
+#include "Text/Bytes.h"
+#include "Text/CharsetChoice.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace PimManager::Contacts
+{
+
+namespace
+{
+
+constexpr std::string_view s_kBegin = "BEGIN:VCARD";
+constexpr std::string_view s_kEnd = "END:VCARD";
+constexpr std::string_view s_kAgent = "AGENT";
+constexpr size_t s_kLongestBegin = CardBoundary::s_kLongest;
+
+// No line around it changes what the line is. A name that is no name, or words for parameters, may be text.
+bool IsSurelyProperty( const LineHead& a_head )
+{
+    return a_head.m_hasColon && !a_head.m_hasWordsForParameters && !( a_head.m_oddities & PimContactOddity::OddName );
+}
+
+// Something precedes the name or the colon, such as the dot in `.TEL:1`.
+bool HasGaps( const LineHead& a_head )
+{
+    const quint32 nameBegin = a_head.m_group.m_length == 0 ? 0 : a_head.m_group.m_length + 1;
+    const bool hasParameters = a_head.m_parameters.m_length > 0;
+    const quint32 colon = hasParameters ? a_head.m_parameters.End() : a_head.m_name.End();
+    return a_head.m_group.m_begin != 0 || a_head.m_name.m_begin != nameBegin ||
+           ( hasParameters && a_head.m_parameters.m_begin != a_head.m_name.End() ) || a_head.m_valueBegin != colon + 1;
+}
+
+// A fold may close a quote.
+bool MayContinueInFold( const LineHead& a_head, std::string_view a_line )
+{
+    return ( a_head.m_oddities & ( PimContactOddity::OpenQuote | PimContactOddity::OddParameter ) ) != 0 &&
+           a_line.substr( 0, a_head.m_valueBegin ).find( '"' ) != std::string_view::npos;
+}
+
+bool IsBareBoundary( const CardBoundary& a_boundary )
+{
+    return a_boundary.m_mark.m_length + a_boundary.m_group.m_length + a_boundary.m_parameters.m_length +
+               a_boundary.m_rest.m_length ==
+           0;
+}
+
+bool IsAgent( const LineHead& a_head, std::string_view a_line )
+{
+    return a_head.m_name.m_length == s_kAgent.size() && IsSameWord( a_head.m_name.In( a_line ), s_kAgent );
+}
+
+} // namespace
+
+// Notes a soft line break. Blanks behind the "=", and an encoded one in a value that is not encoded, are not plain.
+bool PlainCard::EndsPlainly( std::string_view a_line )
+{
+    m_lastTextEnd = static_cast<quint32>( a_line.data() + a_line.size() - m_text.data() );
+    const char last = a_line.back();
+    m_isSoftBreakOpen = last == '=' && m_head->m_encoding == PimContactEncoding::QuotedPrintable;
+    if ( last == '=' )
+        return m_head->m_encoding != PimContactEncoding::None;
+    return !IsBlank( last ) || !EndsWith( TrimmedRight( a_line ), "=" );
+}
+
+PlainCard::Step PlainCard::TakeContinuation( const Line& a_line )
+{
+    const bool mayBeBoundary = CardBoundary::MayEndAsOne( a_line.m_text );
+    if ( !m_isOpen || m_isSoftBreakOpen || m_isBehindEmptyLine ||
+         ( !m_isHeadPlain && MayContinueInFold( *m_head, m_text.substr( m_begin ) ) ) ||
+         ( mayBeBoundary && CardBoundary::Of( a_line.m_text ).m_kind != CardBoundary::Kind::None ) )
+        return Step::Stop;
+    if ( HoldsFoldEvidence() )
+        NoteFold( a_line );
+    m_hasFolds = true;
+    m_lastBegin = a_line.m_begin + 1;
+    // An ASCII character ends one that was not finished.
+    if ( a_line.m_isWide || m_isWide )
+        m_census.Take( a_line.m_text.substr( 1, a_line.m_isWide ? std::string_view::npos : 1 ) );
+    m_isWide = m_isWide || a_line.m_isWide;
+    m_hasControls = m_hasControls || a_line.m_hasControls;
+    m_end = a_line.m_end;
+    return EndsPlainly( a_line.m_text ) ? Step::Next : Step::Stop;
+}
+
+PlainCard::Step PlainCard::TakeSoftBreak( const Line& a_line )
+{
+    const quint32 equals = m_lastTextEnd - 1;
+    // No name begins with "=".
+    const bool mayBeProperty = a_line.m_text.front() != '=';
+    if ( a_line.m_isWide || m_isWide ||
+         ( mayBeProperty && LooksOf( LineHead::Of( a_line.m_text ), a_line.m_text ) == LineLooks::ClearlyProperty ) )
+        return Step::Stop;
+    m_joins.Add( { equals - m_begin, a_line.m_begin - equals, PimContactJoin::SoftBreak } );
+    m_hasControls = m_hasControls || a_line.m_hasControls;
+    m_end = a_line.m_end;
+    return EndsPlainly( a_line.m_text ) ? Step::Next : Step::Stop;
+}
+
+PlainCard::Step PlainCard::TakeProperty( const Line& a_line )
+{
+    LineHead& head = m_head == m_heads.data() ? m_heads.back() : m_heads.front();
+    const bool isPlain = head.Read( a_line.m_text );
+    if ( ( !isPlain && !IsSurelyProperty( head ) ) || IsAgent( head, a_line.m_text ) )
+        return Step::Stop;
+    CloseLine();
+    WriteBlankUpTo( a_line.m_begin );
+    m_linesClosed = m_physicalLines - 1;
+    m_head = &head;
+    m_isHeadPlain = isPlain || ( !head.m_oddities && !HasGaps( head ) );
+    m_isOpen = true;
+    m_isBehindEmptyLine = false;
+    m_begin = a_line.m_begin;
+    m_end = a_line.m_end;
+    m_lastBegin = a_line.m_begin;
+    m_hasFolds = false;
+    m_isWide = a_line.m_isWide;
+    m_hasControls = a_line.m_hasControls;
+    if ( a_line.m_isWide )
+        m_census.Take( a_line.m_text );
+    m_joins.Clear();
+    return EndsPlainly( a_line.m_text ) ? Step::Next : Step::Stop;
+}
+
+PlainCard::Step PlainCard::TakeEnd( const Line& a_line, bool a_isMended )
+{
+    if ( m_isSoftBreakOpen )
+        return Step::Stop;
+    CloseLine();
+    WriteBlankUpTo( a_line.m_begin );
+    WriteBoundary( a_line.m_end - a_line.m_begin, a_isMended );
+    return Step::End;
+}
+
+PlainCard::Step PlainCard::TakeLine( const Line& a_line )
+{
+    if ( a_line.m_text.empty() )
+    {
+        m_isBehindEmptyLine = true;
+        return m_isSoftBreakOpen ? Step::Stop : Step::Next;
+    }
+    if ( IsBlank( a_line.m_text.front() ) )
+        return TakeContinuation( a_line );
+    if ( CardBoundary::MayBe( a_line.m_text ) )
+    {
+        if ( a_line.m_text == s_kEnd )
+            return TakeEnd( a_line, false );
+        const CardBoundary boundary = CardBoundary::Of( a_line.m_text );
+        if ( boundary.m_kind == CardBoundary::Kind::End && IsBareBoundary( boundary ) )
+            return TakeEnd( a_line, boundary.m_isMended );
+        if ( boundary.m_kind != CardBoundary::Kind::None )
+            return Step::Stop;
+    }
+    return m_isSoftBreakOpen ? TakeSoftBreak( a_line ) : TakeProperty( a_line );
+}
+
+bool PlainCard::Begin( std::string_view a_text )
+{
+    if ( a_text.size() <= s_kBegin.size() || Upper( a_text.front() ) != s_kBegin.front() )
+        return false;
+    const char* const begin = a_text.data();
+    const char* const end = begin + a_text.size();
+    const char* lineEnd = begin + s_kBegin.size();
+    bool isMended = false;
+    if ( !IsLineEndByte( *lineEnd ) || a_text.substr( 0, s_kBegin.size() ) != s_kBegin )
+    {
+        lineEnd = LineEndSearch().Find( begin, begin + std::min( a_text.size(), s_kLongestBegin ) );
+        const CardBoundary boundary = CardBoundary::Of( a_text.substr( 0, static_cast<size_t>( lineEnd - begin ) ) );
+        if ( lineEnd == end || boundary.m_kind != CardBoundary::Kind::Begin || !IsBareBoundary( boundary ) )
+            return false;
+        isMended = boundary.m_isMended;
+    }
+    const int endLength = LineEndSearch::LengthOfEnd( lineEnd, end, false );
+    if ( endLength == 0 )
+        return false;
+    m_text = a_text;
+    m_lineEnd = LineEndSearch::KindOf( lineEnd, endLength );
+    m_endLength = endLength;
+    m_facts = CardFacts();
+    m_index.Clear();
+    if ( m_isOpen )
+        m_census = Utf8Census();
+    m_isOpen = false;
+    m_isSoftBreakOpen = false;
+    m_isBehindEmptyLine = false;
+    m_written = 0;
+    m_physicalLines = m_linesClosed = 1;
+    WriteBoundary( static_cast<quint32>( lineEnd - begin ) + static_cast<quint32>( endLength ), isMended );
+    return true;
+}
+
+quint32 PlainCard::Read()
+{
+    const int endLength = m_endLength;
+    const char endByte = m_lineEnd == PimContactLineEnd::Lf ? '\n' : '\r';
+    const char* const begin = m_text.data();
+    const char* const end = begin + m_text.size();
+    for ( const char* place = begin + m_written; place < end; )
+    {
+        LineEndSearch search;
+        const char* const lineEnd = search.Find( place, end );
+        if ( lineEnd == end || *lineEnd != endByte || LineEndSearch::LengthOfEnd( lineEnd, end, false ) != endLength )
+            return 0;
+        const char* const next = lineEnd + endLength;
+        ++m_physicalLines;
+        const Step step = TakeLine( { std::string_view( place, static_cast<size_t>( lineEnd - place ) ),
+                                      static_cast<quint32>( place - begin ), static_cast<quint32>( next - begin ),
+                                      search.IsWide(), search.HasControls() } );
+        if ( step != Step::Next )
+            return step == Step::End ? static_cast<quint32>( next - begin ) : 0;
+        place = next;
+    }
+    return 0;
+}
+
+void PlainCard::CloseLine()
+{
+    if ( !m_isOpen )
+        return;
+    m_isOpen = false;
+    const std::string_view line( m_text.data() + m_begin, m_lastTextEnd - m_begin );
+    const std::string_view value( line.data() + m_head->m_valueBegin, line.size() - m_head->m_valueBegin );
+    if ( m_isWide )
+        CloseCharacters();
+    if ( m_facts.m_version == PimContactVersion::Unknown )
+        m_facts.m_version = VersionOf( m_head->m_name.In( line ), value );
+    const bool mayHaveEscapes = m_facts.m_version != PimContactVersion::V21 &&
+                                m_head->m_encoding != PimContactEncoding::Base64 &&
+                                std::memchr( value.data(), '\\', value.size() ) != nullptr;
+    if ( mayHaveEscapes && HasUnknownEscapes( line, Entry() ) )
+        NoteOddity( PimContactOddity::UnknownEscape );
+    if ( m_hasControls )
+    {
+        NoteOddity( PimContactOddity::ControlCharacters );
+        m_facts.m_mayBeShifted = m_facts.m_mayBeShifted || MayBeShifted( line );
+    }
+    if ( m_isHeadPlain )
+        m_index.AddPlain( *m_head, m_end - m_begin, m_hasFolds, m_joins.Bytes() );
+    else
+        WriteOdd();
+    Wrote( EntryKind::Line, m_end - m_begin );
+}
+
+// The folds of a line that is not closed do not count if another reader goes on.
+void PlainCard::NoteFold( const Line& a_line )
+{
+    if ( !m_hasFolds )
+        m_foldsClosed = m_facts.m_folds;
+    const std::string_view before( m_text.data() + m_lastBegin, m_lastTextEnd - m_lastBegin );
+    const std::string_view behind = a_line.m_text.substr( 1 );
+    if ( !behind.empty() )
+        m_facts.m_folds.TakeFold( before, m_hasFolds, behind, !m_isWide && !a_line.m_isWide );
+}
+
+CardFacts PlainCard::FactsClosed() const
+{
+    CardFacts facts = m_facts;
+    if ( m_isOpen && m_hasFolds && HoldsFoldEvidence() )
+        facts.m_folds = m_foldsClosed;
+    return facts;
+}
+
+void PlainCard::CloseCharacters()
+{
+    m_facts.m_isWide = true;
+    m_census.EndText();
+    if ( m_census.IsValid() )
+        return;
+    m_facts.m_isValidUtf8 = false;
+    m_census = Utf8Census();
+}
+
+void PlainCard::NoteOddity( PimContactOddity a_oddity )
+{
+    m_head->m_oddities |= a_oddity;
+    m_isHeadPlain = false;
+}
+
+void PlainCard::WriteOdd()
+{
+    const IndexEntry entry = Entry();
+    m_index.Add( entry );
+    m_facts.CountOddities( entry.m_oddities );
+}
+
+// A plain card has no joins that take blanks.
+IndexEntry PlainCard::Entry() const
+{
+    IndexEntry entry;
+    entry.m_length = m_end - m_begin;
+    entry.SetHead( *m_head );
+    entry.m_hasFolds = m_hasFolds;
+    entry.m_joins = m_joins.Bytes();
+    return entry;
+}
+
+void PlainCard::WriteBlank( quint32 a_length )
+{
+    m_index.AddPart( EntryKind::Blank, a_length );
+    Wrote( EntryKind::Blank, a_length );
+}
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,142 @@
+/// \file
+/// The short road for plain cards.
+
+#pragma once
+
+#include "Cards/CardBoundaries.h"
+#include "Lines/LineIndex.h"
+#include "Lines/LogicalLines.h"
+#include "Text/Utf8Census.h"
+
+#include <PimManager/Contacts/PimContactReport.h>
+
+#include <QtGlobal>
+
+#include <array>
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// Reads a card in which no decision needs the surroundings of a line, and writes the index that LogicalLines would
+/// write. Most cards are plain, and this takes a third of the instructions.
+///
+/// A plain card has BEGIN, properties, folds, soft line breaks, empty lines and END, with one kind of line ending, and
+/// no card inside. Its lines may have oddities that are their own, such as blanks before the colon, empty parameters,
+/// control characters or unknown escapes. It may say no to a card that is plain; then the longer road is taken. A text
+/// that comes byte by byte always takes the longer road, so the tests that compare pieces with the whole compare the
+/// two.
+class PlainCard
+{
+public:
+    PlainCard() = default;
+    Q_DISABLE_COPY( PlainCard )
+
+    /// \param a_text where a card may begin; must stay until the card has been read.
+    /// \return true if its first line is the BEGIN of what may be a plain card.
+    bool Begin( std::string_view a_text );
+
+    /// How the BEGIN line ends.
+    PimContactLineEnd LineEnd() const { return m_lineEnd; }
+
+    /// Reads the card that has begun.
+    /// \return the length of the card; 0 if it is not plain, or its END has not come. The lines up to the property that
+    ///         was open then need not be read again.
+    quint32 Read();
+
+    /// The lines before the property that is open. At least the BEGIN line.
+    quint32 BytesClosed() const { return m_isOpen ? m_begin : m_written; }
+    qint64 LinesClosed() const { return m_linesClosed; }
+    /// What these lines say.
+    CardFacts FactsClosed() const;
+    IndexWriter& Writer() { return m_index; }
+
+    IndexBytes Index() const { return m_index.Bytes(); }
+    const CardFacts& Facts() const { return m_facts; }
+    /// Physical lines.
+    qint64 Lines() const { return m_physicalLines; }
+
+private:
+    enum class Step
+    {
+        Next,
+        Stop, ///< not plain
+        End,  ///< END has come
+    };
+
+    // A physical line. Places count from the first byte of the card.
+    struct Line
+    {
+        std::string_view m_text;
+        quint32 m_begin = 0;
+        quint32 m_end = 0;
+        bool m_isWide = false;
+        bool m_hasControls = false;
+    };
+
+    Q_ALWAYS_INLINE Step TakeLine( const Line& a_line );
+    Q_ALWAYS_INLINE Step TakeContinuation( const Line& a_line );
+    Step TakeSoftBreak( const Line& a_line );
+    Q_ALWAYS_INLINE Step TakeProperty( const Line& a_line );
+    Step TakeEnd( const Line& a_line, bool a_isMended );
+    Q_ALWAYS_INLINE bool EndsPlainly( std::string_view a_line );
+    bool HoldsFoldEvidence() const
+    {
+        return m_head->m_encoding == PimContactEncoding::None && MayFoldByLength( m_facts.m_version );
+    }
+    void NoteFold( const Line& a_line );
+    void CloseLine();
+    void CloseCharacters();
+    void NoteOddity( PimContactOddity a_oddity );
+    void WriteOdd();
+    IndexEntry Entry() const;
+    void WriteBlankUpTo( quint32 a_place )
+    {
+        if ( a_place > m_written )
+            WriteBlank( a_place - m_written );
+    }
+    void WriteBlank( quint32 a_length );
+    void WriteBoundary( quint32 a_length, bool a_isMended )
+    {
+        m_index.AddBoundary( a_length, a_isMended );
+        Wrote( EntryKind::Boundary, a_length );
+        m_facts.m_mendedBoundaries += a_isMended ? 1U : 0U;
+    }
+    void Wrote( EntryKind a_kind, quint32 a_length )
+    {
+        m_written += a_length;
+        m_facts.Count( a_kind, a_length );
+    }
+
+    std::string_view m_text;
+    PimContactLineEnd m_lineEnd = PimContactLineEnd::CrLf;
+    int m_endLength = 0;
+    qint64 m_physicalLines = 0;
+    qint64 m_linesClosed = 0;
+    quint32 m_written = 0;
+    CardFacts m_facts;
+    IndexWriter m_index;
+
+    // The property that is open.
+    bool m_isOpen = false;
+    quint32 m_begin = 0;
+    // Of its last physical line, without the blank of a fold.
+    quint32 m_lastBegin = 0;
+    quint32 m_lastTextEnd = 0;
+    quint32 m_end = 0;
+    bool m_isSoftBreakOpen = false;
+    bool m_isBehindEmptyLine = false;
+    bool m_isWide = false;
+    bool m_hasControls = false;
+    bool m_hasFolds = false;
+    // That of the line, and room for the next one.
+    std::array<LineHead, 2> m_heads;
+    LineHead* m_head = m_heads.data();
+    // LineHead::Read() has called it so.
+    bool m_isHeadPlain = false;
+    JoinWriter m_joins;
+    FoldEvidence m_foldsClosed;
+    Utf8Census m_census;
+};
+
+} // namespace PimManager::Contacts

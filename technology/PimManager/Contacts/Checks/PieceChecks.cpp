@@ -60,6 +60,15 @@ Reading ReadAfterAnotherFile( const Subject& a_subject )
     return ReadInPieces( reader, a_subject.m_bytes, {} );
 }
 
+// A limit that no line reaches. With a limit for lines every card takes the longer road.
+Reading ReadOnTheLongerRoad( const Subject& a_subject )
+{
+    PimContactOptions options = a_subject.m_options;
+    if ( options.LineBytes() <= 0 )
+        options.SetLineBytes( qint64( 1 ) << 40 );
+    return ReadWhole( a_subject.m_bytes, options );
+}
+
 QByteArray TranscriptOf( const PimContactBook& a_book )
 {
     QByteArray text;
@@ -100,6 +109,7 @@ Broken BrokenPieces( const Subject& a_subject )
     const qint64 size = a_subject.m_bytes.size();
     return FirstBroken( [&] { return isSame( "pieces", readAt( RandomPlaces( size, a_subject.m_seed ) ) ); },
                         [&] { return isSame( "single bytes", readAt( AllPlaces( size ) ) ); },
+                        [&] { return isSame( "the longer road", ReadOnTheLongerRoad( a_subject ) ); },
                         [&] { return isSame( "Next() from a buffer", ReadBuffer( a_subject ) ); },
                         [&] { return isSame( "Next() from a slow device", ReadTrickle( a_subject ) ); },
                         [&] { return isSame( "a used reader", ReadAfterAnotherFile( a_subject ) ); },

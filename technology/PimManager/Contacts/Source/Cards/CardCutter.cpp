@@ -87,6 +87,7 @@ void CardCutter::Reset( bool a_isConverted )
     m_depth = 0;
     m_absorbedDepth = 0;
     m_isEndOfText = false;
+    m_isPlainCardOpen = false;
     m_bookBytes = 0;
     m_skippedDepth = 0;
     m_outsideLines = 0;
@@ -129,40 +130,51 @@ void CardCutter::Take( const Line& a_line )
     }
 }
 
-bool CardCutter::TakePlainCard()
+bool CardCutter::BeginPlainCard()
 {
     const ReportData& data = m_ledger.Data();
-    const std::string_view text = m_scanner.Rest();
-    if ( m_state != State::Outside || !m_mayTakePlainCards || m_scanner.IsLong() || !m_plainCard.Begin( text ) )
-        return false;
-    const PimContactLineEnd kind = m_plainCard.LineEnd();
     // The first line ending of a kind is told, where it is.
-    if ( data.m_lineEnds[static_cast<size_t>( kind )] == 0 ||
-         ( m_mostCards > 0 && data.m_cardsWhole + data.m_cardsInPart >= m_mostCards ) )
-        return false;
-    const quint32 cardLength = m_plainCard.Read();
-    if ( std::max( cardLength, m_plainCard.BytesClosed() ) > m_mostCardBytes || m_plainCard.Lines() > m_mostCardLines )
-        return false;
-    if ( cardLength == 0 )
-    {
+    return m_state == State::Outside && m_mayTakePlainCards && !m_scanner.IsLong() &&
+           m_plainCard.Begin( m_scanner.Rest() ) && data.m_lineEnds[static_cast<size_t>( m_plainCard.LineEnd() )] > 0 &&
+           ( m_mostCards <= 0 || data.m_cardsWhole + data.m_cardsInPart < m_mostCards );
+}
+
+CardCutter::PlainStep CardCutter::TakePlainCard()
+{
+    if ( !m_isPlainCardOpen && !BeginPlainCard() )
+        return PlainStep::None;
+    const std::string_view text = m_scanner.Rest();
+    const PlainCard::Result result = m_plainCard.Read( text );
+    const qint64 length = result == PlainCard::Result::Open ? m_scanner.OpenLength() : m_plainCard.BytesClosed();
+    const bool isTooLong = length > m_mostCardBytes || m_plainCard.Lines() > m_mostCardLines;
+    m_isPlainCardOpen = result == PlainCard::Result::Open && !isTooLong && !m_scanner.IsFinished();
+    if ( m_isPlainCardOpen )
+        return PlainStep::Waiting;
+    if ( result == PlainCard::Result::Whole && !isTooLong )
+        DeliverPlainCard( text.substr( 0, m_plainCard.BytesClosed() ) );
+    else if ( m_plainCard.BytesClosed() <= m_mostCardBytes && m_plainCard.LinesClosed() <= m_mostCardLines &&
+              result != PlainCard::Result::Whole )
         BeginFromPlainCard();
-        return true;
-    }
+    else
+        return PlainStep::None;
+    return PlainStep::Taken;
+}
+
+void CardCutter::DeliverPlainCard( std::string_view a_bytes )
+{
     EndTextOutside();
     m_card.m_first.m_offset = m_scanner.NextOffset();
     m_card.m_first.m_number = m_scanner.NextNumber();
     m_card.m_first.m_lineOffset = m_card.m_first.m_offset;
     m_card.m_hasBegin = true;
     m_scanner.Release( m_card.m_first.m_offset );
-    m_scanner.PassLines( cardLength, m_plainCard.Lines() );
-    m_ledger.Data().m_lineEnds[static_cast<size_t>( kind )] += m_plainCard.Lines();
+    m_scanner.PassLines( static_cast<qint64>( a_bytes.size() ), m_plainCard.Lines() );
+    m_ledger.Data().m_lineEnds[static_cast<size_t>( m_plainCard.LineEnd() )] += m_plainCard.Lines();
     CardRecord record;
-    record.m_length = cardLength;
+    record.m_length = static_cast<quint32>( a_bytes.size() );
     record.m_flags = CardRecord::HasBegin | CardRecord::HasEnd;
-    SealCard( m_plainCard.Facts(), m_plainCard.Index(), record, text.substr( 0, cardLength ), m_isDefaultKnown,
-              m_sealed );
+    SealCard( m_plainCard.Facts(), m_plainCard.Index(), record, a_bytes, m_isDefaultKnown, m_sealed );
     Deliver( m_sealed, m_plainCard.Facts(), m_scanner.NextOffset() );
-    return true;
 }
 
 // The lines that were read on the short road need not be read again.

@@ -52,9 +52,16 @@ public:
     /// Forgets the text.
     void Reset( bool a_isConverted );
 
-    /// Takes the next card of the scanner, or its first lines, if it is plain so far. \return false if it takes
-    /// nothing.
-    bool TakePlainCard();
+    /// What TakePlainCard() did.
+    enum class PlainStep
+    {
+        None,    ///< nothing
+        Taken,   ///< it took lines
+        Waiting, ///< it waits for more of a card whose first lines it has read
+    };
+
+    /// Takes the next card of the scanner, or its first lines, if it is plain so far.
+    PlainStep TakePlainCard();
 
     /// Takes the next line of the scanner.
     void Take( const PhysicalLine& a_line );
@@ -63,7 +70,7 @@ public:
     void TakeOpenLine()
     {
         // No shorter line exceeds a limit.
-        while ( m_scanner.OpenLength() > CardBoundary::s_kLongest && TakeOpenPart() )
+        while ( !m_isPlainCardOpen && m_scanner.OpenLength() > CardBoundary::s_kLongest && TakeOpenPart() )
         {
         }
     }
@@ -138,6 +145,8 @@ private:
     static TextPlace PlaceOf( const Line& a_line ) { return { a_line.m_offset, a_line.m_number, a_line.m_lineOffset }; }
     Line Part( const Line& a_line, qint64 a_begin, qint64 a_end ) const;
 
+    bool BeginPlainCard();
+    void DeliverPlainCard( std::string_view a_bytes );
     void BeginFromPlainCard();
     void TakeOutside( const Line& a_line );
     void TakeEndOutside( const Line& a_line );
@@ -209,6 +218,7 @@ private:
     // Of the card that is delivered; kept for its memory.
     CardIndex m_sealed;
     bool m_mayTakePlainCards;
+    bool m_isPlainCardOpen = false;
     std::vector<std::unique_ptr<Frame>> m_frames;
     size_t m_depth = 0;
     // Cards nested deeper than the limit.

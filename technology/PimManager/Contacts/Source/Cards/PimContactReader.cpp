@@ -213,9 +213,10 @@ void PimContactReaderPrivate::TakeLines()
     PhysicalLine line;
     while ( !m_ledger.Data().m_isStopped && m_pulled.empty() )
     {
-        if ( m_cutter.TakePlainCard() )
+        const CardCutter::PlainStep step = m_cutter.TakePlainCard();
+        if ( step == CardCutter::PlainStep::Taken )
             continue;
-        if ( !m_scanner.Next( line ) )
+        if ( step == CardCutter::PlainStep::Waiting || !m_scanner.Next( line ) )
             break;
         CountLineEnd( line );
         m_cutter.Take( line );

@@ -177,7 +177,6 @@ bool PlainCard::Begin( std::string_view a_text )
     const int endLength = LineEndSearch::LengthOfEnd( lineEnd, end, false );
     if ( endLength == 0 )
         return false;
-    m_text = a_text;
     m_lineEnd = LineEndSearch::KindOf( lineEnd, endLength );
     m_endLength = endLength;
     m_facts = CardFacts();
@@ -190,31 +189,46 @@ bool PlainCard::Begin( std::string_view a_text )
     m_written = 0;
     m_physicalLines = m_linesClosed = 1;
     WriteBoundary( static_cast<quint32>( lineEnd - begin ) + static_cast<quint32>( endLength ), isMended );
+    WaitForLineEnd( LineEndSearch(), m_written, m_written );
     return true;
 }
 
-quint32 PlainCard::Read()
+PlainCard::Result PlainCard::Read( std::string_view a_text )
 {
     const int endLength = m_endLength;
     const char endByte = m_lineEnd == PimContactLineEnd::Lf ? '\n' : '\r';
-    const char* const begin = m_text.data();
-    const char* const end = begin + m_text.size();
-    for ( const char* place = begin + m_written; place < end; )
+    const char* const begin = a_text.data();
+    const char* const end = begin + a_text.size();
+    m_text = a_text;
+    LineEndSearch search = m_search;
+    const char* searched = begin + m_searched;
+    for ( const char* place = begin + m_next;; search = LineEndSearch() )
     {
-        LineEndSearch search;
-        const char* const lineEnd = search.Find( place, end );
-        if ( lineEnd == end || *lineEnd != endByte || LineEndSearch::LengthOfEnd( lineEnd, end, false ) != endLength )
-            return 0;
+        const char* const lineEnd = search.Find( searched, end );
+        const int length = lineEnd == end ? 0 : LineEndSearch::LengthOfEnd( lineEnd, end, false );
+        if ( length == 0 )
+        {
+            WaitForLineEnd( search, static_cast<size_t>( place - begin ), static_cast<size_t>( lineEnd - begin ) );
+            return Result::Open;
+        }
+        if ( *lineEnd != endByte || length != endLength )
+            return Result::NotPlain;
         const char* const next = lineEnd + endLength;
         ++m_physicalLines;
         const Step step = TakeLine( { std::string_view( place, static_cast<size_t>( lineEnd - place ) ),
                                       static_cast<quint32>( place - begin ), static_cast<quint32>( next - begin ),
                                       search.IsWide(), search.HasControls() } );
         if ( step != Step::Next )
-            return step == Step::End ? static_cast<quint32>( next - begin ) : 0;
-        place = next;
+            return step == Step::End ? Result::Whole : Result::NotPlain;
+        place = searched = next;
     }
-    return 0;
+}
+
+void PlainCard::WaitForLineEnd( const LineEndSearch& a_search, size_t a_next, size_t a_searched )
+{
+    m_search = a_search;
+    m_next = a_next;
+    m_searched = a_searched;
 }
 
 void PlainCard::CloseLine()

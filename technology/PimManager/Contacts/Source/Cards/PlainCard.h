@@ -5,6 +5,7 @@
 
 #include "Cards/CardBoundaries.h"
 #include "Lines/LineIndex.h"
+#include "Lines/LineScanner.h"
 #include "Lines/LogicalLines.h"
 #include "Text/Utf8Census.h"
 
@@ -23,28 +24,34 @@ namespace PimManager::Contacts
 ///
 /// A plain card has BEGIN, properties, folds, soft line breaks, empty lines and END, with one kind of line ending, and
 /// no card inside. Its lines may have oddities that are their own, such as blanks before the colon, empty parameters,
-/// control characters or unknown escapes. It may say no to a card that is plain; then the longer road is taken. A text
-/// that comes byte by byte always takes the longer road, so the tests that compare pieces with the whole compare the
-/// two.
+/// control characters or unknown escapes. It may say no to a card that is plain; then the longer road is taken. With a
+/// limit for lines that road is always taken, so tests can compare the two.
 class PlainCard
 {
 public:
     PlainCard() = default;
     Q_DISABLE_COPY( PlainCard )
 
-    /// \param a_text where a card may begin; must stay until the card has been read.
+    /// \param a_text where a card may begin.
     /// \return true if its first line is the BEGIN of what may be a plain card.
     bool Begin( std::string_view a_text );
 
     /// How the BEGIN line ends.
     PimContactLineEnd LineEnd() const { return m_lineEnd; }
 
-    /// Reads the card that has begun.
-    /// \return the length of the card; 0 if it is not plain, or its END has not come. The lines up to the property that
-    ///         was open then need not be read again.
-    quint32 Read();
+    /// What became of the card.
+    enum class Result
+    {
+        Open,     ///< its END has not come
+        Whole,    ///< it has been read
+        NotPlain, ///< it goes on in another way behind the lines that are closed
+    };
 
-    /// The lines before the property that is open. At least the BEGIN line.
+    /// Reads the card that has begun, or goes on when more of it has come.
+    /// \param a_text the same bytes as those of Begin() and of the last call, perhaps elsewhere, and all that followed.
+    Result Read( std::string_view a_text );
+
+    /// The bytes of the lines before the property that is open, or those of the whole card. At least the BEGIN line.
     quint32 BytesClosed() const { return m_isOpen ? m_begin : m_written; }
     qint64 LinesClosed() const { return m_linesClosed; }
     /// What these lines say.
@@ -80,6 +87,7 @@ private:
     Q_ALWAYS_INLINE Step TakeProperty( const Line& a_line );
     Step TakeEnd( const Line& a_line, bool a_isMended );
     Q_ALWAYS_INLINE bool EndsPlainly( std::string_view a_line );
+    void WaitForLineEnd( const LineEndSearch& a_search, size_t a_next, size_t a_searched );
     bool HoldsFoldEvidence() const
     {
         return m_head->m_encoding == PimContactEncoding::None && MayFoldByLength( m_facts.m_version );
@@ -114,6 +122,10 @@ private:
     qint64 m_physicalLines = 0;
     qint64 m_linesClosed = 0;
     quint32 m_written = 0;
+    // The first line whose end has not come, and how far it was searched.
+    size_t m_next = 0;
+    size_t m_searched = 0;
+    LineEndSearch m_search;
     CardFacts m_facts;
     IndexWriter m_index;
 

@@ -99,6 +99,7 @@ public:
 
     /// No byte follows.
     void Finish() { m_isFinished = true; }
+    bool IsFinished() const { return m_isFinished; }
 
     /// \param[out] a_line the next line; its bytes are available until Release().
     /// \return false while the end of the next line has not come.

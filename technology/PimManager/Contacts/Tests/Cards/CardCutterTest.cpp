@@ -60,7 +60,7 @@ public:
         scanner.Finish();
         for ( PhysicalLine line;; )
         {
-            if ( a_arePlainCardsTaken && cutter.TakePlainCard() )
+            if ( a_arePlainCardsTaken && cutter.TakePlainCard() == CardCutter::PlainStep::Taken )
                 continue;
             if ( !scanner.Next( line ) )
                 break;

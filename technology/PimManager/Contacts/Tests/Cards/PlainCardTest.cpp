@@ -187,17 +187,45 @@ TEST_P( PlainCardTest, PlainCardsAreReadWhole )
         const std::string all = text + "BEGIN:VCARD";
         ASSERT_TRUE( card.Begin( all ) );
         EXPECT_EQ( card.LineEnd(), lineEnd.m_kind );
-        const quint32 length = card.Read();
-        ASSERT_EQ( length, GetParam().m_isPlain ? text.size() : 0U );
-        if ( length == 0 )
+        const PlainCard::Result result = card.Read( all );
+        ASSERT_EQ( result, GetParam().m_isPlain ? PlainCard::Result::Whole : PlainCard::Result::NotPlain );
+        if ( result == PlainCard::Result::NotPlain )
         {
             ExpectTheSameFromThereOn( card, text, lineEnd.m_lineEnd.size() );
             continue;
         }
+        EXPECT_EQ( card.BytesClosed(), text.size() );
         ExpectTheIndexOfLogicalLines( card, text, lineEnd.m_lineEnd.size() );
         const std::string lines = "BEGIN:VCARD\n" + GetParam().m_lines + "END:VCARD\n";
         EXPECT_EQ( card.Lines(), std::count( lines.begin(), lines.end(), '\n' ) );
     }
+}
+
+TEST_P( PlainCardTest, BytesMayComeOneByOne )
+{
+    const std::string text = "BEGIN:VCARD\n" + GetParam().m_lines + "END:VCARD\n";
+    PlainCard whole;
+    ASSERT_TRUE( whole.Begin( text ) );
+    const PlainCard::Result expected = whole.Read( text );
+    PlainCard card;
+    PlainCard::Result result = PlainCard::Result::Open;
+    for ( size_t length = s_kBeginLength + 1; result == PlainCard::Result::Open; ++length )
+    {
+        ASSERT_LE( length, text.size() );
+        // Elsewhere each time, as in a buffer that grows.
+        const std::vector<char> part( text.begin(), text.begin() + static_cast<std::ptrdiff_t>( length ) );
+        const std::string_view view( part.data(), part.size() );
+        if ( length == s_kBeginLength + 1 )
+        {
+            ASSERT_TRUE( card.Begin( view ) );
+        }
+        result = card.Read( view );
+    }
+    EXPECT_EQ( result, expected );
+    EXPECT_EQ( card.BytesClosed(), whole.BytesClosed() );
+    EXPECT_EQ( card.LinesClosed(), whole.LinesClosed() );
+    EXPECT_EQ( Copied( card.Index() ), Copied( whole.Index() ) );
+    ExpectSameFacts( card.FactsClosed(), whole.FactsClosed() );
 }
 
 TEST( PlainCardUseTest, EndMustHaveComeWhole )
@@ -211,7 +239,8 @@ TEST( PlainCardUseTest, EndMustHaveComeWhole )
         EXPECT_EQ( isBegun, length >= s_kBeginLength + 2 ) << length;
         if ( !isBegun )
             continue;
-        EXPECT_EQ( card.Read(), length == text.size() ? length : 0U ) << length;
+        EXPECT_EQ( card.Read( part ), length == text.size() ? PlainCard::Result::Whole : PlainCard::Result::Open )
+            << length;
     }
 }
 
@@ -236,7 +265,8 @@ TEST( PlainCardUseTest, BeginMayHaveBlanksBehindIt )
         ASSERT_EQ( card.Begin( text ), row.m_isPlain ) << row.m_line;
         if ( !row.m_isPlain )
             continue;
-        EXPECT_EQ( card.Read(), text.size() ) << row.m_line;
+        EXPECT_EQ( card.Read( text ), PlainCard::Result::Whole ) << row.m_line;
+        EXPECT_EQ( card.BytesClosed(), text.size() ) << row.m_line;
         EXPECT_EQ( card.Facts().m_mendedBoundaries, row.m_isMended ? 1U : 0U ) << row.m_line;
     }
 }
@@ -246,7 +276,8 @@ TEST( PlainCardUseTest, EndMayHaveBlanksBehindIt )
     const std::string text = "BEGIN:VCARD\nFN:a\nEND:VCARD  \n";
     PlainCard card;
     ASSERT_TRUE( card.Begin( text ) );
-    EXPECT_EQ( card.Read(), text.size() );
+    EXPECT_EQ( card.Read( text ), PlainCard::Result::Whole );
+    EXPECT_EQ( card.BytesClosed(), text.size() );
     EXPECT_EQ( card.Facts().m_mendedBoundaries, 1U );
 }
 
@@ -261,7 +292,7 @@ TEST( PlainCardUseTest, OneOtherLineEndIsNotPlain )
         {
             const std::string changed = text.substr( 0, end ) + other + text.substr( end + 2 ) + "a";
             ASSERT_TRUE( card.Begin( changed ) );
-            EXPECT_EQ( card.Read(), 0U ) << ::testing::PrintToString( changed );
+            EXPECT_EQ( card.Read( changed ), PlainCard::Result::NotPlain ) << ::testing::PrintToString( changed );
         }
     }
 }
@@ -272,9 +303,9 @@ TEST( PlainCardUseTest, NothingIsLeftOfACardThatWasNotPlain )
     const std::string second = "BEGIN:VCARD\nFN:\xA9\xC3\xA9\nEND:VCARD\n";
     PlainCard card;
     ASSERT_TRUE( card.Begin( first ) );
-    ASSERT_EQ( card.Read(), 0U );
+    ASSERT_EQ( card.Read( first ), PlainCard::Result::NotPlain );
     ASSERT_TRUE( card.Begin( second ) );
-    EXPECT_EQ( card.Read(), second.size() );
+    EXPECT_EQ( card.Read( second ), PlainCard::Result::Whole );
     EXPECT_FALSE( card.Facts().m_isValidUtf8 );
 }
 

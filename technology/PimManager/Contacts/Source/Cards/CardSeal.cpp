@@ -2,6 +2,7 @@
 
 #include "Lines/LinePieces.h"
 #include "Text/Bytes.h"
+#include "Text/Charset.h"
 #include "Text/CharsetChoice.h"
 
 namespace PimManager::Contacts
@@ -88,7 +89,8 @@ private:
         return Unfolded( line, a_entries.Entry(), m_record.FoldStyle(), { 0, static_cast<quint32>( line.size() ) } );
     }
 
-    // The first one that is known and is not folded; also that of a filtered line.
+    // The first one that is known and is not folded; also that of a filtered line. One without ASCII needs escape
+    // sequences, and a line that has them is decided about without it.
     std::string_view CardCharset() const
     {
         for ( CardEntries entries( m_entries, m_bytes, m_record.m_begin ); entries.Next( false ); )
@@ -96,7 +98,7 @@ private:
             if ( !entries.IsLine() && entries.Entry().m_kind != EntryKind::Filtered )
                 continue;
             const std::string_view charset = LineHead::Of( entries.Line() ).m_charset.In( entries.Line() );
-            if ( IsKnownCharset( charset ) )
+            if ( IsKnownCharset( charset ) && Charset::Of( charset ).ContainsAscii() )
                 return charset;
         }
         return std::string_view();

@@ -1,16 +1,7 @@
 #include "Text/CharsetChoice.h"
 
-#include "Text/Bytes.h"
+#include "Text/Charset.h"
 #include "Text/Utf8Census.h"
-
-#include <QByteArray>
-#include <QHash>
-#include <QList>
-#include <QTextCodec>
-
-#include <algorithm>
-#include <mutex>
-#include <optional>
 
 namespace PimManager::Contacts
 {
@@ -20,93 +11,10 @@ namespace
 
 using namespace std::string_view_literals;
 
-constexpr size_t s_kLongestName = 40;
-constexpr std::string_view s_kIso2022 = "ISO-2022";
-
-bool IsLetterOrDigit( char a_byte )
+// A known character set, and not UTF-8.
+bool IsOther( Charset a_charset )
 {
-    return IsNameByte( a_byte ) && a_byte != '-';
-}
-
-bool IsPlausible( std::string_view a_name )
-{
-    return !a_name.empty() && a_name.size() <= s_kLongestName &&
-           std::all_of( a_name.begin(), a_name.end(),
-                        []( char a_byte )
-                        { return IsNameByte( a_byte ) || "_.:+()"sv.find( a_byte ) != std::string_view::npos; } );
-}
-
-// What QTextCodec compares of a name.
-QByteArray KeyOf( std::string_view a_name )
-{
-    QByteArray key;
-    for ( const char byte : a_name )
-    {
-        if ( IsLetterOrDigit( byte ) )
-            key += Upper( byte );
-    }
-    return key;
-}
-
-// By the numbers that IANA assigned to character sets.
-bool IsUnicodeOrAscii( int a_number )
-{
-    constexpr int ascii = 3;
-    constexpr int utf8 = 106;
-    constexpr int firstUnicode = 1000;
-    constexpr int lastUnicode = 1020;
-    return a_number == ascii || a_number == utf8 || ( a_number >= firstUnicode && a_number <= lastUnicode );
-}
-
-QTextCodec* LookedUp( const QByteArray& a_name )
-{
-    QTextCodec* const codec = QTextCodec::codecForName( a_name );
-    return codec == nullptr || IsUnicodeOrAscii( codec->mibEnum() ) ? nullptr : codec;
-}
-
-// The names that QTextCodec lists, and the codecs that were needed so far. Its own search takes some ten microseconds
-// for each name that it does not list, and for some names that it does.
-class ListedCodecs
-{
-public:
-    ListedCodecs();
-    QTextCodec* Of( const QByteArray& a_key );
-
-private:
-    struct Entry
-    {
-        QByteArray m_name;
-        std::optional<QTextCodec*> m_codec;
-    };
-
-    std::mutex m_mutex;
-    QHash<QByteArray, Entry> m_entries;
-};
-
-ListedCodecs::ListedCodecs()
-{
-    const QList<QByteArray> names = QTextCodec::availableCodecs();
-    for ( const QByteArray& name : names )
-    {
-        if ( IsPlausible( ViewOf( name ) ) )
-            m_entries.insert( KeyOf( ViewOf( name ) ), Entry{ name, std::nullopt } );
-    }
-}
-
-QTextCodec* ListedCodecs::Of( const QByteArray& a_key )
-{
-    const std::lock_guard<std::mutex> lock( m_mutex );
-    const auto entry = m_entries.find( a_key );
-    if ( entry == m_entries.end() )
-        return nullptr;
-    if ( !entry->m_codec.has_value() )
-        entry->m_codec = LookedUp( entry->m_name );
-    return *entry->m_codec;
-}
-
-bool IsIso2022( std::string_view a_name )
-{
-    return IsSameWord( a_name.substr( 0, s_kIso2022.size() ), s_kIso2022 ) && IsKnownCharset( a_name );
+    return a_charset.IsKnown() && !a_charset.IsUtf8();
 }
 
 bool HasShiftOfIso2022Jp( std::string_view a_text )
@@ -124,18 +32,9 @@ Utf8Census CensusOf( std::string_view a_text )
 
 } // namespace
 
-QTextCodec* CodecOf( std::string_view a_name )
-{
-    const std::string_view name = Trimmed( a_name );
-    if ( !IsPlausible( name ) )
-        return nullptr;
-    static ListedCodecs s_codecs;
-    return s_codecs.Of( KeyOf( name ) );
-}
-
 bool IsKnownCharset( std::string_view a_name )
 {
-    return CodecOf( a_name ) != nullptr;
+    return IsOther( Charset::Of( a_name ) );
 }
 
 bool MayBeShifted( std::string_view a_text )
@@ -155,7 +54,7 @@ LineCharset CharsetChoice::Of( std::string_view a_text, std::string_view a_named
 {
     if ( MayBeShifted( a_text ) )
     {
-        if ( IsIso2022( Trimmed( a_named ) ) )
+        if ( !Charset::Of( a_named ).ContainsAscii() )
             return LineCharset::Line;
         if ( HasShiftOfIso2022Jp( a_text ) )
             return LineCharset::Iso2022Jp;
@@ -165,7 +64,8 @@ LineCharset CharsetChoice::Of( std::string_view a_text, std::string_view a_named
     const Utf8Census census = CensusOf( a_text );
     if ( census.IsAscii() )
         return LineCharset::Utf8;
-    if ( IsKnownCharset( a_named ) )
+    const Charset named = Charset::Of( a_named );
+    if ( IsOther( named ) && named.ContainsAscii() )
         return LineCharset::Line;
     return census.Wide() > census.Malformed() ? LineCharset::Utf8 : m_cardCharset;
 }

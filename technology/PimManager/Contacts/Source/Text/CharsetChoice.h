@@ -7,8 +7,6 @@
 
 #include <string_view>
 
-class QTextCodec;
-
 namespace PimManager::Contacts
 {
 
@@ -22,16 +20,7 @@ enum class LineCharset : quint8
     Iso2022Jp = 4, ///< nowhere; the line has the escape sequences of ISO-2022-JP
 };
 
-/// Finds the codec of a character set by the name that a card or a caller uses. Letter case, punctuation, and blanks
-/// round the name are ignored. Names are unknown if they are longer than 40 bytes, or have other characters than
-/// letters, digits and `-_.:+()`.
-///
-/// \return null for unknown names, and for all forms of Unicode and ASCII.
-/// \note   QTextCodec::codecForName() is slow for names that it does not know, and for some that it does, such as
-///         `windows-1252`. This function is slow once for each listed name only. It may be called in several threads.
-QTextCodec* CodecOf( std::string_view a_name );
-
-/// \return true if CodecOf() finds a codec.
+/// \return true if the name is that of a character set (see Charset::Of()), other than UTF-8 and ASCII.
 bool IsKnownCharset( std::string_view a_name );
 
 /// \return true if the text has an escape character, so that it may be in ISO-2022-JP.
@@ -39,11 +28,12 @@ bool MayBeShifted( std::string_view a_text );
 
 /// Decides about the lines of one card. The first rule that applies decides:
 ///
-/// 1. A line with an escape character and a known CHARSET whose name begins with `ISO-2022` is in that character set.
+/// 1. A line with an escape character and a known CHARSET that does not contain ASCII, such as ISO-2022-JP, is in that
+///    character set.
 /// 2. A line with an escape sequence of ISO-2022-JP (`ESC $ B` or `ESC $ @`) is in ISO-2022-JP.
 /// 3. If the whole card is valid UTF-8, so is each line, whatever its CHARSET says.
 /// 4. A line in ASCII is UTF-8.
-/// 5. A line with a known CHARSET is in that character set.
+/// 5. A line with a known CHARSET that contains ASCII is in that character set.
 /// 6. A line with more complete characters of UTF-8 than malformed bytes is UTF-8 that was damaged.
 /// 7. Any other line is in the card's character set. Without one, it is in the caller's default if that is known, or
 ///    else in UTF-8.

@@ -2,6 +2,7 @@
 
 #include "Text/Bytes.h"
 #include "Text/FileSignature.h"
+#include "Text/Utf8Encoding.h"
 
 #include <QChar>
 
@@ -188,28 +189,7 @@ void TextDecoder::EndUnits()
 
 void TextDecoder::Append( uint a_character )
 {
-    const auto tail = [a_character]( uint a_shift )
-    { return static_cast<char>( 0x80U | ( a_character >> a_shift & 0x3FU ) ); };
-    if ( a_character < 0x80 )
-        *m_end++ = static_cast<char>( a_character );
-    else if ( a_character < 0x800 )
-    {
-        *m_end++ = static_cast<char>( 0xC0U | a_character >> 6U );
-        *m_end++ = tail( 0 );
-    }
-    else if ( a_character < 0x10000 )
-    {
-        *m_end++ = static_cast<char>( 0xE0U | a_character >> 12U );
-        *m_end++ = tail( 6 );
-        *m_end++ = tail( 0 );
-    }
-    else
-    {
-        *m_end++ = static_cast<char>( 0xF0U | a_character >> 18U );
-        *m_end++ = tail( 12 );
-        *m_end++ = tail( 6 );
-        *m_end++ = tail( 0 );
-    }
+    m_end = WriteUtf8( a_character, m_end );
 }
 
 } // namespace PimManager::Contacts

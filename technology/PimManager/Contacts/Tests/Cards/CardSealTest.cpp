@@ -130,6 +130,8 @@ class FilteredCardTest : public ::testing::TestWithParam<FilterRow>
 INSTANTIATE_TEST_SUITE_P(
     Versions, CardSealTest,
     ::testing::Values(
+        SealRow{ "CharsetWithoutAsciiIsNotThatOfTheCard", Card( "FN:\xE9/NOTE;CHARSET=ISO-2022-JP:a/" ),
+                 "none removed whole other; lines 2; sets 10" },
         SealRow{ "Empty", Card( "" ), "none removed whole; lines 0; sets " },
         SealRow{ "NoVersion", Card( "FN:a/" ), "none removed whole; lines 1; sets 0" },
         SealRow{ "Version21", Card( "VERSION:2.1/" ), "2.1 kept whole; lines 1; sets 0" },

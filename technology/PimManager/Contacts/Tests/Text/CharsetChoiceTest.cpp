@@ -1,19 +1,10 @@
 #include "Text/CharsetChoice.h"
 
-#include "Text/Bytes.h"
-
-#include <QList>
-#include <QTextCodec>
-
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
 #include <ostream>
-#include <string>
 #include <string_view>
-#include <thread>
-#include <vector>
 
 namespace PimManager::Contacts
 {
@@ -25,94 +16,16 @@ using namespace std::string_view_literals;
 
 TEST( CharsetChoiceTest, CharsetIsKnown )
 {
-    static constexpr std::array s_kNames = {
-        "KOI8-R"sv,       "koi8-r"sv,      "ISO-8859-1"sv, "ISO-8859-15"sv,      "windows-1252"sv,
-        "WINDOWS-1251"sv, "windows1252"sv, "Shift_JIS"sv,  "shift-jis"sv,        "SHIFT_JIS"sv,
-        "ISO-2022-JP"sv,  "iso-2022-jp"sv, "EUC-JP"sv,     "GB18030"sv,          "Big5"sv,
-        "latin1"sv,       " KOI8-R"sv,     "KOI8-R\t "sv,  "\t ISO-8859-1 \t"sv,
-    };
+    static constexpr std::array s_kNames = { "KOI8-R"sv, "iso-8859-1"sv, "\t Shift_JIS "sv, "ISO-2022-JP"sv };
     for ( const std::string_view name : s_kNames )
         EXPECT_TRUE( IsKnownCharset( name ) ) << name;
 }
 
 TEST( CharsetChoiceTest, CharsetIsNotKnown )
 {
-    static constexpr std::array s_kNames = {
-        // Nothing, and names of no character set.
-        ""sv,
-        "  \t"sv,
-        "-"sv,
-        "()"sv,
-        "no-such-set"sv,
-        "x-unknown"sv,
-        "KOI8-RR"sv,
-        // Forms of Unicode and ASCII.
-        "UTF-8"sv,
-        "utf-8"sv,
-        "utf8"sv,
-        " UTF-8 "sv,
-        "UTF-16"sv,
-        "utf-16le"sv,
-        "UTF-16BE"sv,
-        "UTF-32"sv,
-        "UTF-32LE"sv,
-        "UTF-7"sv,
-        "ISO-10646-UCS-2"sv,
-        "US-ASCII"sv,
-        "ascii"sv,
-        "ANSI_X3.4-1968"sv,
-        // Other characters.
-        "KOI8\0-R"sv,
-        "KOI8-R\0"sv,
-        "KOI8,R"sv,
-        "../KOI8-R"sv,
-        "KOI8 R\n"sv,
-        "KOI8-\xD0\xAF"sv,
-        "\"KOI8-R\""sv,
-    };
+    static constexpr std::array s_kNames = { ""sv, "no-such-set"sv, "UTF-8"sv, " utf8 "sv, "US-ASCII"sv, "UTF-16"sv };
     for ( const std::string_view name : s_kNames )
         EXPECT_FALSE( IsKnownCharset( name ) ) << name;
-}
-
-TEST( CharsetChoiceTest, LongNameIsNotKnown )
-{
-    const std::string name = "KOI8-R";
-    const std::string dashes( 40 - name.size(), '-' );
-    EXPECT_TRUE( IsKnownCharset( name + dashes ) );
-    EXPECT_TRUE( IsKnownCharset( "  " + name + dashes + "  " ) );
-    EXPECT_FALSE( IsKnownCharset( name + dashes + '-' ) );
-    EXPECT_FALSE( IsKnownCharset( std::string( 1000000, 'x' ) ) );
-}
-
-TEST( CharsetChoiceTest, EveryListedNameFindsItsCodec )
-{
-    const QList<QByteArray> names = QTextCodec::availableCodecs();
-    int found = 0;
-    for ( const QByteArray& name : names )
-    {
-        QTextCodec* const codec = CodecOf( ViewOf( name ) );
-        if ( codec == nullptr )
-            continue;
-        ++found;
-        EXPECT_EQ( codec->name(), QTextCodec::codecForName( name )->name() ) << name.constData();
-        EXPECT_EQ( CodecOf( ViewOf( name ) ), codec ) << name.constData();
-        EXPECT_EQ( CodecOf( ViewOf( name.toUpper() ) ), codec ) << name.constData();
-        EXPECT_EQ( CodecOf( ViewOf( name.toLower() ) ), codec ) << name.constData();
-    }
-    EXPECT_GE( found, 20 );
-}
-
-TEST( CharsetChoiceTest, CodecIsFoundInSeveralThreads )
-{
-    std::array<QTextCodec*, 8> codecs{};
-    std::vector<std::thread> threads;
-    for ( QTextCodec*& codec : codecs )
-        threads.emplace_back( [&codec] { codec = CodecOf( "EUC-KR"sv ); } );
-    for ( std::thread& thread : threads )
-        thread.join();
-    EXPECT_EQ( codecs.front(), CodecOf( "EUC-KR"sv ) );
-    EXPECT_NE( codecs.front(), nullptr );
-    EXPECT_EQ( std::count( codecs.begin(), codecs.end(), codecs.front() ), 8 );
 }
 
 TEST( CharsetChoiceTest, EscapeCharacterIsFound )
@@ -209,6 +122,9 @@ TEST( CharsetChoiceTest, LineOfAnotherCardIsDecidedByItself )
         Row{ "an escape character in ASCII", card, "FN:\x1B[1mAnn"sv, ""sv, LineCharset::Utf8 },
         Row{ "a known set", card, "FN:J\xF6rg"sv, "ISO-8859-1"sv, LineCharset::Line },
         Row{ "a known set with blanks", card, "FN:J\xF6rg"sv, " iso-8859-1 "sv, LineCharset::Line },
+        Row{ "ISO-2022-JP without an escape character", card, "FN:J\xF6rg"sv, "ISO-2022-JP"sv, LineCharset::Card },
+        Row{ "ISO-2022-JP for valid UTF-8", card, "FN:J\xC3\xB6rg"sv, "ISO-2022-JP"sv, LineCharset::Utf8 },
+        Row{ "ISO-2022-JP for ASCII", card, "FN:Ann"sv, "ISO-2022-JP"sv, LineCharset::Utf8 },
         Row{ "a known set for valid UTF-8", card, "FN:J\xC3\xB6rg"sv, "ISO-8859-1"sv, LineCharset::Line },
         Row{ "valid UTF-8", card, "FN:J\xC3\xB6rg"sv, ""sv, LineCharset::Utf8 },
         Row{ "valid UTF-8 that is named", card, "FN:J\xC3\xB6rg"sv, "UTF-8"sv, LineCharset::Utf8 },

@@ -83,7 +83,7 @@ public:
     bool AreMediaWanted() const;
     void SetMediaWanted( bool a_areWanted );
 
-    /// The character set of text that is not UTF-8 and names none, by a name that QTextCodec knows. Default:
+    /// The character set of text that is not UTF-8 and names none, by a label such as `windows-1252`. Default:
     /// `windows-1252`. With `UTF-8` or an unknown name such text is read as UTF-8, and malformed bytes become U+FFFD
     /// when they are decoded.
     QByteArray DefaultCharset() const;

@@ -163,8 +163,8 @@ CardBoundary CardBoundary::Of( std::string_view a_line )
         FillParts( boundary, a_line, text, head );
     else if ( boundary.m_kind == Kind::AgentBegin )
     {
-        // Before the name of a property only blanks are passed over.
-        if ( TrimmedLeft( a_line ).data() != text.data() )
+        // Before the name of a property only byte order marks and then blanks are passed over.
+        if ( TrimmedLeft( a_line.substr( LengthOfMarks( a_line ) ) ).data() != text.data() )
             return CardBoundary();
         const std::string_view value = WithoutPaddingLeft( text.substr( head.m_valueBegin ) );
         boundary.m_beginPlace = static_cast<quint32>( value.data() - a_line.data() );

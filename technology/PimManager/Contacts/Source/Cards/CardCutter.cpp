@@ -219,16 +219,9 @@ void CardCutter::TakeOutside( const Line& a_line )
 void CardCutter::TakeBeginOutside( const Line& a_line )
 {
     EndTextOutside();
-    const std::string_view text = TextOf( a_line );
-    size_t marks = 0;
-    while ( text.substr( marks, s_kByteOrderMark.size() ) == s_kByteOrderMark )
-        marks += s_kByteOrderMark.size();
+    const size_t marks = LengthOfMarks( TextOf( a_line ) );
     if ( marks > 0 )
-    {
-        m_ledger.Report( Code::StrayByteOrderMark, 0, PlaceOf( a_line ),
-                         static_cast<qint64>( marks / s_kByteOrderMark.size() ) );
-        m_ledger.Add( Extent::Mark, text.substr( 0, marks ), 0 );
-    }
+        TellMarks( a_line, marks );
     BeginCard( marks == 0 ? a_line : Part( a_line, static_cast<qint64>( marks ), a_line.m_length ), true );
 }
 
@@ -254,8 +247,24 @@ void CardCutter::TakeEndOutside( const Line& a_line )
     m_scanner.Release( a_line.End() );
 }
 
+void CardCutter::TellMarks( const Line& a_line, size_t a_marks )
+{
+    m_ledger.Report( Code::StrayByteOrderMark, 0, PlaceOf( a_line ),
+                     static_cast<qint64>( a_marks / s_kByteOrderMark.size() ) );
+    m_ledger.Add( Extent::Mark, TextOf( a_line ).substr( 0, a_marks ), 0 );
+}
+
 void CardCutter::AddOutside( const Line& a_line )
 {
+    // A line of byte order marks alone is not text.
+    const size_t marks = IsLong( a_line ) ? 0 : LengthOfMarks( TextOf( a_line ) );
+    if ( marks > 0 && IsWhiteSpace( TextOf( a_line ).substr( marks ) ) )
+    {
+        EndTextOutside();
+        TellMarks( a_line, marks );
+        AddPieces( Extent::Blank, Part( a_line, static_cast<qint64>( marks ), a_line.m_length ), m_mostCardBytes, 0 );
+        return;
+    }
     const bool isBlank = !IsLong( a_line ) && IsWhiteSpace( TextOf( a_line ) );
     if ( !isBlank && !a_line.m_isLong && m_outsideLines++ == 0 )
         m_outsideBegin = PlaceOf( a_line );
@@ -379,7 +388,7 @@ void CardCutter::TakeInside( const Line& a_line )
     }
     const CardBoundary boundary = CardBoundary::Of( TextOf( a_line ) );
     const bool isBoundary = boundary.m_kind != Kind::None;
-    if ( isBoundary && IsFold( a_line ) )
+    if ( isBoundary && IsFold( a_line, boundary.m_kind ) )
         NoteFold( a_line, boundary.m_kind );
     else if ( isBoundary && !( boundary.m_kind == Kind::AgentBegin && !MayHoldCard( a_line ) ) )
         TakeBoundary( a_line, boundary );
@@ -396,9 +405,12 @@ bool CardCutter::MayHoldCard( const Line& a_line )
     return !m_card.m_knowledge.m_isFlatAgent && !( isIndented && m_absorbedDepth == 0 && Lines().MayFold() );
 }
 
-// The words of a boundary, indented behind a line that is not: the line before continues with them.
-bool CardCutter::IsFold( const Line& a_line ) const
+// The words of a boundary, indented behind a line that is not: the line before continues with them. Text that is held
+// outside cards does not continue with BEGIN.
+bool CardCutter::IsFold( const Line& a_line, Kind a_kind ) const
 {
+    if ( !m_card.m_hasBegin && ( a_kind == Kind::Begin || a_kind == Kind::EndAndBegin ) )
+        return false;
     return m_depth == 0 && m_absorbedDepth == 0 && IsBlank( TextOf( a_line ).front() ) && m_card.m_indentation == 0 &&
            m_frames.front()->m_lines.MayFold();
 }

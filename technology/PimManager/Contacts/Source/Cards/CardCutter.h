@@ -150,6 +150,7 @@ private:
     void BeginFromPlainCard();
     void TakeOutside( const Line& a_line );
     void TakeEndOutside( const Line& a_line );
+    void TellMarks( const Line& a_line, size_t a_marks );
     void AddOutside( const Line& a_line );
     void AddPieces( PimContactExtentKind a_kind, const Line& a_line, qint64 a_longest, qint64 a_card );
     void EndTextOutside();
@@ -165,7 +166,7 @@ private:
     bool TakeContent( const Line& a_line );
     bool CheckIndentation( const Line& a_line );
     bool MayHoldCard( const Line& a_line );
-    bool IsFold( const Line& a_line ) const;
+    bool IsFold( const Line& a_line, Kind a_kind ) const;
     void NoteFold( const Line& a_line, Kind a_kind );
     bool IsOverLimit( const Line& a_line ) const;
     void TakeOverLimit( const Line& a_line );

@@ -164,7 +164,11 @@ void LogicalLines::Take( const CardLine& a_line )
     if ( TakeBehindEquals( a_line, isIndented && MayFold() ) )
         return;
     if ( isIndented && MayFold() )
+    {
+        if ( m_candidate->m_isOpen && IsFoldOfData( text ) )
+            Settle();
         TakeFold( m_candidate->m_isOpen ? *m_candidate : *m_current, a_line );
+    }
     else if ( !IsWhiteSpace( text ) )
     {
         Settle();
@@ -174,14 +178,8 @@ void LogicalLines::Take( const CardLine& a_line )
 
 void LogicalLines::Start( const CardLine& a_line )
 {
-    quint32 marks = 0;
-    std::string_view text = View( a_line.m_begin, a_line.m_textEnd );
-    if ( a_line.m_isWide )
-    {
-        for ( ; text.substr( marks, s_kByteOrderMark.size() ) == s_kByteOrderMark; )
-            marks += static_cast<quint32>( s_kByteOrderMark.size() );
-    }
-    m_candidate->Begin( a_line, marks, m_emptyLines );
+    const size_t marks = a_line.m_isWide ? LengthOfMarks( View( a_line.m_begin, a_line.m_textEnd ) ) : 0;
+    m_candidate->Begin( a_line, static_cast<quint32>( marks ), m_emptyLines );
     m_emptyLines = 0;
 }
 
@@ -378,6 +376,18 @@ bool LogicalLines::IsCandidateData() const
 {
     const std::string_view text = Trimmed( TextOf( *m_candidate ) );
     return m_current->m_isOpen && HoldsBase64() && IsBase64( text ) && text.size() % s_kBase64Group == 0;
+}
+
+// BASE64 goes on without indentation, and then with it.
+bool LogicalLines::IsFoldOfData( std::string_view a_text )
+{
+    OpenLine& line = *m_candidate;
+    if ( !m_current->m_isOpen || line.m_hasFolds || !HoldsBase64() || !IsBase64( Trimmed( TextOf( line ) ) ) ||
+         !( IsWhiteSpace( a_text ) || IsBase64( Trimmed( a_text ) ) ) )
+        return false;
+    if ( !line.m_isHeadRead )
+        ReadHead( line );
+    return !IsCandidateProperty();
 }
 
 // The line before has the length of a folded line, and the blank that would say so is missing.

@@ -172,6 +172,7 @@ private:
     LineLooks LooksOfCandidate() const;
     bool MayJoin() const;
     bool MayJoinComment() const;
+    bool IsFoldOfData( std::string_view a_text );
     bool IsLostFold() const;
     bool HoldsBase64() const;
     bool IsFoldBehindEmptyLine( quint32 a_blanks ) const;

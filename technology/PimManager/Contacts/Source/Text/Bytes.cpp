@@ -46,6 +46,14 @@ std::string_view Trimmed( std::string_view a_text )
     return TrimmedRight( TrimmedLeft( a_text ) );
 }
 
+size_t LengthOfMarks( std::string_view a_text )
+{
+    size_t length = 0;
+    while ( a_text.substr( length, s_kByteOrderMark.size() ) == s_kByteOrderMark )
+        length += s_kByteOrderMark.size();
+    return length;
+}
+
 bool EndsWith( std::string_view a_text, std::string_view a_end )
 {
     return a_text.size() >= a_end.size() && a_text.substr( a_text.size() - a_end.size() ) == a_end;

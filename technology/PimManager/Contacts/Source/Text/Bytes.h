@@ -68,6 +68,9 @@ std::string_view TrimmedLeft( std::string_view a_text );
 std::string_view TrimmedRight( std::string_view a_text );
 std::string_view Trimmed( std::string_view a_text );
 
+/// \return the length of the byte order marks at the start.
+size_t LengthOfMarks( std::string_view a_text );
+
 bool EndsWith( std::string_view a_text, std::string_view a_end );
 
 inline std::string_view ViewOf( const QByteArray& a_bytes )

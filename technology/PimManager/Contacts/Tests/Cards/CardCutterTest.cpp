@@ -136,6 +136,26 @@ INSTANTIATE_TEST_SUITE_P(
                 "" },
         CutRow{ "EndAndBeginOnOneLine", s_kBegin + "FN:a/END:VCARD" + Card( "FN:b/" ),
                 "0 " + s_kBegin + "FN:a/END:VCARD; 26 " + Card( "FN:b/" ) + "; ", "", "" },
+        CutRow{ "IndentedBeginBehindAProperty", "NOTE:see/ BEGIN:VCARD/ FN:a/ END:VCARD/Regards/",
+                "9 " + std::string( " BEGIN:VCARD/ FN:a/ END:VCARD/; " ), "outside NOTE:see/; outside Regards/; ",
+                "text-outside 1; indented-card 2; text-outside 5; " },
+        CutRow{ "IndentedBeginBehindAPropertyWithoutEnd", "N:a/ BEGIN:VCARD/FN:b/TEL:1/",
+                "4 " + std::string( " BEGIN:VCARD/FN:b/TEL:1/; " ), "outside N:a/; ",
+                "text-outside 1; boundary-line 2; end-of-file 5; " },
+        CutRow{ "IndentedEndAndBeginBehindAProperty", "FN:a/ END:VCARDBEGIN:VCARD/FN:b/END:VCARD/",
+                "0 FN:a/ END:VCARD; 15 BEGIN:VCARD/FN:b/END:VCARD/; ", "", "missing-begin 1; boundary-line 2; " },
+        CutRow{ "ByteOrderMarkBeforeAnAgent",
+                Card( "\xEF\xBB\xBF"
+                      "AGENT:BEGIN:VCARD/FN:a/END:VCARD/FN:b/" ),
+                "0 " +
+                    Card( "\xEF\xBB\xBF"
+                          "AGENT:BEGIN:VCARD/FN:a/END:VCARD/FN:b/" ) +
+                    "; ",
+                "mark \xEF\xBB\xBF; ", "stray-byte-order-mark 2; " },
+        CutRow{ "LineOfByteOrderMarks", Card( "FN:a/" ) + "more/\xEF\xBB\xBF\xEF\xBB\xBF /" + Card( "FN:b/" ),
+                "0 " + Card( "FN:a/" ) + "; 40 " + Card( "FN:b/" ) + "; ",
+                "outside more/; mark \xEF\xBB\xBF\xEF\xBB\xBF; blank  /; ",
+                "text-outside 4; stray-byte-order-mark 5; " },
         CutRow{ "TextInTheCard", Card( "TEL:1/garbage/" ), "0 " + Card( "TEL:1/garbage/" ) + "; ", "dropped garbage/; ",
                 "not-a-property 3; " },
         CutRow{ "TextBehindEnd", s_kBegin + "FN:a/END:VCARD, all/", "0 " + s_kBegin + "FN:a/END:VCARD, all/; ",

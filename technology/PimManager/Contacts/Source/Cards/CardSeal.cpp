@@ -1,6 +1,7 @@
 #include "Cards/CardSeal.h"
 
 #include "Lines/LinePieces.h"
+#include "Lines/NamedCharset.h"
 #include "Text/Bytes.h"
 #include "Text/Charset.h"
 #include "Text/CharsetChoice.h"
@@ -73,7 +74,7 @@ public:
             {
                 const QByteArray text = TextOf( entries );
                 const LineHead head = LineHead::Of( ViewOf( text ) );
-                entries.Entry().m_charset = choice.Of( ViewOf( text ), head.m_charset.In( ViewOf( text ) ) );
+                entries.Entry().m_charset = choice.Of( ViewOf( text ), NamedCharset( head, ViewOf( text ) ) );
                 writer.Add( entries.Entry() );
             }
             else
@@ -97,7 +98,7 @@ private:
         {
             if ( !entries.IsLine() && entries.Entry().m_kind != EntryKind::Filtered )
                 continue;
-            const std::string_view charset = LineHead::Of( entries.Line() ).m_charset.In( entries.Line() );
+            const std::string_view charset = NamedCharset( LineHead::Of( entries.Line() ), entries.Line() );
             if ( IsKnownCharset( charset ) && Charset::Of( charset ).ContainsAscii() )
                 return charset;
         }

@@ -1,7 +1,7 @@
 #include <PimManager/Contacts/PimContactLine.h>
 
-#include "Cards/CardRecord.h"
-#include "Lines/LinePieces.h"
+#include "Cards/LineView.h"
+#include "Lines/NamedCharset.h"
 #include "Text/Bytes.h"
 
 #include <PimManager/Contacts/PimContactCard.h>
@@ -9,64 +9,25 @@
 namespace PimManager::Contacts
 {
 
-/// A line of a card, decoded.
-class PimContactCardPrivate::LineView
+namespace
 {
-public:
-    explicit LineView( const PimContactLine& a_line ) :
-        m_line( a_line )
-    {
-        if ( a_line.IsNull() )
-            return;
-        m_record = CardRecord::At( a_line.d->Index() + a_line.m_record );
-        Reader().Next( m_entry );
-        m_bytes = a_line.d->Bytes().substr( a_line.m_begin, m_entry.m_length );
-        m_text = WithoutLineEnd( m_bytes );
-    }
 
-    const IndexEntry& Entry() const { return m_entry; }
-    const CardRecord& Record() const { return m_record; }
-    std::string_view Bytes() const { return m_bytes; }
-    std::string_view Text() const { return m_text; }
+IndexedLine Indexed( const PimContactLine& a_line )
+{
+    return PimContactCardPrivate::LineView::LineOf( a_line );
+}
 
-    QByteArray Part( ByteRange a_range ) const { return Unfolded( m_text, m_entry, m_record.FoldStyle(), a_range ); }
+QByteArray PartOf( const IndexedLine& a_line, ByteRange a_range )
+{
+    return Unfolded( a_line.m_text, a_line.m_entry, a_line.m_card.m_record.FoldStyle(), a_range );
+}
 
-    ByteRange ValueRange() const
-    {
-        const auto length = static_cast<quint32>( m_text.size() );
-        const quint32 begin = std::min( m_entry.m_valueBegin, length );
-        return { begin, length - begin };
-    }
+ByteRange AllOf( const IndexedLine& a_line )
+{
+    return { 0, static_cast<quint32>( a_line.m_text.size() ) };
+}
 
-    // The entry of the card that follows the line; blank lines may be in between.
-    bool FindNested( IndexEntry& a_nested ) const
-    {
-        IndexEntry skipped;
-        IndexReader reader = Reader();
-        reader.Next( skipped, true );
-        do
-        {
-            if ( reader.AtEnd() )
-                return false;
-            reader.Next( a_nested, true );
-        } while ( a_nested.m_kind == EntryKind::Blank );
-        return a_nested.m_kind == EntryKind::Nested;
-    }
-
-private:
-    IndexReader Reader() const
-    {
-        IndexReader reader = EntriesOf( m_line.d->Index(), m_line.m_record );
-        reader.StepTo( m_line.m_entry );
-        return reader;
-    }
-
-    const PimContactLine& m_line;
-    CardRecord m_record;
-    IndexEntry m_entry;
-    std::string_view m_bytes;
-    std::string_view m_text;
-};
+} // namespace
 
 // Goes to the first property at or behind a place.
 void PimContactCardPrivate::FindLine( PimContactLine& a_line )
@@ -128,61 +89,63 @@ bool PimContactLine::IsNull() const
 
 QByteArray PimContactLine::Bytes() const
 {
-    const PimContactCardPrivate::LineView view( *this );
     const PimContactCard nested = NestedCard();
     if ( nested.IsNull() )
-        return BytesOf( view.Bytes() );
+        return BytesOf( Indexed( *this ).m_bytes );
     const CardRecord record = PimContactCardPrivate::RecordOf( nested );
     return BytesOf( d->Bytes().substr( m_begin, record.m_begin + record.m_length - m_begin ) );
 }
 
 QByteArray PimContactLine::Group() const
 {
-    const PimContactCardPrivate::LineView view( *this );
-    return view.Part( view.Entry().m_group );
+    const IndexedLine line = Indexed( *this );
+    return PartOf( line, line.m_entry.m_group );
 }
 
 QByteArray PimContactLine::Name() const
 {
-    const PimContactCardPrivate::LineView view( *this );
-    return view.Part( view.Entry().m_name );
+    const IndexedLine line = Indexed( *this );
+    return PartOf( line, line.m_entry.m_name );
 }
 
 QList<QByteArray> PimContactLine::Parameters() const
 {
-    const PimContactCardPrivate::LineView view( *this );
-    const QByteArray text = view.Part( view.Entry().m_parameters );
+    const IndexedLine line = Indexed( *this );
+    const QByteArray text = PartOf( line, line.m_entry.m_parameters );
     QList<QByteArray> parameters;
     ParameterSplitter splitter( ViewOf( text ) );
     for ( std::string_view parameter; splitter.Next( parameter ); )
-        parameters.append( BytesOf( parameter ) );
+    {
+        if ( !parameter.empty() )
+            parameters.append( BytesOf( parameter ) );
+    }
     return parameters;
 }
 
 QByteArray PimContactLine::Value() const
 {
-    const PimContactCardPrivate::LineView view( *this );
-    return view.Part( view.ValueRange() );
+    const IndexedLine line = Indexed( *this );
+    return PartOf( line, line.ValueRange() );
 }
 
 PimContactEncoding PimContactLine::Encoding() const
 {
-    return PimContactCardPrivate::LineView( *this ).Entry().m_encoding;
+    return Indexed( *this ).m_entry.m_encoding;
 }
 
 QByteArray PimContactLine::Charset() const
 {
-    const PimContactCardPrivate::LineView view( *this );
-    switch ( view.Entry().m_charset )
+    const IndexedLine line = Indexed( *this );
+    switch ( line.m_entry.m_charset )
     {
     case LineCharset::Default:
         return d->m_origin.m_defaultCharset;
     case LineCharset::Card:
-        return BytesOf( CharsetOf( d->Index(), m_record ) );
+        return BytesOf( line.m_card.Charset() );
     case LineCharset::Line:
     {
-        const QByteArray text = view.Part( { 0, static_cast<quint32>( view.Text().size() ) } );
-        return BytesOf( LineHead::Of( ViewOf( text ) ).m_charset.In( ViewOf( text ) ) );
+        const QByteArray text = PartOf( line, AllOf( line ) );
+        return BytesOf( NamedCharset( LineHead::Of( ViewOf( text ) ), ViewOf( text ) ) );
     }
     case LineCharset::Iso2022Jp:
         return QByteArrayLiteral( "ISO-2022-JP" );
@@ -195,18 +158,17 @@ PimContactOddities PimContactLine::Oddities() const
 {
     if ( IsNull() )
         return {};
-    const PimContactCardPrivate::LineView view( *this );
-    PimContactOddities oddities = view.Entry().m_oddities;
-    oddities.setFlag( PimContactOddity::MissingColon, !view.Entry().m_hasColon );
+    const IndexedLine line = Indexed( *this );
+    PimContactOddities oddities = line.m_entry.m_oddities;
+    oddities.setFlag( PimContactOddity::MissingColon, !line.m_entry.m_hasColon );
     return oddities;
 }
 
 QList<PimContactJoin> PimContactLine::Joins() const
 {
-    const PimContactCardPrivate::LineView view( *this );
+    const IndexedLine line = Indexed( *this );
     QList<PimContactJoin> joins;
-    LinePieces pieces( view.Text(), view.Entry(), view.Record().FoldStyle(),
-                       { 0, static_cast<quint32>( view.Text().size() ) } );
+    LinePieces pieces = line.Pieces( AllOf( line ) );
     pieces.Next();
     while ( pieces.Next() )
         joins.append( pieces.Join() );
@@ -215,13 +177,13 @@ QList<PimContactJoin> PimContactLine::Joins() const
 
 qint64 PimContactLine::OffsetInCard() const
 {
-    return m_begin - PimContactCardPrivate::LineView( *this ).Record().m_begin;
+    return m_begin - Indexed( *this ).m_card.m_record.m_begin;
 }
 
 PimContactCard PimContactLine::NestedCard() const
 {
     IndexEntry nested;
-    if ( IsNull() || !PimContactCardPrivate::LineView( *this ).FindNested( nested ) )
+    if ( !PimContactCardPrivate::LineView::FindNested( *this, nested ) )
         return PimContactCard();
     return PimContactCardPrivate::CardAt( d.data(), nested.m_indexBegin );
 }

@@ -5,11 +5,9 @@
 namespace PimManager::Contacts
 {
 
-quint32 ReadNumber( const uchar*& a_place )
+quint32 ReadLongNumber( const uchar*& a_place )
 {
     uint byte = *a_place++;
-    if ( byte < s_kNumberContinues )
-        return byte;
     quint32 number = byte & ~s_kNumberContinues;
     for ( uint shift = s_kBitsOfNumberByte; byte >= s_kNumberContinues; shift += s_kBitsOfNumberByte )
     {

@@ -31,8 +31,14 @@ inline uchar* WriteNumber( uchar* a_place, quint32 a_number )
     return a_place + 1;
 }
 
+/// Reads a number of which the first byte says that more follow, and steps behind it.
+quint32 ReadLongNumber( const uchar*& a_place );
+
 /// Reads a number and steps behind it.
-quint32 ReadNumber( const uchar*& a_place );
+inline quint32 ReadNumber( const uchar*& a_place )
+{
+    return *a_place < s_kNumberContinues ? *a_place++ : ReadLongNumber( a_place );
+}
 
 /// A growing run of bytes. It keeps its memory when it is cleared.
 class IndexBuffer

@@ -363,24 +363,6 @@ bool IsWord( std::string_view a_text, std::string_view a_capitals )
     return a_text == a_capitals || IsSameWord( a_text, a_capitals );
 }
 
-PimContactEncoding EncodingOfWord( std::string_view a_word )
-{
-    const std::string_view word = Unquoted( a_word );
-    switch ( word.size() )
-    {
-    case 1:
-        return Upper( word.front() ) == 'B' ? PimContactEncoding::Base64 : PimContactEncoding::None;
-    case 6:
-        return IsWord( word, "BASE64" ) ? PimContactEncoding::Base64 : PimContactEncoding::None;
-    case 15:
-        return IsWord( word, "QUOTEDPRINTABLE" ) ? PimContactEncoding::QuotedPrintable : PimContactEncoding::None;
-    case 16:
-        return IsWord( word, "QUOTED-PRINTABLE" ) ? PimContactEncoding::QuotedPrintable : PimContactEncoding::None;
-    default:
-        return PimContactEncoding::None;
-    }
-}
-
 // Without a call, so that LineHead::Of() has none for most lines.
 inline bool IsBoundaryName( std::string_view a_name )
 {
@@ -528,7 +510,7 @@ void HeadReader::NoteParameter( const Parameter& a_parameter )
     {
         if ( value.empty() )
             return;
-        NoteEncoding( EncodingOfWord( value ) );
+        NoteEncoding( EncodingOf( value ) );
         m_head.m_hasWordsForParameters = m_head.m_hasWordsForParameters || ContainsBlank( value );
     }
     else if ( name.size() == 8 && IsWord( name, "ENCODING" ) )
@@ -550,7 +532,7 @@ void HeadReader::NoteEncoding( PimContactEncoding a_encoding )
 // A list may contain encodings.
 void HeadReader::NoteEncodings( std::string_view a_value )
 {
-    const PimContactEncoding encoding = EncodingOfWord( a_value );
+    const PimContactEncoding encoding = EncodingOf( a_value );
     if ( encoding != PimContactEncoding::None )
         return NoteEncoding( encoding );
     if ( ContainsWord( a_value, "QUOTED-PRINTABLE" ) )
@@ -559,11 +541,11 @@ void HeadReader::NoteEncodings( std::string_view a_value )
         NoteEncoding( PimContactEncoding::Base64 );
 }
 
-// BASE64, B, QUOTED-PRINTABLE and QUOTEDPRINTABLE alone, and parameters ENCODING and CHARSET, by their first letter.
+// An encoding alone, and the parameters ENCODING and CHARSET, by their first letter.
 inline bool MayTellEncoding( char a_first, bool a_isBare )
 {
     const char first = Upper( a_first );
-    return a_isBare ? first == 'B' || first == 'Q' : first == 'E' || first == 'C';
+    return a_isBare ? first == 'B' || first == 'Q' || first == 'X' : first == 'E' || first == 'C';
 }
 
 // Without a call for most lines.
@@ -642,6 +624,26 @@ LineLooks LooksWithoutColon( std::string_view a_name )
 }
 
 } // namespace
+
+PimContactEncoding EncodingOf( std::string_view a_word )
+{
+    const std::string_view word = Unquoted( a_word );
+    switch ( word.size() )
+    {
+    case 1:
+        return Upper( word.front() ) == 'B' ? PimContactEncoding::Base64 : PimContactEncoding::None;
+    case 6:
+        return IsWord( word, "BASE64" ) ? PimContactEncoding::Base64 : PimContactEncoding::None;
+    case 15:
+        return IsWord( word, "QUOTEDPRINTABLE" ) ? PimContactEncoding::QuotedPrintable : PimContactEncoding::None;
+    case 16:
+        return IsWord( word, "QUOTED-PRINTABLE" ) ? PimContactEncoding::QuotedPrintable : PimContactEncoding::None;
+    case 18:
+        return IsWord( word, "X-QUOTED-PRINTABLE" ) ? PimContactEncoding::QuotedPrintable : PimContactEncoding::None;
+    default:
+        return PimContactEncoding::None;
+    }
+}
 
 bool LineHead::Read( std::string_view a_line )
 {

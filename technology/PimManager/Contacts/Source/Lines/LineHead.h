@@ -47,7 +47,7 @@ struct LineHead
     bool m_hasColon = false;
     /// A bare parameter contains a blank, such as `and so on` in `Third; and so on: text`.
     bool m_hasWordsForParameters = false;
-    /// By the first parameter that names one: ENCODING, also with a list, or a bare word.
+    /// By the first parameter that names one: ENCODING, also with a list, or a bare word; see EncodingOf().
     PimContactEncoding m_encoding = PimContactEncoding::None;
     /// The value of the first CHARSET parameter without quotes; empty without one.
     ByteRange m_charset;
@@ -75,6 +75,11 @@ struct LineHead
     /// \return true if the line is surely a property without oddities; false if the head must be looked at.
     bool Read( std::string_view a_line );
 };
+
+/// \param a_word the value of an ENCODING parameter, or a bare parameter; may be in quotes.
+/// \return the encoding that it names in any letter case: `QUOTED-PRINTABLE`, also without the hyphen or with `X-`
+///         before it, `BASE64` or `B`.
+PimContactEncoding EncodingOf( std::string_view a_word );
 
 /// What a line looks like, taken alone.
 enum class LineLooks

@@ -234,7 +234,7 @@ uchar* IndexWriter::WriteExtras( uchar* a_place, const IndexEntry& a_entry, uint
     return a_entry.m_joins.m_size > 0 ? WriteNumber( place, a_entry.m_joins.m_size ) : place;
 }
 
-quint32 IndexReader::Number()
+inline quint32 IndexReader::Number()
 {
     const uchar* place = m_base + m_place;
     const quint32 number = ReadNumber( place );

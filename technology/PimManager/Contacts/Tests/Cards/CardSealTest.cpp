@@ -130,6 +130,8 @@ class FilteredCardTest : public ::testing::TestWithParam<FilterRow>
 INSTANTIATE_TEST_SUITE_P(
     Versions, CardSealTest,
     ::testing::Values(
+        SealRow{ "BareWordIsACharset", Card( "FN;HOME;SHIFT_JIS:\x83\x5C/NOTE:\xE9/" ),
+                 "none removed whole other; lines 2; sets 32; card SHIFT_JIS" },
         SealRow{ "CharsetWithoutAsciiIsNotThatOfTheCard", Card( "FN:\xE9/NOTE;CHARSET=ISO-2022-JP:a/" ),
                  "none removed whole other; lines 2; sets 10" },
         SealRow{ "Empty", Card( "" ), "none removed whole; lines 0; sets " },

@@ -3,19 +3,24 @@
 ///
 /// \code
 /// for ( const PimContactLine& line : card ) {
-///     if ( line.Name().compare( "NOTE", Qt::CaseInsensitive ) == 0 && line.Encoding() == PimContactEncoding::None )
-///         qInfo() << line.Charset() << line.Value();
+///     if ( line.IsNamed( QLatin1String( "TEL" ) ) )
+///         qInfo() << line.Types() << line.Text();
 /// }
 /// \endcode
 
 #pragma once
 
+#include <PimManager/Contacts/PimContactBinary.h>
+#include <PimManager/Contacts/PimContactDecoding.h>
 #include <PimManager/Contacts/PimContactExport.h>
 
 #include <QByteArray>
 #include <QExplicitlySharedDataPointer>
 #include <QFlags>
+#include <QLatin1String>
 #include <QList>
+#include <QString>
+#include <QStringList>
 #include <QtGlobal>
 
 namespace PimManager::Contacts
@@ -60,9 +65,32 @@ enum class PimContactJoin
     SoftBreakAndBlank, ///< the same, and one blank that follows goes too
 };
 
+/// What a value is, by the name of its property and the version of its card.
+enum class PimContactValueKind
+{
+    Text,       ///< one text
+    List,       ///< texts between commas: NICKNAME and CATEGORIES
+    Components, ///< texts between semicolons: N, ADR, ORG, in 3.0 GEO, and in 4.0 GENDER and CLIENTPIDMAP
+    Binary,     ///< bytes, see PimContactLine::Binary()
+};
+
 /// A property of a card: where its parts are, and how to read them. It shares the memory of its card and stays valid
-/// when the card is gone. All texts are bytes in the character set of the line, as they were written: continuation
-/// lines are joined, but no escape, no QUOTED-PRINTABLE or BASE64 text and no character is decoded.
+/// when the card is gone.
+///
+/// Functions that return bytes return them as they were written, in the character set of the line: continuation lines
+/// are joined, but no escape, no QUOTED-PRINTABLE or BASE64 text and no character is decoded. Functions that return a
+/// QString or a list of them decode. They do so in this order:
+///
+/// 1. Continuation lines are joined.
+/// 2. QUOTED-PRINTABLE is decoded; an encoded CR LF becomes a line feed.
+/// 3. The character set is decoded. QUOTED-PRINTABLE text is in that of the CHARSET parameter, or else in UTF-8 if it is
+///    valid, or else in the caller's default.
+/// 4. The value is split at its semicolons or commas.
+/// 5. Escapes are removed: `\n` and `\N` become a line feed, and a backslash before a backslash, comma, semicolon,
+///    colon, quote or apostrophe is removed. Any other backslash is kept.
+///
+/// A byte that was written as QUOTED-PRINTABLE, or that is a part of another character, neither splits a value nor
+/// begins an escape. The rules are the same for all versions. A card without a version is read as 3.0.
 ///
 /// Each function is linear in the length of the line at most. Const functions may run in several threads at once.
 class PIMCONTACT_EXPORT PimContactLine
@@ -88,9 +116,8 @@ public:
     /// \return the name in the letter case in which it was written, without blanks round it; never empty.
     QByteArray Name() const;
 
-    /// \return what is between the semicolons before the colon, one element for each parameter, such as
-    /// `TYPE=home,work`
-    ///         or `HOME`. Blanks round it are removed; quotes are kept.
+    /// \return what is between the semicolons before the colon, one element for each parameter. Examples are
+    ///         `TYPE=home,work` and `HOME`. Blanks round it are removed; quotes are kept. Empty parameters are left out.
     QList<QByteArray> Parameters() const;
 
     /// \return the value, continuation lines joined. Empty for a line that holds a nested card on the next lines.
@@ -103,6 +130,61 @@ public:
     ///         the card or the caller gave. Never empty. The character set of QUOTED-PRINTABLE text is that of the
     ///         CHARSET parameter and is not returned here.
     QByteArray Charset() const;
+
+    /// \return true if this is the name of the property, in any letter case. Nothing is copied.
+    /// \param a_name in ASCII, such as `TEL`.
+    bool IsNamed( QLatin1String a_name ) const;
+
+    /// \return the names of the parameters in capitals, each once. A value without a name has one of the names that
+    ///         Parameter() explains.
+    QStringList ParameterNames() const;
+
+    /// \return the values of a parameter, those of a list and of repeated parameters one after the other; empty without
+    ///         the parameter. Quotes are removed.
+    ///
+    /// - A bare word such as `HOME` is a TYPE. Encodings such as `QUOTED-PRINTABLE` are an ENCODING, `INLINE`, `URL`,
+    ///   `CID` and `CONTENT-ID` a VALUE, and a known character set such as `SHIFT_JIS` a CHARSET.
+    /// - An unknown parameter with an empty value, such as `CELL=`, is a TYPE too.
+    /// - In a list, the name may be repeated: `TYPE=HOME,TYPE=VOICE` has the values HOME and VOICE.
+    /// - A comma in quotes does not delimit, except in TYPE: `TYPE="home,voice"` has two values.
+    /// - In versions 3.0 and 4.0, `^n`, `^'` and `^^` become a line feed, a quote and a caret (RFC 6868). In version 2.1
+    ///   a caret is text.
+    /// - In LABEL, the escapes of values are removed as well (RFC 6350, section 6.3.1).
+    ///
+    /// \param a_name in ASCII and in any letter case, such as `TYPE`.
+    QStringList Parameter( QLatin1String a_name ) const;
+
+    /// \return the values of TYPE in the letter case in which they were written.
+    QStringList Types() const;
+
+    /// What the value is.
+    PimContactValueKind Kind() const;
+
+    /// \return the value by its kind: the elements of a List, the components of Components, and otherwise one text.
+    ///         Never empty.
+    QStringList Values() const;
+
+    /// \return the whole value as one text, whatever semicolons and commas are in it. The text of a BASE64 value is the
+    ///         BASE64.
+    QString Text() const;
+
+    /// \return the value split at its commas. An empty value has one empty element. Example: `a\,b,c` has two elements.
+    QStringList List() const;
+
+    /// \return the value split at its semicolons; commas are text. An empty value has one empty component.
+    QStringList Components() const;
+
+    /// \return the components, each split at its commas if the standard says that it is a list: in N and ADR of 3.0 and
+    ///         4.0 (RFC 2426, sections 3.1.2 and 3.2.1; RFC 6350, sections 6.2.2 and 6.3.1). Any other component has
+    ///         one element.
+    QList<QStringList> ComponentLists() const;
+
+    /// \return the bytes of a value that is BASE64 or a `data:` URI; null if the value is neither. In PHOTO, LOGO,
+    ///         SOUND and KEY, a value that does not say so is BASE64 too if it begins like a picture, sound or key.
+    PimContactBinary Binary() const;
+
+    /// \return what is found when the value is decoded. Decodes it.
+    PimContactDecoding Decoding() const;
 
     /// What is unusual about the line.
     PimContactOddities Oddities() const;

@@ -1,0 +1,94 @@
+#include "Cards/LineView.h"
+
+#include "Text/Bytes.h"
+
+namespace PimManager::Contacts
+{
+
+// A join of the head has a line ending, and most heads have none.
+std::string_view IndexedLine::Unfolded( std::string_view a_part, ByteRange a_range, QByteArray& a_buffer ) const
+{
+    if ( std::none_of( a_part.begin(), a_part.end(), IsLineEndByte ) )
+        return a_part;
+    a_buffer = PimManager::Contacts::Unfolded( m_text, m_entry, m_card.m_record.FoldStyle(), a_range );
+    return ViewOf( a_buffer );
+}
+
+CardView PimContactCardPrivate::LineView::ViewOf( const PimContactCardPrivate* a_private, quint32 a_record )
+{
+    CardView view;
+    view.m_index = a_private->Index();
+    view.m_place = a_record;
+    view.m_record = CardRecord::At( view.m_index + a_record );
+    view.m_bytes = a_private->Bytes();
+    view.m_defaultCharset = PimManager::Contacts::ViewOf( a_private->m_origin.m_defaultCharset );
+    return view;
+}
+
+CardView PimContactCardPrivate::LineView::CardOf( const PimContactCard& a_card )
+{
+    return a_card.d ? ViewOf( a_card.d.data(), a_card.m_record ) : CardView();
+}
+
+IndexedLine PimContactCardPrivate::LineView::LineOf( const PimContactLine& a_line )
+{
+    IndexedLine line;
+    if ( a_line.IsNull() )
+        return line;
+    line.m_card = ViewOf( a_line.d.data(), a_line.m_record );
+    IndexReader reader = EntriesOf( line.m_card.m_index, a_line.m_record );
+    reader.StepTo( a_line.m_entry );
+    reader.Next( line.m_entry );
+    line.m_bytes = line.m_card.m_bytes.substr( a_line.m_begin, line.m_entry.m_length );
+    line.m_text = WithoutLineEnd( line.m_bytes );
+    return line;
+}
+
+bool PimContactCardPrivate::LineView::FindNested( const PimContactLine& a_line, IndexEntry& a_nested )
+{
+    if ( a_line.IsNull() )
+        return false;
+    IndexReader reader = EntriesOf( a_line.d->Index(), a_line.m_record );
+    reader.StepTo( a_line.m_entry );
+    reader.Next( a_nested, true );
+    do
+    {
+        if ( reader.AtEnd() )
+            return false;
+        reader.Next( a_nested, true );
+    } while ( a_nested.m_kind == EntryKind::Blank );
+    return a_nested.m_kind == EntryKind::Nested;
+}
+
+LineCursor::LineCursor( const PimContactCard& a_card ) :
+    m_reader( nullptr, 0, 0 )
+{
+    if ( a_card.IsNull() )
+        return;
+    m_line.m_card = PimContactCardPrivate::LineView::CardOf( a_card );
+    m_reader = EntriesOf( m_line.m_card.m_index, m_line.m_card.m_place );
+    m_begin = m_line.m_card.m_record.m_begin;
+}
+
+bool LineCursor::Next()
+{
+    while ( !m_reader.AtEnd() )
+    {
+        m_reader.Next( m_line.m_entry );
+        const quint32 begin = m_begin;
+        m_begin += m_line.m_entry.m_length;
+        if ( m_line.m_entry.m_kind != EntryKind::Line )
+            continue;
+        m_line.m_bytes = m_line.m_card.m_bytes.substr( begin, m_line.m_entry.m_length );
+        m_line.m_text = WithoutLineEnd( m_line.m_bytes );
+        return true;
+    }
+    return false;
+}
+
+std::string_view LineCursor::Name()
+{
+    return m_line.Name( m_name );
+}
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,107 @@
+/// \file
+/// A line of a card and what is known about it, for the code that reads it.
+
+#pragma once
+
+#include "Cards/CardRecord.h"
+#include "Lines/LinePieces.h"
+
+#include <PimManager/Contacts/PimContactCard.h>
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// What the lines of a card have in common. Refers to the memory of the card.
+struct CardView
+{
+    CardRecord m_record;
+    const uchar* m_index = nullptr;
+    quint32 m_place = 0;
+    /// Of the outermost card.
+    std::string_view m_bytes;
+    std::string_view m_defaultCharset;
+
+    /// The character set of lines that name none themselves.
+    std::string_view Charset() const { return CharsetOf( m_index, m_place ); }
+};
+
+/// A line, its entry in the index, and its card.
+struct IndexedLine
+{
+    CardView m_card;
+    IndexEntry m_entry;
+    /// With the line endings, and without the last one.
+    std::string_view m_bytes;
+    std::string_view m_text;
+
+    /// \return true if the line has breaks that must be undone, see LinePieces.
+    bool IsContinued() const { return m_entry.m_hasFolds || m_entry.m_joins.m_size > 0; }
+
+    ByteRange ValueRange() const
+    {
+        const auto length = static_cast<quint32>( m_text.size() );
+        const quint32 begin = std::min( m_entry.m_valueBegin, length );
+        return { begin, length - begin };
+    }
+
+    LinePieces Pieces( ByteRange a_range ) const
+    {
+        return LinePieces( m_text, m_entry, m_card.m_record.FoldStyle(), a_range );
+    }
+
+    /// \return the name, without breaks. Refers to the card, or to a_buffer if a break is inside.
+    std::string_view Name( QByteArray& a_buffer ) const { return HeadPart( m_entry.m_name, a_buffer ); }
+    /// The same for the parameters.
+    std::string_view Parameters( QByteArray& a_buffer ) const { return HeadPart( m_entry.m_parameters, a_buffer ); }
+
+private:
+    std::string_view HeadPart( ByteRange a_range, QByteArray& a_buffer ) const
+    {
+        const std::string_view part( m_text.data() + a_range.m_begin, a_range.m_length );
+        return IsContinued() ? Unfolded( part, a_range, a_buffer ) : part;
+    }
+    std::string_view Unfolded( std::string_view a_part, ByteRange a_range, QByteArray& a_buffer ) const;
+};
+
+/// Opens cards and lines.
+class PimContactCardPrivate::LineView
+{
+public:
+    static CardView CardOf( const PimContactCard& a_card );
+    /// \param a_line may be null; then nothing is in the line.
+    static IndexedLine LineOf( const PimContactLine& a_line );
+    /// Finds the entry of the nested card that follows the line; blank lines may be in between.
+    static bool FindNested( const PimContactLine& a_line, IndexEntry& a_nested );
+
+private:
+    static CardView ViewOf( const PimContactCardPrivate* a_private, quint32 a_record );
+};
+
+/// Steps over the lines of a card, and reads the entry of each once.
+class LineCursor
+{
+public:
+    /// \param a_card must outlive the cursor.
+    explicit LineCursor( const PimContactCard& a_card );
+
+    /// \return false behind the last line.
+    bool Next();
+
+    const IndexedLine& Line() const { return m_line; }
+    /// The name of the line. Valid until the next call of Next().
+    std::string_view Name();
+
+private:
+    IndexedLine m_line;
+    IndexReader m_reader;
+    // Of the next entry, in the bytes.
+    quint32 m_begin = 0;
+    QByteArray m_name;
+};
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,209 @@
+#include "Values/BinaryValue.h"
+
+#include "Text/Base64.h"
+#include "Text/Bytes.h"
+#include "Text/FileSignature.h"
+#include "Values/Buffer.h"
+#include "Values/ValueDecoder.h"
+
+#include <algorithm>
+#include <array>
+
+namespace PimManager::Contacts
+{
+
+namespace
+{
+
+using namespace std::string_view_literals;
+
+constexpr std::string_view s_kDataScheme = "data:";
+constexpr std::string_view s_kBase64 = "base64";
+// Enough for the longest signature, in BASE64.
+constexpr size_t s_kStart = 24;
+
+constexpr std::array s_kMediaNames = { "PHOTO"sv, "LOGO"sv, "SOUND"sv, "KEY"sv };
+constexpr std::array s_kSounds = { "RIFF"sv, "OggS"sv, "ID3"sv, "#!AMR"sv, "MThd"sv, "fLaC"sv, ".snd"sv };
+// Armoured keys, certificates in DER, and public keys of OpenPGP.
+constexpr std::array s_kKeys = { "-----BEGIN "sv, "\x30\x82"sv, "\x99\x01"sv, "\x99\x02"sv };
+
+template <size_t s_kSize>
+bool StartsWithOneOf( std::string_view a_bytes, const std::array<std::string_view, s_kSize>& a_starts )
+{
+    return std::any_of( a_starts.begin(), a_starts.end(),
+                        [a_bytes]( std::string_view a_start )
+                        { return a_bytes.substr( 0, a_start.size() ) == a_start; } );
+}
+
+bool HasMediaName( const IndexedLine& a_line )
+{
+    QByteArray buffer;
+    const std::string_view name = a_line.Name( buffer );
+    return std::any_of( s_kMediaNames.begin(), s_kMediaNames.end(),
+                        [name]( std::string_view a_media ) { return IsSameWord( name, a_media ); } );
+}
+
+/// \return the first characters of the value, without blanks and backslashes.
+QByteArray StartOf( const IndexedLine& a_line )
+{
+    QByteArray start;
+    LinePieces pieces = a_line.Pieces( a_line.ValueRange() );
+    while ( start.size() < static_cast<int>( s_kStart ) && pieces.Next() )
+    {
+        for ( const char byte : pieces.Text().substr( 0, 2 * s_kStart ) )
+        {
+            if ( !IsBlank( byte ) && byte != '\\' )
+                start.append( byte );
+        }
+    }
+    start.truncate( static_cast<int>( s_kStart ) );
+    return start;
+}
+
+// Most values do not, and then nothing has to be copied.
+bool MayBeDataUri( const IndexedLine& a_line )
+{
+    const std::string_view value = a_line.ValueRange().In( a_line.m_text );
+    const std::string_view text = value.substr( std::min( value.find_first_not_of( " \t\\" ), value.size() ) );
+    return a_line.IsContinued() || ( !text.empty() && Upper( text.front() ) == 'D' );
+}
+
+bool IsDataUri( std::string_view a_text )
+{
+    return IsSameWord( a_text.substr( 0, s_kDataScheme.size() ), s_kDataScheme );
+}
+
+bool HasKnownSignature( std::string_view a_base64 )
+{
+    QByteArray start;
+    Base64Decoder decoder( a_base64.size(), start );
+    decoder.Take( a_base64 );
+    if ( !decoder.Finish() || static_cast<size_t>( start.size() ) < s_kSignatureBytes )
+        return false;
+    const std::string_view bytes = ViewOf( start );
+    return FileKindBySignature( bytes.substr( 0, s_kSignatureBytes ) ) == PimContactFileKind::Image ||
+           StartsWithOneOf( bytes, s_kSounds ) || StartsWithOneOf( bytes, s_kKeys );
+}
+
+void DecodeBase64( std::string_view a_text, BinaryData& a_data )
+{
+    Base64Decoder decoder( a_text.size(), a_data.m_bytes );
+    decoder.Take( a_text );
+    decoder.Finish();
+    a_data.m_faultPlace = decoder.FaultPlace();
+}
+
+// Joins the lines while decoding, because a picture has thousands of them.
+void DecodeBase64Lines( const IndexedLine& a_line, BinaryData& a_data )
+{
+    const ByteRange value = a_line.ValueRange();
+    Base64Decoder decoder( value.m_length, a_data.m_bytes );
+    LinePieces pieces = a_line.Pieces( value );
+    bool isSound = true;
+    while ( isSound && pieces.Next() )
+        isSound = decoder.Take( pieces.Text() );
+    decoder.Finish();
+    a_data.m_faultPlace = decoder.FaultPlace();
+}
+
+void DecodePercents( std::string_view a_text, BinaryData& a_data )
+{
+    const auto digit = []( char a_byte )
+    {
+        constexpr std::string_view s_kDigits = "0123456789ABCDEF";
+        return s_kDigits.find( Upper( a_byte ) );
+    };
+    size_t place = 0;
+    for ( size_t percent = a_text.find( '%' ); percent != std::string_view::npos; percent = a_text.find( '%', place ) )
+    {
+        Append( a_data.m_bytes, a_text.substr( place, percent - place ) );
+        const std::string_view digits = a_text.substr( percent + 1, 2 );
+        const size_t high = digits.size() == 2 ? digit( digits[0] ) : std::string_view::npos;
+        const size_t low = digits.size() == 2 ? digit( digits[1] ) : std::string_view::npos;
+        if ( high == std::string_view::npos || low == std::string_view::npos )
+        {
+            a_data.m_faultPlace = static_cast<qint64>( percent );
+            return;
+        }
+        a_data.m_bytes.append( static_cast<char>( high * 16 + low ) );
+        place = percent + 3;
+    }
+    Append( a_data.m_bytes, a_text.substr( place ) );
+}
+
+void DecodePercentsAndBase64( std::string_view a_text, BinaryData& a_data )
+{
+    BinaryData plain;
+    DecodePercents( a_text, plain );
+    DecodeBase64( plain.m_faultPlace < 0 ? ViewOf( plain.m_bytes ) : a_text, a_data );
+}
+
+void DecodeDataUri( std::string_view a_uri, BinaryData& a_data )
+{
+    const std::string_view rest = a_uri.substr( s_kDataScheme.size() );
+    const size_t comma = rest.find( ',' );
+    if ( comma == std::string_view::npos )
+    {
+        a_data.m_faultPlace = 0;
+        return;
+    }
+    const std::string_view header = rest.substr( 0, comma );
+    const std::string_view data = rest.substr( comma + 1 );
+    const size_t lastPart = header.rfind( ';' );
+    const std::string_view last =
+        Trimmed( lastPart == std::string_view::npos ? header : header.substr( lastPart + 1 ) );
+    const bool isBase64 = IsSameWord( last, s_kBase64 );
+    const std::string_view mediaType = Trimmed( header.substr( 0, header.find( ';' ) ) );
+    if ( !IsSameWord( mediaType, s_kBase64 ) )
+        a_data.m_mediaType = BytesOf( mediaType );
+    if ( !isBase64 )
+        DecodePercents( data, a_data );
+    else if ( data.find( '%' ) == std::string_view::npos )
+        DecodeBase64( data, a_data );
+    else
+        DecodePercentsAndBase64( data, a_data );
+}
+
+} // namespace
+
+PimContactBinary PimContactBinaryPrivate::Create( const BinaryData& a_data )
+{
+    PimContactBinary binary;
+    static_cast<BinaryData&>( *binary.d ) = a_data;
+    return binary;
+}
+
+bool IsBinary( const IndexedLine& a_line )
+{
+    if ( a_line.m_entry.m_encoding == PimContactEncoding::Base64 )
+        return true;
+    const bool isMedia = HasMediaName( a_line );
+    if ( !isMedia && !MayBeDataUri( a_line ) )
+        return false;
+    const QByteArray start = StartOf( a_line );
+    return IsDataUri( ViewOf( start ) ) || ( isMedia && HasKnownSignature( ViewOf( start ) ) );
+}
+
+PimContactBinary BinaryOf( const IndexedLine& a_line )
+{
+    if ( !IsBinary( a_line ) )
+        return PimContactBinary();
+    BinaryData data;
+    data.m_isNull = false;
+    const bool isDataUri = IsDataUri( ViewOf( StartOf( a_line ) ) );
+    if ( !isDataUri && a_line.m_entry.m_encoding == PimContactEncoding::Base64 )
+        DecodeBase64Lines( a_line, data );
+    else
+    {
+        ValueDecoder decoder;
+        decoder.Decode( a_line );
+        const std::string_view text = TrimmedLeft( decoder.Text() );
+        if ( isDataUri )
+            DecodeDataUri( text, data );
+        else
+            DecodeBase64( text, data );
+    }
+    return PimContactBinaryPrivate::Create( data );
+}
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,73 @@
+/// \file
+/// The parameters of a line by their meaning.
+
+#pragma once
+
+#include "Lines/LineHead.h"
+
+#include <PimManager/Contacts/PimContactCard.h>
+
+#include <QByteArray>
+
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+constexpr std::string_view s_kTypeParameter = "TYPE";
+constexpr std::string_view s_kValueParameter = "VALUE";
+constexpr std::string_view s_kEncodingParameter = "ENCODING";
+constexpr std::string_view s_kCharsetParameter = "CHARSET";
+
+/// Reads the values of all parameters one after the other. Each element of a list is a value.
+///
+/// - A bare word such as `HOME` is a TYPE. Encodings (`QUOTED-PRINTABLE`, `BASE64`, `8BIT` ...) are an ENCODING,
+///   `INLINE`, `URL`, `CID` and `CONTENT-ID` a VALUE, and a known character set such as `SHIFT_JIS` a CHARSET.
+/// - An unknown parameter with an empty value, such as `CELL=`, is a TYPE too.
+/// - In a list, the name of the parameter may be repeated: `TYPE=HOME,TYPE=VOICE` has the values HOME and VOICE.
+/// - Quotes are removed. A comma in quotes does not delimit, except in TYPE: `TYPE="home,voice"` has two values.
+/// - In versions 3.0 and 4.0, and without a version, `^n`, `^'` and `^^` become a line feed, a quote and a caret
+///   (RFC 6868). In version 2.1 a caret is text.
+/// - In LABEL, the escapes of values are removed as well (RFC 6350, section 6.3.1).
+class ParameterReader
+{
+public:
+    /// \param a_parameters as LineHead::m_parameters; must outlive the reader.
+    ParameterReader( std::string_view a_parameters, PimContactVersion a_version );
+
+    /// \return false behind the last value.
+    bool Next();
+
+    /// The name as written, or a name from above for values without one.
+    std::string_view Name() const { return m_name; }
+    /// The value. Valid until the next call of Next().
+    std::string_view Value() const { return m_value; }
+
+private:
+    void BeginParameter( std::string_view a_parameter );
+    bool TakeValue();
+    std::string_view TakeElement();
+    bool TakeQuoted();
+    std::string_view Decoded( std::string_view a_element );
+
+    ParameterSplitter m_splitter;
+    bool m_areCaretsText;
+
+    // Of the parameter: its name, empty if it is bare, and the elements that follow.
+    std::string_view m_parameterName;
+    bool m_isType = false;
+    std::string_view m_rest;
+    bool m_hasRest = false;
+    bool m_hasElement = false;
+    bool m_isNoQuoteClosed = false;
+    // The elements that follow inside a quoted TYPE.
+    std::string_view m_quoted;
+    bool m_isInQuotes = false;
+
+    std::string_view m_name;
+    std::string_view m_value;
+    QByteArray m_buffer;
+    QByteArray m_text;
+};
+
+} // namespace PimManager::Contacts

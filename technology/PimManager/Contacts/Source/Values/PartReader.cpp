@@ -1,0 +1,132 @@
+#include "Values/PartReader.h"
+
+#include "Text/Bytes.h"
+#include "Values/Buffer.h"
+
+#include <algorithm>
+#include <array>
+
+namespace PimManager::Contacts
+{
+
+namespace
+{
+
+constexpr uint s_kBackslash = 0x80;
+
+constexpr std::array<quint8, 256> FindClasses()
+{
+    std::array<quint8, 256> classes = {};
+    classes[static_cast<size_t>( '\\' )] = s_kBackslash;
+    classes[static_cast<size_t>( ';' )] = static_cast<quint8>( Delimiters::Semicolons );
+    classes[static_cast<size_t>( ',' )] = static_cast<quint8>( Delimiters::Commas );
+    return classes;
+}
+
+constexpr std::array<quint8, 256> s_kClasses = FindClasses();
+
+} // namespace
+
+PartReader::PartReader( const EscapedText& a_text, Delimiters a_delimiters, QByteArray& a_buffer,
+                        Findings& a_findings ) :
+    m_text( a_text.m_text ),
+    m_specials( static_cast<uint>( a_delimiters ) | s_kBackslash ),
+    m_buffer( a_buffer ),
+    m_findings( a_findings )
+{
+    if ( a_text.m_literals == nullptr )
+        return;
+    m_literal = a_text.m_literals->data();
+    m_literalsEnd = m_literal + a_text.m_literals->size();
+}
+
+bool PartReader::Next()
+{
+    if ( m_isAtEnd )
+        return false;
+    const size_t begin = m_place;
+    size_t place = FindSpecial( begin );
+    while ( place < m_text.size() && m_text[place] == '\\' )
+        place = FindSpecial( TakeEscape( place ) );
+    EndPart( begin, place );
+    m_isAtEnd = place == m_text.size();
+    m_delimiter = m_isAtEnd ? '\0' : m_text[place];
+    m_place = place + 1;
+    return true;
+}
+
+/// \return the first delimiter or backslash from a place on, or the end.
+size_t PartReader::FindSpecial( size_t a_place )
+{
+    size_t place = FindByte( a_place );
+    while ( place < m_text.size() && IsLiteral( place ) )
+        place = FindByte( place + 1 );
+    return place;
+}
+
+size_t PartReader::FindByte( size_t a_place ) const
+{
+    if ( m_specials == s_kBackslash )
+        return std::min( m_text.find( '\\', a_place ), m_text.size() );
+    size_t place = a_place;
+    while ( place < m_text.size() && ( s_kClasses[static_cast<uchar>( m_text[place] )] & m_specials ) == 0 )
+        ++place;
+    return place;
+}
+
+bool PartReader::IsLiteral( size_t a_place )
+{
+    while ( m_literal != m_literalsEnd && *m_literal < a_place )
+        ++m_literal;
+    return m_literal != m_literalsEnd && *m_literal == a_place;
+}
+
+/// \return the place behind the escape.
+size_t PartReader::TakeEscape( size_t a_backslash )
+{
+    const size_t next = a_backslash + 1;
+    const char escaped = next < m_text.size() ? m_text[next] : '\0';
+    switch ( escaped )
+    {
+    case 'n':
+    case 'N':
+        Replace( a_backslash, 2, '\n' );
+        return next + 1;
+    case '"':
+    case '\'':
+        m_findings.Add( PimContactDecodingProblem::EscapedQuote, static_cast<qint64>( a_backslash ) );
+        [[fallthrough]];
+    case '\\':
+    case ',':
+    case ';':
+    case ':':
+        Replace( a_backslash, 2, escaped );
+        return next + 1;
+    default:
+        m_findings.Add( PimContactDecodingProblem::UnknownEscape, static_cast<qint64>( a_backslash ) );
+        return next;
+    }
+}
+
+void PartReader::Replace( size_t a_backslash, size_t a_length, char a_character )
+{
+    if ( !m_hasEscapes )
+    {
+        m_hasEscapes = true;
+        m_copied = m_place;
+        Empty( m_buffer );
+    }
+    Append( m_buffer, m_text.substr( m_copied, a_backslash - m_copied ) );
+    m_buffer.append( a_character );
+    m_copied = a_backslash + a_length;
+}
+
+void PartReader::EndPart( size_t a_begin, size_t a_end )
+{
+    if ( m_hasEscapes )
+        Append( m_buffer, m_text.substr( m_copied, a_end - m_copied ) );
+    m_part = m_hasEscapes ? ViewOf( m_buffer ) : m_text.substr( a_begin, a_end - a_begin );
+    m_hasEscapes = false;
+}
+
+} // namespace PimManager::Contacts

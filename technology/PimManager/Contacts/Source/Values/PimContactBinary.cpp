@@ -1,0 +1,42 @@
+#include <PimManager/Contacts/PimContactBinary.h>
+
+#include "Values/BinaryValue.h"
+
+namespace PimManager::Contacts
+{
+
+PimContactBinary::PimContactBinary() :
+    d( new PimContactBinaryPrivate )
+{
+}
+
+PimContactBinary::PimContactBinary( const PimContactBinary& a_other ) = default;
+PimContactBinary& PimContactBinary::operator=( const PimContactBinary& a_other ) = default;
+PimContactBinary::~PimContactBinary() = default;
+
+bool PimContactBinary::IsNull() const
+{
+    return d->m_isNull;
+}
+
+QByteArray PimContactBinary::Bytes() const
+{
+    return d->m_bytes;
+}
+
+QByteArray PimContactBinary::MediaType() const
+{
+    return d->m_mediaType;
+}
+
+bool PimContactBinary::IsDamaged() const
+{
+    return d->m_faultPlace >= 0;
+}
+
+qint64 PimContactBinary::FaultPlace() const
+{
+    return d->m_faultPlace;
+}
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,186 @@
+// The functions of PimContactLine that decode.
+
+#include <PimManager/Contacts/PimContactLine.h>
+
+#include "Cards/LineView.h"
+#include "Text/Bytes.h"
+#include "Values/BinaryValue.h"
+#include "Values/Findings.h"
+#include "Values/ParameterReader.h"
+#include "Values/PropertyKinds.h"
+#include "Values/ValueDecoder.h"
+
+#include <QSet>
+
+namespace PimManager::Contacts
+{
+
+namespace
+{
+
+QString StringOf( std::string_view a_text )
+{
+    return QString::fromUtf8( a_text.data(), static_cast<int>( a_text.size() ) );
+}
+
+std::string_view ViewOf( QLatin1String a_text )
+{
+    return std::string_view( a_text.data(), static_cast<size_t>( a_text.size() ) );
+}
+
+IndexedLine Indexed( const PimContactLine& a_line )
+{
+    return PimContactCardPrivate::LineView::LineOf( a_line );
+}
+
+Delimiters DelimitersOf( const IndexedLine& a_line )
+{
+    QByteArray buffer;
+    return DelimitersOf( a_line.Name( buffer ), a_line.m_card.m_record.Version() );
+}
+
+QStringList PartsOf( const IndexedLine& a_line, Delimiters a_delimiters )
+{
+    QStringList parts;
+    ValueDecoder decoder;
+    decoder.Decode( a_line );
+    for ( PartReader reader = decoder.Parts( a_delimiters ); reader.Next(); )
+        parts.append( StringOf( reader.Text() ) );
+    return parts;
+}
+
+QString TextOf( const IndexedLine& a_line )
+{
+    ValueDecoder decoder;
+    decoder.Decode( a_line );
+    return StringOf( decoder.Text() );
+}
+
+PimContactValueKind KindOf( Delimiters a_delimiters )
+{
+    switch ( a_delimiters )
+    {
+    case Delimiters::None:
+        return PimContactValueKind::Text;
+    case Delimiters::Commas:
+        return PimContactValueKind::List;
+    default:
+        return PimContactValueKind::Components;
+    }
+}
+
+} // namespace
+
+bool PimContactLine::IsNamed( QLatin1String a_name ) const
+{
+    const IndexedLine line = Indexed( *this );
+    QByteArray buffer;
+    return !IsNull() && IsSameWord( line.Name( buffer ), ViewOf( a_name ) );
+}
+
+QStringList PimContactLine::ParameterNames() const
+{
+    const IndexedLine line = Indexed( *this );
+    ValueDecoder decoder;
+    QStringList names;
+    QSet<QString> known;
+    for ( ParameterReader reader( decoder.Parameters( line ), line.m_card.m_record.Version() ); reader.Next(); )
+    {
+        const QString name = StringOf( reader.Name() ).toUpper();
+        if ( known.contains( name ) )
+            continue;
+        known.insert( name );
+        names.append( name );
+    }
+    return names;
+}
+
+QStringList PimContactLine::Parameter( QLatin1String a_name ) const
+{
+    const IndexedLine line = Indexed( *this );
+    ValueDecoder decoder;
+    QStringList values;
+    for ( ParameterReader reader( decoder.Parameters( line ), line.m_card.m_record.Version() ); reader.Next(); )
+    {
+        if ( IsSameWord( reader.Name(), ViewOf( a_name ) ) )
+            values.append( StringOf( reader.Value() ) );
+    }
+    return values;
+}
+
+QStringList PimContactLine::Types() const
+{
+    return Parameter( QLatin1String( s_kTypeParameter.data(), static_cast<int>( s_kTypeParameter.size() ) ) );
+}
+
+PimContactValueKind PimContactLine::Kind() const
+{
+    const IndexedLine line = Indexed( *this );
+    return IsBinary( line ) ? PimContactValueKind::Binary : KindOf( DelimitersOf( line ) );
+}
+
+QStringList PimContactLine::Values() const
+{
+    const IndexedLine line = Indexed( *this );
+    switch ( Kind() )
+    {
+    case PimContactValueKind::List:
+        return PartsOf( line, Delimiters::Commas );
+    case PimContactValueKind::Components:
+        return PartsOf( line, Delimiters::Semicolons );
+    default:
+        return { TextOf( line ) };
+    }
+}
+
+QString PimContactLine::Text() const
+{
+    return TextOf( Indexed( *this ) );
+}
+
+QStringList PimContactLine::List() const
+{
+    return PartsOf( Indexed( *this ), Delimiters::Commas );
+}
+
+QStringList PimContactLine::Components() const
+{
+    return PartsOf( Indexed( *this ), Delimiters::Semicolons );
+}
+
+QList<QStringList> PimContactLine::ComponentLists() const
+{
+    const IndexedLine line = Indexed( *this );
+    const bool hasLists = DelimitersOf( line ) == Delimiters::SemicolonsAndCommas;
+    QList<QStringList> lists = { QStringList() };
+    ValueDecoder decoder;
+    decoder.Decode( line );
+    PartReader reader = decoder.Parts( hasLists ? Delimiters::SemicolonsAndCommas : Delimiters::Semicolons );
+    while ( reader.Next() )
+    {
+        lists.last().append( StringOf( reader.Text() ) );
+        if ( reader.Delimiter() == ';' )
+            lists.append( QStringList() );
+    }
+    return lists;
+}
+
+PimContactBinary PimContactLine::Binary() const
+{
+    return BinaryOf( Indexed( *this ) );
+}
+
+PimContactDecoding PimContactLine::Decoding() const
+{
+    const IndexedLine line = Indexed( *this );
+    ValueDecoder decoder;
+    decoder.Decode( line );
+    decoder.Text();
+    Findings findings = decoder.Found();
+    const PimContactBinary binary = BinaryOf( line );
+    if ( binary.IsDamaged() )
+        findings.Add( PimContactDecodingProblem::MalformedBinary, binary.FaultPlace() );
+    return PimContactDecodingPrivate::Create( findings );
+}
+
+} // namespace PimManager::Contacts

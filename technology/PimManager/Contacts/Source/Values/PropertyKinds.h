@@ -1,0 +1,30 @@
+/// \file
+/// How the values of properties are divided.
+
+#pragma once
+
+#include "Values/PartReader.h"
+
+#include <PimManager/Contacts/PimContactCard.h>
+
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// Determines what divides the value of a property, by its name in any letter case.
+///
+/// | property | 2.1 | 3.0, and without a version | 4.0 |
+/// |---|---|---|---|
+/// | N, ADR | semicolons | semicolons, and commas inside components | as 3.0 |
+/// | ORG | semicolons | semicolons | semicolons |
+/// | NICKNAME, CATEGORIES | commas | commas | commas |
+/// | GEO | nothing | semicolons | nothing |
+/// | GENDER, CLIENTPIDMAP | nothing | nothing | semicolons |
+/// | any other | nothing | nothing | nothing |
+///
+/// The sources are vCard 2.1, section 2; RFC 2426, section 3; and RFC 6350, section 6. Version 2.1 has neither NICKNAME
+/// nor CATEGORIES, but phones write lists into its cards.
+Delimiters DelimitersOf( std::string_view a_name, PimContactVersion a_version );
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,73 @@
+/// \file
+/// From the bytes of a line to text in UTF-8.
+
+#pragma once
+
+#include "Cards/LineView.h"
+#include "Text/Charset.h"
+#include "Values/Findings.h"
+#include "Values/PartReader.h"
+#include "Values/QuotedPrintable.h"
+
+#include <QByteArray>
+
+#include <string_view>
+#include <vector>
+
+namespace PimManager::Contacts
+{
+
+/// Decodes lines one after the other. The order is fixed: continuation lines are joined, QUOTED-PRINTABLE is decoded,
+/// then the character set; the text is split at its delimiters, and the escapes of each part are removed.
+///
+/// A byte that was encoded, or that is a part of another character, neither delimits nor escapes: `=3B` is no
+/// delimiter, and neither is 0x5C in the character `83 5C` of Shift_JIS.
+///
+/// A text that needs no decoding is not copied. Otherwise the decoder holds the text, and uses the same memory for
+/// the next line.
+class ValueDecoder
+{
+public:
+    /// Decodes the value of a line up to its escapes. BASE64 is not decoded, see BinaryValue.h.
+    /// \param a_line must outlive the texts of the value.
+    void Decode( const IndexedLine& a_line );
+
+    /// Decodes the parameters of a line up to their quotes.
+    /// \return the text from the first semicolon up to the colon, in UTF-8. Valid as long as a value would be.
+    std::string_view Parameters( const IndexedLine& a_line );
+
+    /// The value with its escapes, in UTF-8. Valid until the next line.
+    const EscapedText& Escaped() const { return m_escaped; }
+
+    /// \return the whole value without its escapes, in UTF-8. Valid until the next part or line.
+    std::string_view Text();
+
+    /// \return a reader of the parts of the value. Only one may be used at a time.
+    PartReader Parts( Delimiters a_delimiters ) { return PartReader( m_escaped, a_delimiters, m_part, m_findings ); }
+
+    /// What was found in the value: by Decode(), and in the parts that were read.
+    const Findings& Found() const { return m_findings; }
+
+private:
+    void Unfold( const IndexedLine& a_line, ByteRange a_range );
+    void DecodeRaw( const IndexedLine& a_line );
+    void DecodeEncoded( const IndexedLine& a_line );
+    bool Convert( std::string_view a_text, Charset a_encoded, Charset a_raw );
+    void ConvertSegment( std::string_view a_text, ByteRange a_segment, Charset a_charset );
+    void NoteLiterals( quint32 a_outBegin, quint32 a_segmentBegin );
+    void NoteLiteralsOf( std::string_view a_text );
+
+    EscapedText m_escaped;
+    Findings m_findings;
+    QByteArray m_unfolded;
+    QByteArray m_plain;
+    QByteArray m_utf8;
+    QByteArray m_part;
+    std::vector<EncodedRun> m_runs;
+    std::vector<quint32> m_literals;
+    std::vector<quint32> m_places;
+    // The first run that does not end before the place that NoteLiterals() has reached.
+    size_t m_run = 0;
+};
+
+} // namespace PimManager::Contacts

@@ -589,6 +589,9 @@ IndexEntry LogicalLines::EntryOf( const OpenLine& a_line )
     IndexEntry entry;
     entry.m_length = a_line.m_end - a_line.m_begin;
     entry.SetHead( a_line.m_head );
+    // Blanks behind a name without a colon are not the value.
+    if ( !entry.m_hasColon && !a_line.m_isHeadFolded )
+        entry.m_valueBegin = a_line.m_firstTextEnd - a_line.m_begin;
     entry.m_hasFolds = a_line.m_hasFolds;
     entry.m_oddities |= a_line.m_oddities;
     entry.m_joins = a_line.m_joins.Bytes();

@@ -185,6 +185,8 @@ INSTANTIATE_TEST_SUITE_P(
         LinesRow{ "CommentBehindNote", "NOTE:a\n# b\n", "Line 11 NOTE=a|# b joined" },
         LinesRow{ "CommentFirst", "#\nFN:a\n", "Dropped 2 Comment; Line 5 FN=a" },
         LinesRow{ "NoColon", "TEL\nFN:a\n", "Line 4 TEL without colon ; Line 5 FN=a" },
+        LinesRow{ "NoColonButBlanks", "TEL \t\nNOTE \nmore\n",
+                  "Line 6 TEL without colon  blanks; Line 11 NOTE without colon more joined blanks" },
         LinesRow{ "SoftBreak", s_kEncodedNote + "a=\nb\n", "Line 36 NOTE=ab" },
         LinesRow{ "OneSoftBreakBeforeABlank", s_kEncodedNote + "a=\n b\n", "Line 37 NOTE=a b" },
         LinesRow{ "SoftBreakWithBlanks", s_kEncodedNote + "a= \nb\n", "Line 37 NOTE=ab soft" },

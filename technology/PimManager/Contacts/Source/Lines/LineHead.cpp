@@ -115,12 +115,11 @@ private:
         return _mm_set1_epi8( a_byte );
     }
 
-    // 0xFF for each byte between two, and 0 for others.
+    // 0xFF for each byte between two of ASCII, and 0 for others.
     static __m128i Between( __m128i a_bytes, char a_first, char a_last )
     {
-        const __m128i distances = _mm_sub_epi8( a_bytes, VectorOf( a_first ) );
-        const __m128i most = VectorOf( static_cast<char>( a_last - a_first ) );
-        return _mm_cmpeq_epi8( _mm_min_epu8( distances, most ), distances );
+        return _mm_and_si128( _mm_cmpgt_epi8( a_bytes, VectorOf( static_cast<char>( a_first - 1 ) ) ),
+                              _mm_cmplt_epi8( a_bytes, VectorOf( static_cast<char>( a_last + 1 ) ) ) );
     }
 
     // A bit for each byte.

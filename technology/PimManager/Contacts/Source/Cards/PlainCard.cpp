@@ -101,6 +101,34 @@ PlainCard::Step PlainCard::TakeSoftBreak( const Line& a_line )
     return EndsPlainly( a_line.m_text ) ? Step::Next : Step::Stop;
 }
 
+void PlainCard::CloseLine()
+{
+    if ( !m_isOpen )
+        return;
+    m_isOpen = false;
+    const std::string_view line( m_text.data() + m_begin, m_lastTextEnd - m_begin );
+    const std::string_view value( line.data() + m_head->m_valueBegin, line.size() - m_head->m_valueBegin );
+    if ( m_isWide )
+        CloseCharacters();
+    if ( m_facts.m_version == PimContactVersion::Unknown )
+        m_facts.m_version = VersionOf( m_head->m_name.In( line ), value );
+    const bool mayHaveEscapes = m_facts.m_version != PimContactVersion::V21 &&
+                                m_head->m_encoding != PimContactEncoding::Base64 &&
+                                std::memchr( value.data(), '\\', value.size() ) != nullptr;
+    if ( mayHaveEscapes && HasUnknownEscapes( line, Entry() ) )
+        NoteOddity( PimContactOddity::UnknownEscape );
+    if ( m_hasControls )
+    {
+        NoteOddity( PimContactOddity::ControlCharacters );
+        m_facts.m_mayBeShifted = m_facts.m_mayBeShifted || MayBeShifted( line );
+    }
+    if ( m_isHeadPlain )
+        m_index.AddPlain( *m_head, m_end - m_begin, m_hasFolds, m_joins.Bytes() );
+    else
+        WriteOdd();
+    Wrote( EntryKind::Line, m_end - m_begin );
+}
+
 PlainCard::Step PlainCard::TakeProperty( const Line& a_line )
 {
     LineHead& head = m_head == m_heads.data() ? m_heads.back() : m_heads.front();
@@ -229,34 +257,6 @@ void PlainCard::WaitForLineEnd( const LineEndSearch& a_search, size_t a_next, si
     m_search = a_search;
     m_next = a_next;
     m_searched = a_searched;
-}
-
-void PlainCard::CloseLine()
-{
-    if ( !m_isOpen )
-        return;
-    m_isOpen = false;
-    const std::string_view line( m_text.data() + m_begin, m_lastTextEnd - m_begin );
-    const std::string_view value( line.data() + m_head->m_valueBegin, line.size() - m_head->m_valueBegin );
-    if ( m_isWide )
-        CloseCharacters();
-    if ( m_facts.m_version == PimContactVersion::Unknown )
-        m_facts.m_version = VersionOf( m_head->m_name.In( line ), value );
-    const bool mayHaveEscapes = m_facts.m_version != PimContactVersion::V21 &&
-                                m_head->m_encoding != PimContactEncoding::Base64 &&
-                                std::memchr( value.data(), '\\', value.size() ) != nullptr;
-    if ( mayHaveEscapes && HasUnknownEscapes( line, Entry() ) )
-        NoteOddity( PimContactOddity::UnknownEscape );
-    if ( m_hasControls )
-    {
-        NoteOddity( PimContactOddity::ControlCharacters );
-        m_facts.m_mayBeShifted = m_facts.m_mayBeShifted || MayBeShifted( line );
-    }
-    if ( m_isHeadPlain )
-        m_index.AddPlain( *m_head, m_end - m_begin, m_hasFolds, m_joins.Bytes() );
-    else
-        WriteOdd();
-    Wrote( EntryKind::Line, m_end - m_begin );
 }
 
 // The folds of a line that is not closed do not count if another reader goes on.

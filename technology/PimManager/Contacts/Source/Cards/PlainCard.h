@@ -93,7 +93,7 @@ private:
         return m_head->m_encoding == PimContactEncoding::None && MayFoldByLength( m_facts.m_version );
     }
     void NoteFold( const Line& a_line );
-    void CloseLine();
+    Q_ALWAYS_INLINE void CloseLine();
     void CloseCharacters();
     void NoteOddity( PimContactOddity a_oddity );
     void WriteOdd();

@@ -52,33 +52,6 @@ struct PlainBytes
     bool m_hasControl = false;
 };
 
-#ifdef __SSE2__
-inline PlainBytes PassVectors( const char* a_begin, const char* a_end )
-{
-    constexpr int s_kVectorBytes = 16;
-    const __m128i blank = _mm_set1_epi8( ' ' );
-    uint wide = 0;
-    const char* place = a_begin;
-    for ( ; a_end - place >= s_kVectorBytes; place += s_kVectorBytes )
-    {
-        const __m128i vector = _mm_loadu_si128( reinterpret_cast<const __m128i*>( place ) );
-        const auto highBits = static_cast<uint>( _mm_movemask_epi8( vector ) );
-        // Bytes are signed here, so those beyond ASCII are less than a blank, too.
-        const auto less = static_cast<uint>( _mm_movemask_epi8( _mm_cmplt_epi8( vector, blank ) ) );
-        const uint controls = less & ~highBits;
-        if ( controls != 0 )
-        {
-            // Only the bytes before the control character count.
-            const uint before = qCountTrailingZeroBits( controls );
-            wide |= highBits & ( ( 1U << before ) - 1 );
-            return { place + before, wide != 0, true };
-        }
-        wide |= highBits;
-    }
-    return { place, wide != 0, false };
-}
-#endif
-
 inline PlainBytes PassWords( const char* a_begin, const char* a_end )
 {
     Word bytes = 0;
@@ -100,27 +73,54 @@ inline PlainBytes PassWords( const char* a_begin, const char* a_end )
     return { place, ( bytes & EachByte( 0x80 ) ) != 0, place != a_end };
 }
 
-// Stops at a control character, or at the end.
-inline PlainBytes PassPlainBytes( const char* a_begin, const char* a_end )
-{
-#ifdef __SSE2__
-    const PlainBytes vectors = PassVectors( a_begin, a_end );
-    if ( vectors.m_hasControl )
-        return vectors;
-    const PlainBytes words = PassWords( vectors.m_end, a_end );
-    return { words.m_end, vectors.m_isWide || words.m_isWide, words.m_hasControl };
-#else
-    return PassWords( a_begin, a_end );
-#endif
-}
-
 } // namespace
+
+#ifdef __SSE2__
+// 16 bytes at a time. Stops at a line ending, or where less than that is left.
+inline const char* LineEndSearch::PassVectors( const char* a_begin, const char* a_end )
+{
+    constexpr int s_kVectorBytes = 16;
+    const __m128i blank = _mm_set1_epi8( ' ' );
+    uint wide = 0;
+    const char* place = a_begin;
+    while ( a_end - place >= s_kVectorBytes )
+    {
+        const __m128i vector = _mm_loadu_si128( reinterpret_cast<const __m128i*>( place ) );
+        const auto highBits = static_cast<uint>( _mm_movemask_epi8( vector ) );
+        // Bytes are signed here, so those beyond ASCII are less than a blank, too.
+        const auto less = static_cast<uint>( _mm_movemask_epi8( _mm_cmplt_epi8( vector, blank ) ) );
+        const uint controls = less & ~highBits;
+        if ( controls == 0 )
+        {
+            wide |= highBits;
+            place += s_kVectorBytes;
+            continue;
+        }
+        // Only the bytes before the control character count.
+        const uint before = qCountTrailingZeroBits( controls );
+        wide |= highBits & ( ( 1U << before ) - 1 );
+        place += before;
+        if ( IsLineEndByte( *place ) )
+            break;
+        m_hasControls = m_hasControls || IsControlByte( *place );
+        ++place;
+    }
+    m_isWide = m_isWide || wide != 0;
+    return place;
+}
+#endif
 
 const char* LineEndSearch::Find( const char* a_begin, const char* a_end )
 {
-    for ( const char* place = a_begin;; ++place )
+    const char* place = a_begin;
+#ifdef __SSE2__
+    place = PassVectors( a_begin, a_end );
+    if ( place != a_end && IsLineEndByte( *place ) )
+        return place;
+#endif
+    for ( ;; ++place )
     {
-        const PlainBytes bytes = PassPlainBytes( place, a_end );
+        const PlainBytes bytes = PassWords( place, a_end );
         m_isWide = m_isWide || bytes.m_isWide;
         place = bytes.m_end;
         if ( !bytes.m_hasControl || IsLineEndByte( *place ) )

@@ -72,6 +72,8 @@ public:
     static PimContactLineEnd KindOf( const char* a_place, int a_length );
 
 private:
+    const char* PassVectors( const char* a_begin, const char* a_end );
+
     bool m_isWide = false;
     bool m_hasControls = false;
 };

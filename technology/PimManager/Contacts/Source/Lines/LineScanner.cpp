@@ -9,6 +9,7 @@
 #include <cstring>
 #include <limits>
 #include <type_traits>
+#include <utility>
 
 #ifdef __SSE2__
 #include <emmintrin.h>
@@ -159,7 +160,7 @@ char* LineScanner::Room( size_t a_size )
 {
     if ( m_capacity - m_size < a_size )
         MakeRoom( a_size );
-    return m_bytes.get() + m_size;
+    return m_bytes + m_size;
 }
 
 // Bytes that are no longer needed make room if they are half of all: so each byte is moved once on average.
@@ -167,16 +168,11 @@ void LineScanner::MakeRoom( size_t a_size )
 {
     const size_t left = m_size - m_kept;
     if ( m_kept >= left && m_capacity - left >= a_size )
-        std::memmove( m_bytes.get(), m_bytes.get() + m_kept, left );
+        std::memmove( m_bytes, m_bytes + m_kept, left );
     else
     {
         const size_t least = left + a_size + std::max( left, a_size ) / 4;
-        const size_t capacity = least + s_kCheckedBytes - least % s_kCheckedBytes;
-        std::unique_ptr<char[]> bytes( new char[capacity] ); // NOLINT(modernize-avoid-c-arrays)
-        if ( left > 0 )
-            std::memcpy( bytes.get(), m_bytes.get() + m_kept, left );
-        m_bytes = std::move( bytes );
-        m_capacity = capacity;
+        Reallocate( left, least + s_kCheckedBytes - least % s_kCheckedBytes );
     }
     m_bufferOffset += static_cast<qint64>( m_kept );
     m_next -= m_kept;
@@ -185,12 +181,30 @@ void LineScanner::MakeRoom( size_t a_size )
     m_kept = 0;
 }
 
+void LineScanner::Reallocate( size_t a_left, size_t a_capacity )
+{
+    const auto capacity = static_cast<int>( a_capacity );
+    if ( m_kept == 0 )
+    {
+        m_buffer.reserve( capacity );
+        m_buffer.resize( capacity );
+    }
+    else
+    {
+        QByteArray buffer( capacity, Qt::Uninitialized );
+        std::memcpy( buffer.data(), m_bytes + m_kept, a_left );
+        m_buffer = std::move( buffer );
+    }
+    m_bytes = m_buffer.data();
+    m_capacity = a_capacity;
+}
+
 bool LineScanner::Next( PhysicalLine& a_line )
 {
-    const char* const begin = m_bytes.get() + m_next;
-    const char* const end = m_bytes.get() + m_size;
-    const char* const place = m_search.Find( m_bytes.get() + m_searched, end );
-    m_searched = static_cast<size_t>( place - m_bytes.get() );
+    const char* const begin = m_bytes + m_next;
+    const char* const end = m_bytes + m_size;
+    const char* const place = m_search.Find( m_bytes + m_searched, end );
+    m_searched = static_cast<size_t>( place - m_bytes );
     const int endLength = place == end ? 0 : LineEndSearch::LengthOfEnd( place, end, m_isFinished );
     if ( endLength == 0 && ( !m_isFinished || ( place == begin && !m_isLong ) ) )
         return false;

@@ -5,9 +5,9 @@
 
 #include <PimManager/Contacts/PimContactReport.h>
 
+#include <QByteArray>
 #include <QtGlobal>
 
-#include <memory>
 #include <string_view>
 
 namespace PimManager::Contacts
@@ -116,7 +116,7 @@ public:
     /// The length of what has come of the next line.
     qint64 OpenLength() const { return static_cast<qint64>( m_size - m_next ); }
     /// What has come of the next line, and of those behind it.
-    std::string_view Rest() const { return std::string_view( m_bytes.get() + m_next, m_size - m_next ); }
+    std::string_view Rest() const { return std::string_view( m_bytes + m_next, m_size - m_next ); }
     /// Passes over whole lines.
     void PassLines( qint64 a_length, qint64 a_lines );
     /// Takes the first bytes of a line whose end has not come. The rest is returned by Next() as a long line.
@@ -128,7 +128,7 @@ public:
     void Release( qint64 a_offset );
 
     /// The bytes at a place, valid until the next Append().
-    const char* At( qint64 a_offset ) const { return m_bytes.get() + ( a_offset - m_bufferOffset ); }
+    const char* At( qint64 a_offset ) const { return m_bytes + ( a_offset - m_bufferOffset ); }
     std::string_view View( qint64 a_offset, qint64 a_length ) const
     {
         return std::string_view( At( a_offset ), static_cast<size_t>( a_length ) );
@@ -140,9 +140,11 @@ private:
     static constexpr size_t s_kCheckedBytes = 1024;
 
     void MakeRoom( size_t a_size );
+    void Reallocate( size_t a_left, size_t a_capacity );
 
-    // Bytes that nobody has written yet stay as they are, which no container of the library allows.
-    std::unique_ptr<char[]> m_bytes; // NOLINT(modernize-avoid-c-arrays)
+    // It grows without being copied where the system can do that.
+    QByteArray m_buffer;
+    char* m_bytes = nullptr;
     size_t m_size = 0;
     size_t m_capacity = 0;
     // The place of the first byte of the buffer in the text.

@@ -13,6 +13,11 @@ namespace PimManager::Contacts
 /// The byte order mark in UTF-8.
 constexpr std::string_view s_kByteOrderMark = "\xEF\xBB\xBF";
 
+inline bool IsAsciiByte( char a_byte )
+{
+    return static_cast<unsigned char>( a_byte ) < 0x80;
+}
+
 inline bool IsBlank( char a_byte )
 {
     return a_byte == ' ' || a_byte == '\t';

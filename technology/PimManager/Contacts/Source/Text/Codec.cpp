@@ -1,5 +1,6 @@
 #include "Text/Codec.h"
 
+#include "Text/Bytes.h"
 #include "Text/DecodedText.h"
 #include "Text/Iso2022Jp.h"
 #include "Text/SingleByteTables.h"

@@ -1,5 +1,6 @@
 #include "Text/Iso2022Jp.h"
 
+#include "Text/Bytes.h"
 #include "Text/Utf8Encoding.h"
 
 #include <algorithm>

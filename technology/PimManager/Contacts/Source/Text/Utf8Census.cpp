@@ -1,5 +1,7 @@
 #include "Text/Utf8Census.h"
 
+#include "Text/Bytes.h"
+
 #include <cstring>
 
 namespace PimManager::Contacts
@@ -13,11 +15,6 @@ constexpr uchar s_kLastTail = 0xBF;
 
 // The highest bit of each byte of a word.
 constexpr size_t s_kHighBits = ~static_cast<size_t>( 0 ) / 0xFF * 0x80;
-
-bool IsAsciiByte( char a_byte )
-{
-    return static_cast<uchar>( a_byte ) < s_kFirstTail;
-}
 
 bool IsTail( char a_byte )
 {

@@ -11,12 +11,6 @@ namespace PimManager::Contacts
 /// The greatest length of a character in UTF-8.
 constexpr size_t s_kLongestUtf8 = 4;
 
-/// \return true for a character of one byte.
-inline bool IsAsciiByte( char a_byte )
-{
-    return static_cast<uchar>( a_byte ) < 0x80;
-}
-
 /// Writes a character.
 ///
 /// \param a_character at most U+10FFFF, and no surrogate.

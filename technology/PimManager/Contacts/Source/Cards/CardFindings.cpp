@@ -256,8 +256,6 @@ void CardFindings::Report( Code a_code, quint32 a_place, qint64 a_count )
         if ( next == place )
             break;
         next += LineEndSearch::LengthOfEnd( next, end, true );
-        if ( next > place )
-            break;
         ++m_reported.m_line;
         m_reported.m_lineOffset = m_offset + ( next - m_bytes.data() );
     }

@@ -129,6 +129,14 @@ CardBoundary WithTextBehind( std::string_view a_line, size_t a_length )
 
 } // namespace
 
+bool CardBoundary::IsOpenAgent( std::string_view a_line )
+{
+    const std::string_view text = Trimmed( a_line );
+    const LineHead head = LineHead::Of( text );
+    return head.m_hasColon && IsSameWord( head.m_name.In( text ), "AGENT" ) &&
+           IsWhiteSpace( text.substr( head.m_valueBegin ) );
+}
+
 CardBoundary CardBoundary::Of( std::string_view a_line )
 {
     CardBoundary boundary;

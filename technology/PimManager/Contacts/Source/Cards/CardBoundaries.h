@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Lines/LineHead.h"
+#include "Lines/LineScanner.h"
 #include "Text/Bytes.h"
 
 #include <QtGlobal>
@@ -56,6 +57,12 @@ struct CardBoundary
 
     /// The longest line that can be one.
     static constexpr qint64 s_kLongest = 1024;
+
+    /// The line is longer than that, or its start was taken by LineScanner::TakeOpen().
+    static bool IsTooLong( const PhysicalLine& a_line ) { return a_line.m_isLong || a_line.m_length > s_kLongest; }
+
+    /// \return true for an AGENT line without a value: a BEGIN line that follows it begins a card inside.
+    static bool IsOpenAgent( std::string_view a_line );
 
     /// The line begins as BEGIN or END and is longer.
     static bool BeginsAsOne( std::string_view a_line )

@@ -4,19 +4,18 @@
 #pragma once
 
 #include "Cards/CardBoundaries.h"
+#include "Cards/CardDelivery.h"
+#include "Cards/CardLimits.h"
+#include "Cards/CardLookahead.h"
 #include "Cards/CardRecord.h"
+#include "Cards/CardStack.h"
 #include "Cards/Ledger.h"
+#include "Cards/OutsideText.h"
 #include "Cards/PlainCard.h"
-#include "Lines/LineFilter.h"
+#include "Cards/SkippedCard.h"
 #include "Lines/LineScanner.h"
-#include "Lines/LogicalLines.h"
-#include "Text/FileSignature.h"
 
 #include <PimManager/Contacts/PimContactOptions.h>
-
-#include <functional>
-#include <memory>
-#include <vector>
 
 namespace PimManager::Contacts
 {
@@ -43,8 +42,7 @@ namespace PimManager::Contacts
 class CardCutter
 {
 public:
-    /// Receives a card that is complete; its extents have been added.
-    using CardTaker = std::function<void( PimContactCard a_card )>;
+    using CardTaker = CardDelivery::CardTaker;
 
     /// All must outlive the cutter.
     CardCutter( LineScanner& a_scanner, Ledger& a_ledger, const PimContactOptions& a_options, CardTaker a_taker );
@@ -79,7 +77,7 @@ public:
     void Finish();
 
     /// What the text outside cards is.
-    PimContactFileKind KindOfText() const { return m_textKind.Kind(); }
+    PimContactFileKind KindOfText() const { return m_outside.Kind(); }
 
 private:
     using Line = PhysicalLine;
@@ -102,116 +100,74 @@ private:
     // The card that is being read. A new card begins with a new object.
     struct OpenCard
     {
+        // All lines are expected to be indented.
+        bool IsIndented() const { return m_indentation > 0 && !m_knowledge.m_isPlain; }
+
         Line m_first;
         bool m_hasBegin = false;
+        // That of BEGIN.
         quint32 m_indentation = 0;
-        bool m_isFirstLineBehind = false; // no line but BEGIN has come
-        bool m_isIndented = false;
+        bool m_isFirstLineBehind = true; // no line but BEGIN has come
         qint64 m_lines = 0;
-        int m_nestedCards = 0;
-        // The only card inside began on its AGENT line.
-        bool m_isInlineAgent = false;
-        // An END that may be that of the card: that of an inline AGENT, or an indented one. Nothing but blank lines
-        // came since.
-        bool m_hasPendingEnd = false;
-        bool m_isPendingEndOfAgent = false;
-        Line m_pendingEnd;
-        // An indented BEGIN; all lines since are indented.
-        bool m_hasFoldedBegin = false;
-        bool m_hasFoldedEnd = false;
-        Line m_foldedBegin;
+        CardLookahead m_lookahead;
         Knowledge m_knowledge;
     };
 
-    // A card that is open, outermost or nested.
-    struct Frame
-    {
-        Frame( const LineFilter& a_filter, qint64 a_mostLineBytes ) :
-            m_lines( a_filter, a_mostLineBytes )
-        {
-        }
-        LogicalLines m_lines;
-        quint32 m_begin = 0;
-        // Lines before it in the outermost card.
-        quint32 m_line = 0;
-        // What becomes of it and of the property that holds it: Line, Filtered or Dropped.
-        EntryKind m_fate = EntryKind::Line;
-    };
-
     std::string_view TextOf( const Line& a_line ) const { return m_scanner.TextOf( a_line ); }
-    quint32 InCard( qint64 a_offset ) const { return static_cast<quint32>( a_offset - m_card.m_first.m_offset ); }
-    LogicalLines& Lines() { return m_frames[m_depth]->m_lines; }
-    CardLine CardLineOf( const Line& a_line ) const;
-    static TextPlace PlaceOf( const Line& a_line ) { return { a_line.m_offset, a_line.m_number, a_line.m_lineOffset }; }
-    Line Part( const Line& a_line, qint64 a_begin, qint64 a_end ) const;
 
     bool BeginPlainCard();
+    PlainStep EndPlainCard( PlainCard::Result a_result, bool a_isTooLong );
     void DeliverPlainCard( std::string_view a_bytes );
     void BeginFromPlainCard();
+
     void TakeOutside( const Line& a_line );
-    void TakeEndOutside( const Line& a_line );
-    void TellMarks( const Line& a_line, size_t a_marks );
-    void AddOutside( const Line& a_line );
-    void AddPieces( PimContactExtentKind a_kind, const Line& a_line, qint64 a_longest, qint64 a_card );
-    void EndTextOutside();
+    void TakeTextOutside( const Line& a_line );
     void TakeBeginOutside( const Line& a_line );
-    bool IsKnownProperty( const Line& a_line ) const;
     bool MayBeHeld( const Line& a_line ) const;
     void ReleaseHeld( qint64 a_end );
 
-    void BeginCard( const Line& a_line, bool a_hasBegin );
-    void BeginFrame( quint32 a_begin );
+    void BeginCard( const Line& a_line, bool a_hasBegin, Knowledge a_knowledge );
     void TakeInside( const Line& a_line );
     void TakeBoundary( const Line& a_line, const CardBoundary& a_boundary );
     bool TakeContent( const Line& a_line );
     bool CheckIndentation( const Line& a_line );
-    bool MayHoldCard( const Line& a_line );
+    bool MayHoldCard( const Line& a_line ) const;
     bool IsFold( const Line& a_line, Kind a_kind ) const;
-    void NoteFold( const Line& a_line, Kind a_kind );
+    void TakeFold( const Line& a_line, Kind a_kind );
     bool IsOverLimit( const Line& a_line ) const;
     void TakeOverLimit( const Line& a_line );
     void LeaveOverLimit( const Line& a_line );
-    void EndLookahead( std::string_view a_text );
+    void TakeBegin( const Line& a_line );
     void TakeEnd( const Line& a_line, const CardBoundary& a_boundary );
     void TakeEndAndBegin( const Line& a_line, qint64 a_beginPlace );
     void TakeInlineAgent( const Line& a_line, qint64 a_beginPlace );
-    void BeginNested( const Line& a_line );
-    void Absorb();
-    void EndAbsorbed( qint64 a_end );
-    void EndNested( qint64 a_end, bool a_hasEnd );
-    void WriteBoundary( const Line& a_line, const CardBoundary& a_boundary );
+    void BeginNested( const Line& a_line, bool a_isInline );
 
     void EndOpenCard( qint64 a_end );
+    void EndAndTake( const Line& a_line );
     void ReadAgain( qint64 a_end, Knowledge a_knowledge );
     Line LineAt( qint64 a_offset, qint64 a_end, qint64 a_number ) const;
     void TakeAll( qint64 a_begin, qint64 a_end, qint64 a_number );
     void EndAtPendingEnd( qint64 a_end );
     void EndBeforeFoldedBegin( qint64 a_end );
     void CloseCard( qint64 a_end, const Line* a_endLine );
-    void Deliver( const CardIndex& a_index, const CardFacts& a_facts, qint64 a_end );
-    void Tell( const CardIndex& a_index, const CardFacts& a_facts, std::string_view a_bytes );
-    void Count( const CardIndex& a_index, const CardFacts& a_facts );
-    void Refuse( PimContactDiagnosticCode a_code, qint64 a_end );
-    bool IsContact( const CardIndex& a_index, qint64 a_end ) const;
 
-    void Skip( PimContactDiagnosticCode a_code, const Line& a_line, bool a_isBehindAgent );
+    void SkipFromBegin( PimContactDiagnosticCode a_code, const Line& a_line );
+    void SkipFromInside( const Line& a_line );
     void TakeSkipped( const Line& a_line );
+    void LeaveSkipped( qint64 a_end );
+
     bool TakeOpenPart();
-    void RefreshBytes();
+    bool TakeOpenPartInside( const Line& a_line );
+    Line OpenLine() const;
 
     LineScanner& m_scanner;
     Ledger& m_ledger;
-    CardTaker m_taker;
-    LineFilter m_filter;
-    qint64 m_mostCardBytes;
-    qint64 m_mostCardLines;
-    int m_mostNesting;
-    qint64 m_mostCards;
-    qint64 m_mostBookBytes;
-    qint64 m_mostLineBytes;
-    QByteArray m_defaultCharset;
-    bool m_isDefaultKnown;
-    bool m_isConverted = false;
+    CardLimits m_limits;
+    CardDelivery m_delivery;
+    OutsideText m_outside;
+    CardStack m_stack;
+    SkippedCard m_skipped;
 
     State m_state = State::Outside;
     OpenCard m_card;
@@ -220,21 +176,6 @@ private:
     CardIndex m_sealed;
     bool m_mayTakePlainCards;
     bool m_isPlainCardOpen = false;
-    std::vector<std::unique_ptr<Frame>> m_frames;
-    size_t m_depth = 0;
-    // Cards nested deeper than the limit.
-    int m_absorbedDepth = 0;
-    bool m_isBehindAbsorbedAgent = false;
-    bool m_isEndOfText = false;
-    qint64 m_bookBytes = 0;
-
-    // Of a card that is refused.
-    int m_skippedDepth = 0;
-    bool m_isBehindSkippedAgent = false;
-
-    TextPlace m_outsideBegin;
-    qint64 m_outsideLines = 0;
-    TextKind m_textKind;
 };
 
 } // namespace PimManager::Contacts

@@ -252,4 +252,33 @@ void LineScanner::Release( qint64 a_offset )
     m_kept = static_cast<size_t>( a_offset - m_bufferOffset );
 }
 
+PhysicalLine LineScanner::PartOf( const PhysicalLine& a_line, qint64 a_begin, qint64 a_end ) const
+{
+    PhysicalLine part = a_line;
+    part.m_offset += a_begin;
+    part.m_length = a_end - a_begin;
+    part.m_endLength = a_end == a_line.m_length ? a_line.m_endLength : 0;
+    const std::string_view text = TextOf( part );
+    part.m_isWide = !std::all_of( text.begin(), text.end(), IsAsciiByte );
+    part.m_hasControls = std::any_of( text.begin(), text.end(), IsControlByte );
+    return part;
+}
+
+PhysicalLine LineScanner::LineAt( qint64 a_offset, qint64 a_end, qint64 a_number ) const
+{
+    const char* const begin = At( a_offset );
+    const char* const end = At( a_end );
+    LineEndSearch search;
+    const char* const place = search.Find( begin, end );
+    PhysicalLine line;
+    line.m_offset = a_offset;
+    line.m_lineOffset = a_offset;
+    line.m_number = a_number;
+    line.m_length = place - begin;
+    line.m_endLength = place == end ? 0 : LineEndSearch::LengthOfEnd( place, end, true );
+    line.m_isWide = search.IsWide();
+    line.m_hasControls = search.HasControls();
+    return line;
+}
+
 } // namespace PimManager::Contacts

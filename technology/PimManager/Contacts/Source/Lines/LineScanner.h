@@ -135,6 +135,14 @@ public:
     }
     std::string_view TextOf( const PhysicalLine& a_line ) const { return View( a_line.m_offset, a_line.m_length ); }
 
+    /// \param a_begin counts from the start of the line, and so does a_end.
+    /// \return a part of a line. It has the line ending if a_end is the end of the text of the line.
+    PhysicalLine PartOf( const PhysicalLine& a_line, qint64 a_begin, qint64 a_end ) const;
+    /// \param a_offset where a line begins that Next() has already returned.
+    /// \param a_end    the end of a line behind it, or of the text. The line is searched no further.
+    /// \return the line once more. It is taken as a whole, even if it came in parts.
+    PhysicalLine LineAt( qint64 a_offset, qint64 a_end, qint64 a_number ) const;
+
 private:
     // After so many single bytes the line is looked at again, whether it is too long. The capacity is a multiple of it.
     static constexpr size_t s_kCheckedBytes = 1024;

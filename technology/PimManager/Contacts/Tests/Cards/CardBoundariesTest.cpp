@@ -4,6 +4,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace PimManager::Contacts
@@ -124,6 +125,41 @@ TEST( CardBoundariesTest, BlanksAndMarksAreNoText )
                0U );
     for ( const char* const line : { "a.BEGIN:VCARD", "BEGIN;A:VCARD", "BEGIN:VCARD a" } )
         EXPECT_GT( textOf( line ), 0U ) << line;
+}
+
+TEST( CardBoundariesTest, OpenAgentIsAnAgentWithoutAValue )
+{
+    struct Row
+    {
+        std::string_view m_line;
+        bool m_isOpen;
+    };
+    constexpr std::array<Row, 12> rows = { { { "AGENT:", true },
+                                             { "agent:", true },
+                                             { " AGENT: \t", true },
+                                             { "AGENT;X=1:", true },
+                                             { "a.AGENT:", true },
+                                             { "AGENT", false },
+                                             { "AGENT;X=1", false },
+                                             { "AGENT:a", false },
+                                             { "AGENT:BEGIN:VCARD", false },
+                                             { "AGENTS:", false },
+                                             { "NOTE:AGENT:", false },
+                                             { "", false } } };
+    for ( const Row& row : rows )
+        EXPECT_EQ( CardBoundary::IsOpenAgent( row.m_line ), row.m_isOpen ) << row.m_line;
+}
+
+TEST( CardBoundariesTest, LinesInPartsAndLinesBeyondTheLimitAreTooLong )
+{
+    PhysicalLine line;
+    line.m_length = CardBoundary::s_kLongest;
+    EXPECT_FALSE( CardBoundary::IsTooLong( line ) );
+    ++line.m_length;
+    EXPECT_TRUE( CardBoundary::IsTooLong( line ) );
+    line.m_length = 0;
+    line.m_isLong = true;
+    EXPECT_TRUE( CardBoundary::IsTooLong( line ) );
 }
 
 } // namespace PimManager::Contacts

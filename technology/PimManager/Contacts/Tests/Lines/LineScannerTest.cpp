@@ -6,6 +6,7 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace PimManager::Contacts
 {
@@ -254,6 +255,61 @@ TEST( LineScannerUseTest, ReleasedBytesLeaveTheOthersInTheirPlaces )
         scanner.Release( offset );
         kept = text + "\r\n";
         offset = line.End();
+    }
+}
+
+TEST( LineScannerUseTest, PartsHaveTheirOwnFlags )
+{
+    struct Row
+    {
+        const char* m_text;
+        qint64 m_begin;
+        qint64 m_end;
+        const char* m_part;
+    };
+    constexpr std::array<Row, 6> rows = { { { "abcd\n", 0, 4, "2@2 'abcd' LF" },
+                                            { "abcd\n", 0, 2, "2@2 'ab' end" },
+                                            { "abcd\r\n", 2, 4, "2@4 'cd' CRLF" },
+                                            { "abcd", 4, 4, "2@6 '' end" },
+                                            { "\xE9\x01"
+                                              "cd\n",
+                                              2, 4, "2@4 'cd' LF" },
+                                            { "ab\xE9\x01\n", 2, 4, "2@4 '\xE9\x01' LF wide controls" } } };
+    for ( const Row& row : rows )
+    {
+        LineScanner scanner;
+        scanner.Append( "\n\n" );
+        scanner.Append( row.m_text );
+        scanner.Finish();
+        scanner.PassLines( 2, 1 );
+        PhysicalLine line;
+        ASSERT_TRUE( scanner.Next( line ) ) << row.m_part;
+        const PhysicalLine part = scanner.PartOf( line, row.m_begin, row.m_end );
+        EXPECT_EQ( Described( scanner, part ), row.m_part );
+        EXPECT_EQ( part.m_lineOffset, 2 ) << row.m_part;
+    }
+}
+
+TEST( LineScannerUseTest, LinesCanBeReturnedOnceMore )
+{
+    const std::string text = "ab\r\n\xE9\x01\nc\r\r\n\rlast";
+    LineScanner scanner;
+    scanner.Append( text );
+    scanner.Finish();
+    std::vector<PhysicalLine> lines;
+    for ( PhysicalLine line; scanner.Next( line ); )
+        lines.push_back( line );
+    ASSERT_EQ( lines.size(), 5U );
+    for ( const PhysicalLine& line : lines )
+    {
+        for ( const qint64 end : { line.End(), static_cast<qint64>( text.size() ) } )
+        {
+            PhysicalLine again = scanner.LineAt( line.m_offset, end, line.m_number );
+            EXPECT_EQ( again.m_endLength, line.m_endLength ) << line.m_number;
+            EXPECT_EQ( again.m_lineOffset, line.m_lineOffset ) << line.m_number;
+            again.m_endKind = line.m_endKind;
+            EXPECT_EQ( Described( scanner, again ), Described( scanner, line ) );
+        }
     }
 }
 

@@ -1,0 +1,130 @@
+/// \file
+/// The lines of a card and of the cards inside it.
+
+#pragma once
+
+#include "Cards/CardBoundaries.h"
+#include "Cards/CardRecord.h"
+#include "Lines/LineFilter.h"
+#include "Lines/LineScanner.h"
+#include "Lines/LogicalLines.h"
+
+#include <PimManager/Contacts/PimContactOptions.h>
+
+#include <memory>
+#include <vector>
+
+namespace PimManager::Contacts
+{
+
+/// Writes the index of a card that is open: LogicalLines for the card, and for each card that is open inside it. It
+/// decides nothing about boundaries; the caller passes lines, BEGIN and END.
+///
+/// A card inside is left out, with the property that holds it, if it is nested deeper than the limit or if the property
+/// is filtered or too long. The lines of cards that are nested too deeply are not read at all.
+class CardStack
+{
+public:
+    /// \param a_scanner has the bytes of the card; must outlive this object.
+    /// \param a_isDefaultKnown as for SealCard().
+    CardStack( const LineScanner& a_scanner, const PimContactOptions& a_options, bool a_isDefaultKnown );
+
+    /// Begins a card and forgets the one before.
+    /// \param a_first       its first line. Passing it with AddBegin() is up to the caller, because it may be no BEGIN.
+    /// \param a_indentation as for LogicalLines::Begin().
+    void Begin( const PhysicalLine& a_first, quint32 a_indentation );
+    /// Adds the BEGIN line of the outermost card, as it is recognised outside cards.
+    void AddBegin( const PhysicalLine& a_line );
+    /// Must be called whenever the scanner has been asked for a line or has received bytes: it moves its bytes.
+    void RefreshBytes()
+    {
+        for ( size_t depth = 0; depth <= m_depth; ++depth )
+            m_levels[depth]->m_lines.SetBytes( m_scanner.At( m_offset ) );
+    }
+
+    /// Takes a line that is no boundary.
+    void Take( const PhysicalLine& a_line )
+    {
+        if ( m_tooDeep == 0 )
+            Lines().Take( CardLineOf( a_line ) );
+        else
+            TakeTooDeep( a_line );
+    }
+    /// Begins a card inside the innermost one.
+    /// \param a_begin its BEGIN line. The line before it is an AGENT line: IsBehindAgent() has been called.
+    void BeginNested( const PhysicalLine& a_begin );
+    /// Ends the innermost card, which is not the outermost one.
+    void EndNested( const PhysicalLine& a_end, const CardBoundary& a_boundary );
+    /// Ends all cards that are open.
+    ///
+    /// \param a_end   the place in the text where they end.
+    /// \param a_endLine the END line of the outermost card; null if it is missing.
+    /// \param a_hasBegin the outermost card has a BEGIN line.
+    /// \param[out] a_index the record and the index of the outermost card.
+    void Close( qint64 a_end, const PhysicalLine* a_endLine, bool a_hasBegin, CardIndex& a_index );
+
+    /// No card is open inside the outermost one.
+    bool IsOutermost() const { return m_depth == 0 && m_tooDeep == 0; }
+    /// The innermost card is nested too deeply.
+    bool IsTooDeep() const { return m_tooDeep > 0; }
+    /// How many cards are open inside the outermost one.
+    int Depth() const { return static_cast<int>( m_depth ) + m_tooDeep; }
+    /// The last line is an AGENT line without a value. Settles that line.
+    bool IsBehindAgent() { return IsTooDeep() ? m_isBehindAgentTooDeep : Lines().IsBehindOpenAgent(); }
+    /// An indented line continues the line before it. Cards that are nested too deeply have no such lines.
+    bool MayFold() const { return !IsTooDeep() && m_levels[m_depth]->m_lines.MayFold(); }
+
+    /// The lines of the innermost card that is not nested too deeply.
+    LogicalLines& Lines() { return m_levels[m_depth]->m_lines; }
+
+private:
+    struct Level
+    {
+        Level( const LineFilter& a_filter, qint64 a_mostLineBytes ) :
+            m_lines( a_filter, a_mostLineBytes )
+        {
+        }
+        LogicalLines m_lines;
+        quint32 m_begin = 0;
+        // Lines before it in the outermost card.
+        quint32 m_line = 0;
+        // What becomes of it and of the property that holds it: Line, Filtered or Dropped.
+        EntryKind m_fate = EntryKind::Line;
+    };
+
+    quint32 InCard( qint64 a_offset ) const { return static_cast<quint32>( a_offset - m_offset ); }
+    CardLine CardLineOf( const PhysicalLine& a_line ) const
+    {
+        return { InCard( a_line.m_offset ), InCard( a_line.TextEnd() ), InCard( a_line.End() ), a_line.m_isWide,
+                 a_line.m_hasControls };
+    }
+    void AddLevel();
+    void BeginLevel( quint32 a_begin );
+    void WriteBoundary( const PhysicalLine& a_line, const CardBoundary& a_boundary );
+    void TakeTooDeep( const PhysicalLine& a_line );
+    void BeginTooDeep();
+    void EndTooDeep( qint64 a_end );
+    void EndLevel( qint64 a_end, bool a_hasEnd );
+    void LeaveOut( qint64 a_end, EntryKind a_fate );
+    void AddToOuter( const CardFacts& a_facts, const CardIndex& a_index );
+    void Seal( const Level& a_level, CardRecord a_record, qint64 a_end, CardIndex& a_index ) const;
+
+    const LineScanner& m_scanner;
+    LineFilter m_filter;
+    qint64 m_mostLineBytes;
+    size_t m_mostNesting;
+    bool m_isDefaultKnown;
+
+    // Of the outermost card.
+    qint64 m_offset = 0;
+    qint64 m_number = 1;
+    quint32 m_indentation = 0;
+    // Levels are kept for their memory. That of the innermost card:
+    std::vector<std::unique_ptr<Level>> m_levels;
+    size_t m_depth = 0;
+    // How many cards are open that are nested too deeply.
+    int m_tooDeep = 0;
+    bool m_isBehindAgentTooDeep = false;
+};
+
+} // namespace PimManager::Contacts

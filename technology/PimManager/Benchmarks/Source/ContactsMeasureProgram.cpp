@@ -1,18 +1,18 @@
 // pimvcard-measure-contacts: reads an address book with Contacts, for tools that watch a process from outside.
 //
 //   keep FILE [SNAPSHOT]         reads the file into a book; ends without deleting it. Under massif, the heap with
-//   nothing
-//                                but the book in it is written to the file SNAPSHOT.
+//                                nothing but the book in it is written to the file SNAPSHOT.
 //   lines FILE                   the same, and copies group, name, parameters and value of every line.
 //   pieces FILE BYTES [LIMIT]    feeds the file in pieces of that many bytes, and drops each card. LIMIT is the largest
 //                                card in bytes.
 //   stream FILE TIMES            feeds the file that many times over as one text, in pieces of 64 KB, and drops each
-//   card;
-//                                the file is the only text in memory.
+//                                card; the file is the only text in memory.
+//   json FILE                    reads the file in pieces of 64 KB, writes each card as JSON, and drops both.
 //
 // Each prints the number of cards, the bytes that were read, and the most memory that the process had at once.
 
 #include <PimManager/Contacts/PimContactBook.h>
+#include <PimManager/Contacts/PimContactJson.h>
 #include <PimManager/Contacts/PimContactReader.h>
 
 #include <QByteArray>
@@ -130,6 +130,27 @@ int Pieces( const char* a_name, qint64 a_bytes, qint64 a_limit )
     return 0;
 }
 
+int Json( const char* a_name )
+{
+    QFile file;
+    Open( file, a_name );
+    PimContactJson json;
+    QByteArray text;
+    PimContactReader reader;
+    reader.SetCardHandler(
+        [&json, &text]( const PimContactCard& a_card )
+        {
+            text.resize( 0 );
+            json.Append( a_card, text );
+            return true;
+        } );
+    for ( QByteArray piece = file.read( s_kBlock ); !piece.isEmpty(); piece = file.read( s_kBlock ) )
+        reader.Feed( piece );
+    reader.Finish();
+    Print( reader.Report() );
+    return 0;
+}
+
 int Stream( const char* a_name, int a_times )
 {
     QFile file;
@@ -162,11 +183,13 @@ int main( int argc, char* argv[] )
         return Lines( argv[2] );
     if ( command == "pieces" && number > 0 )
         return Pieces( argv[2], number, argc > 4 ? std::atoll( argv[4] ) : 0 );
+    if ( command == "json" )
+        return Json( argv[2] );
     if ( command == "stream" && number > 0 )
         return Stream( argv[2], static_cast<int>( number ) );
     std::fputs( "usage: pimvcard-measure-contacts keep FILE [SNAPSHOT]\n       pimvcard-measure-contacts lines FILE\n"
                 "       pimvcard-measure-contacts pieces FILE BYTES [LIMIT]\n"
-                "       pimvcard-measure-contacts stream FILE TIMES\n",
+                "       pimvcard-measure-contacts stream FILE TIMES\n       pimvcard-measure-contacts json FILE\n",
                 stderr );
     return s_kWrongUse;
 }

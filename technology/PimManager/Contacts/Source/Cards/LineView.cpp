@@ -14,6 +14,22 @@ std::string_view IndexedLine::Unfolded( std::string_view a_part, ByteRange a_ran
     return ViewOf( a_buffer );
 }
 
+namespace
+{
+
+// Of the line that precedes the next entry; blank lines may follow it.
+bool FindNested( IndexReader a_reader, IndexEntry& a_nested )
+{
+    while ( !a_reader.AtEnd() && a_reader.NextKind() == EntryKind::Blank )
+        a_reader.Next( a_nested );
+    if ( a_reader.AtEnd() || a_reader.NextKind() != EntryKind::Nested )
+        return false;
+    a_reader.Next( a_nested );
+    return true;
+}
+
+} // namespace
+
 CardView PimContactCardPrivate::LineView::ViewOf( const PimContactCardPrivate* a_private, quint32 a_record )
 {
     CardView view;
@@ -51,23 +67,33 @@ bool PimContactCardPrivate::LineView::FindNested( const PimContactLine& a_line, 
     IndexReader reader = EntriesOf( a_line.d->Index(), a_line.m_record );
     reader.StepTo( a_line.m_entry );
     reader.Next( a_nested, true );
-    do
-    {
-        if ( reader.AtEnd() )
-            return false;
-        reader.Next( a_nested, true );
-    } while ( a_nested.m_kind == EntryKind::Blank );
-    return a_nested.m_kind == EntryKind::Nested;
+    return PimManager::Contacts::FindNested( reader, a_nested );
 }
 
 LineCursor::LineCursor( const PimContactCard& a_card ) :
+    LineCursor( PimContactCardPrivate::LineView::CardOf( a_card ) )
+{
+}
+
+LineCursor::LineCursor( const CardView& a_card ) :
     m_reader( nullptr, 0, 0 )
 {
-    if ( a_card.IsNull() )
+    if ( a_card.m_index == nullptr )
         return;
-    m_line.m_card = PimContactCardPrivate::LineView::CardOf( a_card );
-    m_reader = EntriesOf( m_line.m_card.m_index, m_line.m_card.m_place );
-    m_begin = m_line.m_card.m_record.m_begin;
+    m_line.m_card = a_card;
+    m_reader = EntriesOf( a_card.m_index, a_card.m_place );
+    m_begin = a_card.m_record.m_begin;
+}
+
+bool LineCursor::FindNested( CardView& a_nested ) const
+{
+    IndexEntry entry;
+    if ( !PimManager::Contacts::FindNested( m_reader, entry ) )
+        return false;
+    a_nested = m_line.m_card;
+    a_nested.m_place = entry.m_indexBegin;
+    a_nested.m_record = CardRecord::At( a_nested.m_index + a_nested.m_place );
+    return true;
 }
 
 bool LineCursor::Next()

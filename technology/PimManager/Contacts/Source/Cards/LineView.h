@@ -56,6 +56,8 @@ struct IndexedLine
 
     /// \return the name, without breaks. Refers to the card, or to a_buffer if a break is inside.
     std::string_view Name( QByteArray& a_buffer ) const { return HeadPart( m_entry.m_name, a_buffer ); }
+    /// The same for the group.
+    std::string_view Group( QByteArray& a_buffer ) const { return HeadPart( m_entry.m_group, a_buffer ); }
     /// The same for the parameters.
     std::string_view Parameters( QByteArray& a_buffer ) const { return HeadPart( m_entry.m_parameters, a_buffer ); }
 
@@ -88,9 +90,13 @@ class LineCursor
 public:
     /// \param a_card must outlive the cursor.
     explicit LineCursor( const PimContactCard& a_card );
+    explicit LineCursor( const CardView& a_card );
 
     /// \return false behind the last line.
     bool Next();
+
+    /// \return true if the line holds a card, as AGENT does.
+    bool FindNested( CardView& a_nested ) const;
 
     const IndexedLine& Line() const { return m_line; }
     /// The name of the line. Valid until the next call of Next().

@@ -242,6 +242,11 @@ inline quint32 IndexReader::Number()
     return number;
 }
 
+EntryKind IndexReader::NextKind() const
+{
+    return static_cast<EntryKind>( m_base[m_place] & s_kKindMask );
+}
+
 void IndexReader::Next( IndexEntry& a_entry, bool a_isBrief )
 {
     const uint header = m_base[m_place++];

@@ -172,6 +172,8 @@ public:
     }
 
     bool AtEnd() const { return m_place >= m_end; }
+    /// The kind of the next entry. Not at the end.
+    EntryKind NextKind() const;
     /// Where the next entry begins.
     quint32 Place() const { return m_place; }
     /// Goes on at the beginning of another entry.

@@ -1,6 +1,7 @@
 #include "Text/FileSignature.h"
 
 #include "Text/Bytes.h"
+#include "Text/MediaType.h"
 
 #include <algorithm>
 #include <array>
@@ -17,11 +18,10 @@ constexpr size_t s_kLookedAt = 4096;
 constexpr std::string_view s_kWhiteSpace = " \t\r\n\f";
 constexpr std::string_view s_kDocumentType = "<!DOCTYPE";
 
-// In a pattern, a dot is any byte.
 struct Signature
 {
     PimContactFileKind m_kind;
-    std::string_view m_pattern;
+    std::string_view m_bytes;
 };
 
 constexpr std::array s_kSignatures = {
@@ -30,33 +30,12 @@ constexpr std::array s_kSignatures = {
     Signature{ PimContactFileKind::Compressed, "PK\x05\x06"sv },
     Signature{ PimContactFileKind::Compressed, "PK\x07\x08"sv },
     Signature{ PimContactFileKind::Document, "%PDF-"sv },
-    Signature{ PimContactFileKind::Image, "\xFF\xD8\xFF"sv },
-    Signature{ PimContactFileKind::Image, "\x89PNG\r\n\x1A\n"sv },
-    Signature{ PimContactFileKind::Image, "GIF87a"sv },
-    Signature{ PimContactFileKind::Image, "GIF89a"sv },
-    Signature{ PimContactFileKind::Image, "RIFF....WEBP"sv },
-    Signature{ PimContactFileKind::Image, "....ftypheic"sv },
-    Signature{ PimContactFileKind::Image, "....ftypheix"sv },
-    Signature{ PimContactFileKind::Image, "....ftyphevc"sv },
-    Signature{ PimContactFileKind::Image, "....ftypmif1"sv },
-    Signature{ PimContactFileKind::Image, "....ftypmsf1"sv },
-    Signature{ PimContactFileKind::Image, "....ftypavif"sv },
-    Signature{ PimContactFileKind::Image, "II*\0"sv },
-    Signature{ PimContactFileKind::Image, "MM\0*"sv },
-    Signature{ PimContactFileKind::Image, "BM....\0\0\0\0"sv },
 };
 
 // Elements that a page may begin with, and the name in a document type.
 constexpr std::array s_kElements = { "html"sv,   "head"sv,     "title"sv,  "meta"sv, "link"sv, "base"sv,  "style"sv,
                                      "script"sv, "noscript"sv, "iframe"sv, "body"sv, "div"sv,  "table"sv, "center"sv,
                                      "font"sv,   "h1"sv,       "p"sv,      "a"sv,    "b"sv,    "br"sv };
-
-bool Matches( std::string_view a_start, std::string_view a_pattern )
-{
-    return a_start.size() >= a_pattern.size() &&
-           std::equal( a_pattern.begin(), a_pattern.end(), a_start.begin(),
-                       []( char a_expected, char a_byte ) { return a_expected == '.' || a_expected == a_byte; } );
-}
 
 void RemoveWhiteSpace( std::string_view& a_text )
 {
@@ -110,9 +89,13 @@ bool IsText( std::string_view a_text )
 
 PimContactFileKind FileKindBySignature( std::string_view a_start )
 {
+    constexpr std::string_view s_kImage = "image/";
+    if ( MediaTypeBySignature( a_start ).substr( 0, s_kImage.size() ) == s_kImage )
+        return PimContactFileKind::Image;
     const auto* const found =
         std::find_if( s_kSignatures.begin(), s_kSignatures.end(),
-                      [a_start]( const Signature& a_signature ) { return Matches( a_start, a_signature.m_pattern ); } );
+                      [a_start]( const Signature& a_signature )
+                      { return a_start.substr( 0, a_signature.m_bytes.size() ) == a_signature.m_bytes; } );
     return found == s_kSignatures.end() ? PimContactFileKind::Unknown : found->m_kind;
 }
 

@@ -18,9 +18,7 @@ constexpr size_t s_kSignatureBytes = 16;
 /// Recognises files that cannot be address books by their first bytes.
 ///
 /// \param a_start the first s_kSignatureBytes bytes of a file, or all of them if the file is shorter.
-/// \return Compressed (gzip, zip), Document (PDF), Image (JPEG, PNG, GIF, WebP, HEIF, AVIF, TIFF, BMP), or Unknown.
-/// Text
-///         that begins with `BM` is no BMP image: the four reserved bytes of its header must be zero.
+/// \return Compressed (gzip, zip), Document (PDF), Image (see MediaType.h), or Unknown.
 PimContactFileKind FileKindBySignature( std::string_view a_start );
 
 /// Determines what a file without cards contains, by the first 4 KiB of its text.

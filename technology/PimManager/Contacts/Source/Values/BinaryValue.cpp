@@ -3,6 +3,7 @@
 #include "Text/Base64.h"
 #include "Text/Bytes.h"
 #include "Text/FileSignature.h"
+#include "Text/PercentEncoding.h"
 #include "Values/Buffer.h"
 #include "Values/ValueDecoder.h"
 
@@ -43,29 +44,43 @@ bool HasMediaName( const IndexedLine& a_line )
                         [name]( std::string_view a_media ) { return IsSameWord( name, a_media ); } );
 }
 
-/// \return the first characters of the value, without blanks and backslashes.
-QByteArray StartOf( const IndexedLine& a_line )
+/// The first characters of a value, without blanks and backslashes.
+class ValueStart
 {
-    QByteArray start;
+public:
+    explicit ValueStart( const IndexedLine& a_line );
+    std::string_view Text() const { return std::string_view( m_text.data(), m_size ); }
+
+private:
+    void Take( std::string_view a_piece );
+
+    std::array<char, s_kStart> m_text;
+    size_t m_size = 0;
+};
+
+ValueStart::ValueStart( const IndexedLine& a_line )
+{
     LinePieces pieces = a_line.Pieces( a_line.ValueRange() );
-    while ( start.size() < static_cast<int>( s_kStart ) && pieces.Next() )
+    while ( m_size < s_kStart && pieces.Next() )
+        Take( pieces.Text().substr( 0, 2 * s_kStart ) );
+}
+
+void ValueStart::Take( std::string_view a_piece )
+{
+    for ( size_t place = 0; place < a_piece.size() && m_size < s_kStart; ++place )
     {
-        for ( const char byte : pieces.Text().substr( 0, 2 * s_kStart ) )
-        {
-            if ( !IsBlank( byte ) && byte != '\\' )
-                start.append( byte );
-        }
+        if ( !IsBlank( a_piece[place] ) && a_piece[place] != '\\' )
+            m_text.at( m_size++ ) = a_piece[place];
     }
-    start.truncate( static_cast<int>( s_kStart ) );
-    return start;
 }
 
 // Most values do not, and then nothing has to be copied.
 bool MayBeDataUri( const IndexedLine& a_line )
 {
     const std::string_view value = a_line.ValueRange().In( a_line.m_text );
-    const std::string_view text = value.substr( std::min( value.find_first_not_of( " \t\\" ), value.size() ) );
-    return a_line.IsContinued() || ( !text.empty() && Upper( text.front() ) == 'D' );
+    const size_t first = value.find_first_not_of( " \t\\" );
+    const char byte = first == std::string_view::npos ? '\0' : value[first];
+    return Upper( byte ) == 'D' || ( a_line.IsContinued() && ( byte == '\0' || IsLineEndByte( byte ) || byte == '=' ) );
 }
 
 bool IsDataUri( std::string_view a_text )
@@ -108,27 +123,12 @@ void DecodeBase64Lines( const IndexedLine& a_line, BinaryData& a_data )
 
 void DecodePercents( std::string_view a_text, BinaryData& a_data )
 {
-    const auto digit = []( char a_byte )
-    {
-        constexpr std::string_view s_kDigits = "0123456789ABCDEF";
-        return s_kDigits.find( Upper( a_byte ) );
-    };
-    size_t place = 0;
-    for ( size_t percent = a_text.find( '%' ); percent != std::string_view::npos; percent = a_text.find( '%', place ) )
-    {
-        Append( a_data.m_bytes, a_text.substr( place, percent - place ) );
-        const std::string_view digits = a_text.substr( percent + 1, 2 );
-        const size_t high = digits.size() == 2 ? digit( digits[0] ) : std::string_view::npos;
-        const size_t low = digits.size() == 2 ? digit( digits[1] ) : std::string_view::npos;
-        if ( high == std::string_view::npos || low == std::string_view::npos )
-        {
-            a_data.m_faultPlace = static_cast<qint64>( percent );
-            return;
-        }
-        a_data.m_bytes.append( static_cast<char>( high * 16 + low ) );
-        place = percent + 3;
-    }
-    Append( a_data.m_bytes, a_text.substr( place ) );
+    size_t fault = a_text.find( '%' );
+    while ( fault != std::string_view::npos && PercentByte( a_text, fault ) >= 0 )
+        fault = a_text.find( '%', fault + 1 );
+    if ( fault != std::string_view::npos )
+        a_data.m_faultPlace = static_cast<qint64>( fault );
+    AppendPercentDecoded( a_text.substr( 0, fault ), a_data.m_bytes );
 }
 
 void DecodePercentsAndBase64( std::string_view a_text, BinaryData& a_data )
@@ -180,8 +180,8 @@ bool IsBinary( const IndexedLine& a_line )
     const bool isMedia = HasMediaName( a_line );
     if ( !isMedia && !MayBeDataUri( a_line ) )
         return false;
-    const QByteArray start = StartOf( a_line );
-    return IsDataUri( ViewOf( start ) ) || ( isMedia && HasKnownSignature( ViewOf( start ) ) );
+    const ValueStart start( a_line );
+    return IsDataUri( start.Text() ) || ( isMedia && HasKnownSignature( start.Text() ) );
 }
 
 PimContactBinary BinaryOf( const IndexedLine& a_line )
@@ -190,7 +190,7 @@ PimContactBinary BinaryOf( const IndexedLine& a_line )
         return PimContactBinary();
     BinaryData data;
     data.m_isNull = false;
-    const bool isDataUri = IsDataUri( ViewOf( StartOf( a_line ) ) );
+    const bool isDataUri = IsDataUri( ValueStart( a_line ).Text() );
     if ( !isDataUri && a_line.m_entry.m_encoding == PimContactEncoding::Base64 )
         DecodeBase64Lines( a_line, data );
     else

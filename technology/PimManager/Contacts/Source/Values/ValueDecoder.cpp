@@ -98,12 +98,12 @@ void ValueDecoder::Decode( const IndexedLine& a_line )
         DecodeRaw( a_line );
 }
 
-std::string_view ValueDecoder::Parameters( const IndexedLine& a_line )
+std::string_view ValueDecoder::Head( const IndexedLine& a_line, ByteRange a_part )
 {
     m_findings.Clear();
     m_runs.clear();
     m_literals.clear();
-    Unfold( a_line, a_line.m_entry.m_parameters );
+    Unfold( a_line, a_part );
     if ( !IsSurelyUtf8( a_line ) )
         DecodeRaw( a_line );
     return m_escaped.m_text;

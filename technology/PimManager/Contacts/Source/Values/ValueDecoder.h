@@ -34,7 +34,10 @@ public:
 
     /// Decodes the parameters of a line up to their quotes.
     /// \return the text from the first semicolon up to the colon, in UTF-8. Valid as long as a value would be.
-    std::string_view Parameters( const IndexedLine& a_line );
+    std::string_view Parameters( const IndexedLine& a_line ) { return Head( a_line, a_line.m_entry.m_parameters ); }
+
+    /// The same for the name or the group.
+    std::string_view Head( const IndexedLine& a_line, ByteRange a_part );
 
     /// The value with its escapes, in UTF-8. Valid until the next line.
     const EscapedText& Escaped() const { return m_escaped; }

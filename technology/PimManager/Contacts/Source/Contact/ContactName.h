@@ -1,0 +1,39 @@
+/// \file
+/// Chooses what to call a contact.
+
+#pragma once
+
+#include "Contact/PropertyName.h"
+
+#include <QByteArray>
+
+#include <initializer_list>
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// Takes the properties of a card in any order and keeps the best name: FN, else N in the order of speech, else
+/// NICKNAME, ORG, a mail address or a number. Of several properties of a name, the first one that is not empty counts.
+class ContactName
+{
+public:
+    void Clear();
+
+    /// \return true if a property of this name would be a better name than what there is.
+    bool Wants( PropertyName a_source ) const { return a_source < m_source && a_source <= PropertyName::Tel; }
+
+    /// Takes a name that Wants() has accepted.
+    /// \param a_parts are joined by blanks; all white space becomes single blanks.
+    void Take( PropertyName a_source, std::initializer_list<std::string_view> a_parts );
+
+    /// Empty if there is none.
+    std::string_view Text() const;
+
+private:
+    QByteArray m_text;
+    QByteArray m_candidate;
+    PropertyName m_source = PropertyName::Other;
+};
+
+} // namespace PimManager::Contacts

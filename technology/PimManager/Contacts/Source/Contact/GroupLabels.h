@@ -1,0 +1,38 @@
+/// \file
+/// The labels that a card has for groups of properties.
+
+#pragma once
+
+#include "Cards/LineView.h"
+#include "Text/WordGroups.h"
+#include "Values/ValueDecoder.h"
+
+#include <QByteArray>
+
+#include <string_view>
+#include <vector>
+
+namespace PimManager::Contacts
+{
+
+/// The labels of the groups of one card: the values of X-ABLabel. The first one of a group counts. Keeps its memory.
+class GroupLabels
+{
+public:
+    void Read( const CardView& a_card );
+
+    /// \param a_group in any letter case, as written.
+    /// \return the label without marks (see LabelMarks.h); empty if there is none.
+    std::string_view Of( std::string_view a_group ) const;
+
+private:
+    ByteRange Add( std::string_view a_text );
+
+    ValueDecoder m_decoder;
+    QByteArray m_texts;
+    std::vector<ByteRange> m_labels;
+    std::vector<ByteRange> m_groupRanges;
+    WordGroups m_groups;
+};
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,30 @@
+/// \file
+/// Writes values that are bytes.
+
+#pragma once
+
+#include "Cards/LineView.h"
+#include "Contact/LineParameters.h"
+#include "Json/JsonText.h"
+
+#include <QtGlobal>
+
+namespace PimManager::Contacts
+{
+
+/// What became of a value.
+struct BinaryJson
+{
+    bool m_isWritten = false;
+    /// The place of the first character that could not be decoded; -1 if there is none, or if the value is text.
+    qint64 m_faultPlace = -1;
+};
+
+/// Writes the members `mediaType`, `size` and `data` for a value that is bytes (see BinaryValue.h). BASE64 without
+/// anything unusual is copied, and any other value is decoded and encoded again. Nothing is written for a text, and for
+/// a value that cannot be decoded.
+///
+/// \param a_parameters the parameters of the line.
+BinaryJson WriteBinary( const IndexedLine& a_line, const LineParameters& a_parameters, JsonText& a_json );
+
+} // namespace PimManager::Contacts

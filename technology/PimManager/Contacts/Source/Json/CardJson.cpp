@@ -1,0 +1,79 @@
+#include "Json/CardJson.h"
+
+#include "Text/Bytes.h"
+#include "Values/Buffer.h"
+
+namespace PimManager::Contacts
+{
+
+void CardJson::Write( const PimContactCard& a_card, const QByteArray& a_file, JsonText& a_json )
+{
+    const CardView view = PimContactCardPrivate::LineView::CardOf( a_card );
+    m_firstLine = a_card.FirstLine() - view.m_record.m_line;
+    a_json.Raw( "{" );
+    if ( !a_file.isNull() )
+    {
+        a_json.Raw( "\"file\":" );
+        a_json.String( ViewOf( a_file ) );
+        a_json.Raw( "," );
+    }
+    a_json.Raw( "\"card\":" );
+    a_json.Number( a_card.Number() );
+    a_json.Raw( "," );
+    WriteMembers( view, 0, a_json );
+    a_json.Raw( "}" );
+}
+
+// The properties are written first, because each of them is decoded only once.
+void CardJson::WriteMembers( const CardView& a_card, size_t a_depth, JsonText& a_json )
+{
+    a_json.Raw( "\"line\":" );
+    a_json.Number( m_firstLine + a_card.m_record.m_line );
+    a_json.Raw( a_card.m_record.Has( CardRecord::IsWhole ) ? ",\"whole\":true" : ",\"whole\":false" );
+    const size_t headPlace = a_json.Place();
+    a_json.Raw( ",\"properties\":[" );
+    WriteProperties( a_card, a_depth, a_json );
+    a_json.Raw( "]" );
+    Empty( m_head );
+    JsonText head( m_head );
+    LevelAt( a_depth ).m_head.WriteTo( head );
+    head.Finish();
+    a_json.Insert( headPlace, ViewOf( m_head ) );
+}
+
+void CardJson::WriteProperties( const CardView& a_card, size_t a_depth, JsonText& a_json )
+{
+    Level& level = LevelAt( a_depth );
+    level.m_head.Clear();
+    level.m_hasLabels = false;
+    std::string_view before;
+    for ( LineCursor cursor( a_card ); cursor.Next(); )
+    {
+        if ( cursor.Line().m_entry.m_group.m_length > 0 && !level.m_hasLabels )
+        {
+            level.m_labels.Read( a_card );
+            level.m_hasLabels = true;
+        }
+        CardView nested;
+        const bool holdsCard = cursor.FindNested( nested );
+        a_json.Raw( before );
+        m_property.Write( cursor.Line(), level.m_labels, holdsCard, level.m_head, a_json );
+        if ( holdsCard )
+        {
+            a_json.Raw( ",\"card\":{" );
+            WriteMembers( nested, a_depth + 1, a_json );
+            a_json.Raw( "}" );
+        }
+        a_json.Raw( "}" );
+        before = ",";
+    }
+}
+
+CardJson::Level& CardJson::LevelAt( size_t a_depth )
+{
+    while ( m_levels.size() <= a_depth )
+        m_levels.push_back( std::make_unique<Level>() );
+    return *m_levels[a_depth];
+}
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,48 @@
+/// \file
+/// Writes cards.
+
+#pragma once
+
+#include "Contact/GroupLabels.h"
+#include "Json/ContactHead.h"
+#include "Json/JsonText.h"
+#include "Json/PropertyJson.h"
+
+#include <PimManager/Contacts/PimContactCard.h>
+
+#include <QByteArray>
+
+#include <memory>
+#include <vector>
+
+namespace PimManager::Contacts
+{
+
+/// Writes one card after the other, and keeps its memory.
+class CardJson
+{
+public:
+    /// \param a_file the member `file`; null to leave it out.
+    void Write( const PimContactCard& a_card, const QByteArray& a_file, JsonText& a_json );
+
+private:
+    // Of a card and of each card that it is nested in.
+    struct Level
+    {
+        ContactHead m_head;
+        GroupLabels m_labels;
+        bool m_hasLabels = false;
+    };
+
+    void WriteMembers( const CardView& a_card, size_t a_depth, JsonText& a_json );
+    void WriteProperties( const CardView& a_card, size_t a_depth, JsonText& a_json );
+    Level& LevelAt( size_t a_depth );
+
+    PropertyJson m_property;
+    std::vector<std::unique_ptr<Level>> m_levels;
+    QByteArray m_head;
+    // Of the file, from 1: of the first byte of the outermost card.
+    qint64 m_firstLine = 1;
+};
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,111 @@
+#include "Json/ContactHead.h"
+
+#include "Contact/NumberAndMail.h"
+#include "Text/Bytes.h"
+#include "Text/WhiteSpace.h"
+#include "Values/Buffer.h"
+#include "Json/PurposeJson.h"
+
+namespace PimManager::Contacts
+{
+
+namespace
+{
+
+void AddEntry( std::string_view a_name, std::string_view a_text, const LineParameters& a_parameters,
+               std::string_view a_label, QByteArray& a_entries )
+{
+    if ( a_text.empty() )
+        return;
+    const bool isFirst = a_entries.isEmpty();
+    JsonText json( a_entries );
+    json.Raw( isFirst ? "{\"" : ",{\"" );
+    json.Raw( a_name );
+    json.Raw( "\":" );
+    json.String( a_text );
+    WritePurpose( a_parameters, a_label, InternetType::LeftOut, json );
+    json.Raw( "}" );
+    json.Finish();
+}
+
+void WriteText( std::string_view a_head, std::string_view a_text, JsonText& a_json )
+{
+    a_json.Raw( a_head );
+    a_json.String( a_text );
+}
+
+} // namespace
+
+void ContactHead::Clear()
+{
+    m_name.Clear();
+    m_hasVersion = false;
+    for ( QByteArray* text : { &m_version, &m_organisation, &m_units, &m_numbers, &m_mails } )
+        Empty( *text );
+}
+
+void ContactHead::TakeText( PropertyName a_property, std::string_view a_text, const LineParameters& a_parameters,
+                            std::string_view a_label )
+{
+    if ( a_property == PropertyName::Tel )
+    {
+        const std::string_view number = NumberOf( a_text, m_buffer );
+        AddEntry( "number", number, a_parameters, a_label, m_numbers );
+        TakeOnlyText( a_property, number );
+    }
+    else if ( a_property == PropertyName::Email )
+    {
+        const std::string_view mail = MailOf( a_text, m_buffer );
+        AddEntry( "mail", mail, a_parameters, a_label, m_mails );
+        TakeOnlyText( a_property, mail );
+    }
+    else if ( a_property == PropertyName::Version && !m_hasVersion )
+    {
+        Append( m_version, WithoutOuterSpace( a_text ) );
+        m_hasVersion = true;
+    }
+    else
+        TakeOnlyText( a_property, a_text );
+}
+
+void ContactHead::TakeOnlyText( PropertyName a_property, std::string_view a_text )
+{
+    if ( m_name.Wants( a_property ) )
+        m_name.Take( a_property, { a_text } );
+}
+
+// Prefixes, given name, additional names, family name and suffixes.
+void ContactHead::TakeName( const NamedParts& a_parts )
+{
+    if ( m_name.Wants( PropertyName::N ) )
+        m_name.Take( PropertyName::N, { a_parts[3], a_parts[1], a_parts[2], a_parts[0], a_parts[4] } );
+}
+
+void ContactHead::TakeUnit( std::string_view a_unit )
+{
+    const std::string_view unit = WithoutOuterSpace( a_unit );
+    if ( !m_units.isEmpty() && !unit.empty() )
+        Append( m_units, ", " );
+    Append( m_units, unit );
+}
+
+void ContactHead::EndUnits()
+{
+    TakeOnlyText( PropertyName::Org, ViewOf( m_units ) );
+    if ( m_organisation.isEmpty() )
+        m_organisation.swap( m_units );
+    Empty( m_units );
+}
+
+void ContactHead::WriteTo( JsonText& a_json ) const
+{
+    WriteText( ",\"version\":", ViewOf( m_version ), a_json );
+    WriteText( ",\"name\":", m_name.Text(), a_json );
+    a_json.Raw( ",\"numbers\":[" );
+    a_json.Raw( ViewOf( m_numbers ) );
+    a_json.Raw( "],\"mails\":[" );
+    a_json.Raw( ViewOf( m_mails ) );
+    WriteText( "],\"organisation\":", ViewOf( m_organisation ), a_json );
+}
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,31 @@
+/// \file
+/// Keeps texts whose memory is about to be used for something else.
+
+#pragma once
+
+#include <QByteArray>
+
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// Keeps parts of one text. A part that lies inside the text is not copied; others are parts from which something was
+/// removed, and they are copied. Keeps its memory.
+class KeptTexts
+{
+public:
+    /// \param a_text must exist as long as its parts are wanted. The parts that were kept before are gone.
+    void Begin( std::string_view a_text );
+
+    /// \param a_part a part of the text, or a decoded form of a part that is no longer. Each part may be kept twice.
+    /// \return the same text, which stays as it is until Begin() is called.
+    std::string_view Keep( std::string_view a_part );
+
+private:
+    std::string_view m_text;
+    QByteArray m_copies;
+    bool m_hasCopies = false;
+};
+
+} // namespace PimManager::Contacts

@@ -85,7 +85,7 @@ LineCursor::LineCursor( const CardView& a_card ) :
     m_begin = a_card.m_record.m_begin;
 }
 
-bool LineCursor::FindNested( CardView& a_nested ) const
+bool LineCursor::FindAnyNested( CardView& a_nested ) const
 {
     IndexEntry entry;
     if ( !PimManager::Contacts::FindNested( m_reader, entry ) )

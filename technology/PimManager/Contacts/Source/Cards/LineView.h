@@ -96,13 +96,18 @@ public:
     bool Next();
 
     /// \return true if the line holds a card, as AGENT does.
-    bool FindNested( CardView& a_nested ) const;
+    bool FindNested( CardView& a_nested ) const
+    {
+        return !m_reader.AtEnd() && m_reader.NextKind() != EntryKind::Line && FindAnyNested( a_nested );
+    }
 
     const IndexedLine& Line() const { return m_line; }
     /// The name of the line. Valid until the next call of Next().
     std::string_view Name();
 
 private:
+    bool FindAnyNested( CardView& a_nested ) const;
+
     IndexedLine m_line;
     IndexReader m_reader;
     // Of the next entry, in the bytes.

@@ -1,29 +1,33 @@
 #include "Contact/GroupLabels.h"
 
 #include "Contact/LabelMarks.h"
-#include "Contact/PropertyName.h"
 #include "Text/Bytes.h"
 #include "Values/Buffer.h"
 
 namespace PimManager::Contacts
 {
 
-void GroupLabels::Read( const CardView& a_card )
+namespace
+{
+
+constexpr std::string_view s_kLabelName = "X-ABLABEL";
+
+} // namespace
+
+void GroupLabels::Read( const LineCursor& a_first )
 {
     m_labels.clear();
     m_groupRanges.clear();
     m_groups.Clear();
     Empty( m_texts );
-    QByteArray buffer;
-    for ( LineCursor cursor( a_card ); cursor.Next(); )
+    LineCursor cursor = a_first;
+    do
     {
         const IndexedLine& line = cursor.Line();
-        if ( line.m_entry.m_group.m_length == 0 || PropertyNameOf( cursor.Name() ) != PropertyName::GroupLabel )
-            continue;
-        m_decoder.Decode( line );
-        m_labels.push_back( Add( WithoutLabelMarks( m_decoder.Text() ) ) );
-        m_groupRanges.push_back( Add( line.Group( buffer ) ) );
-    }
+        if ( line.m_entry.m_group.m_length > 0 && line.m_entry.m_name.m_length >= s_kLabelName.size() &&
+             IsSameWord( cursor.Name(), s_kLabelName ) )
+            Add( line );
+    } while ( cursor.Next() );
     // Only now the texts do not move any more.
     for ( const ByteRange& group : m_groupRanges )
         m_groups.Add( group.In( ViewOf( m_texts ) ) );
@@ -34,6 +38,14 @@ std::string_view GroupLabels::Of( std::string_view a_group ) const
 {
     const size_t index = m_groups.Find( a_group );
     return index == WordGroups::s_kNone ? std::string_view() : m_labels[index].In( ViewOf( m_texts ) );
+}
+
+void GroupLabels::Add( const IndexedLine& a_line )
+{
+    QByteArray buffer;
+    m_decoder.Decode( a_line );
+    m_labels.push_back( Add( WithoutLabelMarks( m_decoder.Text() ) ) );
+    m_groupRanges.push_back( Add( a_line.Group( buffer ) ) );
 }
 
 ByteRange GroupLabels::Add( std::string_view a_text )

@@ -19,13 +19,16 @@ namespace PimManager::Contacts
 class GroupLabels
 {
 public:
-    void Read( const CardView& a_card );
+    /// Reads the labels of a card.
+    /// \param a_first is at the first line of the card that has a group.
+    void Read( const LineCursor& a_first );
 
     /// \param a_group in any letter case, as written.
     /// \return the label without marks (see LabelMarks.h); empty if there is none.
     std::string_view Of( std::string_view a_group ) const;
 
 private:
+    void Add( const IndexedLine& a_line );
     ByteRange Add( std::string_view a_text );
 
     ValueDecoder m_decoder;

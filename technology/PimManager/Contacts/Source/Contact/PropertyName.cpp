@@ -45,8 +45,6 @@ PropertyName PropertyNameOf( std::string_view a_name )
         return FindIn( { { "VERSION", PropertyName::Version } }, a_name );
     case 8:
         return FindIn( { { "NICKNAME", PropertyName::Nickname } }, a_name );
-    case 9:
-        return FindIn( { { "X-ABLABEL", PropertyName::GroupLabel } }, a_name );
     case 20:
         return FindIn( { { "X-IRMC-CALL-DATETIME", PropertyName::CallTime } }, a_name );
     default:

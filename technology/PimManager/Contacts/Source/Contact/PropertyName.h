@@ -21,8 +21,7 @@ enum class PropertyName : quint8
     Tel,
     Adr,
     Version,
-    GroupLabel, ///< X-ABLabel
-    CallTime,   ///< X-IRMC-CALL-DATETIME
+    CallTime, ///< X-IRMC-CALL-DATETIME
     Other,
 };
 

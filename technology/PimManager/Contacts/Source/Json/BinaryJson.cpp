@@ -17,7 +17,6 @@ namespace
 
 constexpr size_t s_kGroup = 4;
 constexpr size_t s_kBytesOfGroup = 3;
-constexpr std::string_view s_kMediaTypeParameter = "MEDIATYPE";
 
 /// 0 for the letters, digits and signs of BASE64, and 1 for all other bytes, padding included.
 constexpr std::array<uchar, 256> FindOthers()
@@ -107,19 +106,6 @@ size_t SizeOf( std::string_view a_base64 )
     return a_base64.size() / s_kGroup * s_kBytesOfGroup - RemovePadding( letters );
 }
 
-/// \return the media type that the line names.
-QByteArray NamedMediaType( const LineParameters& a_parameters )
-{
-    QByteArray type;
-    const WordGroups& names = a_parameters.Names();
-    for ( size_t i = names.Find( s_kMediaTypeParameter ); i != WordGroups::s_kNone && type.isEmpty();
-          i = names.Next( i ) )
-        type = MediaTypeNamed( a_parameters.Value( i ) );
-    for ( size_t i = 0; i < a_parameters.Types().Size() && type.isEmpty(); ++i )
-        type = MediaTypeNamed( a_parameters.Types().Word( i ) );
-    return type;
-}
-
 /// Writes what precedes the BASE64, which begins at a place.
 void WriteHead( size_t a_place, const QByteArray& a_mediaType, JsonText& a_json )
 {
@@ -137,9 +123,9 @@ void WriteHead( size_t a_place, const QByteArray& a_mediaType, JsonText& a_json 
 
 } // namespace
 
-BinaryJson WriteBinary( const IndexedLine& a_line, const LineParameters& a_parameters, JsonText& a_json )
+BinaryJson WriteBinary( const IndexedLine& a_line, const HeadJson& a_head, JsonText& a_json )
 {
-    if ( !IsBinary( a_line ) )
+    if ( !IsBinary( a_line, a_head.IsMedia() ) )
         return {};
     const size_t place = a_json.Place();
     QByteArray mediaType;
@@ -156,7 +142,7 @@ BinaryJson WriteBinary( const IndexedLine& a_line, const LineParameters& a_param
     if ( !known.empty() )
         mediaType = BytesOf( known );
     else if ( mediaType.isEmpty() )
-        mediaType = NamedMediaType( a_parameters );
+        mediaType = BytesOf( a_head.MediaType() );
     WriteHead( place, mediaType, a_json );
     return { true, -1 };
 }

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Cards/LineView.h"
-#include "Contact/LineParameters.h"
+#include "Json/HeadJson.h"
 #include "Json/JsonText.h"
 
 #include <QtGlobal>
@@ -24,7 +24,7 @@ struct BinaryJson
 /// anything unusual is copied, and any other value is decoded and encoded again. Nothing is written for a text, and for
 /// a value that cannot be decoded.
 ///
-/// \param a_parameters the parameters of the line.
-BinaryJson WriteBinary( const IndexedLine& a_line, const LineParameters& a_parameters, JsonText& a_json );
+/// \param a_head the head of the line.
+BinaryJson WriteBinary( const IndexedLine& a_line, const HeadJson& a_head, JsonText& a_json );
 
 } // namespace PimManager::Contacts

@@ -1,7 +1,6 @@
 #include "Json/CardJson.h"
 
 #include "Text/Bytes.h"
-#include "Values/Buffer.h"
 
 namespace PimManager::Contacts
 {
@@ -34,11 +33,9 @@ void CardJson::WriteMembers( const CardView& a_card, size_t a_depth, JsonText& a
     a_json.Raw( ",\"properties\":[" );
     WriteProperties( a_card, a_depth, a_json );
     a_json.Raw( "]" );
-    Empty( m_head );
-    JsonText head( m_head );
-    LevelAt( a_depth ).m_head.WriteTo( head );
-    head.Finish();
-    a_json.Insert( headPlace, ViewOf( m_head ) );
+    m_head.Clear();
+    LevelAt( a_depth ).m_head.WriteTo( m_head );
+    a_json.Insert( headPlace, m_head.From( 0 ) );
 }
 
 void CardJson::WriteProperties( const CardView& a_card, size_t a_depth, JsonText& a_json )
@@ -51,7 +48,7 @@ void CardJson::WriteProperties( const CardView& a_card, size_t a_depth, JsonText
     {
         if ( cursor.Line().m_entry.m_group.m_length > 0 && !level.m_hasLabels )
         {
-            level.m_labels.Read( a_card );
+            level.m_labels.Read( cursor );
             level.m_hasLabels = true;
         }
         CardView nested;

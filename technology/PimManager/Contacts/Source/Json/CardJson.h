@@ -40,7 +40,7 @@ private:
 
     PropertyJson m_property;
     std::vector<std::unique_ptr<Level>> m_levels;
-    QByteArray m_head;
+    JsonText m_head;
     // Of the file, from 1: of the first byte of the outermost card.
     qint64 m_firstLine = 1;
 };

@@ -4,7 +4,6 @@
 #include "Text/Bytes.h"
 #include "Text/WhiteSpace.h"
 #include "Values/Buffer.h"
-#include "Json/PurposeJson.h"
 
 namespace PimManager::Contacts
 {
@@ -12,20 +11,18 @@ namespace PimManager::Contacts
 namespace
 {
 
-void AddEntry( std::string_view a_name, std::string_view a_text, const LineParameters& a_parameters,
-               std::string_view a_label, QByteArray& a_entries )
+void AddEntry( std::string_view a_name, std::string_view a_text, const HeadJson& a_head, std::string_view a_label,
+               JsonText& a_json )
 {
     if ( a_text.empty() )
         return;
-    const bool isFirst = a_entries.isEmpty();
-    JsonText json( a_entries );
-    json.Raw( isFirst ? "{\"" : ",{\"" );
-    json.Raw( a_name );
-    json.Raw( "\":" );
-    json.String( a_text );
-    WritePurpose( a_parameters, a_label, InternetType::LeftOut, json );
-    json.Raw( "}" );
-    json.Finish();
+    a_json.Raw( a_json.Place() == 0 ? "{" : ",{" );
+    a_json.Raw( a_name );
+    a_json.String( a_text );
+    a_json.Raw( a_head.TypesOfEntry() );
+    a_json.Raw( a_label );
+    a_json.Raw( a_head.Preference() );
+    a_json.Raw( "}" );
 }
 
 void WriteText( std::string_view a_head, std::string_view a_text, JsonText& a_json )
@@ -40,23 +37,25 @@ void ContactHead::Clear()
 {
     m_name.Clear();
     m_hasVersion = false;
-    for ( QByteArray* text : { &m_version, &m_organisation, &m_units, &m_numbers, &m_mails } )
+    m_numbers.Clear();
+    m_mails.Clear();
+    for ( QByteArray* text : { &m_version, &m_organisation, &m_units } )
         Empty( *text );
 }
 
-void ContactHead::TakeText( PropertyName a_property, std::string_view a_text, const LineParameters& a_parameters,
+void ContactHead::TakeText( PropertyName a_property, std::string_view a_text, const HeadJson& a_head,
                             std::string_view a_label )
 {
     if ( a_property == PropertyName::Tel )
     {
         const std::string_view number = NumberOf( a_text, m_buffer );
-        AddEntry( "number", number, a_parameters, a_label, m_numbers );
+        AddEntry( "\"number\":", number, a_head, a_label, m_numbers );
         TakeOnlyText( a_property, number );
     }
     else if ( a_property == PropertyName::Email )
     {
         const std::string_view mail = MailOf( a_text, m_buffer );
-        AddEntry( "mail", mail, a_parameters, a_label, m_mails );
+        AddEntry( "\"mail\":", mail, a_head, a_label, m_mails );
         TakeOnlyText( a_property, mail );
     }
     else if ( a_property == PropertyName::Version && !m_hasVersion )
@@ -102,9 +101,9 @@ void ContactHead::WriteTo( JsonText& a_json ) const
     WriteText( ",\"version\":", ViewOf( m_version ), a_json );
     WriteText( ",\"name\":", m_name.Text(), a_json );
     a_json.Raw( ",\"numbers\":[" );
-    a_json.Raw( ViewOf( m_numbers ) );
+    a_json.Raw( m_numbers.From( 0 ) );
     a_json.Raw( "],\"mails\":[" );
-    a_json.Raw( ViewOf( m_mails ) );
+    a_json.Raw( m_mails.From( 0 ) );
     WriteText( "],\"organisation\":", ViewOf( m_organisation ), a_json );
 }
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Contact/ContactName.h"
-#include "Contact/LineParameters.h"
+#include "Json/HeadJson.h"
 #include "Json/JsonText.h"
 
 #include <QByteArray>
@@ -25,8 +25,8 @@ public:
     void Clear();
 
     /// Takes the text of a property that is neither N nor ORG.
-    void TakeText( PropertyName a_property, std::string_view a_text, const LineParameters& a_parameters,
-                   std::string_view a_label );
+    /// \param a_label JSON: a comma and the member `label`; empty without one.
+    void TakeText( PropertyName a_property, std::string_view a_text, const HeadJson& a_head, std::string_view a_label );
     /// Takes an N.
     void TakeName( const NamedParts& a_parts );
     /// Takes one component of an ORG after the other.
@@ -44,9 +44,8 @@ private:
     bool m_hasVersion = false;
     QByteArray m_organisation;
     QByteArray m_units;
-    // As JSON.
-    QByteArray m_numbers;
-    QByteArray m_mails;
+    JsonText m_numbers;
+    JsonText m_mails;
     QByteArray m_buffer;
 };
 

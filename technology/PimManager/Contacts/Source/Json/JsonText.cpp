@@ -29,22 +29,64 @@ constexpr std::string_view s_kReplacement = "\xEF\xBF\xBD";
 
 constexpr quint64 s_kOnes = 0x0101010101010101U;
 constexpr quint64 s_kHighBits = s_kOnes << 7U;
+constexpr size_t s_kWord = sizeof( quint64 );
 
-/// \return a word of which the highest bit of a byte is set if the byte is the first zero byte. It may be set above it.
-constexpr quint64 ZeroBytes( quint64 a_word )
-{
-    return ( a_word - s_kOnes ) & ~a_word;
-}
-
-/// \return true if one of eight bytes may be anything else than plain ASCII: control characters, DEL, quotes,
-///         backslashes, and all bytes beyond ASCII. May be true of plain ASCII too.
+/// \return true if one of eight bytes is anything else than plain ASCII: control characters, DEL, quotes, backslashes,
+///         and all bytes beyond ASCII.
+///
+/// Each line has the highest bit of a byte set if the byte is of its kind. Other bytes may have it set only behind a
+/// byte that is of that kind, or if they are beyond ASCII.
 inline bool HasSpecial( quint64 a_word )
 {
     const quint64 wide = a_word | ( a_word + s_kOnes );
-    const quint64 controls = ( a_word - s_kOnes * 0x20 ) & ~a_word;
-    const quint64 quotes = ZeroBytes( a_word ^ ( s_kOnes * '"' ) );
-    const quint64 backslashes = ZeroBytes( a_word ^ ( s_kOnes * '\\' ) );
+    const quint64 controls = a_word - s_kOnes * ' ';
+    const quint64 quotes = ( a_word ^ ( s_kOnes * '"' ) ) - s_kOnes;
+    const quint64 backslashes = ( a_word ^ ( s_kOnes * '\\' ) ) - s_kOnes;
     return ( ( wide | controls | quotes | backslashes ) & s_kHighBits ) != 0;
+}
+
+/// Copies a text of at least eight bytes. \return false if it has something special.
+inline bool CopyWords( std::string_view a_text, char* a_out )
+{
+    const char* place = a_text.data();
+    const char* const last = place + a_text.size() - s_kWord;
+    quint64 word = 0;
+    for ( char* out = a_out; place < last; place += s_kWord, out += s_kWord )
+    {
+        std::memcpy( &word, place, s_kWord );
+        if ( HasSpecial( word ) )
+            return false;
+        std::memcpy( out, &word, s_kWord );
+    }
+    // It may overlap the word before.
+    std::memcpy( &word, last, s_kWord );
+    std::memcpy( a_out + a_text.size() - s_kWord, &word, s_kWord );
+    return !HasSpecial( word );
+}
+
+/// The same for less than eight bytes, which are collected in one word, some of them twice.
+inline bool CopyShort( std::string_view a_text, char* a_out )
+{
+    constexpr quint64 s_kBlanks = s_kOnes * ' ';
+    const size_t size = a_text.size();
+    const char* const text = a_text.data();
+    if ( size >= sizeof( quint32 ) )
+    {
+        quint32 first = 0;
+        quint32 last = 0;
+        std::memcpy( &first, text, sizeof( first ) );
+        std::memcpy( &last, text + size - sizeof( last ), sizeof( last ) );
+        std::memcpy( a_out, &first, sizeof( first ) );
+        std::memcpy( a_out + size - sizeof( last ), &last, sizeof( last ) );
+        return !HasSpecial( quint64( first ) << 32U | last );
+    }
+    quint64 word = s_kBlanks;
+    for ( size_t i = 0; i < size; ++i )
+    {
+        word = word << 8U | static_cast<uchar>( text[i] );
+        a_out[i] = text[i];
+    }
+    return !HasSpecial( word );
 }
 
 inline bool IsPlain( char a_byte )
@@ -101,10 +143,14 @@ JsonText::JsonText( QByteArray& a_out ) :
     m_out( a_out ),
     m_before( static_cast<size_t>( a_out.size() ) )
 {
-    // An array whose memory was reserved keeps it when it becomes shorter.
-    m_out.reserve( std::max( static_cast<int>( m_out.capacity() ), static_cast<int>( m_out.size() ) + s_kLeastRoom ) );
-    UseWholeCapacity();
-    m_end = m_begin + m_before;
+    Begin();
+}
+
+JsonText::JsonText() :
+    m_out( m_own ),
+    m_before( 0 )
+{
+    Begin();
 }
 
 JsonText::~JsonText()
@@ -117,6 +163,26 @@ void JsonText::Finish()
 {
     m_out.resize( static_cast<int>( m_end - m_begin ) );
     m_isFinished = true;
+}
+
+void JsonText::Begin()
+{
+    // An array whose memory was reserved keeps it when it becomes shorter.
+    m_out.reserve( std::max( static_cast<int>( m_out.capacity() ), static_cast<int>( m_before ) + s_kLeastRoom ) );
+    UseWholeCapacity();
+    m_end = m_begin + m_before;
+}
+
+void JsonText::Clear()
+{
+    constexpr ptrdiff_t s_kLarge = 64 * 1024;
+    if ( m_limit - m_begin > s_kLarge )
+    {
+        m_out.resize( static_cast<int>( m_before ) );
+        m_out.squeeze();
+        Begin();
+    }
+    Remove( 0 );
 }
 
 void JsonText::UseWholeCapacity()
@@ -155,11 +221,35 @@ void JsonText::Insert( size_t a_place, std::string_view a_json )
 
 void JsonText::String( std::string_view a_text )
 {
+    if ( a_text.empty() )
+        Raw( "\"\"" );
+    else if ( !CopyPlainString( a_text ) )
+        EscapedString( a_text );
+}
+
+void JsonText::EscapedString( std::string_view a_text )
+{
     *Room( 1 ) = '"';
     ++m_end;
     Escape( a_text );
     *Room( 1 ) = '"';
     ++m_end;
+}
+
+/// Appends a short string without anything to escape, as most are.
+/// \return false for any other string.
+inline bool JsonText::CopyPlainString( std::string_view a_text )
+{
+    const size_t size = a_text.size();
+    if ( size > s_kRun )
+        return false;
+    char* const end = Room( s_kRun + 2 );
+    *end = '"';
+    if ( !( size < s_kWord ? CopyShort( a_text, end + 1 ) : CopyWords( a_text, end + 1 ) ) )
+        return false;
+    end[1 + size] = '"';
+    m_end = end + size + 2;
+    return true;
 }
 
 void JsonText::UpperString( std::string_view a_text )
@@ -210,14 +300,14 @@ inline const char* JsonText::CopyPlain( const char* a_begin, const char* a_end )
     const char* place = a_begin;
     char* end = m_end;
     quint64 word = 0;
-    while ( static_cast<size_t>( a_end - place ) >= sizeof( word ) )
+    while ( static_cast<size_t>( a_end - place ) >= s_kWord )
     {
-        std::memcpy( &word, place, sizeof( word ) );
+        std::memcpy( &word, place, s_kWord );
         if ( HasSpecial( word ) )
             break;
-        std::memcpy( end, &word, sizeof( word ) );
-        place += sizeof( word );
-        end += sizeof( word );
+        std::memcpy( end, &word, s_kWord );
+        place += s_kWord;
+        end += s_kWord;
     }
     while ( place < a_end && IsPlain( *place ) )
         *end++ = *place++;

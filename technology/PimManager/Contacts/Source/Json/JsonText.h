@@ -15,7 +15,7 @@ namespace PimManager::Contacts
 /// Appends JSON to a byte array that grows as it must. Commas and brackets are up to the caller; strings are always
 /// valid: in UTF-8, with U+FFFD for malformed bytes, and with `\uXXXX` for unsafe characters (see UnsafeCharacters.h).
 ///
-/// While the object exists, the byte array has more bytes than were appended. Finish() ends this. Without Finish(), the
+/// While an object exists, its byte array has more bytes than were appended. Finish() ends this. Without Finish(), the
 /// destructor removes all that was appended.
 ///
 /// Functions throw std::bad_alloc if the byte array becomes longer than a byte array may be.
@@ -24,6 +24,8 @@ class JsonText
 public:
     /// \param a_out must outlive the object and not be used meanwhile.
     explicit JsonText( QByteArray& a_out );
+    /// Appends to a byte array of its own, see From().
+    JsonText();
     ~JsonText();
     Q_DISABLE_COPY( JsonText )
 
@@ -57,15 +59,22 @@ public:
     /// Removes what was appended from a place on.
     void Remove( size_t a_place ) { m_end = m_begin + m_before + a_place; }
 
+    /// Removes all that was appended. The memory is kept, unless it is large.
+    void Clear();
+
 private:
     char* Room( size_t a_bytes ) { return static_cast<size_t>( m_limit - m_end ) >= a_bytes ? m_end : Grow( a_bytes ); }
     char* Grow( size_t a_bytes );
+    void Begin();
     void UseWholeCapacity();
+    bool CopyPlainString( std::string_view a_text );
+    void EscapedString( std::string_view a_text );
     void Escape( std::string_view a_text );
     const char* CopyPlain( const char* a_begin, const char* a_end );
     size_t EscapeCharacter( std::string_view a_rest );
     void Escaped( char32_t a_character );
 
+    QByteArray m_own;
     QByteArray& m_out;
     const size_t m_before;
     bool m_isFinished = false;

@@ -7,7 +7,6 @@ namespace
 {
 
 // The header: the kind in the lowest three bits. Of a line the five flags, of other parts a number.
-constexpr uint s_kKindMask = 0x07;
 constexpr uint s_kDetailShift = 3;
 constexpr uint s_kHasGroup = 0x08;
 constexpr uint s_kHasParameters = 0x10;
@@ -240,11 +239,6 @@ inline quint32 IndexReader::Number()
     const quint32 number = ReadNumber( place );
     m_place = static_cast<quint32>( place - m_base );
     return number;
-}
-
-EntryKind IndexReader::NextKind() const
-{
-    return static_cast<EntryKind>( m_base[m_place] & s_kKindMask );
 }
 
 void IndexReader::Next( IndexEntry& a_entry, bool a_isBrief )

@@ -173,7 +173,7 @@ public:
 
     bool AtEnd() const { return m_place >= m_end; }
     /// The kind of the next entry. Not at the end.
-    EntryKind NextKind() const;
+    EntryKind NextKind() const { return static_cast<EntryKind>( m_base[m_place] & s_kKindMask ); }
     /// Where the next entry begins.
     quint32 Place() const { return m_place; }
     /// Goes on at the beginning of another entry.
@@ -184,6 +184,9 @@ public:
     void Next( IndexEntry& a_entry, bool a_isBrief = false );
 
 private:
+    // Of the header.
+    static constexpr uint s_kKindMask = 0x07;
+
     void ReadLine( IndexEntry& a_entry, uint a_header );
     void ReadExtras( IndexEntry& a_entry );
     quint32 Number();

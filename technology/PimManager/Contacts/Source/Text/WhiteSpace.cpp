@@ -47,12 +47,18 @@ size_t LengthOfWideSpace( std::string_view a_text )
     return found == s_kWide.end() ? 0 : found->size();
 }
 
-size_t FindWhiteSpace( std::string_view a_text, size_t a_place )
+/// \return the end of the words at the start of a text that single blanks divide already.
+size_t EndOfWords( std::string_view a_text )
 {
-    size_t place = a_place;
-    while ( place < a_text.size() &&
-            !( MayBeginSpace( a_text[place] ) && LengthOfWhiteSpace( a_text.substr( place ) ) > 0 ) )
+    size_t place = 0;
+    while ( place < a_text.size() )
+    {
+        const bool isSingleBlank =
+            a_text[place] == ' ' && place + 1 < a_text.size() && IsVisibleAscii( a_text[place + 1] );
+        if ( !isSingleBlank && MayBeginSpace( a_text[place] ) && LengthOfWhiteSpace( a_text.substr( place ) ) > 0 )
+            break;
         ++place;
+    }
     return place;
 }
 
@@ -68,7 +74,7 @@ size_t LengthOfWhiteSpace( std::string_view a_text )
     return LengthOfWideSpace( a_text );
 }
 
-std::string_view WithoutOuterSpace( std::string_view a_text )
+std::string_view RemovedOuterSpace( std::string_view a_text )
 {
     std::string_view text = a_text;
     while ( const size_t length = LengthOfWhiteSpace( text ) )
@@ -88,7 +94,7 @@ void AppendWords( std::string_view a_text, QByteArray& a_out )
     std::string_view rest = WithoutOuterSpace( a_text );
     while ( !rest.empty() )
     {
-        const size_t end = FindWhiteSpace( rest, 0 );
+        const size_t end = EndOfWords( rest );
         if ( !a_out.isEmpty() )
             a_out.append( ' ' );
         a_out.append( rest.data(), static_cast<int>( end ) );

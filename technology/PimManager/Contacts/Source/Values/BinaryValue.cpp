@@ -36,14 +36,6 @@ bool StartsWithOneOf( std::string_view a_bytes, const std::array<std::string_vie
                         { return a_bytes.substr( 0, a_start.size() ) == a_start; } );
 }
 
-bool HasMediaName( const IndexedLine& a_line )
-{
-    QByteArray buffer;
-    const std::string_view name = a_line.Name( buffer );
-    return std::any_of( s_kMediaNames.begin(), s_kMediaNames.end(),
-                        [name]( std::string_view a_media ) { return IsSameWord( name, a_media ); } );
-}
-
 /// The first characters of a value, without blanks and backslashes.
 class ValueStart
 {
@@ -74,13 +66,18 @@ void ValueStart::Take( std::string_view a_piece )
     }
 }
 
-// Most values do not, and then nothing has to be copied.
+/// \return true for the letter, and for all that is left out before it: blanks, backslashes, and breaks between lines.
+bool MayBeLetter( char a_byte, char a_letter )
+{
+    return Upper( a_byte ) == a_letter || IsBlank( a_byte ) || a_byte == '\\' || a_byte == '=' ||
+           IsLineEndByte( a_byte );
+}
+
+// Most values do not begin like this, and then nothing has to be copied.
 bool MayBeDataUri( const IndexedLine& a_line )
 {
     const std::string_view value = a_line.ValueRange().In( a_line.m_text );
-    const size_t first = value.find_first_not_of( " \t\\" );
-    const char byte = first == std::string_view::npos ? '\0' : value[first];
-    return Upper( byte ) == 'D' || ( a_line.IsContinued() && ( byte == '\0' || IsLineEndByte( byte ) || byte == '=' ) );
+    return value.size() > 1 && MayBeLetter( value[0], 'D' ) && MayBeLetter( value[1], 'A' );
 }
 
 bool IsDataUri( std::string_view a_text )
@@ -173,15 +170,26 @@ PimContactBinary PimContactBinaryPrivate::Create( const BinaryData& a_data )
     return binary;
 }
 
-bool IsBinary( const IndexedLine& a_line )
+bool IsMediaName( std::string_view a_name )
+{
+    return std::any_of( s_kMediaNames.begin(), s_kMediaNames.end(),
+                        [a_name]( std::string_view a_media ) { return IsSameWord( a_name, a_media ); } );
+}
+
+bool IsBinary( const IndexedLine& a_line, bool a_isMedia )
 {
     if ( a_line.m_entry.m_encoding == PimContactEncoding::Base64 )
         return true;
-    const bool isMedia = HasMediaName( a_line );
-    if ( !isMedia && !MayBeDataUri( a_line ) )
+    if ( !a_isMedia && !MayBeDataUri( a_line ) )
         return false;
     const ValueStart start( a_line );
-    return IsDataUri( start.Text() ) || ( isMedia && HasKnownSignature( start.Text() ) );
+    return IsDataUri( start.Text() ) || ( a_isMedia && HasKnownSignature( start.Text() ) );
+}
+
+bool IsBinary( const IndexedLine& a_line )
+{
+    QByteArray buffer;
+    return IsBinary( a_line, IsMediaName( a_line.Name( buffer ) ) );
 }
 
 PimContactBinary BinaryOf( const IndexedLine& a_line )

@@ -11,6 +11,8 @@
 #include <QSharedData>
 #include <QtGlobal>
 
+#include <string_view>
+
 namespace PimManager::Contacts
 {
 
@@ -39,6 +41,12 @@ public:
 ///
 /// Only the start of the value is read.
 bool IsBinary( const IndexedLine& a_line );
+/// The same for a caller who knows the name.
+/// \param a_isMedia IsMediaName() of the name of the line.
+bool IsBinary( const IndexedLine& a_line, bool a_isMedia );
+
+/// \return true for PHOTO, LOGO, SOUND and KEY.
+bool IsMediaName( std::string_view a_name );
 
 /// Decodes the value of a line. \return a null value if it is not binary.
 PimContactBinary BinaryOf( const IndexedLine& a_line );

@@ -40,6 +40,40 @@ PartReader::PartReader( const EscapedText& a_text, Delimiters a_delimiters, QByt
     m_literalsEnd = m_literal + a_text.m_literals->size();
 }
 
+inline size_t PartReader::FindByte( size_t a_place ) const
+{
+    if ( m_specials == s_kBackslash )
+        return std::min( m_text.find( '\\', a_place ), m_text.size() );
+    size_t place = a_place;
+    while ( place < m_text.size() && ( s_kClasses[static_cast<uchar>( m_text[place] )] & m_specials ) == 0 )
+        ++place;
+    return place;
+}
+
+inline bool PartReader::IsLiteral( size_t a_place )
+{
+    while ( m_literal != m_literalsEnd && *m_literal < a_place )
+        ++m_literal;
+    return m_literal != m_literalsEnd && *m_literal == a_place;
+}
+
+/// \return the first delimiter or backslash from a place on, or the end.
+inline size_t PartReader::FindSpecial( size_t a_place )
+{
+    size_t place = FindByte( a_place );
+    while ( place < m_text.size() && IsLiteral( place ) )
+        place = FindByte( place + 1 );
+    return place;
+}
+
+inline void PartReader::EndPart( size_t a_begin, size_t a_end )
+{
+    if ( m_hasEscapes )
+        Append( m_buffer, m_text.substr( m_copied, a_end - m_copied ) );
+    m_part = m_hasEscapes ? ViewOf( m_buffer ) : m_text.substr( a_begin, a_end - a_begin );
+    m_hasEscapes = false;
+}
+
 bool PartReader::Next()
 {
     if ( m_isAtEnd )
@@ -53,32 +87,6 @@ bool PartReader::Next()
     m_delimiter = m_isAtEnd ? '\0' : m_text[place];
     m_place = place + 1;
     return true;
-}
-
-/// \return the first delimiter or backslash from a place on, or the end.
-size_t PartReader::FindSpecial( size_t a_place )
-{
-    size_t place = FindByte( a_place );
-    while ( place < m_text.size() && IsLiteral( place ) )
-        place = FindByte( place + 1 );
-    return place;
-}
-
-size_t PartReader::FindByte( size_t a_place ) const
-{
-    if ( m_specials == s_kBackslash )
-        return std::min( m_text.find( '\\', a_place ), m_text.size() );
-    size_t place = a_place;
-    while ( place < m_text.size() && ( s_kClasses[static_cast<uchar>( m_text[place] )] & m_specials ) == 0 )
-        ++place;
-    return place;
-}
-
-bool PartReader::IsLiteral( size_t a_place )
-{
-    while ( m_literal != m_literalsEnd && *m_literal < a_place )
-        ++m_literal;
-    return m_literal != m_literalsEnd && *m_literal == a_place;
 }
 
 /// \return the place behind the escape.
@@ -119,14 +127,6 @@ void PartReader::Replace( size_t a_backslash, size_t a_length, char a_character 
     Append( m_buffer, m_text.substr( m_copied, a_backslash - m_copied ) );
     m_buffer.append( a_character );
     m_copied = a_backslash + a_length;
-}
-
-void PartReader::EndPart( size_t a_begin, size_t a_end )
-{
-    if ( m_hasEscapes )
-        Append( m_buffer, m_text.substr( m_copied, a_end - m_copied ) );
-    m_part = m_hasEscapes ? ViewOf( m_buffer ) : m_text.substr( a_begin, a_end - a_begin );
-    m_hasEscapes = false;
 }
 
 } // namespace PimManager::Contacts

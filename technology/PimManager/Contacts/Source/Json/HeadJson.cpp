@@ -1,0 +1,201 @@
+#include "Json/HeadJson.h"
+
+#include "Text/Bytes.h"
+#include "Text/MediaType.h"
+#include "Values/BinaryValue.h"
+#include "Values/Buffer.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace PimManager::Contacts
+{
+
+namespace
+{
+
+using namespace std::string_view_literals;
+
+constexpr std::array s_kDirections = { "dialed"sv, "received"sv, "missed"sv };
+
+/// \return the bytes from a place on, up to eight of them, as a number.
+quint64 NumberAt( std::string_view a_text, size_t a_place )
+{
+    quint64 number = 0;
+    std::memcpy( &number, a_text.data() + a_place, std::min( a_text.size() - a_place, sizeof( number ) ) );
+    return number;
+}
+
+} // namespace
+
+void HeadReader::Read( const IndexedLine& a_line, HeadJson& a_head )
+{
+    m_json.Clear();
+    const std::string_view name = m_decoder.Head( a_line, a_line.m_entry.m_name );
+    a_head.m_property = PropertyNameOf( name );
+    a_head.m_delimiters = DelimitersOf( name, a_line.m_card.m_record.Version() );
+    a_head.m_isMedia = IsMediaName( name );
+    a_head.m_name = WriteName( name );
+    m_parameters.Read( a_line );
+    a_head.m_types = WriteTypes( InternetType::Written );
+    a_head.m_preference = WritePreference();
+    a_head.m_parameters = WriteParameters();
+    a_head.m_typesOfEntry = WriteTypes( InternetType::LeftOut );
+    a_head.m_mediaType = WriteMediaType();
+    a_head.m_direction = Direction();
+    Empty( a_head.m_text );
+    Append( a_head.m_text, m_json.From( 0 ) );
+}
+
+ByteRange HeadReader::From( size_t a_place ) const
+{
+    return { static_cast<quint32>( a_place ), static_cast<quint32>( m_json.Place() - a_place ) };
+}
+
+ByteRange HeadReader::WriteName( std::string_view a_name )
+{
+    const size_t place = m_json.Place();
+    m_json.Raw( "\"name\":" );
+    m_json.UpperString( a_name );
+    return From( place );
+}
+
+ByteRange HeadReader::WriteTypes( InternetType a_internet )
+{
+    const size_t place = m_json.Place();
+    const WordGroups& types = m_parameters.Types();
+    m_json.Raw( ",\"types\":[" );
+    std::string_view before;
+    for ( size_t i = 0; i < types.Size(); ++i )
+    {
+        const bool isLeftOut = a_internet == InternetType::LeftOut && IsSameWord( types.Word( i ), "INTERNET" );
+        if ( !types.IsFirst( i ) || isLeftOut )
+            continue;
+        m_json.Raw( before );
+        m_json.UpperString( types.Word( i ) );
+        before = ",";
+    }
+    m_json.Raw( "]" );
+    return From( place );
+}
+
+ByteRange HeadReader::WritePreference()
+{
+    const size_t place = m_json.Place();
+    if ( m_parameters.Preference() > 0 )
+    {
+        m_json.Raw( ",\"preference\":" );
+        m_json.Number( m_parameters.Preference() );
+    }
+    return From( place );
+}
+
+ByteRange HeadReader::WriteParameters()
+{
+    const size_t place = m_json.Place();
+    const WordGroups& names = m_parameters.Names();
+    std::string_view before = ",\"parameters\":[{\"name\":";
+    for ( size_t first = 0; first < names.Size(); ++first )
+    {
+        if ( !names.IsFirst( first ) )
+            continue;
+        m_json.Raw( before );
+        m_json.UpperString( names.Word( first ) );
+        before = ",\"values\":[";
+        for ( size_t i = first; i != WordGroups::s_kNone; i = names.Next( i ) )
+        {
+            m_json.Raw( before );
+            m_json.String( m_parameters.Value( i ) );
+            before = ",";
+        }
+        before = "]},{\"name\":";
+    }
+    if ( names.Size() > 0 )
+        m_json.Raw( "]}]" );
+    return From( place );
+}
+
+ByteRange HeadReader::WriteMediaType()
+{
+    const size_t place = m_json.Place();
+    const WordGroups& names = m_parameters.Names();
+    QByteArray type;
+    for ( size_t i = names.Find( "MEDIATYPE" ); i != WordGroups::s_kNone && type.isEmpty(); i = names.Next( i ) )
+        type = MediaTypeNamed( m_parameters.Value( i ) );
+    for ( size_t i = 0; i < m_parameters.Types().Size() && type.isEmpty(); ++i )
+        type = MediaTypeNamed( m_parameters.Types().Word( i ) );
+    m_json.Raw( ViewOf( type ) );
+    return From( place );
+}
+
+std::string_view HeadReader::Direction() const
+{
+    for ( const std::string_view direction : s_kDirections )
+    {
+        if ( m_parameters.Types().Find( direction ) != WordGroups::s_kNone )
+            return direction;
+    }
+    return "unknown";
+}
+
+const HeadJson& HeadCache::Of( const IndexedLine& a_line )
+{
+    Key key;
+    if ( !FindKey( a_line, key ) )
+    {
+        m_reader.Read( a_line, m_other );
+        return m_other;
+    }
+    EntrySet& set = m_sets[key.Set()];
+    for ( const Entry& entry : set.m_entries )
+    {
+        if ( entry.Has( key ) )
+            return entry.m_json;
+    }
+    Entry& entry = set.m_entries[set.m_older];
+    set.m_older = 1 - set.m_older;
+    entry.m_key = Key();
+    m_reader.Read( a_line, entry.m_json );
+    entry.SetKey( key );
+    return entry.m_json;
+}
+
+/// \return false if the head is long or needs decoding.
+bool HeadCache::FindKey( const IndexedLine& a_line, Key& a_key )
+{
+    const IndexEntry& entry = a_line.m_entry;
+    const quint32 begin = entry.m_name.m_begin;
+    const quint32 length = entry.m_parameters.End() - begin;
+    if ( entry.m_parameters.m_begin < begin || length > s_kLongestKey || entry.m_charset != LineCharset::Utf8 )
+        return false;
+    a_key.m_text = a_line.m_text.substr( begin, length );
+    a_key.m_nameLength = entry.m_name.m_length;
+    a_key.m_parameters = { entry.m_parameters.m_begin - begin, entry.m_parameters.m_length };
+    a_key.m_version = a_line.m_card.m_record.Version();
+    return !a_line.IsContinued() || std::none_of( a_key.m_text.begin(), a_key.m_text.end(), IsLineEndByte );
+}
+
+size_t HeadCache::Key::Set() const
+{
+    constexpr quint64 s_kSpread = 0x9E3779B97F4A7C15U;
+    const size_t last = m_text.size() > sizeof( quint64 ) ? m_text.size() - sizeof( quint64 ) : 0;
+    quint64 hash = ( NumberAt( m_text, 0 ) ^ ( m_text.size() << 56U ) ) * s_kSpread;
+    hash = ( hash ^ hash >> 32U ^ NumberAt( m_text, last ) ) * s_kSpread;
+    return static_cast<size_t>( hash >> 57U ) % s_kSets;
+}
+
+bool HeadCache::Entry::Has( const Key& a_key ) const
+{
+    return m_key.m_nameLength == a_key.m_nameLength && m_key.m_version == a_key.m_version &&
+           m_key.m_parameters.m_begin == a_key.m_parameters.m_begin &&
+           m_key.m_parameters.m_length == a_key.m_parameters.m_length && m_key.m_text == a_key.m_text;
+}
+
+void HeadCache::Entry::SetKey( const Key& a_key )
+{
+    m_key = a_key;
+    std::memcpy( m_text.data(), a_key.m_text.data(), a_key.m_text.size() );
+    m_key.m_text = std::string_view( m_text.data(), a_key.m_text.size() );
+}
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,139 @@
+/// \file
+/// The JSON of what precedes the values of lines.
+
+#pragma once
+
+#include "Cards/LineView.h"
+#include "Contact/LineParameters.h"
+#include "Contact/PropertyName.h"
+#include "Text/Bytes.h"
+#include "Values/PropertyKinds.h"
+#include "Values/ValueDecoder.h"
+#include "Json/JsonText.h"
+
+#include <QByteArray>
+#include <QtGlobal>
+
+#include <array>
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// What the name and the parameters of a line say.
+class HeadJson
+{
+public:
+    PropertyName Property() const { return m_property; }
+    Delimiters ValueDelimiters() const { return m_delimiters; }
+    /// \return true for PHOTO, LOGO, SOUND and KEY.
+    bool IsMedia() const { return m_isMedia; }
+
+    /// The members `name`, `types`, `preference` and `parameters`, as far as there are any.
+    std::string_view All() const { return ViewOf( m_text ).substr( 0, m_parameters.End() ); }
+    /// The member `name`.
+    std::string_view Name() const { return m_name.In( ViewOf( m_text ) ); }
+    /// A comma and the member `types`.
+    std::string_view Types() const { return m_types.In( ViewOf( m_text ) ); }
+    /// What follows `types` in All(), with the comma before it.
+    std::string_view Rest() const { return All().substr( m_preference.m_begin ); }
+    /// A comma and the member `types` without INTERNET: every mail address has this type, so it says nothing about one.
+    std::string_view TypesOfEntry() const { return m_typesOfEntry.In( ViewOf( m_text ) ); }
+    /// A comma and the member `preference`; empty without one.
+    std::string_view Preference() const { return m_preference.In( ViewOf( m_text ) ); }
+
+    /// The media type that the parameters name; empty if they name none.
+    std::string_view MediaType() const { return m_mediaType.In( ViewOf( m_text ) ); }
+    /// The direction of a call: `dialed`, `received`, `missed` or `unknown`.
+    std::string_view Direction() const { return m_direction; }
+
+private:
+    friend class HeadReader; // fills it
+
+    PropertyName m_property = PropertyName::Other;
+    Delimiters m_delimiters = Delimiters::None;
+    bool m_isMedia = false;
+    QByteArray m_text;
+    ByteRange m_name;
+    ByteRange m_types;
+    ByteRange m_typesOfEntry;
+    ByteRange m_preference;
+    ByteRange m_parameters;
+    ByteRange m_mediaType;
+    std::string_view m_direction;
+};
+
+/// Reads heads. Keeps its memory.
+class HeadReader
+{
+public:
+    void Read( const IndexedLine& a_line, HeadJson& a_head );
+
+private:
+    enum class InternetType
+    {
+        Written,
+        LeftOut,
+    };
+
+    ByteRange WriteName( std::string_view a_name );
+    ByteRange WriteTypes( InternetType a_internet );
+    ByteRange WritePreference();
+    ByteRange WriteParameters();
+    ByteRange WriteMediaType();
+    ByteRange From( size_t a_place ) const;
+    std::string_view Direction() const;
+
+    ValueDecoder m_decoder;
+    LineParameters m_parameters;
+    JsonText m_json;
+};
+
+/// Finds the JSON for one line after the other. An address book has few different heads, such as `TEL;TYPE=CELL`, so
+/// those that were seen last are remembered, unless they are long. Keeps its memory.
+class HeadCache
+{
+public:
+    /// \return the JSON of a line; valid until the next call.
+    const HeadJson& Of( const IndexedLine& a_line );
+
+private:
+    static constexpr size_t s_kSets = 128;
+    static constexpr size_t s_kLongestKey = 96;
+
+    // What decides about the JSON of a head that needs no decoding.
+    struct Key
+    {
+        std::string_view m_text;
+        // No name is as long as this, so no line has the key of an empty entry.
+        quint32 m_nameLength = ~0U;
+        ByteRange m_parameters;
+        PimContactVersion m_version = PimContactVersion::Unknown;
+
+        size_t Set() const;
+    };
+    struct Entry
+    {
+        std::array<char, s_kLongestKey> m_text;
+        Key m_key;
+        HeadJson m_json;
+
+        bool Has( const Key& a_key ) const;
+        void SetKey( const Key& a_key );
+    };
+
+    // Heads that have the same place. The older one is replaced.
+    struct EntrySet
+    {
+        std::array<Entry, 2> m_entries;
+        size_t m_older = 0;
+    };
+
+    static bool FindKey( const IndexedLine& a_line, Key& a_key );
+
+    HeadReader m_reader;
+    std::array<EntrySet, s_kSets> m_sets;
+    HeadJson m_other;
+};
+
+} // namespace PimManager::Contacts

@@ -98,18 +98,23 @@ bool LineCursor::FindAnyNested( CardView& a_nested ) const
 
 bool LineCursor::Next()
 {
-    while ( !m_reader.AtEnd() )
+    while ( NextPart() )
     {
-        m_reader.Next( m_line.m_entry );
-        const quint32 begin = m_begin;
-        m_begin += m_line.m_entry.m_length;
-        if ( m_line.m_entry.m_kind != EntryKind::Line )
-            continue;
-        m_line.m_bytes = m_line.m_card.m_bytes.substr( begin, m_line.m_entry.m_length );
-        m_line.m_text = WithoutLineEnd( m_line.m_bytes );
-        return true;
+        if ( m_line.m_entry.m_kind == EntryKind::Line )
+            return true;
     }
     return false;
+}
+
+bool LineCursor::NextPart()
+{
+    if ( m_reader.AtEnd() )
+        return false;
+    m_reader.Next( m_line.m_entry );
+    m_line.m_bytes = m_line.m_card.m_bytes.substr( m_begin, m_line.m_entry.m_length );
+    m_line.m_text = WithoutLineEnd( m_line.m_bytes );
+    m_begin += m_line.m_entry.m_length;
+    return true;
 }
 
 std::string_view LineCursor::Name()

@@ -94,6 +94,9 @@ public:
 
     /// \return false behind the last line.
     bool Next();
+    /// Steps to the next part of any kind. Line() is then that part.
+    /// \return false behind the last part.
+    bool NextPart();
 
     /// \return true if the line holds a card, as AGENT does.
     bool FindNested( CardView& a_nested ) const

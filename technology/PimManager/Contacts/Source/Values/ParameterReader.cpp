@@ -127,6 +127,7 @@ ParameterReader::ParameterReader( std::string_view a_parameters, PimContactVersi
 bool ParameterReader::Next()
 {
     bool isFound = false;
+    m_isFirst = false;
     while ( !isFound )
     {
         std::string_view parameter;
@@ -155,6 +156,7 @@ void ParameterReader::BeginParameter( std::string_view a_parameter )
         m_rest = m_parameterName;
         m_parameterName = std::string_view();
     }
+    m_isFirst = true;
     m_isType = m_parameterName.empty() || IsSameWord( m_parameterName, s_kTypeParameter );
     m_hasElement = true;
 }

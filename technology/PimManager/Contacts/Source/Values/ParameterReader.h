@@ -38,6 +38,10 @@ public:
     /// \return false behind the last value.
     bool Next();
 
+    /// True if the value is the first one of its parameter.
+    bool IsFirst() const { return m_isFirst; }
+    /// True if the value was written without a name.
+    bool IsBare() const { return m_parameterName.empty(); }
     /// The name as written, or a name from above for values without one.
     std::string_view Name() const { return m_name; }
     /// The value. Valid until the next call of Next().
@@ -56,6 +60,7 @@ private:
     // Of the parameter: its name, empty if it is bare, and the elements that follow.
     std::string_view m_parameterName;
     bool m_isType = false;
+    bool m_isFirst = false;
     std::string_view m_rest;
     bool m_hasRest = false;
     bool m_hasElement = false;

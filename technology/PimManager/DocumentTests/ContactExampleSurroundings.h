@@ -6,6 +6,9 @@
 
 #include <PimManager/Contacts/PimContactBook.h>
 #include <PimManager/Contacts/PimContactReader.h>
+#include <PimManager/Contacts/PimContactVCard.h>
+
+#include <PimVCard.h>
 
 #include <QByteArray>
 #include <QDebug>
@@ -20,8 +23,10 @@ struct Connection
 };
 
 bool Store( const PimContactCard& a_card );
+void Show( const QByteArray& a_picture );
 
 extern const PimContactCard card;
+extern const PimContactLine line;
 extern const PimContactReport report;
 extern PimContactReader reader;
 extern Connection connection;

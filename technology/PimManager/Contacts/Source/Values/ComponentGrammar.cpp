@@ -224,7 +224,7 @@ bool HasPlainBreaks( const IndexedLine& a_line, PimContactEncoding a_encoding )
 bool IsPlainLine( const IndexedLine& a_line )
 {
     const IndexEntry& entry = a_line.m_entry;
-    if ( !entry.m_hasColon || entry.m_oddities || entry.m_charset != LineCharset::Utf8 )
+    if ( static_cast<int>( entry.AllOddities() ) != 0 || entry.m_charset != LineCharset::Utf8 )
         return false;
     const auto part = [&a_line]( ByteRange a_range )
     { return Unfolded( a_line.m_text, a_line.m_entry, a_line.m_card.m_record.FoldStyle(), a_range ); };

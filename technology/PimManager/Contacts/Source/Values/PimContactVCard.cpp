@@ -125,8 +125,7 @@ private:
             value.replace( QLatin1Char( '\n' ), QLatin1String( "^n" ) );
             value.replace( QLatin1Char( '"' ), QLatin1String( "^'" ) );
         }
-        const bool isPlain = a_value.empty() || IsName( a_value );
-        return isPlain ? value : QLatin1Char( '"' ) + value + QLatin1Char( '"' );
+        return IsName( a_value ) ? value : QLatin1Char( '"' ) + value + QLatin1Char( '"' );
     }
 
     const IndexedLine& m_line;
@@ -158,8 +157,8 @@ void AppendLine( const IndexedLine& a_line, QByteArray& a_text )
     a_text += "\r\n";
 }
 
-// Cards nest 64 deep at most, see PimContactOptions.
-void AppendCard( const PimContactCard& a_card, QByteArray& a_text ) // NOLINT(misc-no-recursion)
+// Recursion ends: cards nest 64 deep at most, see PimContactOptions.
+void AppendCard( const PimContactCard& a_card, QByteArray& a_text )
 {
     a_text += "BEGIN:VCARD\r\n";
     for ( const PimContactLine& line : a_card )

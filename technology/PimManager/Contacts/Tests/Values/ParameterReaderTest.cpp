@@ -137,6 +137,19 @@ TEST( ParametersOfLineTest, FoldInsideParametersIsRemoved )
     EXPECT_EQ( Joined( line.Parameter( QLatin1String( "X-A" ) ) ), "a b" );
 }
 
+TEST( ParametersOfLineTest, ParametersAndBareWordsAreToldApart )
+{
+    std::string values;
+    ParameterReader reader( ";TYPE=,a,b;;c,d;CELL=", s_k30 );
+    while ( reader.Next() )
+    {
+        values += reader.IsFirst() ? ";" : ",";
+        values += reader.IsBare() ? "" : "TYPE=";
+        values += reader.Value();
+    }
+    EXPECT_EQ( values, ";TYPE=a,TYPE=b;c,d;CELL" );
+}
+
 // So bare words of the standards are never taken for a character set.
 TEST( ParametersOfLineTest, NoTypeOfTheStandardsIsACharset )
 {

@@ -1,15 +1,12 @@
 /// \file
 /// A card as objects of the component, for programs that were written for PimVCardParser.
 ///
-/// A program that uses the objects includes PimVCard.h as well, and links PimManager::vCard.
+/// A program that uses the objects also includes PimVCard.h and links PimManager::vCard.
 ///
 /// \code
-/// for ( const PimContactCard& card : book )
-/// {
-///     const PimContactVCard objects = PimContactVCard::FromCard( card );
-///     for ( const PimManager::vCard::PimVCardProperty* property : objects->GetProperties() )
-///         qInfo() << property->GetName() << property->GetValues();
-/// }
+/// const PimContactVCard objects = PimContactVCard::FromCard( card );
+/// for ( const PimManager::vCard::PimVCardProperty* property : objects->GetProperties() )
+///     qInfo() << property->GetName() << property->GetValues();
 /// \endcode
 
 #pragma once
@@ -33,27 +30,26 @@ class PimContactVCardPrivate;
 
 /// Owns the PimVCard of a card. It can be moved, but not copied.
 ///
-/// There is a property for each line of the card, in the same order; VERSION is one of them, BEGIN and END are not. All
-/// values are split at their semicolons, as the component does. The objects do not refer to the card.
+/// The PimVCard has one property for each line of the card, in the same order. VERSION is one of them; BEGIN and END
+/// are not. Each value is split at its semicolons, as the component does. The objects do not refer to the card.
 ///
-/// **Parsed.** If the component reads the card without an error and without loss, the objects are those that
-/// PimVCardParser returns for PimContactCard::Bytes(). QUOTED-PRINTABLE and BASE64 are then not decoded, see PimVCard.h.
+/// **Parsed.** If the component reads the bytes of the card without an error and without losing text, the objects are
+/// those that PimVCardParser returns. QUOTED-PRINTABLE and BASE64 are not decoded, see PimVCard.h.
 ///
-/// **Made.** Otherwise, the objects are made from the line's decoded texts:
+/// **Made.** Any other card is made from what Contacts decodes:
 ///
-/// - The texts are those of PimContactLine::Components(): the character set and QUOTED-PRINTABLE are decoded, and
-///   escapes are removed. CHARSET is left out, and so is each ENCODING that no longer applies.
-/// - BASE64 is not decoded, but white space in it is removed.
-/// - Quotes and the carets of RFC 6868 are used in parameter values only where they are needed. Empty parameters are left
-///   out.
-/// - The value of a property that holds a nested card is the text of that card: lines without folds that end in CR LF.
-///   FromCard() of PimContactLine::NestedCard() returns its objects.
+/// - Values are those of PimContactLine::Components(): QUOTED-PRINTABLE and the character set are decoded, and escapes
+///   are removed. CHARSET is left out, and so is each ENCODING that no longer applies.
+/// - BASE64 is not decoded. White space in it is removed.
+/// - Parameter values have quotes if they contain other characters than letters, digits and hyphens. Empty parameters
+///   are left out. In versions 3.0 and 4.0, carets escape quotes and line feeds (RFC 6868).
+/// - The value of a property that holds a nested card is the text of that card, with one line for each property and
+///   CR LF behind each line. To get its objects, pass PimContactLine::NestedCard() to FromCard().
 ///
-/// The component loses text of a card that is not UTF-8, or that has no CR LF at the end of each line, byte order marks,
-/// folds with more than one blank, or an encoded line break at the end of a line. Such a card is made. So is any other
-/// card that the component refuses, for example because of `\n` in a value.
+/// Examples of cards that are made: a line ends in LF; a value contains `\n`; the text is not UTF-8; a fold has two
+/// blanks, of which the component removes both.
 ///
-/// Nothing is written to Qt's log. Different objects may be used in different threads.
+/// Nothing is written to Qt's log. Different objects may be used in different threads at once.
 class PIMCONTACT_EXPORT PimContactVCard
 {
 public:

@@ -31,7 +31,7 @@ quint64 NumberAt( std::string_view a_text, size_t a_place )
 void HeadReader::Read( const IndexedLine& a_line, HeadJson& a_head )
 {
     m_json.Clear();
-    const std::string_view name = m_decoder.Head( a_line, a_line.m_entry.m_name );
+    const std::string_view name = m_decoder.Written( a_line, a_line.m_entry.m_name );
     a_head.m_property = PropertyNameOf( name );
     a_head.m_delimiters = DelimitersOf( name, a_line.m_card.m_record.Version() );
     a_head.m_isMedia = IsMediaName( name );

@@ -88,7 +88,7 @@ std::string_view PropertyJson::GroupText( const IndexedLine& a_line )
 {
     const ByteRange group = a_line.m_entry.m_group;
     if ( a_line.IsContinued() || a_line.m_entry.m_charset != LineCharset::Utf8 )
-        return m_decoder.Head( a_line, group );
+        return m_decoder.Written( a_line, group );
     return group.In( a_line.m_text );
 }
 

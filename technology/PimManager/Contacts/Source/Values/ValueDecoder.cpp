@@ -98,20 +98,12 @@ void ValueDecoder::Decode( const IndexedLine& a_line )
         DecodeRaw( a_line );
 }
 
-<<<<<<< HEAD
-std::string_view ValueDecoder::Head( const IndexedLine& a_line, ByteRange a_part )
-=======
 std::string_view ValueDecoder::Written( const IndexedLine& a_line, ByteRange a_range )
->>>>>>> 69d1e5b (Contacts: a card as objects of the component)
 {
     m_findings.Clear();
     m_runs.clear();
     m_literals.clear();
-<<<<<<< HEAD
-    Unfold( a_line, a_part );
-=======
     Unfold( a_line, a_range );
->>>>>>> 69d1e5b (Contacts: a card as objects of the component)
     if ( !IsSurelyUtf8( a_line ) )
         DecodeRaw( a_line );
     return m_escaped.m_text;

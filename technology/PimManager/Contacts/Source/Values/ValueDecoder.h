@@ -32,14 +32,6 @@ public:
     /// \param a_line must outlive the texts of the value.
     void Decode( const IndexedLine& a_line );
 
-<<<<<<< HEAD
-    /// Decodes the parameters of a line up to their quotes.
-    /// \return the text from the first semicolon up to the colon, in UTF-8. Valid as long as a value would be.
-    std::string_view Parameters( const IndexedLine& a_line ) { return Head( a_line, a_line.m_entry.m_parameters ); }
-
-    /// The same for the name or the group.
-    std::string_view Head( const IndexedLine& a_line, ByteRange a_part );
-=======
     /// Decodes the character set of a part of a line, and nothing else.
     /// \return the part in UTF-8, continuation lines joined. Valid as long as a value would be.
     std::string_view Written( const IndexedLine& a_line, ByteRange a_range );
@@ -47,7 +39,6 @@ public:
     /// \return the parameters of a line with their quotes: the text from the first semicolon up to the colon, in UTF-8.
     ///         Valid as long as a value would be.
     std::string_view Parameters( const IndexedLine& a_line ) { return Written( a_line, a_line.m_entry.m_parameters ); }
->>>>>>> 69d1e5b (Contacts: a card as objects of the component)
 
     /// The value with its escapes, in UTF-8. Valid until the next line.
     const EscapedText& Escaped() const { return m_escaped; }

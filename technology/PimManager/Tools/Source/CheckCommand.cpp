@@ -5,6 +5,7 @@
 #include "CheckRun.h"
 #include "ExtentList.h"
 #include "LimitOptions.h"
+#include "Outputs/OutputClaims.h"
 
 #include <QCommandLineOption>
 
@@ -73,6 +74,8 @@ ExitStatus CheckCommand::Run( const QList<QByteArray>& a_arguments )
     const QString wrongLimit = ApplyLimits( line, options );
     if ( !wrongLimit.isEmpty() )
         return line.Refuse( m_console, wrongLimit );
+    if ( !OutputClaims( m_console, line.Arguments() ).ClaimResults() )
+        return ExitStatus::Trouble;
     const std::unique_ptr<CheckOutput> output = MakeOutput( line, m_console.Out() );
     return CheckRun( m_console, options, *output ).Run( line.Arguments() );
 }

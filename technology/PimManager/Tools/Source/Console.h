@@ -4,7 +4,7 @@
 #pragma once
 
 #include "ExitStatus.h"
-#include "OutputDevice.h"
+#include "Outputs/OutputDevice.h"
 
 #include <QString>
 

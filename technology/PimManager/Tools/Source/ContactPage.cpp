@@ -10,8 +10,8 @@ namespace PimManager::vCard::Tools
 
 using namespace vCardImport;
 
-ContactPage::ContactPage( const QByteArray& a_fileName, const QList<QByteArray>& a_inputs ) :
-    m_file( a_fileName, a_inputs )
+ContactPage::ContactPage( const QByteArray& a_fileName, OutputClaims& a_claims ) :
+    m_file( a_fileName, a_claims )
 {
 }
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "ImportOutput.h"
-#include "OutputFile.h"
+#include "Outputs/OutputFile.h"
 
 #include <QList>
 
@@ -20,13 +20,14 @@ class ContactPage : public ImportOutput
 {
 public:
     /// The parameters are those of OutputFile.
-    ContactPage( const QByteArray& a_fileName, const QList<QByteArray>& a_inputs );
+    ContactPage( const QByteArray& a_fileName, OutputClaims& a_claims );
 
     void Begin() override;
     void BeginBook( const ImportedBook& a_book ) override;
     void TakeCard( const ImportedBook& a_book, const vCardImport::PimVCardImportedCard& a_card ) override;
     void EndBook( const ImportedBook& a_book ) override;
     void End() override;
+    void Fail( const QString& a_reason ) override { m_file.Fail( a_reason ); }
     QStringList Failures() const override;
 
 private:

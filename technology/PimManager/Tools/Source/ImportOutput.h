@@ -31,7 +31,9 @@ public:
     virtual ~ImportOutput() = default;
     Q_DISABLE_COPY( ImportOutput )
 
-    /// Comes first, also when no book can be read.
+    /// Creates what the output needs. If an output then has Failures(), nothing more is called: the run is refused.
+    virtual void Open() {}
+    /// Comes before all books, also when no book can be read.
     virtual void Begin() {}
     virtual void BeginBook( const ImportedBook& /*a_book*/ ) {}
     virtual void TakeCard( const ImportedBook& /*a_book*/, const vCardImport::PimVCardImportedCard& /*a_card*/ ) {}
@@ -40,6 +42,8 @@ public:
     virtual void EndBook( const ImportedBook& /*a_book*/ ) {}
     /// Comes last.
     virtual void End() {}
+    /// Comes after an exception that one of the calls above has thrown: what was written may be cut off anywhere.
+    virtual void Fail( const QString& /*a_reason*/ ) {}
 
     /// \return why something is missing, as whole sentences for the user without a full stop; empty while all is well.
     virtual QStringList Failures() const { return {}; }

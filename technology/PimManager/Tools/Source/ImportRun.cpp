@@ -3,6 +3,7 @@
 #include "AccountText.h"
 #include "InputDevice.h"
 
+#include <new>
 #include <utility>
 
 namespace PimManager::vCard::Tools
@@ -21,8 +22,10 @@ ImportRun::ImportRun( Console& a_console, const PimVCardImportOptions& a_options
 
 ExitStatus ImportRun::Run( const QList<QByteArray>& a_fileNames )
 {
+    if ( !OpenOutputs() )
+        return TellFailures( ExitStatus::Trouble );
     ForEachOutput( []( ImportOutput& a_output ) { a_output.Begin(); } );
-    const ExitStatus status = AreOutputsReady() ? m_run.Read( a_fileNames, *this ) : ExitStatus::AllGiven;
+    const ExitStatus status = m_run.Read( a_fileNames, *this );
     ForEachOutput( []( ImportOutput& a_output ) { a_output.End(); } );
     const ExitStatus finished = m_run.Finish( TellFailures( m_console.Close( status ) ) );
     if ( !m_run.IsReaderGone() )
@@ -66,7 +69,25 @@ template <typename Call>
 void ImportRun::ForEachOutput( Call a_call )
 {
     for ( const std::unique_ptr<ImportOutput>& output : m_outputs )
-        a_call( *output );
+    {
+        try
+        {
+            a_call( *output );
+        }
+        catch ( const std::bad_alloc& )
+        {
+            output->Fail( QStringLiteral( "it needs more memory than there is" ) );
+            throw;
+        }
+    }
+}
+
+// Nothing is created if an output has been refused already.
+bool ImportRun::OpenOutputs()
+{
+    if ( AreOutputsReady() )
+        ForEachOutput( []( ImportOutput& a_output ) { a_output.Open(); } );
+    return AreOutputsReady();
 }
 
 bool ImportRun::AreOutputsReady()

@@ -39,6 +39,7 @@ private:
 
     template <typename Call>
     void ForEachOutput( Call a_call );
+    bool OpenOutputs();
     bool AreOutputsReady();
     bool TakeCard( const vCardImport::PimVCardImportedCard& a_card );
     ExitStatus TellFailures( ExitStatus a_status );

@@ -10,8 +10,9 @@
 namespace PimManager::vCard::Tools
 {
 
-/// Catches the first Ctrl-C (SIGINT) from its construction to its destruction; a second one ends the program as ever.
-/// One at a time. A signal that the caller of the program has switched off stays off.
+/// Catches the first Ctrl-C (SIGINT) from its construction to its destruction. A second one does what it did before:
+/// it ends the program. There can be one object at a time. If the caller of the program ignores the signal, it stays
+/// ignored.
 class Interrupt
 {
 public:
@@ -31,7 +32,7 @@ private:
     static volatile std::sig_atomic_t sm_isRequested;
     static volatile std::sig_atomic_t sm_descriptor;
 
-    struct sigaction m_former = {};
+    static struct sigaction sm_former;
 };
 
 } // namespace PimManager::vCard::Tools

@@ -7,6 +7,7 @@
 #include "CardTextWriter.h"
 #include "CommandLine.h"
 #include "ComponentLog.h"
+#include "Outputs/OutputClaims.h"
 #include "Version.h"
 #include "Wording.h"
 
@@ -86,6 +87,8 @@ ExitStatus PrintCommand::Run( const QList<QByteArray>& a_arguments )
         return m_console.Refuse( QStringLiteral( "--json and --json-lines contradict each other" ), s_kCommand );
     if ( line.Arguments().isEmpty() )
         return m_console.Refuse( QStringLiteral( "no file to print" ), s_kCommand );
+    if ( !OutputClaims( m_console, line.Arguments() ).ClaimResults() )
+        return ExitStatus::Trouble;
     m_isLogShown = line.IsSet( s_kLog );
     m_writer = MakeWriter( line, m_console.Out() );
     return PrintFiles( line.Arguments() );

@@ -1,5 +1,6 @@
 #include "Console.h"
-#include "OutputDevice.h"
+#include "Outputs/OutputDevice.h"
+#include "Outputs/UnfinishedFile.h"
 #include "Program.h"
 
 #include <QByteArray>
@@ -10,6 +11,7 @@
 #include <clocale>
 #include <csignal>
 #include <fcntl.h>
+#include <new>
 #include <unistd.h>
 
 using namespace PimManager::vCard::Tools;
@@ -28,6 +30,20 @@ void HoldStandardDescriptors()
     }
 }
 
+// Unfinished files are removed on the way here.
+ExitStatus Run( const QList<QByteArray>& a_arguments, Console& a_console )
+{
+    try
+    {
+        return RunProgram( a_arguments, a_console );
+    }
+    catch ( const std::bad_alloc& )
+    {
+        a_console.Tell( QStringLiteral( "needs more memory than there is" ) );
+        return ExitStatus::Trouble;
+    }
+}
+
 } // namespace
 
 int main( int argc, char* argv[] )
@@ -35,6 +51,9 @@ int main( int argc, char* argv[] )
     HoldStandardDescriptors();
     // A reader that goes away early is told by the failing write.
     std::signal( SIGPIPE, SIG_IGN );
+    // So is a file that reaches the limit of its size.
+    std::signal( SIGXFSZ, SIG_IGN );
+    UnfinishedFile::RemoveAllAtSignals();
 
     // Qt takes its arguments for text in the locale's encoding; ours stay bytes. It also sets the locale, and the
     // system's messages are wanted in ASCII.
@@ -51,5 +70,5 @@ int main( int argc, char* argv[] )
     OutputDevice out( STDOUT_FILENO );
     OutputDevice err( STDERR_FILENO );
     Console console( out, err );
-    return static_cast<int>( RunProgram( arguments, console ) );
+    return static_cast<int>( Run( arguments, console ) );
 }

@@ -1,7 +1,7 @@
 #include "ProgramRun.h"
 
 #include "Console.h"
-#include "OutputDevice.h"
+#include "Outputs/OutputDevice.h"
 #include "Program.h"
 #include "ToolsTestText.h"
 

@@ -1,6 +1,6 @@
 #include "Progress.h"
 
-#include "OutputDevice.h"
+#include "Outputs/OutputDevice.h"
 #include "ToolsTestText.h"
 
 #include <array>

@@ -1,4 +1,4 @@
-#include "OutputDevice.h"
+#include "Outputs/OutputDevice.h"
 
 #include <cerrno>
 #include <poll.h>

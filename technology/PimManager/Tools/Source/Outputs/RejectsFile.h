@@ -4,7 +4,7 @@
 #pragma once
 
 #include "ImportOutput.h"
-#include "OutputFile.h"
+#include "Outputs/OutputFile.h"
 
 namespace PimManager::vCard::Tools
 {
@@ -15,10 +15,11 @@ class RejectsFile : public ImportOutput
 {
 public:
     /// The parameters are those of OutputFile.
-    RejectsFile( const QByteArray& a_fileName, const QList<QByteArray>& a_inputs );
+    RejectsFile( const QByteArray& a_fileName, OutputClaims& a_claims );
 
     void TakeReject( const vCardImport::PimVCardReject& a_reject ) override;
     void End() override;
+    void Fail( const QString& a_reason ) override { m_file.Fail( a_reason ); }
     QStringList Failures() const override;
 
 private:

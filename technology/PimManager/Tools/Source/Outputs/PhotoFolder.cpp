@@ -1,8 +1,7 @@
-#include "PhotoFolder.h"
+#include "Outputs/PhotoFolder.h"
 
 #include "Attachment.h"
-#include "OutputDevice.h"
-#include "SafeFileName.h"
+#include "Outputs/SafeFileName.h"
 #include "TerminalText.h"
 #include "Wording.h"
 
@@ -12,7 +11,6 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace PimManager::vCard::Tools
 {
@@ -22,9 +20,6 @@ using namespace vCardImport;
 namespace
 {
 
-constexpr mode_t s_kFolderMode = 0777;
-constexpr mode_t s_kFileMode = 0666;
-
 QString Pictures( qint64 a_count )
 {
     return Counted( a_count, QStringLiteral( "picture" ), QStringLiteral( "pictures" ) );
@@ -32,23 +27,18 @@ QString Pictures( qint64 a_count )
 
 } // namespace
 
-PhotoFolder::PhotoFolder( const QByteArray& a_folder ) :
-    m_path( a_folder )
+PhotoFolder::PhotoFolder( const QByteArray& a_folder, const OutputClaims& a_claims ) :
+    m_path( a_folder ),
+    m_claims( a_claims )
 {
 }
 
-PhotoFolder::~PhotoFolder()
+void PhotoFolder::Open()
 {
-    if ( m_folder >= 0 )
-        ::close( m_folder );
-}
-
-void PhotoFolder::Begin()
-{
-    if ( ::mkdir( m_path.constData(), s_kFolderMode ) != 0 && errno != EEXIST )
+    if ( ::mkdir( m_path.constData(), S_IRWXU ) != 0 && errno != EEXIST )
         m_error = errno;
-    m_folder = ::open( m_path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC );
-    if ( m_folder < 0 && m_error == 0 )
+    m_folder = FileDescriptor( ::open( m_path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC ) );
+    if ( !m_folder.IsOpen() && m_error == 0 )
         m_error = errno;
 }
 
@@ -60,6 +50,12 @@ void PhotoFolder::TakeCard( const ImportedBook& /*a_book*/, const PimVCardImport
         if ( m_error == 0 && property != nullptr && IsPicture( *property ) )
             TakePicture( DisplayNameOf( *a_card.m_card ), *property );
     }
+}
+
+void PhotoFolder::End()
+{
+    if ( m_error == 0 )
+        m_error = AtomicFile::SyncFolder( m_folder.Number() );
 }
 
 QStringList PhotoFolder::Failures() const
@@ -91,37 +87,27 @@ void PhotoFolder::TakePicture( const QString& a_contact, const PimVCardProperty&
         m_unreadable += picture.m_address.isEmpty() && !isEmpty ? 1 : 0;
         return;
     }
-    const int file = CreateFile( ToSafeFileName( a_contact ), picture.m_fileEnding.toUtf8() );
-    if ( file < 0 )
-        return;
-    {
-        OutputDevice device( file );
-        device.write( picture.m_bytes );
-        device.Flush();
-        m_error = device.Error();
-    }
-    if ( ::close( file ) != 0 && m_error == 0 )
-        m_error = errno;
-    if ( m_error != 0 )
-        ::unlinkat( m_folder, m_fileName.constData(), 0 );
-    else
-        ++m_written;
+    WriteFile( picture.m_bytes, ToSafeFileName( a_contact ), picture.m_fileEnding.toUtf8() );
 }
 
-int PhotoFolder::CreateFile( const QByteArray& a_stem, const QByteArray& a_ending )
+void PhotoFolder::WriteFile( const QByteArray& a_bytes, const QByteArray& a_stem, const QByteArray& a_ending )
+{
+    AtomicFile file( m_folder.Number() );
+    file.Device().write( a_bytes );
+    m_error = Publish( file, a_stem, a_ending );
+    m_written += m_error == 0 ? 1 : 0;
+}
+
+int PhotoFolder::Publish( AtomicFile& a_file, const QByteArray& a_stem, const QByteArray& a_ending )
 {
     for ( ;; )
     {
-        m_fileName = a_stem + '-' + QByteArray::number( ++m_number ) + '.' + a_ending;
-        const int file = ::openat( m_folder, m_fileName.constData(),
-                                   O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, s_kFileMode );
-        if ( file >= 0 )
-            return file;
-        if ( errno != EEXIST )
-        {
-            m_error = errno;
-            return -1;
-        }
+        const QByteArray name = a_stem + '-' + QByteArray::number( ++m_number ) + '.' + a_ending;
+        if ( m_claims.IsUsed( FileIdentity::At( m_folder.Number(), name ) ) )
+            continue;
+        const int error = a_file.Publish( name, m_claims.GetExisting() );
+        if ( error != EEXIST && error != EISDIR )
+            return error;
     }
 }
 

@@ -1,4 +1,4 @@
-#include "SafeFileName.h"
+#include "Outputs/SafeFileName.h"
 
 #include "CodePoints.h"
 

@@ -1,12 +1,12 @@
-#include "RejectsFile.h"
+#include "Outputs/RejectsFile.h"
 
 namespace PimManager::vCard::Tools
 {
 
 using namespace vCardImport;
 
-RejectsFile::RejectsFile( const QByteArray& a_fileName, const QList<QByteArray>& a_inputs ) :
-    m_file( a_fileName, a_inputs )
+RejectsFile::RejectsFile( const QByteArray& a_fileName, OutputClaims& a_claims ) :
+    m_file( a_fileName, a_claims )
 {
 }
 

@@ -42,7 +42,8 @@ TEST( ImportMemoryTest, MemoryDoesNotGrowWithTheFile )
     const QByteArray rejects = folder.Path( "rejects" );
     for ( const QList<QByteArray>& mode :
           { QList<QByteArray>{ "import" }, QList<QByteArray>{ "import", "--json-lines" },
-            QList<QByteArray>{ "import", "--html", "/dev/null", "--rejects", rejects }, QList<QByteArray>{ "check" } } )
+            QList<QByteArray>{ "import", "--force", "--html", "/dev/null", "--rejects", rejects },
+            QList<QByteArray>{ "check" } } )
     {
         constexpr long s_kAllowed = 1024;
         EXPECT_EQ( ProgramCall( mode + QList<QByteArray>{ small } ).WithOutputTo( "/dev/null" ).Run().m_status, 1 );

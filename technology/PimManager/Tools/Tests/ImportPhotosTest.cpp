@@ -90,6 +90,55 @@ TEST( ImportPhotosTest, NothingIsOverwrittenAndNoLinkFollowed )
     EXPECT_EQ( FilesIn( photos ), "Nell-1.png\nNell-2.png\nNell-3.png\nNell-4.png\n" );
 }
 
+TEST( ImportPhotosTest, ForceReplacesFilesAndLinksButNoFoldersAndNoFilesInUse )
+{
+    const Folder folder;
+    const QByteArray photos = folder.Path( "photos" );
+    ASSERT_EQ( mkdir( photos.constData(), 0700 ), 0 );
+    folder.Write( "photos/Nell-1.png", "old" );
+    const QByteArray target = folder.Write( "target", "mine" );
+    ASSERT_EQ( symlink( "../target", ( photos + "/Nell-2.png" ).constData() ), 0 );
+    ASSERT_EQ( mkdir( ( photos + "/Nell-3.png" ).constData(), 0700 ), 0 );
+    const QByteArray book = folder.Write(
+        "photos/Nell-4.png", CardText( "VERSION:3.0\r\nFN:Nell\r\n" + PhotoLine( PngPicture() ).repeated( 4 ) ) );
+    const ProgramRun run =
+        RunPimvcard( { "import", "--force", "--photos", photos, "--rejects", photos + "/Nell-5.png", book } );
+    EXPECT_EQ( run.m_status, 0 ) << run.m_err;
+    EXPECT_EQ( NamesIn( photos ),
+               "Nell-1.png\nNell-2.png\nNell-3.png\nNell-4.png\nNell-5.png\nNell-6.png\nNell-7.png\n" );
+    for ( const char* name : { "/Nell-1.png", "/Nell-2.png", "/Nell-6.png", "/Nell-7.png" } )
+        EXPECT_EQ( FileContent( photos + name ), PngPicture() ) << name;
+    EXPECT_TRUE( FileContent( book ).startsWith( "BEGIN" ) );
+    EXPECT_EQ( FileContent( photos + "/Nell-5.png" ).toStdString(), "" );
+    EXPECT_EQ( FileContent( target ).toStdString(), "mine" );
+}
+
+TEST( ImportPhotosTest, FolderAndPicturesAreForTheirOwnerAlone )
+{
+    const Folder folder;
+    const QByteArray photos = folder.Path( "photos" );
+    const QByteArray book = Card( "Nell", PhotoLine( PngPicture() ) );
+    EXPECT_EQ( ProgramCall( { "import", "--photos", photos, "-" } ).WithInput( book ).WithUmask( 0 ).Run().m_status,
+               0 );
+    EXPECT_EQ( ModeOf( photos ), 0700U );
+    EXPECT_EQ( ModeOf( photos + "/Nell-1.png" ), 0600U );
+}
+
+TEST( ImportPhotosTest, FullDiskLeavesWholePicturesOnly )
+{
+    const Folder folder;
+    const QByteArray photos = folder.Path( "photos" );
+    const QByteArray book =
+        Card( "Nell", PhotoLine( PngPicture() ) + PhotoLine( PngPicture() + QByteArray( 100000, 'x' ) ) );
+    const ProgramRun run =
+        ProgramCall( { "import", "-q", "--photos", photos, "-" } ).WithInput( book ).WithFileSizeLimit( 50000 ).Run();
+    EXPECT_EQ( run.m_status, 2 );
+    EXPECT_EQ( run.m_err.find( "pimvcard: " + photos.toStdString() + ": pictures cannot be written: File too large\n" ),
+               0U )
+        << run.m_err;
+    EXPECT_EQ( NamesIn( photos ), "Nell-1.png\n" );
+}
+
 TEST( ImportPhotosTest, PicturesElsewhereAreCountedAndNotFetched )
 {
     const Folder folder;

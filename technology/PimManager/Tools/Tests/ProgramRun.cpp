@@ -7,7 +7,10 @@
 #include <array>
 #include <fcntl.h>
 #include <filesystem>
+#include <set>
 #include <spawn.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -73,6 +76,41 @@ public:
 
 private:
     posix_spawn_file_actions_t m_actions = {};
+};
+
+// The umask of this process while it starts the program.
+class TemporaryUmask
+{
+public:
+    explicit TemporaryUmask( std::optional<mode_t> a_umask ) :
+        m_former( umask( 0 ) )
+    {
+        umask( a_umask.value_or( m_former ) );
+    }
+    ~TemporaryUmask() { umask( m_former ); }
+    Q_DISABLE_COPY( TemporaryUmask )
+
+private:
+    const mode_t m_former;
+};
+
+// The limit of this process while it starts the program.
+class TemporaryFileSizeLimit
+{
+public:
+    explicit TemporaryFileSizeLimit( std::optional<qint64> a_limit )
+    {
+        EXPECT_EQ( getrlimit( RLIMIT_FSIZE, &m_former ), 0 );
+        rlimit limit = m_former;
+        if ( a_limit )
+            limit.rlim_cur = static_cast<rlim_t>( *a_limit );
+        EXPECT_EQ( setrlimit( RLIMIT_FSIZE, &limit ), 0 );
+    }
+    ~TemporaryFileSizeLimit() { setrlimit( RLIMIT_FSIZE, &m_former ); }
+    Q_DISABLE_COPY( TemporaryFileSizeLimit )
+
+private:
+    rlimit m_former = {};
 };
 
 int Execute( QList<QByteArray> a_arguments, QList<QByteArray> a_environment, const Redirections& a_redirections )
@@ -141,6 +179,18 @@ ProgramCall& ProgramCall::WithClosed( int a_descriptor )
     return *this;
 }
 
+ProgramCall& ProgramCall::WithUmask( mode_t a_umask )
+{
+    m_umask = a_umask;
+    return *this;
+}
+
+ProgramCall& ProgramCall::WithFileSizeLimit( qint64 a_bytes )
+{
+    m_fileSizeLimit = a_bytes;
+    return *this;
+}
+
 ProgramRun ProgramCall::Run() const
 {
     const Folder folder;
@@ -157,7 +207,11 @@ ProgramRun ProgramCall::Run() const
         redirections.Close( m_closed );
 
     ProgramRun run;
-    run.m_status = Execute( ProgramCommand() + m_arguments, EnvironmentWith( m_variables ), redirections );
+    {
+        const TemporaryUmask temporaryUmask( m_umask );
+        const TemporaryFileSizeLimit temporaryLimit( m_fileSizeLimit );
+        run.m_status = Execute( ProgramCommand() + m_arguments, EnvironmentWith( m_variables ), redirections );
+    }
     if ( m_isPipeBroken )
         close( pipeEnd );
     if ( m_outputName.isEmpty() )
@@ -194,6 +248,25 @@ QByteArray FileContent( const QByteArray& a_name )
     QFile file( QFile::decodeName( a_name ) );
     EXPECT_TRUE( file.open( QIODevice::ReadOnly ) ) << a_name.constData();
     return file.readAll();
+}
+
+unsigned ModeOf( const QByteArray& a_name )
+{
+    constexpr unsigned s_kPermissions = 07777;
+    struct stat status = {};
+    EXPECT_EQ( lstat( a_name.constData(), &status ), 0 ) << a_name.constData();
+    return status.st_mode & s_kPermissions;
+}
+
+std::string NamesIn( const QByteArray& a_folder )
+{
+    std::set<std::string> names;
+    for ( const auto& entry : std::filesystem::directory_iterator( a_folder.toStdString() ) )
+        names.insert( entry.path().filename().string() );
+    std::string joined;
+    for ( const std::string& name : names )
+        joined += name + "\n";
+    return joined;
 }
 
 } // namespace PimManager::vCard::Tools

@@ -8,7 +8,9 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <optional>
 #include <string>
+#include <sys/types.h>
 
 namespace PimManager::vCard::Tools
 {
@@ -54,6 +56,12 @@ public:
     /// A standard descriptor is closed from the start.
     ProgramCall& WithClosed( int a_descriptor );
 
+    /// The umask of the program.
+    ProgramCall& WithUmask( mode_t a_umask );
+
+    /// No file can grow beyond this size, as on a disk that is full.
+    ProgramCall& WithFileSizeLimit( qint64 a_bytes );
+
     ProgramRun Run() const;
 
 private:
@@ -63,6 +71,8 @@ private:
     QByteArray m_outputName;
     bool m_isPipeBroken = false;
     int m_closed = -1;
+    std::optional<mode_t> m_umask;
+    std::optional<qint64> m_fileSizeLimit;
 };
 
 inline ProgramRun RunPimvcard( const QList<QByteArray>& a_arguments )
@@ -90,5 +100,11 @@ private:
 
 /// The bytes of a file; the test fails when it cannot be read.
 QByteArray FileContent( const QByteArray& a_name );
+
+/// The permissions of a file, or of a link itself; the test fails when there is none.
+unsigned ModeOf( const QByteArray& a_name );
+
+/// The names in a folder in order, each with a line feed. Names of hidden files are among them.
+std::string NamesIn( const QByteArray& a_folder );
 
 } // namespace PimManager::vCard::Tools

@@ -1,6 +1,6 @@
 #include "TerminalRun.h"
 
-#include "ProgramRun.h"
+#include "ProgramProcess.h"
 
 #include <gtest/gtest.h>
 
@@ -10,24 +10,14 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
 #include <sys/ioctl.h>
-#include <sys/wait.h>
 #include <unistd.h>
-#include <vector>
 
 namespace PimManager::vCard::Tools
 {
 
 namespace
 {
-
-std::array<int, 2> NewPipe()
-{
-    std::array<int, 2> ends = { -1, -1 };
-    EXPECT_EQ( pipe2( ends.data(), O_CLOEXEC ), 0 );
-    return ends;
-}
 
 // The other end of a new terminal.
 int OpenTerminal( int a_master, int a_columns )
@@ -41,24 +31,6 @@ int OpenTerminal( int a_master, int a_columns )
     const winsize size = { 40, static_cast<unsigned short>( a_columns ), 0, 0 };
     EXPECT_EQ( ioctl( terminal, TIOCSWINSZ, &size ), 0 );
     return terminal;
-}
-
-int Start( const QList<QByteArray>& a_arguments, int a_in, int a_out, int a_err )
-{
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init( &actions );
-    posix_spawn_file_actions_adddup2( &actions, a_in, STDIN_FILENO );
-    posix_spawn_file_actions_adddup2( &actions, a_out, STDOUT_FILENO );
-    posix_spawn_file_actions_adddup2( &actions, a_err, STDERR_FILENO );
-    QList<QByteArray> words = ProgramCommand() + a_arguments;
-    std::vector<char*> pointers;
-    for ( QByteArray& word : words )
-        pointers.push_back( word.data() );
-    pointers.push_back( nullptr );
-    pid_t child = -1;
-    EXPECT_EQ( posix_spawnp( &child, pointers.front(), &actions, nullptr, pointers.data(), environ ), 0 );
-    posix_spawn_file_actions_destroy( &actions );
-    return child;
 }
 
 // False once nothing more can come.
@@ -86,7 +58,7 @@ TerminalRun::TerminalRun( const QList<QByteArray>& a_arguments, Watched a_watche
     const std::array<int, 2> output = NewPipe();
     m_input = input[1];
     m_output = output[0];
-    m_child = Start( a_arguments, input[0], a_watched == Watched::Both ? terminal : output[1], terminal );
+    m_child = StartProgram( a_arguments, input[0], a_watched == Watched::Both ? terminal : output[1], terminal );
     for ( const int descriptor : { terminal, input[0], output[1] } )
         close( descriptor );
 }
@@ -102,15 +74,7 @@ TerminalRun::~TerminalRun()
 
 void TerminalRun::Feed( const QByteArray& a_bytes )
 {
-    EXPECT_EQ( write( m_input, a_bytes.constData(), static_cast<size_t>( a_bytes.size() ) ), a_bytes.size() );
-    for ( int waiting = 1; waiting > 0; )
-    {
-        ASSERT_EQ( ioctl( m_input, FIONREAD, &waiting ), 0 );
-        constexpr int s_kMillisecond = 1;
-        pollfd reader = { m_input, 0, 0 };
-        poll( &reader, 1, s_kMillisecond );
-        ASSERT_EQ( reader.revents & POLLERR, 0 ) << "the program has ended";
-    }
+    FeedPipe( m_input, a_bytes );
 }
 
 void TerminalRun::Interrupt() const
@@ -123,9 +87,7 @@ int TerminalRun::Finish()
     close( m_input );
     m_input = -1;
     Collect();
-    int status = 0;
-    EXPECT_EQ( waitpid( m_child, &status, 0 ), m_child );
-    return WIFEXITED( status ) ? WEXITSTATUS( status ) : -WTERMSIG( status );
+    return WaitFor( m_child );
 }
 
 void TerminalRun::Collect()

@@ -1,0 +1,57 @@
+#include "ImportRun.h"
+
+#include "ContactPage.h"
+#include "ImportTestBooks.h"
+#include "Outputs/RejectsFile.h"
+#include "ProgramRun.h"
+
+#include <fcntl.h>
+#include <new>
+#include <unistd.h>
+
+using namespace PimManager::vCard::Tools;
+using PimManager::vCardImport::PimVCardImportOptions;
+
+namespace
+{
+
+// A page whose memory ends behind the first card.
+class CutPage : public ContactPage
+{
+public:
+    using ContactPage::ContactPage;
+
+    void TakeCard( const ImportedBook& a_book, const PimManager::vCardImport::PimVCardImportedCard& a_card ) override
+    {
+        if ( a_card.m_index > 0 )
+            throw std::bad_alloc();
+        ContactPage::TakeCard( a_book, a_card );
+    }
+};
+
+} // namespace
+
+TEST( ImportRunTest, OutputThatRunsOutOfMemoryIsNotPublishedAndOthersAre )
+{
+    const Folder folder;
+    const FileDescriptor messages( open( folder.Write( "messages", "" ).constData(), O_WRONLY | O_CLOEXEC ) );
+    OutputDevice device( messages.Number() );
+    Console console( device, device );
+    const QByteArray book = folder.Write( "book", PartCard() + CleanCard() );
+    const QByteArray page = folder.Write( "page", "old" );
+    const QByteArray rejects = folder.Path( "rejects" );
+    OutputClaims claims( console, { book }, Existing::Replace );
+    ImportRun::Outputs outputs;
+    outputs.push_back( std::make_unique<RejectsFile>( rejects, claims ) );
+    outputs.push_back( std::make_unique<CutPage>( page, claims ) );
+    const ExitStatus status =
+        ImportRun( console, PimVCardImportOptions(), std::move( outputs ), BookRun::WithoutReader::GoOn )
+            .Run( { book } );
+    EXPECT_EQ( int( status ), int( ExitStatus::Trouble ) );
+    EXPECT_EQ( FileContent( page ).toStdString(), "old" );
+    EXPECT_EQ( FileContent( rejects ), "\x01\x02 %%%\r\n" );
+    EXPECT_EQ( NamesIn( folder.Path( "" ) ), "book\nmessages\npage\nrejects\n" );
+    EXPECT_EQ( FileContent( folder.Path( "messages" ) ).toStdString(),
+               "pimvcard: " + book.toStdString() + ": needs more memory than there is\npimvcard: " +
+                   page.toStdString() + ": cannot be written: it needs more memory than there is\n" );
+}

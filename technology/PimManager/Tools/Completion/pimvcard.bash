@@ -20,7 +20,7 @@ _pimvcard_options()
 {
   local options="-h --help -v --version"
   case $1 in
-    import) options+=" -c --charset -j --json -J --json-lines -q --quiet -p --photos -r --rejects -o --html" ;;
+    import) options+=" -c --charset -j --json -J --json-lines -q --quiet -p --photos -r --rejects -o --html -f --force" ;;
     check)
       options+=" -c --charset -e --extents --max-card-bytes --max-line-bytes --max-card-lines --max-nesting --max-cards"
       options+=" --max-book-bytes" ;;

@@ -6,7 +6,6 @@
 #include "ProgramRun.h"
 
 #include <fcntl.h>
-#include <functional>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
@@ -286,7 +285,7 @@ TEST( OutputFilesTest, FullDiskKeepsTheOldFileAndLeavesNothing )
                                .WithFileSizeLimit( 10000 )
                                .Run();
     EXPECT_EQ( run.m_status, 2 );
-    EXPECT_EQ( run.m_err.find( CannotBeWritten( page, "File too large" ) ), run.m_err.find( "\n" ) + 1 ) << run.m_err;
+    EXPECT_EQ( run.m_err.find( CannotBeWritten( page, "File too large" ) ), run.m_err.find( '\n' ) + 1 ) << run.m_err;
     EXPECT_EQ( FileContent( page ).toStdString(), "old" );
     EXPECT_EQ( FileContent( rejects ), s_kRejects.repeated( 100 ) );
     EXPECT_EQ( NamesIn( folder.Path( "" ) ), "page\nrejects\n" );

@@ -33,8 +33,8 @@ public:
     /// Where to write. What is written after a failure is dropped.
     OutputDevice& Device() { return m_device; }
 
-    /// Writes the file to the disk and gives it its name. A file that is replaced passes on its permissions, its group
-    /// and, if the system permits it, its owner. If the group cannot be kept, it gets no permissions.
+    /// Writes the file to the disk and gives it its name. A file that is replaced passes on its permissions and,
+    /// if the system permits it, its owner and its group. If the group cannot be kept, the new one gets no permissions.
     ///
     /// \return 0 or the system's number for the failure. After EEXIST (Existing::Keep and the name is taken) and EISDIR
     ///         (Existing::Replace and the name is that of a folder) another name may be tried.

@@ -74,6 +74,8 @@ INSTANTIATE_TEST_SUITE_P(
         ValueTextRow{ "CharacterOverFold", "3.0", "NOTE:a\xC3\r\n \xA9z", "a\xC3\xA9z" },
         ValueTextRow{ "WideCharacters", "3.0", "NOTE:\xE3\x83\x86\\,\xF0\x9F\x98\x80",
                       "\xE3\x83\x86,\xF0\x9F\x98\x80" },
+        ValueTextRow{ "ByteOrderMarksAtTheStart", "3.0", "NOTE:\xEF\xBB\xBF\xEF\xBB\xBFz",
+                      "\xEF\xBB\xBF\xEF\xBB\xBFz" },
         ValueTextRow{ "Base64StaysEncoded", "3.0", "PHOTO;ENCODING=b:Zm9v\r\n Zm9v", "Zm9vZm9v" } ),
     RowName );
 

@@ -23,7 +23,7 @@ macro(pimvcard_find_qt)
   find_package(Qt${PIMVCARD_QT_VERSION} ${pimvcard_least_qt} REQUIRED COMPONENTS ${ARGV})
 endmacro()
 
-# Import and Contacts use QTextCodec, which Qt 6 has in a library of its own. A program links that library itself when
+# Import uses QTextCodec, which Qt 6 has in a library of its own. A program links that library itself when
 # ours are static.
 set(pimvcard_qt_components Core)
 set(pimvcard_text_codec "")

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <PimManager/Contacts/PimContactBook.h>
+#include <PimManager/Contacts/PimContactJson.h>
 #include <PimManager/Contacts/PimContactReader.h>
 #include <PimManager/Contacts/PimContactVCard.h>
 

@@ -138,6 +138,37 @@ std::string_view HeadReader::Direction() const
     return "unknown";
 }
 
+/// \return false if the head is long or needs decoding.
+inline bool HeadCache::FindKey( const IndexedLine& a_line, Key& a_key )
+{
+    const IndexEntry& entry = a_line.m_entry;
+    const quint32 begin = entry.m_name.m_begin;
+    const quint32 length = entry.m_parameters.End() - begin;
+    if ( entry.m_parameters.m_begin < begin || length > s_kLongestKey || entry.m_charset != LineCharset::Utf8 )
+        return false;
+    a_key.m_text = a_line.m_text.substr( begin, length );
+    a_key.m_nameLength = entry.m_name.m_length;
+    a_key.m_parameters = { entry.m_parameters.m_begin - begin, entry.m_parameters.m_length };
+    a_key.m_version = a_line.m_card.m_record.Version();
+    return !a_line.IsContinued() || std::none_of( a_key.m_text.begin(), a_key.m_text.end(), IsLineEndByte );
+}
+
+inline size_t HeadCache::Key::Set() const
+{
+    constexpr quint64 s_kSpread = 0x9E3779B97F4A7C15U;
+    quint64 hash = ( NumberAt( m_text, 0 ) ^ static_cast<quint64>( m_text.size() ) << 56U ) * s_kSpread;
+    if ( m_text.size() > sizeof( quint64 ) )
+        hash = ( hash ^ hash >> 32U ^ NumberAt( m_text, m_text.size() - sizeof( quint64 ) ) ) * s_kSpread;
+    return static_cast<size_t>( hash >> 57U ) % s_kSets;
+}
+
+inline bool HeadCache::Entry::Has( const Key& a_key ) const
+{
+    return m_key.m_nameLength == a_key.m_nameLength && m_key.m_version == a_key.m_version &&
+           m_key.m_parameters.m_begin == a_key.m_parameters.m_begin &&
+           m_key.m_parameters.m_length == a_key.m_parameters.m_length && m_key.m_text == a_key.m_text;
+}
+
 const HeadJson& HeadCache::Of( const IndexedLine& a_line )
 {
     Key key;
@@ -158,37 +189,6 @@ const HeadJson& HeadCache::Of( const IndexedLine& a_line )
     m_reader.Read( a_line, entry.m_json );
     entry.SetKey( key );
     return entry.m_json;
-}
-
-/// \return false if the head is long or needs decoding.
-bool HeadCache::FindKey( const IndexedLine& a_line, Key& a_key )
-{
-    const IndexEntry& entry = a_line.m_entry;
-    const quint32 begin = entry.m_name.m_begin;
-    const quint32 length = entry.m_parameters.End() - begin;
-    if ( entry.m_parameters.m_begin < begin || length > s_kLongestKey || entry.m_charset != LineCharset::Utf8 )
-        return false;
-    a_key.m_text = a_line.m_text.substr( begin, length );
-    a_key.m_nameLength = entry.m_name.m_length;
-    a_key.m_parameters = { entry.m_parameters.m_begin - begin, entry.m_parameters.m_length };
-    a_key.m_version = a_line.m_card.m_record.Version();
-    return !a_line.IsContinued() || std::none_of( a_key.m_text.begin(), a_key.m_text.end(), IsLineEndByte );
-}
-
-size_t HeadCache::Key::Set() const
-{
-    constexpr quint64 s_kSpread = 0x9E3779B97F4A7C15U;
-    const size_t last = m_text.size() > sizeof( quint64 ) ? m_text.size() - sizeof( quint64 ) : 0;
-    quint64 hash = ( NumberAt( m_text, 0 ) ^ ( m_text.size() << 56U ) ) * s_kSpread;
-    hash = ( hash ^ hash >> 32U ^ NumberAt( m_text, last ) ) * s_kSpread;
-    return static_cast<size_t>( hash >> 57U ) % s_kSets;
-}
-
-bool HeadCache::Entry::Has( const Key& a_key ) const
-{
-    return m_key.m_nameLength == a_key.m_nameLength && m_key.m_version == a_key.m_version &&
-           m_key.m_parameters.m_begin == a_key.m_parameters.m_begin &&
-           m_key.m_parameters.m_length == a_key.m_parameters.m_length && m_key.m_text == a_key.m_text;
 }
 
 void HeadCache::Entry::SetKey( const Key& a_key )

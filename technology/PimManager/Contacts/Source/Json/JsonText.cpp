@@ -219,11 +219,9 @@ void JsonText::Insert( size_t a_place, std::string_view a_json )
     m_end = end + a_json.size();
 }
 
-void JsonText::String( std::string_view a_text )
+void JsonText::FilledString( std::string_view a_text )
 {
-    if ( a_text.empty() )
-        Raw( "\"\"" );
-    else if ( !CopyPlainString( a_text ) )
+    if ( !CopyPlainString( a_text ) )
         EscapedString( a_text );
 }
 

@@ -40,7 +40,13 @@ public:
     }
 
     /// Appends a string with its quotes.
-    void String( std::string_view a_text );
+    void String( std::string_view a_text )
+    {
+        if ( a_text.empty() )
+            Raw( "\"\"" );
+        else
+            FilledString( a_text );
+    }
     /// The same with the letters of ASCII in upper case.
     void UpperString( std::string_view a_text );
     void Number( qint64 a_number );
@@ -67,6 +73,7 @@ private:
     char* Grow( size_t a_bytes );
     void Begin();
     void UseWholeCapacity();
+    void FilledString( std::string_view a_text );
     bool CopyPlainString( std::string_view a_text );
     void EscapedString( std::string_view a_text );
     void Escape( std::string_view a_text );

@@ -55,7 +55,8 @@ size_t EndOfWords( std::string_view a_text )
     {
         const bool isSingleBlank =
             a_text[place] == ' ' && place + 1 < a_text.size() && IsVisibleAscii( a_text[place + 1] );
-        if ( !isSingleBlank && MayBeginSpace( a_text[place] ) && LengthOfWhiteSpace( a_text.substr( place ) ) > 0 )
+        const bool isInside = IsVisibleAscii( a_text[place] ) || isSingleBlank;
+        if ( !isInside && LengthOfWhiteSpace( a_text.substr( place ) ) > 0 )
             break;
         ++place;
     }

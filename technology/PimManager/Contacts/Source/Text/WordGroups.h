@@ -11,8 +11,8 @@
 namespace PimManager::Contacts
 {
 
-/// Words in the order in which they were added, and which of them are the same in any letter case of ASCII. Sorts them
-/// if there are many, so that no list of words is slow. Keeps its memory.
+/// Words in the order in which they were added, and which of them are the same in any letter case of ASCII. Takes
+/// linear time; only words that were chosen to collide in its hash table are sorted. Keeps its memory.
 ///
 /// \code
 /// groups.Clear();
@@ -49,12 +49,23 @@ private:
         bool m_isFirst = true;
     };
 
-    void Sort();
+    // The first and the last of the words that are the same; empty if the first one is s_kNone.
+    struct Slot
+    {
+        size_t m_first = s_kNone;
+        size_t m_last = s_kNone;
+    };
+
     void Link( size_t a_first, size_t a_second );
     void LinkToLast( size_t a_index );
+    bool FillSlots();
+    size_t FindSlot( std::string_view a_word, size_t& a_tries ) const;
+    void Sort();
+    size_t FindSorted( std::string_view a_word ) const;
 
     std::vector<Entry> m_words;
-    // If there are many: the words, sorted.
+    // If there are many words: a hash table, or else the words sorted.
+    std::vector<Slot> m_slots;
     std::vector<size_t> m_order;
 };
 

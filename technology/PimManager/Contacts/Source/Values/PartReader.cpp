@@ -44,10 +44,12 @@ inline size_t PartReader::FindByte( size_t a_place ) const
 {
     if ( m_specials == s_kBackslash )
         return std::min( m_text.find( '\\', a_place ), m_text.size() );
-    size_t place = a_place;
-    while ( place < m_text.size() && ( s_kClasses[static_cast<uchar>( m_text[place] )] & m_specials ) == 0 )
+    const uint specials = m_specials;
+    const char* place = m_text.data() + a_place;
+    const char* const end = m_text.data() + m_text.size();
+    while ( place < end && ( s_kClasses[static_cast<uchar>( *place )] & specials ) == 0 )
         ++place;
-    return place;
+    return static_cast<size_t>( place - m_text.data() );
 }
 
 inline bool PartReader::IsLiteral( size_t a_place )

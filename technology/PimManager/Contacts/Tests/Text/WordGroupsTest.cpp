@@ -72,6 +72,28 @@ TEST( WordGroupsTest, ManyWordsAreGrouped )
     }
 }
 
+// Words of one hash value are sorted. They are found by trying, with the hash function of the class.
+TEST( WordGroupsTest, WordsThatCollideAreGrouped )
+{
+    const auto slotOf = []( const std::string& a_word )
+    {
+        unsigned hash = 2166136261U;
+        for ( const char byte : a_word )
+            hash = ( hash ^ static_cast<unsigned char>( byte ) ) * 16777619U;
+        return ( hash ^ hash >> 15U ) & 0xFFFU;
+    };
+    std::vector<std::string> words;
+    for ( int i = 0; words.size() < 500; ++i )
+    {
+        const std::string word = "W" + std::to_string( i );
+        if ( slotOf( word ) == 1 )
+            words.push_back( word );
+    }
+    for ( size_t i = 0; i < 500; ++i )
+        words.push_back( "w" + words[i].substr( 1 ) );
+    ExpectGroups( words );
+}
+
 TEST( WordGroupsTest, ClearedGroupsStartAnew )
 {
     WordGroups groups;

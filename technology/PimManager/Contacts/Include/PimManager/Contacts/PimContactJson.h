@@ -2,6 +2,7 @@
 /// Writes cards as JSON.
 ///
 /// \code
+/// const PimContactBook book = PimContactBook::ReadFile( QStringLiteral( "contacts.vcf" ) );
 /// PimContactJson json;
 /// QByteArray text;
 /// for ( const PimContactCard& each : book )

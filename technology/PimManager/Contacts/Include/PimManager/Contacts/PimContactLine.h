@@ -83,8 +83,8 @@ enum class PimContactValueKind
 ///
 /// 1. Continuation lines are joined.
 /// 2. QUOTED-PRINTABLE is decoded; an encoded CR LF becomes a line feed.
-/// 3. The character set is decoded. QUOTED-PRINTABLE text is in that of the CHARSET parameter, or else in UTF-8 if it is
-///    valid, or else in the caller's default.
+/// 3. The character set is decoded. QUOTED-PRINTABLE text is in that of the CHARSET parameter, or else in UTF-8 if that
+///    fits, or else in the caller's default.
 /// 4. The value is split at its semicolons or commas.
 /// 5. Escapes are removed: `\n` and `\N` become a line feed, and a backslash before a backslash, comma, semicolon,
 ///    colon, quote or apostrophe is removed. Any other backslash is kept.
@@ -117,7 +117,7 @@ public:
     QByteArray Name() const;
 
     /// \return what is between the semicolons before the colon, one element for each parameter. Examples are
-    ///         `TYPE=home,work` and `HOME`. Blanks round it are removed; quotes are kept. Empty parameters are left out.
+    ///         `TYPE=home,work` and `HOME`. Blanks round it are removed; quotes are kept. Empty ones are left out.
     QList<QByteArray> Parameters() const;
 
     /// \return the value, continuation lines joined. Empty for a line that holds a nested card on the next lines.
@@ -147,8 +147,8 @@ public:
     /// - An unknown parameter with an empty value, such as `CELL=`, is a TYPE too.
     /// - In a list, the name may be repeated: `TYPE=HOME,TYPE=VOICE` has the values HOME and VOICE.
     /// - A comma in quotes does not delimit, except in TYPE: `TYPE="home,voice"` has two values.
-    /// - In versions 3.0 and 4.0, `^n`, `^'` and `^^` become a line feed, a quote and a caret (RFC 6868). In version 2.1
-    ///   a caret is text.
+    /// - In versions 3.0 and 4.0, `^n`, `^'` and `^^` become a line feed, a quote and a caret (RFC 6868). A caret of
+    ///   version 2.1 is text.
     /// - In LABEL, the escapes of values are removed as well (RFC 6350, section 6.3.1).
     ///
     /// \param a_name in ASCII and in any letter case, such as `TYPE`.

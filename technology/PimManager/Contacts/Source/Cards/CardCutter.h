@@ -39,6 +39,10 @@ namespace PimManager::Contacts
 ///
 /// The bytes of the card are still there, so it is read again with what is then known. The same happens when a line of
 /// an indented card is not indented. Each byte is read at most three times.
+///
+/// The cutter decides; other classes carry out what it has decided. CardStack writes the index of the card that is
+/// open, CardDelivery delivers it, SkippedCard takes the rest of a refused one, and OutsideText takes the lines between
+/// cards.
 class CardCutter
 {
 public:

@@ -35,7 +35,7 @@ public:
     void Begin( const PhysicalLine& a_first, quint32 a_indentation );
     /// Adds the BEGIN line of the outermost card, as it is recognised outside cards.
     void AddBegin( const PhysicalLine& a_line );
-    /// Must be called whenever the scanner has been asked for a line or has received bytes: it moves its bytes.
+    /// Must be called before a line is passed if the scanner has received bytes, because that moves them.
     void RefreshBytes()
     {
         for ( size_t depth = 0; depth <= m_depth; ++depth )
@@ -119,8 +119,9 @@ private:
     qint64 m_offset = 0;
     qint64 m_number = 1;
     quint32 m_indentation = 0;
-    // Levels are kept for their memory. That of the innermost card:
+    // The outermost card first. Levels are kept for their memory.
     std::vector<std::unique_ptr<Level>> m_levels;
+    // The level of the innermost card that is not nested too deeply.
     size_t m_depth = 0;
     // How many cards are open that are nested too deeply.
     int m_tooDeep = 0;

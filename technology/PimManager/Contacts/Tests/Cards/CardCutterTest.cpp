@@ -1,8 +1,9 @@
 #include "Cards/CardCutter.h"
 
+#include "LedgerText.h"
+
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 #include <ostream>
 #include <string>
@@ -34,12 +35,6 @@ std::ostream& operator<<( std::ostream& a_stream, const CutRow& a_row )
 
 const std::string s_kBegin = "BEGIN:VCARD/";
 const std::string s_kEnd = "END:VCARD/";
-
-std::string Replaced( std::string a_text, char a_from, char a_to )
-{
-    std::replace( a_text.begin(), a_text.end(), a_from, a_to );
-    return a_text;
-}
 
 // A text that was cut.
 class CutText

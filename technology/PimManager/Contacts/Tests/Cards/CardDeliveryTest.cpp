@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 #include <ostream>
 #include <string>
@@ -19,6 +20,7 @@ using Change = std::function<void( PimContactOptions& a_options )>;
 
 const std::string s_kBegin = "BEGIN:VCARD/";
 const std::string s_kEnd = "END:VCARD/";
+const std::string s_kMark = "\xEF\xBB\xBF";
 
 std::string Card( const std::string& a_lines )
 {
@@ -96,6 +98,21 @@ private:
     bool m_isOpen = false;
 };
 
+// A card without END, and the lines behind it.
+void DeliverFirstLine( CardDelivery& a_delivery, LineScanner& a_scanner )
+{
+    PhysicalLine begin;
+    a_scanner.Next( begin );
+    CardStack stack( a_scanner, PimContactOptions(), true );
+    stack.Begin( begin, 0 );
+    stack.AddBegin( begin );
+    CardIndex index;
+    stack.Close( begin.End(), nullptr, true, index );
+    for ( PhysicalLine line; a_scanner.Next( line ); )
+        EXPECT_GT( line.m_number, begin.m_number );
+    a_delivery.Deliver( index, stack.Lines().Facts(), { begin.m_offset, begin.m_number, begin.m_lineOffset } );
+}
+
 struct DeliveryRow
 {
     const char* m_name;
@@ -153,6 +170,9 @@ INSTANTIATE_TEST_SUITE_P(
         DeliveryRow{ "DroppedLine", Card( "TEL:1/;/" ), "1 at 0 in line 1 " + Card( "TEL:1/;/" ) + "; ",
                      "not-a-property 3; ", "0 1 0" },
         DeliveryRow{ "OddLine", Card( "FN :a/" ), "1 at 0 in line 1 " + Card( "FN :a/" ) + "; ", "name-blanks 2; ",
+                     "1 0 0" },
+        DeliveryRow{ "MarkInTheCard", Card( "FN:a/" + s_kMark + "N:b/" ),
+                     "1 at 0 in line 1 " + Card( "FN:a/" + s_kMark + "N:b/" ) + "; ", "stray-byte-order-mark 3; ",
                      "1 0 0" },
         DeliveryRow{ "EndMissing", s_kBegin + "FN:a/" + Card( "FN:b/" ),
                      "1 at 0 in line 1 " + s_kBegin + "FN:a/; 2 at 17 in line 3 " + Card( "FN:b/" ) + "; ",
@@ -256,6 +276,49 @@ TEST( CardDeliveryUseTest, CardsKnowWhetherTheTextWasConverted )
     LedgerText ledger;
     EXPECT_TRUE( DeliveredText( ledger, Card( "" ), nullptr, true ).m_isLastConverted );
     EXPECT_FALSE( DeliveredText( ledger, Card( "" ), nullptr, false ).m_isLastConverted );
+}
+
+TEST( CardDeliveryUseTest, FileIsCutOffIfTheLastCardHasNoEnd )
+{
+    struct Row
+    {
+        const char* m_text;
+        bool m_isEndOfText;
+        const char* m_findings;
+    };
+    constexpr std::array<Row, 3> rows = { { { "BEGIN:VCARD/", true, "end-of-file 2; " },
+                                            { "BEGIN:VCARD/", false, "missing-end 2; " },
+                                            { "BEGIN:VCARD/a/", true, "missing-end 2; " } } };
+    for ( const Row& row : rows )
+    {
+        LineScanner scanner;
+        AppendAll( scanner, row.m_text );
+        LedgerText ledger;
+        CardDelivery delivery( scanner, ledger.Get(), PimContactOptions(), []( const PimContactCard& ) {} );
+        if ( row.m_isEndOfText )
+            delivery.EndText();
+        DeliverFirstLine( delivery, scanner );
+        EXPECT_EQ( ledger.Findings(), row.m_findings );
+    }
+}
+
+TEST( CardDeliveryUseTest, ResetForgetsTheText )
+{
+    LineScanner scanner;
+    AppendAll( scanner, s_kBegin );
+    LedgerText ledger;
+    PimContactOptions options;
+    options.SetBookBytes( static_cast<qint64>( s_kBegin.size() ) );
+    int count = 0;
+    CardDelivery delivery( scanner, ledger.Get(), options, [&count]( const PimContactCard& ) { ++count; } );
+    delivery.EndText();
+    DeliverFirstLine( delivery, scanner );
+    delivery.Reset( false );
+    scanner.Reset();
+    AppendAll( scanner, s_kBegin );
+    DeliverFirstLine( delivery, scanner );
+    EXPECT_EQ( count, 2 );
+    EXPECT_EQ( ledger.Findings(), "end-of-file 2; missing-end 2; " );
 }
 
 TEST( CardDeliveryUseTest, RefusedCardIsCountedAndReported )

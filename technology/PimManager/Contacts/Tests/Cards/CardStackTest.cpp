@@ -86,6 +86,29 @@ std::string Described( const CardIndex& a_index, const std::string& a_bytes, qui
     return text + "} ";
 }
 
+void BeginCard( CardStack& a_stack, const PhysicalLine& a_begin )
+{
+    a_stack.Begin( a_begin, 0 );
+    a_stack.AddBegin( a_begin );
+}
+
+// Each BEGIN begins a card inside.
+CardBoundary::Kind TakeLine( CardStack& a_stack, const LineScanner& a_scanner, const PhysicalLine& a_line )
+{
+    const CardBoundary boundary = CardBoundary::Of( a_scanner.TextOf( a_line ) );
+    a_stack.RefreshBytes();
+    if ( boundary.m_kind == CardBoundary::Kind::Begin )
+    {
+        EXPECT_TRUE( a_stack.IsBehindAgent() );
+        a_stack.BeginNested( a_line );
+    }
+    else if ( boundary.m_kind == CardBoundary::Kind::End )
+        a_stack.EndNested( a_line, boundary );
+    else
+        a_stack.Take( a_line );
+    return boundary.m_kind;
+}
+
 // Passes the lines of a card. A BEGIN line that is not behind an AGENT line ends all cards.
 class StackedText
 {
@@ -182,6 +205,9 @@ INSTANTIATE_TEST_SUITE_P(
             "BEGIN:VCARD /"
             "END:VCARD, all/",
             "{0 in part: mark \xEF\xBB\xBF; mended BEGIN:VCARD /; boundary END:VCARD; dropped , all; boundary /; } " },
+        StackRow{ "TextsOnOneBoundary", "a.BEGIN;X=1:VCARD/ END;X=1:VCARD/",
+                  "{0 in part: dropped a.; boundary BEGIN; dropped ;X=1; boundary :VCARD/; mended  END; dropped ;X=1; "
+                  "boundary :VCARD/; } " },
         StackRow{ "IndentedCard", " BEGIN:VCARD/ FN:a/  b/ END:VCARD/",
                   "{0 indented: mended  BEGIN:VCARD/; line  FN:a/  b/; mended  END:VCARD/; } ", nullptr, 1 } ),
     []( const ::testing::TestParamInfo<StackRow>& a_info ) { return std::string( a_info.param.m_name ); } );
@@ -242,6 +268,12 @@ INSTANTIATE_TEST_SUITE_P(
                   "AGENT:/BEGIN:VCARD/AGENT://BEGIN:VCARD/FN:d/END:VCARD/END:VCARD/; line N:b/; boundary END:VCARD/; } "
                   "boundary END:VCARD/; } ",
                   SetNesting1 },
+        StackRow{ "BeginBehindACardInsideOneTooDeep",
+                  s_kBegin + "AGENT:/" + s_kBegin + "AGENT:/" + s_kBegin + "AGENT:/" + s_kBegin + "AGENT:/" + s_kEnd +
+                      s_kBegin,
+                  "{0 without end in part: boundary BEGIN:VCARD/; line AGENT:/; {2 without end in part: boundary "
+                  "BEGIN:VCARD/; too deep AGENT:/BEGIN:VCARD/AGENT:/BEGIN:VCARD/AGENT:/END:VCARD/; } } ",
+                  SetNesting1 },
         StackRow{ "TooDeepWithoutEnd",
                   s_kBegin + "AGENT:/" + s_kBegin + "AGENT:/" + s_kBegin + "AGENT:/FN:c/" + s_kBegin + "FN:d/",
                   "{0 without end in part: boundary BEGIN:VCARD/; line AGENT:/; {2 without end in part: boundary "
@@ -263,29 +295,47 @@ TEST( CardStackUseTest, CardsInsideMakeTheCardDeeper )
     CardStack stack( scanner, options, true );
     PhysicalLine line;
     scanner.Next( line );
-    stack.Begin( line, 0 );
-    stack.AddBegin( line );
+    BeginCard( stack, line );
     std::string depths;
     while ( scanner.Next( line ) )
     {
-        const CardBoundary boundary = CardBoundary::Of( scanner.TextOf( line ) );
-        stack.RefreshBytes();
-        if ( boundary.m_kind == CardBoundary::Kind::Begin )
-        {
-            EXPECT_TRUE( stack.IsBehindAgent() );
-            stack.BeginNested( line );
-        }
-        else if ( boundary.m_kind == CardBoundary::Kind::End )
-            stack.EndNested( line, boundary );
-        else
-            stack.Take( line );
+        const CardBoundary::Kind kind = TakeLine( stack, scanner, line );
         depths += std::to_string( stack.Depth() ) + ( stack.IsTooDeep() ? "! " : " " );
         EXPECT_EQ( stack.IsOutermost(), stack.Depth() == 0 ) << depths;
-        EXPECT_EQ( stack.MayFold(), boundary.m_kind == CardBoundary::Kind::None ) << depths;
+        EXPECT_EQ( stack.MayFold(), kind == CardBoundary::Kind::None ) << depths;
     }
     EXPECT_EQ( depths, "0 1 1 2! 1 0 " );
-    stack.Begin( line, 0 );
-    EXPECT_TRUE( stack.IsOutermost() ) << "a new card";
+}
+
+TEST( CardStackUseTest, CloseAndBeginLeaveNoCardInside )
+{
+    LineScanner scanner;
+    AppendAll( scanner, s_kBegin + "AGENT:/" + s_kBegin + "AGENT:/" + s_kBegin );
+    PimContactOptions options;
+    SetNesting1( options );
+    CardStack stack( scanner, options, true );
+    PhysicalLine first;
+    scanner.Next( first );
+    for ( PhysicalLine line; scanner.Next( line ); )
+        ASSERT_GT( line.m_number, first.m_number );
+    for ( const bool isClosed : { true, false } )
+    {
+        BeginCard( stack, first );
+        EXPECT_TRUE( stack.IsOutermost() ) << isClosed;
+        for ( qint64 place = first.End(), number = 2; place < scanner.NextOffset(); ++number )
+        {
+            const PhysicalLine line = scanner.LineAt( place, scanner.NextOffset(), number );
+            TakeLine( stack, scanner, line );
+            place = line.End();
+        }
+        EXPECT_EQ( stack.Depth(), 2 ) << isClosed;
+        CardIndex index;
+        if ( isClosed )
+            stack.Close( scanner.NextOffset(), nullptr, true, index );
+        else
+            BeginCard( stack, first );
+        EXPECT_TRUE( stack.IsOutermost() ) << isClosed;
+    }
 }
 
 TEST( CardStackUseTest, WideLinesInsideMakeTheCardWide )
@@ -295,15 +345,9 @@ TEST( CardStackUseTest, WideLinesInsideMakeTheCardWide )
     CardStack stack( scanner, PimContactOptions(), true );
     PhysicalLine line;
     scanner.Next( line );
-    stack.Begin( line, 0 );
-    stack.AddBegin( line );
-    scanner.Next( line );
-    stack.Take( line );
-    EXPECT_TRUE( stack.IsBehindAgent() );
-    scanner.Next( line );
-    stack.BeginNested( line );
-    scanner.Next( line );
-    stack.Take( line );
+    BeginCard( stack, line );
+    while ( scanner.Next( line ) )
+        TakeLine( stack, scanner, line );
     CardIndex index;
     stack.Close( line.End(), nullptr, true, index );
     EXPECT_TRUE( stack.Lines().Facts().m_isWide );

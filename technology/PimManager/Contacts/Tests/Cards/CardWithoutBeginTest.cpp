@@ -50,6 +50,8 @@ INSTANTIATE_TEST_SUITE_P(
                        WithoutBeginRow{ "Group", "item1.EMAIL:a", true },
                        WithoutBeginRow{ "NoContact", "NOTE:a", true }, WithoutBeginRow{ "NoValue", "FN:", true },
                        WithoutBeginRow{ "NoColon", "FN;a", false }, WithoutBeginRow{ "OtherWord", "Hello:a", false },
+                       WithoutBeginRow{ "MixedCase", "Tel: 555", false },
+                       WithoutBeginRow{ "OddGroup", "a!b.TEL:1", false },
                        WithoutBeginRow{ "BlankInTheName", "F N:a", false },
                        WithoutBeginRow{ "Sentence", "Note that FN:a", false }, WithoutBeginRow{ "Empty", "", false } ),
     NameOfRow );

@@ -60,6 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
     Cards, SkippedCardTest,
     ::testing::Values(
         SkippedRow{ "WholeCard", s_kBegin + "FN:a/" + s_kEnd + "FN:b/", "behind line 3" },
+        SkippedRow{ "BeginOnlyOutsideCards", "BEGIN:VCARDx/FN:a/" + s_kEnd + "FN:b/", "behind line 3" },
         SkippedRow{ "EndMissing", s_kBegin + "FN:a/" + s_kBegin, "before line 3" },
         SkippedRow{ "EndOfText", s_kBegin + "FN:a/", "open" },
         SkippedRow{ "CardInside", s_kBegin + "AGENT:/" + s_kBegin + s_kEnd + s_kEnd + "FN:b/", "behind line 5" },

@@ -64,4 +64,14 @@ QByteArray BytesOf( std::string_view a_text )
     return QByteArray( a_text.data(), static_cast<int>( a_text.size() ) );
 }
 
+// Qt leaves out a byte order mark at the start.
+QString StringOf( std::string_view a_text )
+{
+    const size_t marks = LengthOfMarks( a_text );
+    const std::string_view rest = a_text.substr( marks );
+    const QString text = QString::fromUtf8( rest.data(), static_cast<int>( rest.size() ) );
+    const auto count = static_cast<int>( marks / s_kByteOrderMark.size() );
+    return count == 0 ? text : QString( count, QChar( QChar::ByteOrderMark ) ) + text;
+}
+
 } // namespace PimManager::Contacts

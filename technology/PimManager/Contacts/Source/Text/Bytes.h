@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 #include <string_view>
 
@@ -84,5 +85,8 @@ inline std::string_view ViewOf( const QByteArray& a_bytes )
 }
 
 QByteArray BytesOf( std::string_view a_text );
+
+/// \param a_text UTF-8. A byte order mark at the start is a character of the text.
+QString StringOf( std::string_view a_text );
 
 } // namespace PimManager::Contacts

@@ -18,16 +18,6 @@ namespace PimManager::Contacts
 namespace
 {
 
-// Qt leaves out a byte order mark at the start, although it is a character of the text here.
-QString StringOf( std::string_view a_text )
-{
-    const size_t marks = LengthOfMarks( a_text );
-    const std::string_view rest = a_text.substr( marks );
-    const QString text = QString::fromUtf8( rest.data(), static_cast<int>( rest.size() ) );
-    const auto count = static_cast<int>( marks / s_kByteOrderMark.size() );
-    return count == 0 ? text : QString( count, QChar( QChar::ByteOrderMark ) ) + text;
-}
-
 std::string_view ViewOf( QLatin1String a_text )
 {
     return std::string_view( a_text.data(), static_cast<size_t>( a_text.size() ) );

@@ -58,11 +58,6 @@ void Append( OwnedList<T>& a_list, std::unique_ptr<T> a_element )
     static_cast<void>( a_element.release() );
 }
 
-QString StringOf( std::string_view a_text )
-{
-    return QString::fromUtf8( a_text.data(), static_cast<int>( a_text.size() ) );
-}
-
 /// Makes the parameters of a line.
 class ParameterMaker
 {

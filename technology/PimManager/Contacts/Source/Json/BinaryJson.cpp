@@ -111,14 +111,14 @@ void WriteHead( size_t a_place, const QByteArray& a_mediaType, JsonText& a_json 
 {
     QByteArray head;
     JsonText json( head );
-    json.Raw( ",\"mediaType\":" );
+    json.Raw( R"(,"mediaType":)" );
     json.String( ViewOf( a_mediaType ) );
-    json.Raw( ",\"size\":" );
+    json.Raw( R"(,"size":)" );
     json.Number( static_cast<qint64>( SizeOf( a_json.From( a_place ) ) ) );
-    json.Raw( ",\"data\":\"" );
+    json.Raw( R"(,"data":")" );
     json.Finish();
     a_json.Insert( a_place, ViewOf( head ) );
-    a_json.Raw( "\"" );
+    a_json.Raw( R"(")" );
 }
 
 } // namespace

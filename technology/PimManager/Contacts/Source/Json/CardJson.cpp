@@ -12,11 +12,11 @@ void CardJson::Write( const PimContactCard& a_card, const QByteArray& a_file, Js
     a_json.Raw( "{" );
     if ( !a_file.isNull() )
     {
-        a_json.Raw( "\"file\":" );
+        a_json.Raw( R"("file":)" );
         a_json.String( ViewOf( a_file ) );
         a_json.Raw( "," );
     }
-    a_json.Raw( "\"card\":" );
+    a_json.Raw( R"("card":)" );
     a_json.Number( a_card.Number() );
     a_json.Raw( "," );
     WriteMembers( view, 0, a_json );
@@ -26,11 +26,11 @@ void CardJson::Write( const PimContactCard& a_card, const QByteArray& a_file, Js
 // The properties are written first, because each of them is decoded only once.
 void CardJson::WriteMembers( const CardView& a_card, size_t a_depth, JsonText& a_json )
 {
-    a_json.Raw( "\"line\":" );
+    a_json.Raw( R"("line":)" );
     a_json.Number( m_firstLine + a_card.m_record.m_line );
-    a_json.Raw( a_card.m_record.Has( CardRecord::IsWhole ) ? ",\"whole\":true" : ",\"whole\":false" );
+    a_json.Raw( a_card.m_record.Has( CardRecord::IsWhole ) ? R"(,"whole":true)" : R"(,"whole":false)" );
     const size_t headPlace = a_json.Place();
-    a_json.Raw( ",\"properties\":[" );
+    a_json.Raw( R"(,"properties":[)" );
     WriteProperties( a_card, a_depth, a_json );
     a_json.Raw( "]" );
     m_head.Clear();
@@ -57,7 +57,7 @@ void CardJson::WriteProperties( const CardView& a_card, size_t a_depth, JsonText
         m_property.Write( cursor.Line(), level.m_labels, holdsCard, level.m_head, a_json );
         if ( holdsCard )
         {
-            a_json.Raw( ",\"card\":{" );
+            a_json.Raw( R"(,"card":{)" );
             WriteMembers( nested, a_depth + 1, a_json );
             a_json.Raw( "}" );
         }

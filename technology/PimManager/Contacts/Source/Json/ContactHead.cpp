@@ -49,13 +49,13 @@ void ContactHead::TakeText( PropertyName a_property, std::string_view a_text, co
     if ( a_property == PropertyName::Tel )
     {
         const std::string_view number = NumberOf( a_text, m_buffer );
-        AddEntry( "\"number\":", number, a_head, a_label, m_numbers );
+        AddEntry( R"("number":)", number, a_head, a_label, m_numbers );
         TakeOnlyText( a_property, number );
     }
     else if ( a_property == PropertyName::Email )
     {
         const std::string_view mail = MailOf( a_text, m_buffer );
-        AddEntry( "\"mail\":", mail, a_head, a_label, m_mails );
+        AddEntry( R"("mail":)", mail, a_head, a_label, m_mails );
         TakeOnlyText( a_property, mail );
     }
     else if ( a_property == PropertyName::Version && !m_hasVersion )
@@ -98,13 +98,13 @@ void ContactHead::EndUnits()
 
 void ContactHead::WriteTo( JsonText& a_json ) const
 {
-    WriteText( ",\"version\":", ViewOf( m_version ), a_json );
-    WriteText( ",\"name\":", m_name.Text(), a_json );
-    a_json.Raw( ",\"numbers\":[" );
+    WriteText( R"(,"version":)", ViewOf( m_version ), a_json );
+    WriteText( R"(,"name":)", m_name.Text(), a_json );
+    a_json.Raw( R"(,"numbers":[)" );
     a_json.Raw( m_numbers.From( 0 ) );
-    a_json.Raw( "],\"mails\":[" );
+    a_json.Raw( R"(],"mails":[)" );
     a_json.Raw( m_mails.From( 0 ) );
-    WriteText( "],\"organisation\":", ViewOf( m_organisation ), a_json );
+    WriteText( R"(],"organisation":)", ViewOf( m_organisation ), a_json );
 }
 
 } // namespace PimManager::Contacts

@@ -55,7 +55,7 @@ ByteRange HeadReader::From( size_t a_place ) const
 ByteRange HeadReader::WriteName( std::string_view a_name )
 {
     const size_t place = m_json.Place();
-    m_json.Raw( "\"name\":" );
+    m_json.Raw( R"("name":)" );
     m_json.UpperString( a_name );
     return From( place );
 }
@@ -64,7 +64,7 @@ ByteRange HeadReader::WriteTypes( InternetType a_internet )
 {
     const size_t place = m_json.Place();
     const WordGroups& types = m_parameters.Types();
-    m_json.Raw( ",\"types\":[" );
+    m_json.Raw( R"(,"types":[)" );
     std::string_view before;
     for ( size_t i = 0; i < types.Size(); ++i )
     {
@@ -84,7 +84,7 @@ ByteRange HeadReader::WritePreference()
     const size_t place = m_json.Place();
     if ( m_parameters.Preference() > 0 )
     {
-        m_json.Raw( ",\"preference\":" );
+        m_json.Raw( R"(,"preference":)" );
         m_json.Number( m_parameters.Preference() );
     }
     return From( place );
@@ -94,21 +94,21 @@ ByteRange HeadReader::WriteParameters()
 {
     const size_t place = m_json.Place();
     const WordGroups& names = m_parameters.Names();
-    std::string_view before = ",\"parameters\":[{\"name\":";
+    std::string_view before = R"(,"parameters":[{"name":)";
     for ( size_t first = 0; first < names.Size(); ++first )
     {
         if ( !names.IsFirst( first ) )
             continue;
         m_json.Raw( before );
         m_json.UpperString( names.Word( first ) );
-        before = ",\"values\":[";
+        before = R"(,"values":[)";
         for ( size_t i = first; i != WordGroups::s_kNone; i = names.Next( i ) )
         {
             m_json.Raw( before );
             m_json.String( m_parameters.Value( i ) );
             before = ",";
         }
-        before = "]},{\"name\":";
+        before = R"(]},{"name":)";
     }
     if ( names.Size() > 0 )
         m_json.Raw( "]}]" );

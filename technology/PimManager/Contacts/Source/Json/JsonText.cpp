@@ -3,6 +3,7 @@
 #include "Text/Bytes.h"
 #include "Text/Utf8Encoding.h"
 #include "Values/Buffer.h"
+#include "Json/PlainCharacters.h"
 #include "Json/UnsafeCharacters.h"
 
 #include <algorithm>
@@ -26,73 +27,6 @@ constexpr size_t s_kLongestEscape = 12;
 // So many bytes of a text are written without looking for room.
 constexpr size_t s_kRun = 256;
 constexpr std::string_view s_kReplacement = "\xEF\xBF\xBD";
-
-constexpr quint64 s_kOnes = 0x0101010101010101U;
-constexpr quint64 s_kHighBits = s_kOnes << 7U;
-constexpr size_t s_kWord = sizeof( quint64 );
-
-/// \return true if one of eight bytes is anything else than plain ASCII: control characters, DEL, quotes, backslashes,
-///         and all bytes beyond ASCII.
-///
-/// Each line has the highest bit of a byte set if the byte is of its kind. Other bytes may have it set only behind a
-/// byte that is of that kind, or if they are beyond ASCII.
-inline bool HasSpecial( quint64 a_word )
-{
-    const quint64 wide = a_word | ( a_word + s_kOnes );
-    const quint64 controls = a_word - s_kOnes * ' ';
-    const quint64 quotes = ( a_word ^ ( s_kOnes * '"' ) ) - s_kOnes;
-    const quint64 backslashes = ( a_word ^ ( s_kOnes * '\\' ) ) - s_kOnes;
-    return ( ( wide | controls | quotes | backslashes ) & s_kHighBits ) != 0;
-}
-
-/// Copies a text of at least eight bytes. \return false if it has something special.
-inline bool CopyWords( std::string_view a_text, char* a_out )
-{
-    const char* place = a_text.data();
-    const char* const last = place + a_text.size() - s_kWord;
-    quint64 word = 0;
-    for ( char* out = a_out; place < last; place += s_kWord, out += s_kWord )
-    {
-        std::memcpy( &word, place, s_kWord );
-        if ( HasSpecial( word ) )
-            return false;
-        std::memcpy( out, &word, s_kWord );
-    }
-    // It may overlap the word before.
-    std::memcpy( &word, last, s_kWord );
-    std::memcpy( a_out + a_text.size() - s_kWord, &word, s_kWord );
-    return !HasSpecial( word );
-}
-
-/// The same for less than eight bytes, which are collected in one word, some of them twice.
-inline bool CopyShort( std::string_view a_text, char* a_out )
-{
-    constexpr quint64 s_kBlanks = s_kOnes * ' ';
-    const size_t size = a_text.size();
-    const char* const text = a_text.data();
-    if ( size >= sizeof( quint32 ) )
-    {
-        quint32 first = 0;
-        quint32 last = 0;
-        std::memcpy( &first, text, sizeof( first ) );
-        std::memcpy( &last, text + size - sizeof( last ), sizeof( last ) );
-        std::memcpy( a_out, &first, sizeof( first ) );
-        std::memcpy( a_out + size - sizeof( last ), &last, sizeof( last ) );
-        return !HasSpecial( quint64( first ) << 32U | last );
-    }
-    quint64 word = s_kBlanks;
-    for ( size_t i = 0; i < size; ++i )
-    {
-        word = word << 8U | static_cast<uchar>( text[i] );
-        a_out[i] = text[i];
-    }
-    return !HasSpecial( word );
-}
-
-inline bool IsPlain( char a_byte )
-{
-    return a_byte >= ' ' && a_byte < '\x7F' && a_byte != '"' && a_byte != '\\';
-}
 
 /// A byte of a name in upper case, and zero for all other bytes.
 constexpr std::array<char, 256> FindUpperNames()
@@ -126,7 +60,7 @@ Character CharacterAt( std::string_view a_text )
     for ( size_t i = 1; i < length; ++i )
     {
         const auto tail = static_cast<uchar>( a_text[i] );
-        if ( ( tail & 0xC0U ) != 0x80U )
+        if ( !IsTail( a_text[i] ) )
             return {};
         value = value << 6U | ( tail & 0x3FU );
     }
@@ -175,7 +109,7 @@ void JsonText::Begin()
 
 void JsonText::Clear()
 {
-    constexpr ptrdiff_t s_kLarge = 64 * 1024;
+    constexpr int s_kLarge = 64 * 1024;
     if ( m_limit - m_begin > s_kLarge )
     {
         m_out.resize( static_cast<int>( m_before ) );
@@ -283,7 +217,7 @@ void JsonText::Escape( std::string_view a_text )
         const char* const runEnd = place + std::min( s_kRun, rest.size() );
         while ( place < runEnd )
         {
-            place = CopyPlain( place, runEnd );
+            place = CopyPlain( place, runEnd, rest.data() + rest.size() );
             if ( place < runEnd )
                 place += EscapeCharacter( rest.substr( static_cast<size_t>( place - rest.data() ) ) );
         }
@@ -291,24 +225,27 @@ void JsonText::Escape( std::string_view a_text )
     }
 }
 
-/// Appends the plain ASCII at the start of a text, for which there is room.
-/// \return the place of the first other byte, or the end.
-inline const char* JsonText::CopyPlain( const char* a_begin, const char* a_end )
+/// Appends what needs no escape at the start of a run, for which there is room: plain ASCII and most letters.
+/// \param a_textEnd the end of the text. A letter may go beyond the end of the run.
+/// \return the place of the first other character, or the end of the run or of the letter there.
+inline const char* JsonText::CopyPlain( const char* a_begin, const char* a_runEnd, const char* a_textEnd )
 {
     const char* place = a_begin;
     char* end = m_end;
-    quint64 word = 0;
-    while ( static_cast<size_t>( a_end - place ) >= s_kWord )
+    while ( place < a_runEnd )
     {
-        std::memcpy( &word, place, s_kWord );
-        if ( HasSpecial( word ) )
+        quint64 word = s_kHighBits;
+        if ( static_cast<size_t>( a_runEnd - place ) >= s_kWord )
+            std::memcpy( &word, place, s_kWord );
+        const bool isWord = !HasSpecial( word );
+        if ( isWord )
+            std::memcpy( end, &word, s_kWord );
+        const size_t length = isWord ? s_kWord : CopyCharacter( place, a_textEnd, end );
+        if ( length == 0 )
             break;
-        std::memcpy( end, &word, s_kWord );
-        place += s_kWord;
-        end += s_kWord;
+        place += length;
+        end += length;
     }
-    while ( place < a_end && IsPlain( *place ) )
-        *end++ = *place++;
     m_end = end;
     return place;
 }

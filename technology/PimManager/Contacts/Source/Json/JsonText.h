@@ -77,7 +77,7 @@ private:
     bool CopyPlainString( std::string_view a_text );
     void EscapedString( std::string_view a_text );
     void Escape( std::string_view a_text );
-    const char* CopyPlain( const char* a_begin, const char* a_end );
+    const char* CopyPlain( const char* a_begin, const char* a_runEnd, const char* a_textEnd );
     size_t EscapeCharacter( std::string_view a_rest );
     void Escaped( char32_t a_character );
 

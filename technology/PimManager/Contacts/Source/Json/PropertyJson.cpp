@@ -60,7 +60,7 @@ void PropertyJson::Write( const IndexedLine& a_line, const GroupLabels& a_labels
     WriteValues( head, a_contact, a_json );
     if ( binary.m_faultPlace >= 0 )
     {
-        a_json.Raw( ",\"fault\":" );
+        a_json.Raw( R"(,"fault":)" );
         a_json.Number( binary.m_faultPlace );
     }
     WriteMeaning( head, a_contact, a_json );
@@ -70,13 +70,13 @@ void PropertyJson::WriteGroupAndHead( const IndexedLine& a_line, const HeadJson&
                                       JsonText& a_json )
 {
     a_json.Raw( a_head.Name() );
-    a_json.Raw( ",\"group\":" );
+    a_json.Raw( R"(,"group":)" );
     a_json.String( GroupText( a_line ) );
     a_json.Raw( a_head.Types() );
     const std::string_view label = a_labels.Of( a_line.Group( m_group ) );
     if ( !label.empty() )
     {
-        m_label.Raw( ",\"label\":" );
+        m_label.Raw( R"(,"label":)" );
         m_label.String( label );
         a_json.Raw( m_label.From( 0 ) );
     }
@@ -94,7 +94,7 @@ std::string_view PropertyJson::GroupText( const IndexedLine& a_line )
 
 void PropertyJson::WriteValues( const HeadJson& a_head, ContactHead& a_contact, JsonText& a_json )
 {
-    a_json.Raw( ",\"values\":[" );
+    a_json.Raw( R"(,"values":[)" );
     switch ( a_head.ValueDelimiters() )
     {
     case Delimiters::None:
@@ -171,15 +171,15 @@ void PropertyJson::WriteMeaning( const HeadJson& a_head, ContactHead& a_contact,
 
 void PropertyJson::WriteCall( const HeadJson& a_head, JsonText& a_json )
 {
-    a_json.Raw( ",\"call\":{\"direction\":\"" );
+    a_json.Raw( R"(,"call":{"direction":")" );
     a_json.Raw( a_head.Direction() );
-    a_json.Raw( "\"" );
+    a_json.Raw( R"(")" );
     const CallTime time( m_decoder.Text() );
     if ( !time.Text().empty() )
     {
-        a_json.Raw( ",\"time\":\"" );
+        a_json.Raw( R"(,"time":")" );
         a_json.Raw( time.Text() );
-        a_json.Raw( "\"" );
+        a_json.Raw( R"(")" );
     }
     a_json.Raw( "}" );
 }

@@ -55,7 +55,7 @@ size_t EndOfWords( std::string_view a_text )
     {
         const bool isSingleBlank =
             a_text[place] == ' ' && place + 1 < a_text.size() && IsVisibleAscii( a_text[place + 1] );
-        const bool isInside = IsVisibleAscii( a_text[place] ) || isSingleBlank;
+        const bool isInside = IsVisibleAscii( a_text[place] ) || isSingleBlank || !MayBeginSpace( a_text[place] );
         if ( !isInside && LengthOfWhiteSpace( a_text.substr( place ) ) > 0 )
             break;
         ++place;

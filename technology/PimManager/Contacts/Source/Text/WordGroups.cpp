@@ -116,13 +116,9 @@ void WordGroups::Sort()
         m_order[i] = i;
         m_words[i] = { m_words[i].m_text };
     }
-    std::sort( m_order.begin(), m_order.end(),
-               [this]( size_t a_left, size_t a_right )
-               {
-                   const std::string_view left = m_words[a_left].m_text;
-                   const std::string_view right = m_words[a_right].m_text;
-                   return IsBefore( left, right ) || ( a_left < a_right && !IsBefore( right, left ) );
-               } );
+    std::stable_sort( m_order.begin(), m_order.end(),
+                      [this]( size_t a_left, size_t a_right )
+                      { return IsBefore( m_words[a_left].m_text, m_words[a_right].m_text ); } );
     for ( size_t i = 1; i < m_order.size(); ++i )
     {
         if ( IsSameWord( m_words[m_order[i - 1]].m_text, m_words[m_order[i]].m_text ) )

@@ -89,7 +89,7 @@ constexpr std::array<quint8, 256> FindLetterLengths()
     std::array<quint8, 256> lengths = {};
     for ( size_t lead = 0xC3; lead <= 0xD7; ++lead )
         lengths[lead] = 2;
-    for ( const size_t lead : { 0xD9, 0xDA, 0xDD, 0xDE, 0xDF } )
+    for ( const size_t lead : { 0xD9U, 0xDAU, 0xDDU, 0xDEU, 0xDFU } )
         lengths[lead] = 2;
     for ( size_t lead = 0xE3; lead <= 0xEC; ++lead )
         lengths[lead] = 3;

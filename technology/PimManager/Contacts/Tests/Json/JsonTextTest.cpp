@@ -98,7 +98,7 @@ TEST( JsonTextTest, MalformedBytesAreReplaced )
 // At each place in short and long strings, so that each way of copying meets each byte.
 TEST( JsonTextTest, EveryByteIsEscapedWhereverItIs )
 {
-    for ( const size_t length : { 1, 3, 4, 7, 8, 9, 15, 16, 17, 40, 255, 256, 257, 600 } )
+    for ( const size_t length : { 1U, 3U, 4U, 7U, 8U, 9U, 15U, 16U, 17U, 40U, 255U, 256U, 257U, 600U } )
     {
         for ( size_t place = 0; place < length; place += length < 50 ? 1 : 37 )
         {
@@ -225,7 +225,7 @@ TEST( JsonTextTest, SharedArrayIsNotChanged )
 TEST( JsonTextTest, ClearedTextIsEmpty )
 {
     JsonText json;
-    for ( const size_t length : { 10, 1000000, 10 } )
+    for ( const size_t length : { 10U, 1000000U, 10U } )
     {
         json.Raw( std::string( length, 'x' ) );
         EXPECT_EQ( json.Place(), length );

@@ -16,7 +16,8 @@ namespace
 
 QByteArray Utf8( uint a_character )
 {
-    return QString::fromUcs4( &a_character, 1 ).toUtf8();
+    const char32_t character = a_character;
+    return QString::fromUcs4( &character, 1 ).toUtf8();
 }
 
 std::string_view ViewOf( const QByteArray& a_text )

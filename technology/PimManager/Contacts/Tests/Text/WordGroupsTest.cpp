@@ -64,7 +64,7 @@ TEST( WordGroupsTest, FewWordsAreGrouped )
 
 TEST( WordGroupsTest, ManyWordsAreGrouped )
 {
-    for ( const size_t count : { 8, 9, 100, 1000 } )
+    for ( const size_t count : { 8U, 9U, 100U, 1000U } )
     {
         ExpectGroups( Numbered( count, count ) );
         ExpectGroups( Numbered( count, count / 2 ) );

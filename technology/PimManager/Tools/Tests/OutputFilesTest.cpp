@@ -1,4 +1,4 @@
-// What `pimvcard import` does with the files that it is told to write.
+// The files that the options of `pimvcard import` name.
 
 #include "ImportTestBooks.h"
 #include "Outputs/FileDescriptor.h"

@@ -87,7 +87,7 @@ void CardDelivery::Report( const CardIndex& a_index, const CardFacts& a_facts, c
     constexpr quint8 s_kUsualFlags = CardRecord::HasBegin | CardRecord::HasEnd | CardRecord::IsWhole;
     const bool isUsual =
         a_index.Record().m_flags == s_kUsualFlags && !a_facts.HasOddParts() && !m_ledger.HasExtentHandler();
-    const bool isOdd = a_facts.m_hasOddLines || a_facts.m_mendedBoundaries > 0;
+    const bool isOdd = a_facts.HasOddLines() || a_facts.m_mendedBoundaries > 0;
     if ( !isUsual || ( isOdd && !m_ledger.IsOnlyCounting() ) )
     {
         const qint64 end = a_begin.m_offset + static_cast<qint64>( a_bytes.size() );

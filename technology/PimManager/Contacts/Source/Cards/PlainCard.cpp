@@ -25,16 +25,6 @@ bool IsSurelyProperty( const LineHead& a_head )
     return a_head.m_hasColon && !a_head.m_hasWordsForParameters && !( a_head.m_oddities & PimContactOddity::OddName );
 }
 
-// Something precedes the name or the colon, such as the dot in `.TEL:1`.
-bool HasGaps( const LineHead& a_head )
-{
-    const quint32 nameBegin = a_head.m_group.m_length == 0 ? 0 : a_head.m_group.m_length + 1;
-    const bool hasParameters = a_head.m_parameters.m_length > 0;
-    const quint32 colon = hasParameters ? a_head.m_parameters.End() : a_head.m_name.End();
-    return a_head.m_group.m_begin != 0 || a_head.m_name.m_begin != nameBegin ||
-           ( hasParameters && a_head.m_parameters.m_begin != a_head.m_name.End() ) || a_head.m_valueBegin != colon + 1;
-}
-
 // A fold may close a quote.
 bool MayContinueInFold( const LineHead& a_head, std::string_view a_line )
 {
@@ -139,7 +129,7 @@ PlainCard::Step PlainCard::TakeProperty( const Line& a_line )
     WriteBlankUpTo( a_line.m_begin );
     m_linesClosed = m_physicalLines - 1;
     m_head = &head;
-    m_isHeadPlain = isPlain || ( !head.m_oddities && !HasGaps( head ) );
+    m_isHeadPlain = isPlain;
     m_isOpen = true;
     m_isBehindEmptyLine = false;
     m_begin = a_line.m_begin;

@@ -12,6 +12,7 @@
 #include <QtAlgorithms>
 #include <QtGlobal>
 
+#include <algorithm>
 #include <array>
 
 namespace PimManager::Contacts
@@ -40,11 +41,15 @@ struct CardFacts
 
     void CountOddities( PimContactOddities a_oddities )
     {
-        m_hasOddLines = m_hasOddLines || static_cast<int>( a_oddities ) != 0;
         ForEachOddity( a_oddities, [this]( int a_bit ) { ++m_oddLines[static_cast<size_t>( a_bit )]; } );
     }
 
     quint32 Parts( EntryKind a_kind ) const { return m_parts[static_cast<size_t>( a_kind )]; }
+
+    bool HasOddLines() const
+    {
+        return std::any_of( m_oddLines.begin(), m_oddLines.end(), []( quint32 a_lines ) { return a_lines != 0; } );
+    }
 
     /// There are parts of other kinds than lines, boundaries and blank lines.
     bool HasOddParts() const
@@ -59,7 +64,6 @@ struct CardFacts
     std::array<quint32, s_kEntryKinds> m_bytes = {};
     /// The lines with each oddity, by its bit.
     std::array<quint32, s_kOddities> m_oddLines = {};
-    bool m_hasOddLines = false;
     quint32 m_mendedBoundaries = 0;
 
     PimContactVersion m_version = PimContactVersion::Unknown;

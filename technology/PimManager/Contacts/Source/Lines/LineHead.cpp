@@ -79,10 +79,10 @@ size_t SkipClasses( std::string_view a_text, size_t a_place, int a_classes )
 }
 
 /// Finds the bytes of a text that are no name bytes, one after the other.
-class Delimiters
+class DelimiterSearch
 {
 public:
-    explicit Delimiters( std::string_view a_text ) :
+    explicit DelimiterSearch( std::string_view a_text ) :
         m_text( a_text )
     {
     }
@@ -555,7 +555,8 @@ Q_NEVER_INLINE void NoteParameter( std::string_view a_text, const Parameter& a_p
 
 // Passes over parameters such as `;HOME` and `;TYPE=HOME,WORK`.
 // \return the place behind them.
-inline size_t PassPlainParameters( std::string_view a_text, size_t a_begin, Delimiters& a_delimiters, LineHead& a_head )
+inline size_t PassPlainParameters( std::string_view a_text, size_t a_begin, DelimiterSearch& a_delimiters,
+                                   LineHead& a_head )
 {
     size_t begin = a_begin;
     while ( begin < a_text.size() && a_text[begin] == ';' )
@@ -646,7 +647,7 @@ PimContactEncoding EncodingOf( std::string_view a_word )
 
 bool LineHead::Read( std::string_view a_line )
 {
-    Delimiters delimiters( a_line );
+    DelimiterSearch delimiters( a_line );
     const size_t wordEnd = delimiters.Next();
     const bool hasGroup = wordEnd > 0 && wordEnd < a_line.size() && a_line[wordEnd] == '.';
     const size_t nameBegin = hasGroup ? wordEnd + 1 : 0;

@@ -75,7 +75,6 @@ void ExpectSameFacts( const CardFacts& a_found, const CardFacts& a_expected )
     EXPECT_EQ( a_found.m_parts, a_expected.m_parts );
     EXPECT_EQ( a_found.m_bytes, a_expected.m_bytes );
     EXPECT_EQ( a_found.m_oddLines, a_expected.m_oddLines );
-    EXPECT_EQ( a_found.m_hasOddLines, a_expected.m_hasOddLines );
     EXPECT_EQ( a_found.m_mendedBoundaries, a_expected.m_mendedBoundaries );
     EXPECT_EQ( a_found.m_version, a_expected.m_version );
     EXPECT_EQ( a_found.m_isWide, a_expected.m_isWide );

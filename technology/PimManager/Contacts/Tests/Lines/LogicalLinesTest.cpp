@@ -290,7 +290,7 @@ TEST( LogicalLinesFactsTest, PartsAreCounted )
     EXPECT_EQ( facts.m_parts[static_cast<size_t>( EntryKind::Dropped )], 2U );
     EXPECT_EQ( facts.m_bytes[static_cast<size_t>( EntryKind::Dropped )], 7U );
     EXPECT_TRUE( facts.m_isDropped && facts.HasOddParts() );
-    EXPECT_FALSE( facts.m_isFiltered || facts.m_hasOddLines );
+    EXPECT_FALSE( facts.m_isFiltered || facts.HasOddLines() );
     EXPECT_FALSE( FactsOf( "FN:a\n b\n" ).HasOddParts() );
 }
 
@@ -299,7 +299,7 @@ TEST( LogicalLinesFactsTest, LinesWithOdditiesAreCounted )
     const CardFacts facts = FactsOf( "FN :a\nTEL;:1\n2\x01\nNOTE\nX-A;; :b\n" );
     const auto count = [&facts]( PimContactOddity a_oddity )
     { return facts.m_oddLines[qCountTrailingZeroBits( static_cast<uint>( a_oddity ) )]; };
-    EXPECT_TRUE( facts.m_hasOddLines );
+    EXPECT_TRUE( facts.HasOddLines() );
     EXPECT_EQ( count( PimContactOddity::NameBlanks ), 1U );
     EXPECT_EQ( count( PimContactOddity::EmptyParameter ), 2U );
     EXPECT_EQ( count( PimContactOddity::ControlCharacters ), 0U ) << "of a line that was dropped";

@@ -35,7 +35,7 @@ public:
     /// True if the value holds text, such as the address of a picture, and not bytes.
     bool IsNull() const;
 
-    /// \return the bytes. If the value is damaged, those before the fault.
+    /// \return the bytes; empty for a null value. If the value is damaged, those before the fault.
     QByteArray Bytes() const;
 
     /// \return the media type of a `data:` URI as written, such as `image/jpeg`; empty if the value names none.

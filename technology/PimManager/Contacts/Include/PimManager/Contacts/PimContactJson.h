@@ -53,7 +53,7 @@ public:
     void SetFile( const QString& a_name );
 
     /// Appends the object of a card to a buffer. A null card has no properties. Linear in the length of the card, but
-    /// for cards with many labels or parameters, which are sorted.
+    /// for labels or parameters that were chosen to have the same hash, which are sorted.
     ///
     /// Throws std::bad_alloc if memory runs out, or if the buffer becomes longer than a QByteArray may be. The buffer
     /// then contains what it contained before.

@@ -165,6 +165,8 @@ INSTANTIATE_TEST_SUITE_P(
                   "VERSION:2.1\nNOTE:" + std::string( 70, 'a' ) + "\n c\nmore\nNOTE:" + std::string( 70, 'a' ) +
                       "\n c\n",
                   false },
+        // Two folds of this length would be folds by length, and one is not.
+        PlainRow{ "OneFoldBeforeText", "VERSION:2.1\nNOTE:" + std::string( 67, 'a' ) + "\n c\nmore\n", false },
         PlainRow{ "OddNameBehindFolds", "VERSION:2.1\nNOTE:a\n c\nTEL x y:1\n", false },
         PlainRow{ "OpenQuoteBeforeAFold", "TEL;X=\"a:1\n b\":2\n", false },
         PlainRow{ "WordsForParameters", "NOTE:a\nThird; and so on: text\n", false },

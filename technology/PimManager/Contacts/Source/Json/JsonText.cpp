@@ -149,7 +149,7 @@ void JsonText::Insert( size_t a_place, std::string_view a_json )
     char* const end = Room( a_json.size() );
     char* const place = m_begin + m_before + a_place;
     std::memmove( place + a_json.size(), place, static_cast<size_t>( end - place ) );
-    std::memcpy( place, a_json.data(), a_json.size() );
+    std::copy( a_json.begin(), a_json.end(), place );
     m_end = end + a_json.size();
 }
 

@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <QtGlobal>
 
-#include <cstring>
+#include <algorithm>
 #include <string_view>
 
 namespace PimManager::Contacts
@@ -34,9 +34,7 @@ public:
     /// Appends brackets, names and the like.
     void Raw( std::string_view a_json )
     {
-        char* const end = Room( a_json.size() );
-        std::memcpy( end, a_json.data(), a_json.size() );
-        m_end = end + a_json.size();
+        m_end = std::copy( a_json.begin(), a_json.end(), Room( a_json.size() ) );
     }
 
     /// Appends a string with its quotes.

@@ -201,6 +201,16 @@ TEST( JsonTextTest, TextIsAppendedInsertedAndRemoved )
     EXPECT_EQ( out, "beforezeroonetwothree" );
 }
 
+TEST( JsonTextTest, AppendedAndInsertedTextMayBeEmpty )
+{
+    QByteArray out = "before";
+    JsonText json( out );
+    json.Raw( std::string_view() );
+    json.Insert( 0, std::string_view() );
+    json.Finish();
+    EXPECT_EQ( out, "before" );
+}
+
 TEST( JsonTextTest, UnfinishedTextIsRemoved )
 {
     QByteArray out = "before";

@@ -24,6 +24,11 @@ void ContactName::Take( PropertyName a_source, std::initializer_list<std::string
     m_source = a_source;
 }
 
+void ContactName::TakeParts( const NamedParts& a_parts )
+{
+    Take( PropertyName::N, { a_parts[3], a_parts[1], a_parts[2], a_parts[0], a_parts[4] } );
+}
+
 std::string_view ContactName::Text() const
 {
     return ViewOf( m_text );

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Contact/NamedParts.h"
 #include "Contact/PropertyName.h"
 
 #include <QByteArray>
@@ -26,6 +27,9 @@ public:
     /// Takes a name that Wants() has accepted.
     /// \param a_parts are joined by blanks; all white space becomes single blanks.
     void Take( PropertyName a_source, std::initializer_list<std::string_view> a_parts );
+
+    /// Takes an N in the order of speech: prefixes, given name, additional names, family name and suffixes.
+    void TakeParts( const NamedParts& a_parts );
 
     /// Empty if there is none.
     std::string_view Text() const;

@@ -73,11 +73,10 @@ void ContactHead::TakeOnlyText( PropertyName a_property, std::string_view a_text
         m_name.Take( a_property, { a_text } );
 }
 
-// Prefixes, given name, additional names, family name and suffixes.
 void ContactHead::TakeName( const NamedParts& a_parts )
 {
     if ( m_name.Wants( PropertyName::N ) )
-        m_name.Take( PropertyName::N, { a_parts[3], a_parts[1], a_parts[2], a_parts[0], a_parts[4] } );
+        m_name.TakeParts( a_parts );
 }
 
 void ContactHead::TakeUnit( std::string_view a_unit )

@@ -4,19 +4,16 @@
 #pragma once
 
 #include "Contact/ContactName.h"
+#include "Contact/NamedParts.h"
 #include "Json/HeadJson.h"
 #include "Json/JsonText.h"
 
 #include <QByteArray>
 
-#include <array>
 #include <string_view>
 
 namespace PimManager::Contacts
 {
-
-/// The parts of an N or ADR in the order of the value. Those that are not there are empty.
-using NamedParts = std::array<std::string_view, 7>;
 
 /// Collects the members `version`, `name`, `numbers`, `mails` and `organisation` while the properties are written.
 class ContactHead

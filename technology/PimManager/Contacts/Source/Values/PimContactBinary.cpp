@@ -1,5 +1,8 @@
 #include <PimManager/Contacts/PimContactBinary.h>
 
+#include "Text/Bytes.h"
+#include "Text/FileSignature.h"
+#include "Text/MediaType.h"
 #include "Values/BinaryValue.h"
 
 namespace PimManager::Contacts
@@ -27,6 +30,11 @@ QByteArray PimContactBinary::Bytes() const
 QByteArray PimContactBinary::MediaType() const
 {
     return d->m_mediaType;
+}
+
+QByteArray PimContactBinary::DetectedType() const
+{
+    return BytesOf( MediaTypeBySignature( ViewOf( d->m_bytes ).substr( 0, s_kSignatureBytes ) ) );
 }
 
 bool PimContactBinary::IsDamaged() const

@@ -1,0 +1,62 @@
+/// \file
+/// Properties as people read them.
+
+#pragma once
+
+#include "Cards/LineView.h"
+#include "Contact/LineParameters.h"
+#include "Contact/NamedParts.h"
+#include "Contact/PropertyName.h"
+#include "Text/KeptTexts.h"
+#include "Values/ValueDecoder.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// Reads one line after the other, as PimContactEntry shows it. Keeps its memory.
+class EntryReader
+{
+public:
+    /// Reads the name of a line. Its value is decoded when it is wanted.
+    /// \param a_line must exist as long as something of it is wanted.
+    void Read( const IndexedLine& a_line );
+
+    PropertyName Property() const { return m_property; }
+
+    /// \return the text of PimContactEntry, in UTF-8. Valid until the next call.
+    std::string_view Text();
+
+    /// \return the parts of an N or ADR. Valid until the next call.
+    const NamedParts& Parts();
+
+    /// Reads the parameters of the line that was read last.
+    const LineParameters& Parameters();
+
+private:
+    ValueDecoder& Value();
+    std::string_view AddressText();
+    std::string_view TimeText();
+    std::string_view JoinedParts();
+    void AppendPart( std::string_view a_part, std::string_view a_between );
+
+    const IndexedLine* m_line = nullptr;
+    PropertyName m_property = PropertyName::Other;
+    Delimiters m_delimiters = Delimiters::None;
+    ValueDecoder m_decoder;
+    bool m_isDecoded = false;
+    LineParameters m_parameters;
+    KeptTexts m_texts;
+    NamedParts m_parts;
+    QByteArray m_name;
+    QByteArray m_text;
+};
+
+/// \return the types of PimContactEntry.
+QStringList EntryTypes( PropertyName a_property, const LineParameters& a_parameters );
+
+} // namespace PimManager::Contacts

@@ -37,21 +37,19 @@ void NoteMissingCards( const BookAccount& a_account, QStringList& a_notes )
         a_notes << QStringLiteral( "%1 of %2 cards refused" ).arg( refused ).arg( a_account.m_beginLines );
     else
         a_notes << QStringLiteral( "%1 refused, cards or text that belongs to no card" ).arg( refused );
-    if ( a_account.HoldsVCards() && a_account.m_failedCards > 0 )
-        a_notes.last() += QStringLiteral( "; --log shows why" );
 }
 
 void NoteSwallowers( const BookAccount& a_account, QStringList& a_notes )
 {
     const QStringList named = ShortenedList( a_account.m_swallowers );
     for ( const QString& card : named )
-        a_notes << card + QStringLiteral( " swallowed another card: a BEGIN:VCARD line stands inside it, so an "
+        a_notes << card + QStringLiteral( " swallowed another card: a BEGIN:VCARD line is inside it, so an "
                                           "END:VCARD line seems to be missing" );
 }
 
 QString LineEndNote( qint64 a_count, qint64 a_all, const QString& a_kind )
 {
-    return QStringLiteral( "%1 of %2 lines end in a bare %3; the reader needs CR LF and loses cards without it" )
+    return QStringLiteral( "%1 of %2 lines end in a bare %3; the strict reader needs CR LF and loses cards without it" )
         .arg( a_count )
         .arg( a_all )
         .arg( a_kind );
@@ -65,7 +63,7 @@ void NoteLineEnds( const BookAccount& a_account, QStringList& a_notes )
     if ( lineEnds.m_bareCrs > 0 )
         a_notes << LineEndNote( lineEnds.m_bareCrs, lineEnds.All(), QStringLiteral( "CR" ) );
     if ( lineEnds.m_isLastLineOpen && a_account.m_nulPosition < 0 )
-        a_notes << QStringLiteral( "the last line has no line end; the reader needs CR LF there, too" );
+        a_notes << QStringLiteral( "the last line has no line ending; the strict reader needs CR LF there, too" );
 }
 
 } // namespace

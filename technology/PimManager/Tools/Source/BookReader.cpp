@@ -2,7 +2,6 @@
 
 #include "InputDevice.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace PimManager::vCard::Tools
@@ -13,44 +12,28 @@ namespace
 
 constexpr qint64 s_kBlock = 1 << 18;
 
-Book Refusal( const QString& a_reason )
-{
-    return { QByteArray(), a_reason };
-}
-
 Book TooLarge( qint64 a_limit )
 {
-    return Refusal( QStringLiteral( "is too large: more than %1 bytes cannot be read at once" ).arg( a_limit ) );
-}
-
-Book ReadAll( InputDevice& a_input, qint64 a_limit )
-{
-    std::vector<char> block( static_cast<size_t>( s_kBlock ) );
-    QByteArray bytes;
-    bytes.reserve( static_cast<int>( std::min( a_input.FileSize(), a_limit ) ) );
-    for ( ;; )
-    {
-        const qint64 count = a_input.read( block.data(), s_kBlock );
-        if ( a_input.Error() != 0 )
-            return Refusal( a_input.Reason() );
-        if ( count <= 0 )
-            return { bytes, QString() };
-        if ( bytes.size() + count > a_limit )
-            return TooLarge( a_limit );
-        bytes.append( block.data(), static_cast<int>( count ) );
-    }
+    return { {}, QStringLiteral( "is too large: more than %1 bytes cannot be read at once" ).arg( a_limit ) };
 }
 
 } // namespace
 
-Book ReadBook( const QByteArray& a_fileName, qint64 a_limit )
+Book ReadBook( InputDevice& a_input, qint64 a_limit )
 {
-    InputDevice input( a_fileName );
-    if ( input.Error() != 0 )
-        return Refusal( input.Reason() );
-    if ( input.FileSize() > a_limit )
+    if ( a_input.FileSize() > a_limit )
         return TooLarge( a_limit );
-    return ReadAll( input, a_limit );
+    std::vector<char> block( static_cast<size_t>( s_kBlock ) );
+    Book book;
+    book.m_bytes.reserve( static_cast<int>( a_input.FileSize() ) );
+    qint64 count = 0;
+    while ( ( count = a_input.read( block.data(), s_kBlock ) ) > 0 )
+    {
+        if ( book.m_bytes.size() + count > a_limit )
+            return TooLarge( a_limit );
+        book.m_bytes.append( block.data(), static_cast<int>( count ) );
+    }
+    return book;
 }
 
 } // namespace PimManager::vCard::Tools

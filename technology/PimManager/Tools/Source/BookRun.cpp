@@ -16,7 +16,8 @@ namespace
 
 OutputDevice* ProgressTerminal( Console& a_console )
 {
-    const bool isWatched = ::isatty( STDOUT_FILENO ) != 0 && ::isatty( STDERR_FILENO ) != 0;
+    const bool isWatched =
+        a_console.AreRemarksWanted() && ::isatty( STDOUT_FILENO ) != 0 && ::isatty( STDERR_FILENO ) != 0;
     return isWatched ? &a_console.Err() : nullptr;
 }
 

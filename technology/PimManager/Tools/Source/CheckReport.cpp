@@ -15,16 +15,15 @@ CheckReport::CheckReport( QIODevice& a_device ) :
 {
 }
 
-void CheckReport::BeginBook( const QString& a_source, PimContactReader& a_reader )
+void CheckReport::TakeDiagnostic( const BookInRun& a_book, const PimContactDiagnostic& a_diagnostic )
 {
-    m_source = a_source;
-    a_reader.SetDiagnosticHandler( [this]( const PimContactDiagnostic& a_diagnostic )
-                                   { m_device.write( DiagnosticText( m_source, a_diagnostic ).toUtf8() + '\n' ); } );
+    m_device.write( DiagnosticText( a_book.m_source, a_diagnostic ).toUtf8() + '\n' );
 }
 
-void CheckReport::EndBook( const PimContactReport& a_report, bool a_isReadToEnd )
+void CheckReport::EndBook( const BookInRun& a_book )
 {
-    m_device.write( m_source.toUtf8() + ": " + SummaryText( a_report, a_isReadToEnd ).toUtf8() + '\n' );
+    m_device.write( a_book.m_source.toUtf8() + ": " + SummaryText( a_book.m_report, a_book.m_isReadToEnd ).toUtf8() +
+                    '\n' );
 }
 
 } // namespace PimManager::vCard::Tools

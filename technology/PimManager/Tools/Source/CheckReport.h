@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "CheckOutput.h"
+#include "BookOutput.h"
 
 class QIODevice;
 
@@ -15,18 +15,17 @@ namespace PimManager::vCard::Tools
 ///
 ///     book.vcf:12:7: repaired: the last line has no line ending [last-line-end]
 ///     book.vcf: 3 cards: 3 whole; CR LF line endings; UTF-8 (valid); version 3.0; 1 × last-line-end
-class CheckReport : public CheckOutput
+class CheckReport : public BookOutput
 {
 public:
     /// \param a_device must be open and outlive the report.
     explicit CheckReport( QIODevice& a_device );
 
-    void BeginBook( const QString& a_source, Contacts::PimContactReader& a_reader ) override;
-    void EndBook( const Contacts::PimContactReport& a_report, bool a_isReadToEnd ) override;
+    void TakeDiagnostic( const BookInRun& a_book, const Contacts::PimContactDiagnostic& a_diagnostic ) override;
+    void EndBook( const BookInRun& a_book ) override;
 
 private:
     QIODevice& m_device;
-    QString m_source;
 };
 
 } // namespace PimManager::vCard::Tools

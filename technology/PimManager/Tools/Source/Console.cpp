@@ -18,6 +18,12 @@ void Console::Tell( const QString& a_text )
     m_err.Flush();
 }
 
+void Console::Remark( const QString& a_text )
+{
+    if ( m_areRemarksWanted )
+        Tell( a_text );
+}
+
 ExitStatus Console::Show( const QString& a_text )
 {
     m_out.write( a_text.toUtf8() );

@@ -25,11 +25,18 @@ public:
     /// Writes one message after all results so far, as `pimvcard: ` and the text. Safe for a terminal if the text is.
     void Tell( const QString& a_text );
 
+    /// The same for something that is no error. Nothing is written if remarks are not wanted.
+    void Remark( const QString& a_text );
+
+    /// True by default.
+    bool AreRemarksWanted() const { return m_areRemarksWanted; }
+    void SetRemarksWanted( bool a_areWanted ) { m_areRemarksWanted = a_areWanted; }
+
     /// Writes one result and is done.
     ExitStatus Show( const QString& a_text );
 
     /// Tells that the program was called wrongly, and where to read more.
-    /// \param a_command names the help to read, such as `pimvcard print`.
+    /// \param a_command names the help to read, such as `pimvcard list`.
     ExitStatus Refuse( const QString& a_text, const QString& a_command );
 
     /// \return false once results cannot be written any more.
@@ -42,6 +49,7 @@ public:
 private:
     OutputDevice& m_out;
     OutputDevice& m_err;
+    bool m_areRemarksWanted = true;
 };
 
 } // namespace PimManager::vCard::Tools

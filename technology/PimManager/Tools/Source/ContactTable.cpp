@@ -3,6 +3,7 @@
 #include "ShortText.h"
 #include "TerminalText.h"
 #include "TextColumns.h"
+#include "Wording.h"
 
 #include <QIODevice>
 
@@ -11,6 +12,8 @@
 
 namespace PimManager::vCard::Tools
 {
+
+using namespace Contacts;
 
 namespace
 {
@@ -26,13 +29,13 @@ QString CellText( const QString& a_text )
     return ToTerminalText( Shortened( a_text.simplified() ) );
 }
 
-QStringList EntryTexts( const QList<ContactEntry>& a_entries )
+QStringList EntryTexts( const QList<PimContactEntry>& a_entries )
 {
     QStringList texts;
-    for ( const ContactEntry& entry : a_entries )
+    for ( const PimContactEntry& entry : a_entries )
     {
-        const QString purpose = CellText( PurposeOf( entry ) );
-        texts << ( CellText( entry.m_text ) + QLatin1Char( ' ' ) + purpose ).trimmed();
+        const QString purpose = CellText( entry.Purpose() );
+        texts << ( CellText( entry.Text() ) + QLatin1Char( ' ' ) + purpose ).trimmed();
     }
     return ShortenedList( texts );
 }
@@ -53,14 +56,9 @@ ContactTable::ContactTable( QIODevice& a_device, int a_columns ) :
 {
 }
 
-void ContactTable::TakeCard( const ImportedBook& /*a_book*/, const vCardImport::PimVCardImportedCard& a_card )
+void ContactTable::TakeCard( const BookInRun& /*a_book*/, const PimContactCard& a_card )
 {
-    Take( ReadContact( *a_card.m_card ) );
-}
-
-void ContactTable::Take( const Contact& a_contact )
-{
-    const Row row = RowOf( a_contact );
+    const Row row = RowOf( PimContact( a_card ) );
     if ( !m_isWaiting )
     {
         WriteRow( row );
@@ -77,10 +75,10 @@ void ContactTable::End()
         WriteWaiting();
 }
 
-ContactTable::Row ContactTable::RowOf( const Contact& a_contact )
+ContactTable::Row ContactTable::RowOf( const PimContact& a_contact )
 {
-    return { QStringList( CellText( a_contact.m_name ) ), EntryTexts( a_contact.m_numbers ),
-             EntryTexts( a_contact.m_mails ), QStringList( CellText( a_contact.m_organisation ) ) };
+    return { QStringList( CellText( ShownName( a_contact ) ) ), EntryTexts( a_contact.Phones() ),
+             EntryTexts( a_contact.Mails() ), QStringList( CellText( a_contact.Organisation() ) ) };
 }
 
 void ContactTable::WriteWaiting()

@@ -3,8 +3,11 @@
 
 #pragma once
 
-#include "Contact.h"
-#include "ImportOutput.h"
+#include "BookOutput.h"
+
+#include <PimManager/Contacts/PimContact.h>
+
+#include <QStringList>
 
 #include <array>
 #include <vector>
@@ -22,25 +25,22 @@ namespace PimManager::vCard::Tools
 ///
 /// The first contacts are held back until the widths of the columns are known from them; the rest is written as it
 /// comes. Long texts and lists are cut as in ShortText.h, and nothing drives a terminal.
-class ContactTable : public ImportOutput
+class ContactTable : public BookOutput
 {
 public:
     /// \param a_device  must be open and outlive the table.
     /// \param a_columns the width to keep, into which long cells are wrapped; 0 to wrap nothing.
     ContactTable( QIODevice& a_device, int a_columns );
 
-    void TakeCard( const ImportedBook& a_book, const vCardImport::PimVCardImportedCard& a_card ) override;
+    void TakeCard( const BookInRun& a_book, const Contacts::PimContactCard& a_card ) override;
     void End() override;
-
-    /// As TakeCard(), for a contact that has been read.
-    void Take( const Contact& a_contact );
 
 private:
     static constexpr size_t s_kColumns = 4;
     // The lines of each cell.
     using Row = std::array<QStringList, s_kColumns>;
 
-    static Row RowOf( const Contact& a_contact );
+    static Row RowOf( const Contacts::PimContact& a_contact );
     void WriteWaiting();
     void FindWidths();
     void NarrowWidths();

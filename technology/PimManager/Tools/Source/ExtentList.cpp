@@ -33,20 +33,19 @@ ExtentList::ExtentList( QIODevice& a_device, bool a_areNamed ) :
     m_line.reserve( s_kLineCapacity );
 }
 
-void ExtentList::BeginBook( const QString& a_source, PimContactReader& a_reader )
+void ExtentList::BeginBook( const BookInRun& a_book, const PimContactReader& a_reader )
 {
+    m_reader = &a_reader;
     if ( m_areNamed )
-        m_device.write( "file " + a_source.toUtf8() + '\n' );
-    a_reader.SetExtentHandler(
-        [this, &a_reader]( const PimContactExtent& a_extent )
-        {
-            if ( a_extent.Offset() == 0 && a_reader.Report().IsConverted() )
-                m_device.write( "converted " + a_reader.Report().Charset() + '\n' );
-            Write( a_extent );
-        } );
+        m_device.write( "file " + a_book.m_source.toUtf8() + '\n' );
 }
 
-void ExtentList::EndBook( const PimContactReport& /*a_report*/, bool /*a_isReadToEnd*/ ) {}
+void ExtentList::TakeExtent( const BookInRun& /*a_book*/, const PimContactExtent& a_extent )
+{
+    if ( a_extent.Offset() == 0 && m_reader->Report().IsConverted() )
+        m_device.write( "converted " + m_reader->Report().Charset() + '\n' );
+    Write( a_extent );
+}
 
 void ExtentList::Write( const PimContactExtent& a_extent )
 {

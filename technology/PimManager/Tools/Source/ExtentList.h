@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "CheckOutput.h"
+#include "BookOutput.h"
 
 #include <PimManager/Contacts/PimContactExtent.h>
 
@@ -21,21 +21,23 @@ namespace PimManager::vCard::Tools
 ///     file book.vcf
 ///     0 13 boundary 1
 ///     13 13 line 1
-class ExtentList : public CheckOutput
+class ExtentList : public BookOutput
 {
 public:
     /// \param a_device   must be open and outlive the list.
     /// \param a_areNamed true if there are several files.
     ExtentList( QIODevice& a_device, bool a_areNamed );
 
-    void BeginBook( const QString& a_source, Contacts::PimContactReader& a_reader ) override;
-    void EndBook( const Contacts::PimContactReport& a_report, bool a_isReadToEnd ) override;
+    bool WantsExtents() const override { return true; }
+    void BeginBook( const BookInRun& a_book, const Contacts::PimContactReader& a_reader ) override;
+    void TakeExtent( const BookInRun& a_book, const Contacts::PimContactExtent& a_extent ) override;
 
 private:
     void Write( const Contacts::PimContactExtent& a_extent );
 
     QIODevice& m_device;
     const bool m_areNamed;
+    const Contacts::PimContactReader* m_reader = nullptr;
     QByteArray m_line;
 };
 

@@ -1,15 +1,16 @@
 #include "Program.h"
 
-#include "CheckCommand.h"
-#include "CommandLine.h"
-#include "ImportCommand.h"
-#include "PrintCommand.h"
-#include "TerminalText.h"
+#include "Commands/CheckCommand.h"
+#include "Commands/CommandLine.h"
+#include "Commands/ConvertCommand.h"
+#include "Commands/HelpCommand.h"
+#include "Commands/ListCommand.h"
+#include "Commands/ReadingCommand.h"
 #include "Version.h"
 
-#include <QString>
-
 #include <algorithm>
+#include <array>
+#include <sys/stat.h>
 
 namespace PimManager::vCard::Tools
 {
@@ -17,40 +18,88 @@ namespace PimManager::vCard::Tools
 namespace
 {
 
+using Run = ExitStatus ( * )( const CommandLine&, Console& );
+
+struct Reading
+{
+    const char* m_command;
+    Run m_run;
+};
+
+constexpr std::array s_kReadings = {
+    Reading{ "list", RunList },
+    Reading{ "check", RunCheck },
+    Reading{ "convert", RunConvert },
+};
+
 const QString s_kProgram = QStringLiteral( "pimvcard" );
 
-bool IsOption( const QByteArray& a_argument )
+bool IsNamed( const OptionInfo& a_option, const QByteArray& a_argument )
 {
-    return a_argument.startsWith( '-' );
+    if ( a_argument.startsWith( "--" ) )
+        return a_argument == "--" + a_option.m_name.toLatin1();
+    return !a_option.m_letter.isEmpty() && a_argument.endsWith( a_option.m_letter.toLatin1() );
 }
 
-// Without a command: help, version, or a mistake.
-ExitStatus RunWithoutCommand( const QList<QByteArray>& a_arguments, Console& a_console )
+// True for an option of any command whose value is the next argument.
+bool WantsNext( const QByteArray& a_argument )
 {
-    CommandLine line( QStringLiteral( "Reads the address books that phones and mail programs write (vCard)." ) );
-    line.AddArgument( QStringLiteral( "import" ), ImportCommand::Summary(), QStringLiteral( "import" ) );
-    line.AddArgument( QStringLiteral( "check" ), CheckCommand::Summary(), QStringLiteral( "| check" ) );
-    line.AddArgument( QStringLiteral( "print" ),
-                      PrintCommand::Summary() + QStringLiteral( " \"pimvcard COMMAND --help\" shows more." ),
-                      QStringLiteral( "| print FILE..." ) );
-    if ( !line.Parse( a_arguments ) )
-        return a_console.Refuse( line.ErrorText(), s_kProgram );
-    if ( line.WantsHelp() )
-        return a_console.Show( line.HelpText() );
-    if ( line.WantsVersion() )
+    const auto isIt = [&a_argument]( const OptionInfo& a_option )
+    { return !a_option.m_argument.isEmpty() && IsNamed( a_option, a_argument ); };
+    return std::any_of( Commands().begin(), Commands().end(),
+                        [&isIt]( const CommandInfo& a_command )
+                        { return std::any_of( a_command.m_options.begin(), a_command.m_options.end(), isIt ); } );
+}
+
+// The place of the first argument that is no option; the end if there is none.
+int FindWord( const QList<QByteArray>& a_arguments )
+{
+    int place = 0;
+    for ( ; place < a_arguments.size(); ++place )
+    {
+        const QByteArray& argument = a_arguments.at( place );
+        if ( argument == "--" )
+            return place + 1;
+        if ( argument == "-" || !argument.startsWith( '-' ) )
+            return place;
+        place += WantsNext( argument ) ? 1 : 0;
+    }
+    return place;
+}
+
+// Looks like the name of a command, and is no file.
+bool IsUnknownCommand( const QByteArray& a_word )
+{
+    struct stat status = {};
+    const bool isPlain = !a_word.contains( '.' ) && !a_word.contains( '/' ) && a_word != "-";
+    return isPlain && ::stat( a_word.constData(), &status ) != 0;
+}
+
+ExitStatus RunCommand( CommandLine& a_line, Console& a_console )
+{
+    if ( a_line.IsSet( s_kHelpOption ) )
+        return a_console.Show( a_line.HelpText() );
+    if ( a_line.IsSet( s_kVersionOption ) )
         return a_console.Show( VersionText() );
-    return a_console.Refuse( QStringLiteral( "no command" ), s_kProgram );
+    a_console.SetRemarksWanted( !a_line.IsSet( s_kQuietOption ) );
+    const auto* const reading =
+        std::find_if( s_kReadings.begin(), s_kReadings.end(), [&a_line]( const Reading& a_reading )
+                      { return a_line.Command().m_name == QLatin1String( a_reading.m_command ); } );
+    if ( reading == s_kReadings.end() )
+        return RunHelp( a_line, a_console );
+    if ( a_line.Arguments().isEmpty() )
+        return RefuseUsage( a_console, a_line, QStringLiteral( "no file to " ) + a_line.Command().m_name );
+    return reading->m_run( a_line, a_console );
 }
 
-ExitStatus RunCommand( const QByteArray& a_command, const QList<QByteArray>& a_arguments, Console& a_console )
+// Without a command and without a file: help, version, or a mistake.
+ExitStatus RunNothing( const CommandLine& a_line, Console& a_console )
 {
-    if ( a_command == "import" )
-        return ImportCommand( a_console ).Run( a_arguments );
-    if ( a_command == "check" )
-        return CheckCommand( a_console ).Run( a_arguments );
-    if ( a_command == "print" )
-        return PrintCommand( a_console ).Run( a_arguments );
-    return a_console.Refuse( QStringLiteral( "unknown command: " ) + ToShownFileName( a_command ), s_kProgram );
+    if ( a_line.IsSet( s_kHelpOption ) )
+        return a_console.Show( OverviewText() );
+    if ( a_line.IsSet( s_kVersionOption ) )
+        return a_console.Show( VersionText() );
+    return a_console.Refuse( QStringLiteral( "no command and no file" ), s_kProgram );
 }
 
 } // namespace
@@ -58,12 +107,20 @@ ExitStatus RunCommand( const QByteArray& a_command, const QList<QByteArray>& a_a
 ExitStatus RunProgram( const QList<QByteArray>& a_arguments, Console& a_console )
 {
     QList<QByteArray> arguments = a_arguments;
-    const auto command = std::find_if_not( arguments.begin(), arguments.end(), IsOption );
-    if ( command == arguments.end() )
-        return RunWithoutCommand( arguments, a_console );
-    const QByteArray name = *command;
-    arguments.erase( command );
-    return RunCommand( name, arguments, a_console );
+    const int place = FindWord( arguments );
+    const QByteArray word = arguments.value( place );
+    const bool hasWord = place < arguments.size();
+    const bool isBehindDashes = place > 0 && arguments.at( place - 1 ) == "--";
+    const CommandInfo* const command = hasWord && !isBehindDashes ? FindCommand( word ) : nullptr;
+    if ( command != nullptr )
+        arguments.removeAt( place );
+    else if ( hasWord && !isBehindDashes && IsUnknownCommand( word ) )
+        return RefuseCommand( word, a_console );
+    CommandLine line( command != nullptr ? *command : Commands().front() );
+    if ( !line.Parse( arguments ) )
+        return command != nullptr ? RefuseUsage( a_console, line, line.ErrorText() )
+                                  : a_console.Refuse( line.ErrorText(), s_kProgram );
+    return hasWord ? RunCommand( line, a_console ) : RunNothing( line, a_console );
 }
 
 } // namespace PimManager::vCard::Tools

@@ -12,7 +12,8 @@
 namespace PimManager::vCard::Tools
 {
 
-/// Finds the command that the user wants and runs it. Options may stand before and behind the command's name.
+/// Finds the command that the user wants and runs it. Options may precede the name of the command or follow it. Without
+/// a command, the files are listed.
 /// \param a_arguments without the program's own name.
 ExitStatus RunProgram( const QList<QByteArray>& a_arguments, Console& a_console );
 

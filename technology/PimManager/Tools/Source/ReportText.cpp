@@ -115,6 +115,23 @@ QStringList Facts( const PimContactReport& a_report )
     return facts << FindingsText( a_report );
 }
 
+QString Cards( qint64 a_count )
+{
+    return Counted( a_count, QStringLiteral( "card" ), QStringLiteral( "cards" ) );
+}
+
+QString Lines( qint64 a_count )
+{
+    return Counted( a_count, QStringLiteral( "line" ), QStringLiteral( "lines" ) );
+}
+
+// What a file is that should hold cards. Neither text nor bytes of an unknown kind say what was meant.
+QString WithoutCardText( PimContactFileKind a_kind )
+{
+    const bool isKnown = a_kind != PimContactFileKind::Text && a_kind != PimContactFileKind::Unknown;
+    return isKnown ? KindText( a_kind ) : QStringLiteral( "holds no vCard" );
+}
+
 } // namespace
 
 QString SummaryText( const PimContactReport& a_report, bool a_isReadToEnd )
@@ -126,6 +143,19 @@ QString SummaryText( const PimContactReport& a_report, bool a_isReadToEnd )
     if ( !a_isReadToEnd )
         facts << QStringLiteral( "not read to its end" );
     return facts.join( QStringLiteral( "; " ) );
+}
+
+QString LossesText( const PimContactReport& a_report, bool a_isReadToEnd )
+{
+    QStringList losses;
+    if ( a_report.CardsRefused() > 0 )
+        losses << Cards( a_report.CardsRefused() ) + QStringLiteral( " refused" );
+    const qint64 dropped = a_report.Findings( PimContactSeverity::Dropped );
+    if ( dropped > 0 )
+        losses << Lines( dropped ) + QStringLiteral( " dropped" );
+    if ( losses.isEmpty() && StatusOf( a_report, a_isReadToEnd ) != ExitStatus::AllGiven )
+        losses << WithoutCardText( a_report.FileKind() );
+    return losses.join( QStringLiteral( ", " ) );
 }
 
 ExitStatus StatusOf( const PimContactReport& a_report, bool a_isReadToEnd )

@@ -19,6 +19,12 @@ namespace PimManager::vCard::Tools
 QString SummaryText( const Contacts::PimContactReport& a_report, bool a_isReadToEnd );
 
 /// \param a_isReadToEnd false if the reading was interrupted or failed.
+/// \return what is missing, such as `1 card refused, 2 lines dropped`. Of a file that is not empty and has no card:
+///         `holds no vCard`, or what it is, such as `is a PDF document`. Empty if nothing is missing; then StatusOf() is
+///         AllGiven.
+QString LossesText( const Contacts::PimContactReport& a_report, bool a_isReadToEnd );
+
+/// \param a_isReadToEnd false if the reading was interrupted or failed.
 /// \return SomeRefused if something was dropped or refused, or if a file that is not empty holds no vCard; otherwise
 ///         AllGiven.
 ExitStatus StatusOf( const Contacts::PimContactReport& a_report, bool a_isReadToEnd );

@@ -1,6 +1,6 @@
 #include "Attachment.h"
 
-#include "ImportTestBooks.h"
+#include "TestBooks.h"
 
 #include "PimVCard.h"
 

@@ -101,27 +101,27 @@ TEST( BookAccountTest, NoteTellsWhatDidNotCome )
         { "", "is empty" },
         { "\r\n", "holds no vCard" },
         { "Dear Nell,\n", "holds no vCard" },
-        { s_kGood + s_kBroken, "1 of 2 cards refused; --log shows why" },
+        { s_kGood + s_kBroken, "1 of 2 cards refused" },
         { s_kWithoutEnd + s_kGood,
           "1 of 2 cards refused\n"
-          "card 1 (Tobias) swallowed another card: a BEGIN:VCARD line stands inside it, so an END:VCARD line seems to "
+          "card 1 (Tobias) swallowed another card: a BEGIN:VCARD line is inside it, so an END:VCARD line seems to "
           "be missing" },
         { "BEGIN:VCARD\nEND:VCARD\n",
-          "1 of 1 cards refused; --log shows why\n"
-          "2 of 2 lines end in a bare LF; the reader needs CR LF and loses cards without it" },
+          "1 of 1 cards refused\n"
+          "2 of 2 lines end in a bare LF; the strict reader needs CR LF and loses cards without it" },
         { "BEGIN:VCARD\rX_Y:z\rEND:VCARD\r",
-          "1 of 1 cards refused; --log shows why\n"
-          "3 of 3 lines end in a bare CR; the reader needs CR LF and loses cards without it" },
-        { s_kGood + "BEGIN:VCARD\r\nEND:VCARD", "1 of 2 cards refused; --log shows why\n"
-                                                "the last line has no line end; the reader needs CR LF there, too" },
+          "1 of 1 cards refused\n"
+          "3 of 3 lines end in a bare CR; the strict reader needs CR LF and loses cards without it" },
+        { s_kGood + "BEGIN:VCARD\r\nEND:VCARD", "1 of 2 cards refused\n"
+                                                "the last line has no line ending; the strict reader needs CR LF there, too" },
         { QByteArray( "BEGIN:VCARD\nEND:VCARD\n" ) + '\0',
-          "1 of 1 cards refused; --log shows why\n"
+          "1 of 1 cards refused\n"
           "byte 23 is NUL and nothing after it is read; text in UTF-16 looks like this\n"
-          "2 of 2 lines end in a bare LF; the reader needs CR LF and loses cards without it" },
-        { "\r\n" + s_kGood, "1 refused, cards or text that belongs to no card; --log shows why" },
+          "2 of 2 lines end in a bare LF; the strict reader needs CR LF and loses cards without it" },
+        { "\r\n" + s_kGood, "1 refused, cards or text that belongs to no card" },
         { s_kGood + '\0' + s_kGood, "1 of 2 cards refused\n"
                                     "byte 34 is NUL and nothing after it is read; text in UTF-16 looks like this" },
-        { Utf16( s_kGood ), "1 of 1 cards refused; --log shows why\n"
+        { Utf16( s_kGood ), "1 of 1 cards refused\n"
                             "byte 4 is NUL and nothing after it is read; text in UTF-16 looks like this" },
     };
     for ( const Row& row : rows )

@@ -1,6 +1,6 @@
 #include "ProgramRun.h"
 
-#include "ImportTestBooks.h"
+#include "TestBooks.h"
 
 #include <PimManager/Contacts/PimContactOptions.h>
 
@@ -242,7 +242,7 @@ TEST( CheckCommandTest, HelpNamesEveryOptionAndTheStatus )
 {
     const ProgramRun run = RunPimvcard( { "check", "--help" } );
     EXPECT_EQ( run.m_status, 0 );
-    for ( const char* text : { "Usage: pimvcard [options] check FILE...\n", "--charset <NAME>", "-e, --extents",
+    for ( const char* text : { "Usage: pimvcard [options] check BOOK...\n", "--charset <NAME>", "-e, --extents",
                                "--max-card-bytes <NUMBER>", "--max-book-bytes <NUMBER>",
                                "FILE:LINE:COLUMN: SEVERITY: TEXT [WORD]", "Exit status: 0 everything is delivered" } )
         EXPECT_NE( run.m_out.find( text ), std::string::npos ) << text << "\n" << run.m_out;

@@ -1,10 +1,27 @@
-#include "CommandLine.h"
+#include "Commands/CommandLine.h"
 
 #include "ToolsTestText.h"
 
-#include <QCommandLineOption>
-
 using namespace PimManager::vCard::Tools;
+
+namespace
+{
+
+// A command with a flag -x and an option --name.
+const CommandInfo& Command()
+{
+    static const CommandInfo s_kCommand = [] {
+        CommandInfo command;
+        command.m_name = QStringLiteral( "frob" );
+        command.m_arguments = QStringLiteral( "BOOK..." );
+        command.m_options = { { QStringLiteral( "x" ), QStringLiteral( "extra" ), {}, QStringLiteral( "More." ), {} },
+                              { {}, QStringLiteral( "name" ), QStringLiteral( "NAME" ), QStringLiteral( "Who." ), {} } };
+        return command;
+    }();
+    return s_kCommand;
+}
+
+} // namespace
 
 TEST( CommandLineTest, ArgumentsComeBackByteForByte )
 {
@@ -12,18 +29,17 @@ TEST( CommandLineTest, ArgumentsComeBackByteForByte )
     for ( int byte = 1; byte <= 255; ++byte )
         allBytes.append( static_cast<char>( byte ) );
     const QList<QByteArray> arguments = { allBytes, "-", "b\303\274cher.vcf", "\xFF\xFE", "" };
-    CommandLine line( QString{} );
+    CommandLine line( Command() );
     ASSERT_TRUE( line.Parse( arguments ) ) << Utf8( line.ErrorText() );
     EXPECT_EQ( line.Arguments(), arguments );
 }
 
 TEST( CommandLineTest, OptionsAndArgumentsMix )
 {
-    CommandLine line( QString{} );
-    line.AddOption( QCommandLineOption( QStringList{ QStringLiteral( "x" ), QStringLiteral( "extra" ) } ) );
+    CommandLine line( Command() );
     ASSERT_TRUE( line.Parse( { "a", "-x", "b", "--", "-h" } ) );
     EXPECT_TRUE( line.IsSet( QStringLiteral( "extra" ) ) );
-    EXPECT_FALSE( line.WantsHelp() );
+    EXPECT_FALSE( line.IsSet( s_kHelpOption ) );
     EXPECT_EQ( line.Arguments(), ( QList<QByteArray>{ "a", "b", "-h" } ) );
 }
 
@@ -31,21 +47,35 @@ TEST( CommandLineTest, HelpAndVersionAreKnownToAll )
 {
     for ( const char* option : { "-h", "--help" } )
     {
-        CommandLine line( QString{} );
+        CommandLine line( Command() );
         ASSERT_TRUE( line.Parse( { option } ) );
-        EXPECT_TRUE( line.WantsHelp() && !line.WantsVersion() ) << option;
+        EXPECT_TRUE( line.IsSet( s_kHelpOption ) && !line.IsSet( s_kVersionOption ) ) << option;
     }
     for ( const char* option : { "-v", "--version" } )
     {
-        CommandLine line( QString{} );
+        CommandLine line( Command() );
         ASSERT_TRUE( line.Parse( { option } ) );
-        EXPECT_TRUE( line.WantsVersion() && !line.WantsHelp() ) << option;
+        EXPECT_TRUE( line.IsSet( s_kVersionOption ) && !line.IsSet( s_kHelpOption ) ) << option;
     }
 }
 
-TEST( CommandLineTest, UnknownOptionIsToldHarmlessly )
+TEST( CommandLineTest, UnknownOptionIsReportedHarmlessly )
 {
-    CommandLine line( QString{} );
+    CommandLine line( Command() );
     EXPECT_FALSE( line.Parse( { "--\xC3\xA9\x1B[2J\xFF" } ) );
     EXPECT_EQ( Utf8( line.ErrorText() ), "Unknown option '\xC3\xA9\\x1b[2J\xEF\xBF\xBD'." );
+}
+
+TEST( CommandLineTest, CloseOptionIsSuggested )
+{
+    CommandLine line( Command() );
+    EXPECT_FALSE( line.Parse( { "--extar" } ) );
+    EXPECT_EQ( Utf8( line.ErrorText() ), "Unknown option 'extar'. Did you mean \"--extra\"?" );
+}
+
+TEST( CommandLineTest, ValueComesBackByteForByte )
+{
+    CommandLine line( Command() );
+    ASSERT_TRUE( line.Parse( { "--name", "\xFF\xC3\xA9" } ) );
+    EXPECT_EQ( line.Value( QStringLiteral( "name" ) ), QByteArray( "\xFF\xC3\xA9" ) );
 }

@@ -3,15 +3,24 @@
 #include "TextColumns.h"
 #include "ToolsTestText.h"
 
+#include <PimManager/Contacts/PimContactBook.h>
+
 #include <QBuffer>
 
 #include <vector>
 
-using namespace PimManager::vCard;
+using namespace PimManager::Contacts;
 using namespace PimManager::vCard::Tools;
 
 namespace
 {
+
+PimContactCard CardOf( const QByteArray& a_lines )
+{
+    const PimContactBook book = PimContactBook::FromBytes( CardText( a_lines ) );
+    EXPECT_EQ( book.Size(), 1 ) << a_lines.constData();
+    return book.IsEmpty() ? PimContactCard() : book.At( 0 );
+}
 
 QString Table( const QList<QByteArray>& a_cards, int a_columns )
 {
@@ -20,7 +29,7 @@ QString Table( const QList<QByteArray>& a_cards, int a_columns )
     ContactTable table( buffer, a_columns );
     table.Begin();
     for ( const QByteArray& lines : a_cards )
-        table.Take( ReadContact( *OnlyCard( lines ) ) );
+        table.TakeCard( BookInRun(), CardOf( lines ) );
     table.End();
     EXPECT_TRUE( IsHarmless( buffer.data().toStdString() ) );
     return QString::fromUtf8( buffer.data() );
@@ -91,13 +100,13 @@ TEST( ContactTableTest, ContactsBeyondTheFirstComeAtOnce )
     QBuffer buffer;
     buffer.open( QIODevice::WriteOnly );
     ContactTable table( buffer, 0 );
-    const Contact contact = ReadContact( *OnlyCard( s_kNell ) );
+    const PimContactCard card = CardOf( s_kNell );
     for ( int i = 0; i < 199; ++i )
-        table.Take( contact );
+        table.TakeCard( BookInRun(), card );
     EXPECT_EQ( buffer.data().size(), 0 );
-    table.Take( contact );
+    table.TakeCard( BookInRun(), card );
     const auto written = buffer.data().size();
     EXPECT_GT( written, 0 );
-    table.Take( contact );
+    table.TakeCard( BookInRun(), card );
     EXPECT_GT( buffer.data().size(), written );
 }

@@ -1,6 +1,6 @@
 #include "ProgramRun.h"
 
-#include "ImportTestBooks.h"
+#include "TestBooks.h"
 
 #include <QCryptographicHash>
 #include <QRegularExpression>

@@ -1,4 +1,5 @@
-#include "LimitOptions.h"
+#include "Commands/CommandLine.h"
+#include "Commands/LimitOptions.h"
 
 #include "ToolsTestText.h"
 
@@ -14,8 +15,6 @@ namespace
 class LimitOptionsTest : public testing::Test
 {
 protected:
-    LimitOptionsTest() { AddLimitOptions( m_line ); }
-
     // What is wrong with the arguments; "parser: ..." if the command line itself is not understood.
     std::string ErrorOf( const QList<QByteArray>& a_arguments )
     {
@@ -31,7 +30,7 @@ protected:
                  m_options.Nesting(),   m_options.Cards(),     m_options.BookBytes() };
     }
 
-    CommandLine m_line{ QString() };
+    CommandLine m_line{ *FindCommand( "list" ) };
     PimContactOptions m_options;
 };
 

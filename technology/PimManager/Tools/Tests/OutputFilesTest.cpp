@@ -1,6 +1,6 @@
-// The files that the options of `pimvcard import` name.
+// The files that the options of `pimvcard convert` name.
 
-#include "ImportTestBooks.h"
+#include "TestBooks.h"
 #include "Outputs/FileDescriptor.h"
 #include "ProgramProcess.h"
 #include "ProgramRun.h"
@@ -21,7 +21,7 @@ const QByteArray s_kRejects = "\x01\x02 %%%\r\n";
 // Writes the rejects of one card, s_kRejects, and more.
 ProgramCall RejectsTo( const QByteArray& a_name, const QList<QByteArray>& a_more = {} )
 {
-    return ProgramCall( QList<QByteArray>{ "import", "-q", "--rejects", a_name } + a_more + QList<QByteArray>{ "-" } )
+    return ProgramCall( QList<QByteArray>{ "convert", "-q", "--rejects", a_name } + a_more + QList<QByteArray>{ "-" } )
         .WithInput( PartCard() );
 }
 
@@ -47,9 +47,9 @@ TEST( OutputFilesTest, ExistingFileIsReplacedOnlyWithForce )
     const Folder folder;
     const QByteArray rejects = folder.Write( "rejects", "old" );
     ASSERT_EQ( chmod( rejects.constData(), 0640 ), 0 );
-    for ( const char* option : { "--rejects", "--html" } )
+    for ( const char* option : { "--rejects", "--output" } )
     {
-        const ProgramRun run = ProgramCall( { "import", option, rejects, "-" } ).WithInput( PartCard() ).Run();
+        const ProgramRun run = ProgramCall( { "convert", "-t", "html", option, rejects, "-" } ).WithInput( PartCard() ).Run();
         EXPECT_EQ( run.m_status, 2 ) << option;
         EXPECT_EQ( run.m_out, "" ) << option;
         EXPECT_EQ( run.m_err, CannotBeWritten( rejects, "it exists already; --force replaces it" ) ) << option;
@@ -71,7 +71,7 @@ TEST( OutputFilesTest, FileThatAppearsDuringTheRunIsKept )
     FileDescriptor programsEnd( input[0] );
     FileDescriptor testsEnd( input[1] );
     const pid_t program =
-        StartProgram( { "import", "-q", "--rejects", rejects, "-" }, input[0], messages.Number(), messages.Number() );
+        StartProgram( { "convert", "-q", "--rejects", rejects, "-" }, input[0], messages.Number(), messages.Number() );
     FeedPipe( input[1], PartCard() );
     folder.Write( "rejects", "mine" );
     testsEnd.Close();
@@ -119,12 +119,12 @@ TEST( OutputFilesTest, InputIsNoOutput )
     const QByteArray book = folder.Write( "book", PartCard() );
     ASSERT_EQ( symlink( "book", folder.Path( "symlink" ).constData() ), 0 );
     ASSERT_EQ( link( book.constData(), folder.Path( "hardlink" ).constData() ), 0 );
-    for ( const char* option : { "--rejects", "--html" } )
+    for ( const char* option : { "--rejects", "--output" } )
     {
         for ( const char* name : { "book", "symlink", "hardlink", "./book" } )
         {
             const QByteArray path = folder.Path( name );
-            const ProgramRun run = RunPimvcard( { "import", "--force", option, path, book } );
+            const ProgramRun run = RunPimvcard( { "convert", "-t", "html", "--force", option, path, book } );
             EXPECT_EQ( run.m_status, 2 ) << option << name;
             EXPECT_EQ( run.m_err, CannotBeWritten( path, "it is one of the files to read" ) ) << option;
             EXPECT_EQ( FileContent( book ), PartCard() ) << option << name;
@@ -137,7 +137,7 @@ TEST( OutputFilesTest, InputIsNotStandardOutput )
 {
     const Folder folder;
     const QByteArray book = folder.Write( "book", PartCard() );
-    for ( const char* command : { "import", "check", "print" } )
+    for ( const char* command : { "list", "show", "check" } )
     {
         const ProgramRun run = ProgramCall( { command, book } ).WithOutputTo( book ).Run();
         EXPECT_EQ( run.m_status, 2 ) << command;
@@ -169,7 +169,7 @@ TEST( OutputFilesTest, TwoOutputsToOneFileAreRefused )
     };
     for ( const Row& row : rows )
     {
-        const ProgramRun run = RejectsTo( row.m_rejects, { "--force", "--html", row.m_html } ).Run();
+        const ProgramRun run = RejectsTo( row.m_rejects, { "--force", "-t", "html", "-o", row.m_html } ).Run();
         EXPECT_EQ( run.m_status, 2 ) << row.m_html.constData();
         EXPECT_EQ( run.m_out, "" ) << row.m_html.constData();
         EXPECT_EQ( run.m_err, CannotBeWritten( row.m_html, "another output is written there" ) );
@@ -181,10 +181,10 @@ TEST( OutputFilesTest, TwoOutputsToOneFileAreRefused )
 TEST( OutputFilesTest, RefusedOutputLeavesNothingOfTheOthers )
 {
     const Folder folder;
-    for ( const char* form : { "--quiet", "--json", "--json-lines" } )
+    for ( const char* form : { "json", "json-lines", "html" } )
     {
-        const ProgramRun run = ProgramCall( { "import", form, "--photos", folder.Path( "photos" ), "--rejects",
-                                              folder.Path( "rejects" ), "--html", folder.Path( "missing/page" ), "-" } )
+        const ProgramRun run = ProgramCall( { "convert", "-t", form, "--photos", folder.Path( "photos" ), "--rejects",
+                                              folder.Path( "rejects" ), "-o", folder.Path( "missing/page" ), "-" } )
                                    .WithInput( PartCard() )
                                    .Run();
         EXPECT_EQ( run.m_status, 2 ) << form;
@@ -206,9 +206,10 @@ TEST( OutputFilesTest, DashIsStandardOutput )
 
 TEST( OutputFilesTest, StandardOutputHasRoomForOneOutput )
 {
-    for ( const char* form : { "--json", "--json-lines" } )
+    for ( const char* form : { "json", "json-lines", "html" } )
     {
-        const ProgramRun run = ProgramCall( { "import", form, "--html", "-", "-" } ).WithInput( CleanCard() ).Run();
+        const ProgramRun run =
+            ProgramCall( { "convert", "-t", form, "--rejects", "-", "-" } ).WithInput( CleanCard() ).Run();
         EXPECT_EQ( run.m_status, 2 ) << form;
         EXPECT_EQ( run.m_out, "" ) << form;
         EXPECT_EQ( run.m_err, CannotBeWritten( "standard output", "another output is written there" ) ) << form;
@@ -223,14 +224,14 @@ TEST( OutputFilesTest, StandardOutputIsWrittenWhereItStands )
     ASSERT_EQ( write( out.Number(), "first ", 6 ), 6 );
     const QByteArray book = folder.Write( "book", PartCard() );
     const pid_t program =
-        StartProgram( { "import", "-q", "-r", "/dev/stdout", book }, null.Number(), out.Number(), null.Number() );
+        StartProgram( { "convert", "-q", "-r", "/dev/stdout", book }, null.Number(), out.Number(), null.Number() );
     EXPECT_EQ( WaitFor( program ), 1 );
     EXPECT_EQ( FileContent( folder.Path( "out" ) ), "first " + s_kRejects );
 }
 
 TEST( OutputFilesTest, DevicesAreWrittenAndMayBeShared )
 {
-    EXPECT_EQ( RejectsTo( "/dev/null", { "--html", "/dev/null" } ).Run().m_status, 1 );
+    EXPECT_EQ( RejectsTo( "/dev/null", { "-t", "html", "-o", "/dev/null" } ).Run().m_status, 1 );
     struct stat status = {};
     ASSERT_EQ( stat( "/dev/null", &status ), 0 );
     EXPECT_TRUE( S_ISCHR( status.st_mode ) );
@@ -262,14 +263,14 @@ TEST( OutputFilesTest, BrokenPipeEndsQuietlyWithTheUsualStatus )
 {
     const Folder folder;
     const QByteArray large = folder.Write( "large", CleanCard().repeated( 3000 ) );
-    const ProgramRun out = ProgramCall( { "import", "-q", "--html", "-", large, large } ).WithBrokenPipe().Run();
+    const ProgramRun out = ProgramCall( { "convert", "-q", "-t", "html", "-o", "-", large, large } ).WithBrokenPipe().Run();
     EXPECT_EQ( out.m_status, 0 );
     EXPECT_EQ( out.m_err, "" );
 
     const QByteArray pipe = folder.Path( "pipe" );
     ASSERT_EQ( mkfifo( pipe.constData(), 0600 ), 0 );
     std::thread reader( [&pipe] { FileDescriptor( open( pipe.constData(), O_RDONLY | O_CLOEXEC ) ); } );
-    const ProgramRun named = RunPimvcard( { "import", "-q", "--html", pipe, large } );
+    const ProgramRun named = RunPimvcard( { "convert", "-q", "-t", "html", "-o", pipe, large } );
     reader.join();
     EXPECT_EQ( named.m_status, 0 );
     EXPECT_EQ( named.m_err, named.LastMessage() );
@@ -280,7 +281,7 @@ TEST( OutputFilesTest, FullDiskKeepsTheOldFileAndLeavesNothing )
     const Folder folder;
     const QByteArray page = folder.Write( "page", "old" );
     const QByteArray rejects = folder.Path( "rejects" );
-    const ProgramRun run = ProgramCall( { "import", "-q", "--force", "--html", page, "--rejects", rejects, "-" } )
+    const ProgramRun run = ProgramCall( { "convert", "-q", "--force", "-t", "html", "-o", page, "--rejects", rejects, "-" } )
                                .WithInput( PartCard().repeated( 100 ) )
                                .WithFileSizeLimit( 10000 )
                                .Run();
@@ -293,9 +294,9 @@ TEST( OutputFilesTest, FullDiskKeepsTheOldFileAndLeavesNothing )
 
 TEST( OutputFilesTest, FullDeviceIsReportedAndTheContactsCome )
 {
-    for ( const char* option : { "--rejects", "--html" } )
+    for ( const char* option : { "--rejects", "--output" } )
     {
-        const ProgramRun run = ProgramCall( { "import", option, "/dev/full", "-" } ).WithInput( PartCard() ).Run();
+        const ProgramRun run = ProgramCall( { "convert", "-t", "json", option, "/dev/full", "-" } ).WithInput( PartCard() ).Run();
         EXPECT_EQ( run.m_status, 2 ) << option;
         EXPECT_NE( run.m_out.find( "Tobias" ), std::string::npos ) << option;
         EXPECT_NE( run.m_err.find( CannotBeWritten( "/dev/full", "No space left on device" ) ), std::string::npos )
@@ -306,11 +307,11 @@ TEST( OutputFilesTest, FullDeviceIsReportedAndTheContactsCome )
 TEST( OutputFilesTest, PathThatCannotBeWrittenEndsTheRun )
 {
     const Folder folder;
-    for ( const char* option : { "--rejects", "--html" } )
+    for ( const char* option : { "--rejects", "--output" } )
     {
         for ( const QByteArray& name : { folder.Path( "a/b" ), folder.Path( "" ), QByteArray( "" ) } )
         {
-            const ProgramRun run = ProgramCall( { "import", option, name, "-" } ).WithInput( CleanCard() ).Run();
+            const ProgramRun run = ProgramCall( { "convert", "-t", "json", option, name, "-" } ).WithInput( CleanCard() ).Run();
             EXPECT_EQ( run.m_status, 2 ) << option << name.constData();
             EXPECT_EQ( run.m_out, "" ) << option << name.constData();
             EXPECT_NE( run.m_err.find( ": cannot be written: " ), std::string::npos ) << run.m_err;

@@ -1,7 +1,7 @@
 #include "Browser.h"
 #include "ProgramRun.h"
 
-#include "ImportTestBooks.h"
+#include "TestBooks.h"
 
 #include <QFile>
 #include <QStringList>

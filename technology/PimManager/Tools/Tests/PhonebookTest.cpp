@@ -56,14 +56,22 @@ TEST( PhonebookTest, AllCardsButTheBrokenOneAreGiven )
                                                           "Crumb & Kettle Bakery" );
 }
 
-TEST( PhonebookTest, ProgramPrintsItAndTellsOfTheBrokenCard )
+TEST( PhonebookTest, StrictCheckReportsTheBrokenCard )
 {
-    const ProgramRun run = RunPimvcard( { "print", s_kPhonebook } );
+    const ProgramRun run = RunPimvcard( { "check", "--strict", s_kPhonebook } );
     EXPECT_EQ( run.m_status, 1 );
-    EXPECT_NE( run.m_out.find( "10. Crumb & Kettle Bakery (" ), std::string::npos ) << run.m_out;
-    EXPECT_EQ( run.m_out.find( "Ashdrake" ), std::string::npos );
-    EXPECT_NE( run.m_err.find( "/phonebook.vcf: 1 of 11 cards refused; --log shows why\n" ), std::string::npos );
-    EXPECT_EQ( run.LastMessage().find( "pimvcard: 1 file, 10 cards, 1 card refused, " ), 0U ) << run.m_err;
+    EXPECT_NE( run.m_out.find( "/phonebook.vcf: the strict reader returns 10 cards\n" ), std::string::npos );
+    EXPECT_NE( run.m_out.find( "/phonebook.vcf: 1 of 11 cards refused\n" ), std::string::npos );
+}
+
+TEST( PhonebookTest, EveryCardIsListed )
+{
+    const ProgramRun run = RunPimvcard( { s_kPhonebook } );
+    EXPECT_EQ( run.m_status, 0 );
+    for ( const char* name : { "\nNell Imogen Brackwater ", "\nCrumb & Kettle Bakery ", "\nBarnaby Ashdrake " } )
+        EXPECT_NE( run.m_out.find( name ), std::string::npos ) << name << run.m_out;
+    EXPECT_EQ( run.LastMessage().find( "pimvcard: 1 file, 11 contacts, 0 cards refused, 0 lines dropped, " ), 0U )
+        << run.m_err;
 }
 
 TEST( PhonebookTest, EveryLineEndsInCrLf )

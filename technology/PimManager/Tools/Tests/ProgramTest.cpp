@@ -15,12 +15,16 @@ TEST( ProgramTest, HelpGoesToStandardOutput )
         const char* m_says;
     };
     const std::vector<Row> rows = {
-        { { "--help" }, "Usage: pimvcard [options] import | check | print FILE...\n" },
+        { { "--help" }, "Usage: pimvcard [COMMAND] [options] BOOK...\n" },
         { { "-h" }, "-v, --version" },
-        { { "print", "--help" }, "Usage: pimvcard [options] print FILE...\n" },
-        { { "print", "-h" }, "--json-lines" },
-        { { "--help", "print" }, "Exit status: 0 every card was given" },
-        { { "print", "x.vcf", "-h" }, "- is standard input" },
+        { { "help" }, "\n  convert " },
+        { { "help", "list" }, "Usage: pimvcard [options] list BOOK...\n" },
+        { { "list", "--help" }, "Usage: pimvcard [options] list BOOK...\n" },
+        { { "help", "help" }, "Usage: pimvcard [options] help [COMMAND]\n" },
+        { { "check", "-h" }, "--extents" },
+        { { "--help", "check" }, "Exit status: 0 everything is delivered" },
+        { { "show", "x.vcf", "-h" }, "- is standard input" },
+        { { "x.vcf", "-h" }, "Usage: pimvcard [options] list BOOK...\n" },
     };
     for ( const Row& row : rows )
     {
@@ -34,7 +38,7 @@ TEST( ProgramTest, HelpGoesToStandardOutput )
 TEST( ProgramTest, VersionIsThatOfTheProject )
 {
     for ( const QList<QByteArray>& arguments :
-          { QList<QByteArray>{ "--version" }, QList<QByteArray>{ "-v" }, QList<QByteArray>{ "print", "--version" } } )
+          { QList<QByteArray>{ "--version" }, QList<QByteArray>{ "-v" }, QList<QByteArray>{ "check", "--version" } } )
     {
         const ProgramRun run = RunPimvcard( arguments );
         EXPECT_EQ( run.m_status, 0 );
@@ -43,10 +47,10 @@ TEST( ProgramTest, VersionIsThatOfTheProject )
     }
 }
 
-TEST( ProgramTest, WrongUsageIsToldWithStatusTwo )
+TEST( ProgramTest, WrongUsageIsReportedWithStatusTwo )
 {
     const char* const programHint = "pimvcard: \"pimvcard --help\" shows how to use it\n";
-    const char* const printHint = "pimvcard: \"pimvcard print --help\" shows how to use it\n";
+    const char* const checkHint = "pimvcard: \"pimvcard check --help\" shows how to use it\n";
     struct Row
     {
         QList<QByteArray> m_arguments;
@@ -54,20 +58,23 @@ TEST( ProgramTest, WrongUsageIsToldWithStatusTwo )
         const char* m_hint;
     };
     const std::vector<Row> rows = {
-        { {}, "pimvcard: no command\n", programHint },
-        { { "-" }, "pimvcard: no command\n", programHint },
+        { {}, "pimvcard: no command and no file\n", programHint },
+        { { "--quiet" }, "pimvcard: no command and no file\n", programHint },
         { { "--full" }, "pimvcard: Unknown option 'full'.\n", programHint },
-        { { "frobnicate" }, "pimvcard: unknown command: frobnicate\n", programHint },
-        { { "" }, "pimvcard: unknown command: \"\"\n", programHint },
-        { { "\x1B[2J\xFF" }, "pimvcard: unknown command: \\x1b[2J\xEF\xBF\xBD\n", programHint },
-        { { "print" }, "pimvcard: no file to print\n", printHint },
-        { { "print", "--json" }, "pimvcard: no file to print\n", printHint },
-        { { "print", "--frob", "x" }, "pimvcard: Unknown option 'frob'.\n", printHint },
-        { { "print", "--full=yes", "x" }, "pimvcard: Unexpected value after '--full'.\n", printHint },
-        { { "print", "--json", "--json-lines", "x" },
-          "pimvcard: --json and --json-lines contradict each other\n",
-          printHint },
-        { { "print", "-jJ", "x" }, "pimvcard: --json and --json-lines contradict each other\n", printHint },
+        { { "frobnicate" }, "pimvcard: frobnicate is neither a command nor a file.\n", programHint },
+        { { "chekc", "x.vcf" },
+          "pimvcard: chekc is neither a command nor a file. Did you mean \"check\"?\n",
+          programHint },
+        { { "help", "lsit" },
+          "pimvcard: lsit is neither a command nor a file. Did you mean \"list\"?\n",
+          programHint },
+        { { "" }, "pimvcard: \"\" is neither a command nor a file.\n", programHint },
+        { { "\x1B[2J\xFF" }, "pimvcard: \\x1b[2J\xEF\xBF\xBD is neither a command nor a file.\n", programHint },
+        { { "check" }, "pimvcard: no file to check\n", checkHint },
+        { { "check", "--extents" }, "pimvcard: no file to check\n", checkHint },
+        { { "check", "--frob", "x" }, "pimvcard: Unknown option 'frob'.\n", checkHint },
+        { { "check", "--extents=yes", "x" }, "pimvcard: Unexpected value after '--extents'.\n", checkHint },
+        { { "check", "-es", "x" }, "pimvcard: --extents and --strict contradict each other\n", checkHint },
     };
     for ( const Row& row : rows )
     {
@@ -78,17 +85,19 @@ TEST( ProgramTest, WrongUsageIsToldWithStatusTwo )
     }
 }
 
-TEST( ProgramTest, OptionsMayStandBeforeTheCommand )
+TEST( ProgramTest, OptionsMayPrecedeTheCommand )
 {
     const Folder folder;
     const QByteArray book = folder.Write( "book.vcf", CardText( "FN:x\r\n" ) );
-    const ProgramRun before = RunPimvcard( { "--json-lines", "print", book } );
-    EXPECT_EQ( before.m_status, 0 );
-    EXPECT_EQ( before.m_out, RunPimvcard( { "print", "--json-lines", book } ).m_out );
-    EXPECT_EQ( before.m_out, RunPimvcard( { "print", book, "-J" } ).m_out );
+    const ProgramRun before = RunPimvcard( { "--to", "json", "-q", "convert", book } );
+    EXPECT_EQ( before.m_status, 0 ) << before.m_err;
+    EXPECT_EQ( before.m_out.substr( 0, 3 ), "[\n{" );
+    EXPECT_EQ( before.m_out, RunPimvcard( { "convert", "--to", "json", book } ).m_out );
+    EXPECT_EQ( before.m_out, RunPimvcard( { "convert", book, "-t", "json" } ).m_out );
+    EXPECT_EQ( before.m_out, RunPimvcard( { "-qt", "json", "convert", book } ).m_out );
 }
 
-TEST( ProgramTest, HelpThatCannotBeWrittenIsTold )
+TEST( ProgramTest, HelpThatCannotBeWrittenIsReported )
 {
     const ProgramRun run = ProgramCall( { "--help" } ).WithOutputTo( "/dev/full" ).Run();
     EXPECT_EQ( run.m_status, 2 );
@@ -99,15 +108,15 @@ TEST( ProgramTest, ClosedStandardDescriptorsAreErrorsLikeOthers )
 {
     const Folder folder;
     const QByteArray book = folder.Write( "book.vcf", CardText( "FN:x\r\n" ) );
-    const ProgramRun noInput = ProgramCall( { "print", "-" } ).WithClosed( STDIN_FILENO ).Run();
+    const ProgramRun noInput = ProgramCall( { "list", "-" } ).WithClosed( STDIN_FILENO ).Run();
     EXPECT_EQ( noInput.m_status, 2 );
     EXPECT_EQ( noInput.m_err.find( "pimvcard: standard input: Bad file descriptor\n" ), 0U ) << noInput.m_err;
 
-    const ProgramRun noOutput = ProgramCall( { "print", book } ).WithClosed( STDOUT_FILENO ).Run();
+    const ProgramRun noOutput = ProgramCall( { "list", book } ).WithClosed( STDOUT_FILENO ).Run();
     EXPECT_EQ( noOutput.m_status, 2 );
     EXPECT_EQ( noOutput.m_err, "pimvcard: the output cannot be written: Bad file descriptor\n" );
 
-    const ProgramRun noMessages = ProgramCall( { "print", book } ).WithClosed( STDERR_FILENO ).Run();
+    const ProgramRun noMessages = ProgramCall( { "list", book } ).WithClosed( STDERR_FILENO ).Run();
     EXPECT_EQ( noMessages.m_status, 0 );
-    EXPECT_EQ( noMessages.m_out.substr( 0, 5 ), "1. x " );
+    EXPECT_EQ( noMessages.m_out, "NAME  NUMBER  MAIL  ORGANISATION\nx\n" );
 }

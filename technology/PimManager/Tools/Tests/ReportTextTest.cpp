@@ -1,6 +1,6 @@
 #include "ReportText.h"
 
-#include "ImportTestBooks.h"
+#include "TestBooks.h"
 
 #include <PimManager/Contacts/PimContactReader.h>
 
@@ -12,9 +12,9 @@ using namespace PimManager::vCard::Tools;
 namespace
 {
 
-PimContactReport ReportOn( const QByteArray& a_book )
+PimContactReport ReportOn( const QByteArray& a_book, const PimContactOptions& a_options = PimContactOptions() )
 {
-    PimContactReader reader;
+    PimContactReader reader( a_options );
     reader.Feed( a_book );
     reader.Finish();
     return reader.Report();
@@ -138,6 +138,46 @@ TEST( ReportTextTest, WorstFindingsComeFirst )
 TEST( ReportTextTest, TextOutsideCardsIsNoFailure )
 {
     EXPECT_EQ( StatusOf( ReportOn( "hello\r\n" + CleanCard() + "bye\r\n" ), true ), s_kGiven );
+}
+
+TEST( ReportTextTest, LossesAreEmptyOnlyIfNothingIsMissing )
+{
+    PimContactOptions oneCard;
+    oneCard.SetCards( 1 );
+    PimContactOptions oneLevel;
+    oneLevel.SetNesting( 1 );
+    struct LossRow
+    {
+        QByteArray m_book;
+        const char* m_losses;
+        PimContactOptions m_options;
+    };
+    const std::vector<LossRow> rows = {
+        { "", "", {} },
+        { CleanCard(), "", {} },
+        { CleanCard().chopped( 11 ), "", {} },
+        { "hello\r\n" + CleanCard() + "END:VCARD\r\n", "", {} },
+        { "FN:x\r\nTEL:5\r\nEND:VCARD\r\n", "", {} },
+        { "hello", "holds no vCard", {} },
+        { QByteArray( "\1\2\3\0\4\5", 6 ).repeated( 10 ), "holds no vCard", {} },
+        { "%PDF-1.4\n", "is a PDF document", {} },
+        { "<!DOCTYPE html>\n<title>x</title>\n", "is an HTML page", {} },
+        { PartCard(), "1 line dropped", {} },
+        { PartCard() + PartCard(), "2 lines dropped", {} },
+        { CardText( "# a\r\n# b\r\nFN:x\r\n" ), "2 lines dropped", {} },
+        { "BEGIN:VCARD x\r\nFN:x\r\nEND:VCARD\r\n", "1 line dropped", {} },
+        { CleanCard() + CleanCard(), "1 card refused", oneCard },
+        { PartCard() + CleanCard() + CleanCard(), "2 cards refused, 1 line dropped", oneCard },
+        { CardText( "AGENT:\r\n" + CardText( "AGENT:\r\n" + CleanCard() ) ), "1 line dropped", oneLevel },
+    };
+    for ( const LossRow& row : rows )
+    {
+        const PimContactReport report = ReportOn( row.m_book, row.m_options );
+        EXPECT_EQ( Utf8( LossesText( report, true ) ), row.m_losses ) << row.m_book.constData();
+        EXPECT_EQ( StatusOf( report, true ) == s_kGiven, *row.m_losses == '\0' ) << row.m_book.constData();
+    }
+    EXPECT_EQ( Utf8( LossesText( ReportOn( "hello" ), false ) ), "" );
+    EXPECT_EQ( Utf8( LossesText( ReportOn( PartCard() ), false ) ), "1 line dropped" );
 }
 
 TEST( ReportTextTest, InterruptedFileNeedNotHoldACard )

@@ -1,0 +1,46 @@
+#include "Commands/CheckCommand.h"
+
+#include "CheckReport.h"
+#include "Commands/ReadingCommand.h"
+#include "Commands/StrictCheck.h"
+#include "ContactRun.h"
+#include "ExtentList.h"
+#include "Outputs/OutputClaims.h"
+
+namespace PimManager::vCard::Tools
+{
+
+namespace
+{
+
+std::unique_ptr<BookOutput> MakeOutput( const CommandLine& a_line, OutputDevice& a_out )
+{
+    if ( a_line.IsSet( s_kExtentsOption ) )
+        return std::make_unique<ExtentList>( a_out, a_line.Arguments().size() > 1 );
+    return std::make_unique<CheckReport>( a_out );
+}
+
+} // namespace
+
+ExitStatus RunCheck( const CommandLine& a_line, Console& a_console )
+{
+    BookOptions options;
+    const QString mistake = ReadBookOptions( a_line, options );
+    if ( !mistake.isEmpty() )
+        return RefuseUsage( a_console, a_line, mistake );
+    const bool isStrict = a_line.IsSet( s_kStrictOption );
+    if ( isStrict && a_line.IsSet( s_kExtentsOption ) )
+        return RefuseUsage( a_console, a_line, QStringLiteral( "--extents and --strict contradict each other" ) );
+    if ( !OutputClaims( a_console, a_line.Arguments() ).ClaimResults() )
+        return ExitStatus::Trouble;
+    if ( isStrict )
+        return StrictCheck( a_console ).Run( a_line.Arguments() );
+    // The output receives each finding. None has to be kept.
+    options.m_reader.SetDiagnostics( 0 );
+    ContactRun::Outputs outputs;
+    outputs.push_back( MakeOutput( a_line, a_console.Out() ) );
+    return ContactRun( a_console, options, std::move( outputs ), BookRun::WithoutReader::Stop )
+        .Run( a_line.Arguments() );
+}
+
+} // namespace PimManager::vCard::Tools

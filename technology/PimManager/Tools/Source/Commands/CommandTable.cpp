@@ -1,0 +1,137 @@
+#include "Commands/CommandTable.h"
+
+#include "Commands/LimitOptions.h"
+#include "Commands/OutputFormat.h"
+
+#include <algorithm>
+
+namespace PimManager::vCard::Tools
+{
+
+namespace
+{
+
+OptionInfo Flag( const QString& a_letter, const QString& a_name, const QString& a_help )
+{
+    return { a_letter, a_name, QString(), a_help, {} };
+}
+
+OptionInfo Valued( const QString& a_letter, const QString& a_name, const QString& a_argument, const QString& a_help,
+                   const QStringList& a_words = {} )
+{
+    return { a_letter, a_name, a_argument, a_help, a_words };
+}
+
+// A command that reads address books. Its own options precede those that all of them have.
+CommandInfo Reading( const QString& a_name, const QString& a_summary, const std::vector<OptionInfo>& a_options,
+                     const QString& a_remarks )
+{
+    CommandInfo command;
+    command.m_name = a_name;
+    command.m_summary = a_summary;
+    command.m_arguments = QStringLiteral( "BOOK..." );
+    command.m_argumentsHelp = QStringLiteral( "Address books to read; - is standard input." );
+    command.m_options = a_options;
+    command.m_options.push_back(
+        Valued( QStringLiteral( "c" ), s_kCharsetOption, QStringLiteral( "NAME" ),
+                QStringLiteral( "The character set of cards that are not in UTF-8 and name none. Without this option "
+                                "it is guessed from their letters." ) ) );
+    const std::vector<OptionInfo> limits = LimitOptions();
+    command.m_options.insert( command.m_options.end(), limits.begin(), limits.end() );
+    command.m_helpTail =
+        a_remarks +
+        QStringLiteral( "\nA NUMBER may end in K, M or G for 1024, 1024 K or 1024 M. 0 means no limit. A line beyond\n"
+                        "its limit is dropped, a card beyond one is refused, and the rest of the file is read.\n"
+                        "\nExit status: 0 everything is delivered whole or repaired, 1 something is dropped or\n"
+                        "refused or a file holds no vCard, 2 wrong usage, or a file that cannot be read or written,\n"
+                        "130 interrupted.\n" );
+    return command;
+}
+
+CommandInfo List()
+{
+    return Reading( QStringLiteral( "list" ), QStringLiteral( "Prints a table of the contacts." ), {},
+                    QStringLiteral( "\n\"pimvcard BOOK...\" does the same.\n" ) );
+}
+
+CommandInfo Show()
+{
+    return Reading(
+        QStringLiteral( "show" ), QStringLiteral( "Prints everything that the cards hold, for reading." ),
+        { Flag( QStringLiteral( "F" ), s_kFullOption, QStringLiteral( "Prints long values whole." ) ) }, QString() );
+}
+
+CommandInfo Check()
+{
+    return Reading(
+        QStringLiteral( "check" ), QStringLiteral( "Reports what is wrong with address books, and where." ),
+        { Flag( QStringLiteral( "e" ), s_kExtentsOption,
+                QStringLiteral( "Prints what became of each byte instead of the findings: lines of OFFSET LENGTH KIND "
+                                "CARD, from byte 0 to the end of the file." ) ),
+          Flag( QStringLiteral( "s" ), s_kStrictOption,
+                QStringLiteral( "Reads each file with the strict vCard component, and prints its log and how many "
+                                "cards it returns." ) ) },
+        QStringLiteral(
+            "\nPrints one line for each finding, FILE:LINE:COLUMN: SEVERITY: TEXT [WORD], and one for each file.\n"
+            "Severities: note, delivered as written; repaired, what was meant is delivered; dropped, left out of a\n"
+            "card; refused, a whole card or file left out.\n" ) );
+}
+
+CommandInfo Convert()
+{
+    const QString file = QStringLiteral( "FILE" );
+    return Reading(
+        QStringLiteral( "convert" ), QStringLiteral( "Writes the contacts in another format, and their pictures." ),
+        { Valued( QStringLiteral( "t" ), s_kToOption, QStringLiteral( "FORMAT" ),
+                  QStringLiteral( "json, one array of all contacts; json-lines, an object a line; or html, a page for "
+                                  "a browser. Without this option the ending of the output decides." ),
+                  FormatNames() ),
+          Valued( QStringLiteral( "o" ), s_kOutputOption, file,
+                  QStringLiteral( "The output; standard output unless given." ) ),
+          Valued( QStringLiteral( "p" ), s_kPhotosOption, QStringLiteral( "DIR" ),
+                  QStringLiteral( "Writes the pictures into a folder." ) ),
+          Valued( QStringLiteral( "r" ), s_kRejectsOption, file,
+                  QStringLiteral( "Writes what was refused or dropped, as it was found." ) ),
+          Flag( QStringLiteral( "f" ), s_kForceOption, QStringLiteral( "Lets the outputs replace files that exist." ) ) },
+        QStringLiteral( "\nAs FILE, - is standard output. A file appears only when it is complete.\n" ) );
+}
+
+CommandInfo Help()
+{
+    CommandInfo command;
+    command.m_name = QStringLiteral( "help" );
+    command.m_summary = QStringLiteral( "Explains a command." );
+    command.m_arguments = QStringLiteral( "[COMMAND]" );
+    command.m_argumentsHelp = QStringLiteral( "The command; without it, all of them." );
+    return command;
+}
+
+} // namespace
+
+const std::vector<CommandInfo>& Commands()
+{
+    static const std::vector<CommandInfo> s_kCommands = { List(), Show(), Check(), Convert(), Help() };
+    return s_kCommands;
+}
+
+const std::vector<OptionInfo>& CommonOptions()
+{
+    static const std::vector<OptionInfo> s_kOptions = {
+        Flag( QStringLiteral( "q" ), s_kQuietOption,
+              QStringLiteral( "Prints no totals and remarks on standard error, only errors." ) ),
+        Flag( QStringLiteral( "h" ), s_kHelpOption, QStringLiteral( "Shows this help and ends." ) ),
+        Flag( QStringLiteral( "v" ), s_kVersionOption, QStringLiteral( "Shows the version and ends." ) ),
+    };
+    return s_kOptions;
+}
+
+const CommandInfo* FindCommand( const QByteArray& a_name )
+{
+    const auto& commands = Commands();
+    const auto found =
+        std::find_if( commands.begin(), commands.end(), [&a_name]( const CommandInfo& a_command )
+                      { return a_command.m_name.toLatin1() == a_name; } );
+    return found == commands.end() ? nullptr : &*found;
+}
+
+} // namespace PimManager::vCard::Tools

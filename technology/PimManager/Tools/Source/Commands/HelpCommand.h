@@ -1,0 +1,25 @@
+/// \file
+/// `pimvcard help`.
+
+#pragma once
+
+#include "Commands/CommandLine.h"
+#include "Console.h"
+#include "ExitStatus.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace PimManager::vCard::Tools
+{
+
+/// \return what `pimvcard --help` shows: all commands, and the options that all of them have.
+QString OverviewText();
+
+/// Explains the command that the user named, or all of them.
+ExitStatus RunHelp( const CommandLine& a_line, Console& a_console );
+
+/// Reports a word that is neither a command nor a file, and which command may have been meant.
+ExitStatus RefuseCommand( const QByteArray& a_word, Console& a_console );
+
+} // namespace PimManager::vCard::Tools

@@ -1,0 +1,25 @@
+/// \file
+/// What the commands that read address books have in common.
+
+#pragma once
+
+#include "BookOptions.h"
+#include "Commands/CommandLine.h"
+#include "Console.h"
+
+#include <QString>
+
+namespace PimManager::vCard::Tools
+{
+
+/// Reads `--charset` and the limits.
+/// \param[out] a_options what the user chose.
+/// \return what is wrong with them, safe for a terminal; empty if nothing is. For an unknown character set this is a
+///         list of those that are known.
+QString ReadBookOptions( const CommandLine& a_line, BookOptions& a_options );
+
+/// Reports wrong usage of a command.
+/// \return the exit status for it.
+ExitStatus RefuseUsage( Console& a_console, const CommandLine& a_line, const QString& a_reason );
+
+} // namespace PimManager::vCard::Tools

@@ -1,0 +1,44 @@
+/// \file
+/// Contacts as JSON.
+
+#pragma once
+
+#include "BookOutput.h"
+#include "Outputs/OutputFile.h"
+
+#include <PimManager/Contacts/PimContactJson.h>
+
+#include <QByteArray>
+
+namespace PimManager::vCard::Tools
+{
+
+/// Writes each contact as an object on a line of its own, in the format of docs/contact-json.md.
+class ContactJson : public BookOutput
+{
+public:
+    enum class Form
+    {
+        Document, ///< one array of all objects
+        Lines,    ///< one document for each object
+    };
+
+    /// The first two parameters are those of OutputFile.
+    ContactJson( const QByteArray& a_fileName, OutputClaims& a_claims, Form a_form );
+
+    void Begin() override;
+    void BeginBook( const BookInRun& a_book, const Contacts::PimContactReader& a_reader ) override;
+    void TakeCard( const BookInRun& a_book, const Contacts::PimContactCard& a_card ) override;
+    void End() override;
+    void Fail( const QString& a_reason ) override { m_file.Fail( a_reason ); }
+    QStringList Failures() const override;
+
+private:
+    OutputFile m_file;
+    const bool m_isDocument;
+    bool m_isFirst = true;
+    Contacts::PimContactJson m_json;
+    QByteArray m_buffer;
+};
+
+} // namespace PimManager::vCard::Tools

@@ -1,0 +1,72 @@
+#include "ProgramRun.h"
+
+#include "TestBooks.h"
+
+#include <vector>
+
+using namespace PimManager::vCard::Tools;
+
+TEST( ConvertCommandTest, WrongUsageIsReportedWithStatusTwo )
+{
+    struct Row
+    {
+        QList<QByteArray> m_arguments;
+        const char* m_message;
+    };
+    const std::vector<Row> rows = {
+        { {}, "no file to convert" },
+        { { "x.vcf" }, "no format; --to takes json, json-lines, html" },
+        { { "-o", "x", "x.vcf" }, "no format; --to takes json, json-lines, html" },
+        { { "-o", "x", "--photos", "p", "x.vcf" }, "no format; --to takes json, json-lines, html" },
+        { { "-t", "htm", "x.vcf" },
+          "unknown format: htm; the formats are json, json-lines, html. Did you mean \"html\"?" },
+        { { "-t", "\x1B", "x.vcf" }, "unknown format: \\x1b; the formats are json, json-lines, html." },
+        { { "x.vcf", "--photos" }, "Missing value after '--photos'." },
+    };
+    for ( const Row& row : rows )
+    {
+        const ProgramRun run = RunPimvcard( QList<QByteArray>{ "convert" } + row.m_arguments );
+        EXPECT_EQ( run.m_status, 2 ) << row.m_message;
+        EXPECT_EQ( run.m_out, "" ) << row.m_message;
+        EXPECT_EQ( run.m_err, "pimvcard: " + std::string( row.m_message ) +
+                                  "\npimvcard: \"pimvcard convert --help\" shows how to use it\n" );
+    }
+}
+
+TEST( ConvertCommandTest, EndingOfTheOutputIsTheFormat )
+{
+    const Folder folder;
+    const QByteArray book = folder.Write( "book", CleanCard() );
+    struct Row
+    {
+        const char* m_name;
+        const char* m_start;
+    };
+    for ( const Row& row :
+          { Row{ "a.json", "[\n{\"file\":" }, Row{ "a.jsonl", "{\"file\":" }, Row{ "a.html", "<!DOCTYPE html>" } } )
+    {
+        const QByteArray output = folder.Path( row.m_name );
+        EXPECT_EQ( RunPimvcard( { "convert", book, "-o", output } ).m_status, 0 ) << row.m_name;
+        EXPECT_TRUE( FileContent( output ).startsWith( row.m_start ) ) << row.m_name;
+    }
+}
+
+TEST( ConvertCommandTest, NamedFormatWinsOverTheEnding )
+{
+    const Folder folder;
+    const QByteArray output = folder.Path( "a.html" );
+    EXPECT_EQ( ProgramCall( { "convert", "-", "-t", "json", "-o", output } ).WithInput( "" ).Run().m_status, 0 );
+    EXPECT_EQ( FileContent( output ).toStdString(), "[]\n" );
+}
+
+TEST( ConvertCommandTest, PicturesAndRejectsNeedNoFormat )
+{
+    const Folder folder;
+    const QByteArray rejects = folder.Path( "rejects" );
+    const ProgramRun run = ProgramCall( { "convert", "-", "--rejects", rejects, "--photos", folder.Path( "photos" ) } )
+                               .WithInput( PartCard() )
+                               .Run();
+    EXPECT_EQ( run.m_status, 1 );
+    EXPECT_EQ( run.m_out, "" );
+    EXPECT_EQ( FileContent( rejects ), "\x01\x02 %%%\r\n" );
+}

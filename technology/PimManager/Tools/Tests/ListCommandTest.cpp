@@ -1,0 +1,193 @@
+#include "ProgramRun.h"
+
+#include "TestBooks.h"
+
+#include <vector>
+
+using namespace PimManager::vCard::Tools;
+
+namespace
+{
+
+// The totals without their time.
+std::string Totals( const ProgramRun& a_run )
+{
+    const std::string line = a_run.LastMessage();
+    return line.substr( 0, line.rfind( ", " ) );
+}
+
+// The messages without the totals.
+std::string Notes( const ProgramRun& a_run )
+{
+    return a_run.m_err.substr( 0, a_run.m_err.size() - a_run.LastMessage().size() );
+}
+
+} // namespace
+
+TEST( ListCommandTest, ContactsOfAllFilesAreInOneTable )
+{
+    const Folder folder;
+    const QByteArray first = folder.Write( "a.vcf", CleanCard() + CleanCard() );
+    const QByteArray second = folder.Write( "b.vcf", CardText( "FN:Tobias\r\nEMAIL:t@example.com\r\n" ) );
+    const ProgramRun run = RunPimvcard( { "list", first, second } );
+    EXPECT_EQ( run.m_status, 0 ) << run.m_err;
+    EXPECT_EQ( run.m_out, "NAME    NUMBER         MAIL           ORGANISATION\n"
+                          "Nell    555-0100 cell\n"
+                          "Nell    555-0100 cell\n"
+                          "Tobias                 t@example.com\n" );
+    EXPECT_EQ( Notes( run ), "" );
+    EXPECT_EQ( Totals( run ), "pimvcard: 2 files, 3 contacts, 0 cards refused, 0 lines dropped" );
+}
+
+TEST( ListCommandTest, EachFileGivesItsStatusAndItsNotes )
+{
+    const Folder folder;
+    struct Row
+    {
+        QByteArray m_content;
+        int m_status;
+        const char* m_note;
+        const char* m_totals;
+    };
+    const std::vector<Row> rows = {
+        { CleanCard(), 0, "", "1 file, 1 contact, 0 cards refused, 0 lines dropped" },
+        { "", 0, "", "1 file, 0 contacts, 0 cards refused, 0 lines dropped" },
+        { QByteArray( CleanCard() ).replace( "\r\n", "\n" ), 0, "",
+          "1 file, 1 contact, 0 cards refused, 0 lines dropped" },
+        { CleanCard().chopped( 2 ), 0, "", "1 file, 1 contact, 0 cards refused, 0 lines dropped" },
+        { CleanCard() + PartCard(), 1, ": 1 line dropped; \"pimvcard check\" shows where\n",
+          "1 file, 2 contacts (1 in part), 0 cards refused, 1 line dropped" },
+        { "no card at all\r\n", 1, ": holds no vCard\n", "1 file, 0 contacts, 0 cards refused, 0 lines dropped" },
+    };
+    int number = 0;
+    for ( const Row& row : rows )
+    {
+        const QByteArray file = folder.Write( QByteArray::number( ++number ), row.m_content );
+        const ProgramRun run = RunPimvcard( { "list", file } );
+        EXPECT_EQ( run.m_status, row.m_status ) << number << run.m_err;
+        EXPECT_EQ( Notes( run ), *row.m_note == '\0' ? "" : "pimvcard: " + file.toStdString() + row.m_note ) << number;
+        EXPECT_EQ( Totals( run ), std::string( "pimvcard: " ) + row.m_totals ) << number;
+    }
+}
+
+TEST( ListCommandTest, WorstStatusWins )
+{
+    const Folder folder;
+    const QByteArray clean = folder.Write( "clean", CleanCard() );
+    const QByteArray part = folder.Write( "part", PartCard() );
+    const QByteArray missing = folder.Path( "missing" );
+    struct Row
+    {
+        QList<QByteArray> m_files;
+        int m_status;
+    };
+    const std::vector<Row> rows = {
+        { { clean, clean }, 0 },   { { part, clean }, 1 },         { { clean, part }, 1 },
+        { { missing, clean }, 2 }, { { part, missing, part }, 2 }, { { folder.Path( "" ), clean }, 2 },
+    };
+    for ( const Row& row : rows )
+    {
+        for ( const char* command : { "list", "check" } )
+            EXPECT_EQ( RunPimvcard( QList<QByteArray>{ command } + row.m_files ).m_status, row.m_status )
+                << command << row.m_files.join( ' ' ).constData();
+    }
+}
+
+TEST( ListCommandTest, FileThatCannotBeReadIsNamedAndTheOthersAreListed )
+{
+    const Folder folder;
+    const QByteArray missing = folder.Path( "missing" );
+    const ProgramRun run = RunPimvcard( { "list", missing, folder.Write( "book", CleanCard() ) } );
+    EXPECT_EQ( run.m_status, 2 );
+    EXPECT_EQ( Notes( run ), "pimvcard: " + missing.toStdString() + ": No such file or directory\n" );
+    EXPECT_NE( run.m_out.find( "Nell" ), std::string::npos );
+}
+
+TEST( ListCommandTest, DashIsStandardInput )
+{
+    const ProgramRun run = ProgramCall( { "list", "-" } ).WithInput( CleanCard() + PartCard() ).Run();
+    EXPECT_EQ( run.m_status, 1 );
+    EXPECT_NE( run.m_out.find( "Nell" ), std::string::npos );
+    EXPECT_EQ( Notes( run ), "pimvcard: standard input: 1 line dropped; \"pimvcard check\" shows where\n" );
+}
+
+TEST( ListCommandTest, CommandMayBeLeftOut )
+{
+    const Folder folder;
+    const QByteArray book = folder.Write( "book.vcf", CleanCard() );
+    const std::string table = RunPimvcard( { "list", book } ).m_out;
+    for ( const QList<QByteArray>& arguments :
+          { QList<QByteArray>{ book }, QList<QByteArray>{ "--charset", "KOI8-R", book },
+            QList<QByteArray>{ "-qc", "KOI8-R", book }, QList<QByteArray>{ "--max-cards=5", book, "-q" },
+            QList<QByteArray>{ "--", book }, QList<QByteArray>{ "-c", "KOI8-R", "list", book } } )
+    {
+        const ProgramRun run = RunPimvcard( arguments );
+        EXPECT_EQ( run.m_status, 0 ) << arguments.join( ' ' ).constData() << run.m_err;
+        EXPECT_EQ( run.m_out, table ) << arguments.join( ' ' ).constData();
+    }
+}
+
+TEST( ListCommandTest, FileMayHaveTheNameOfACommand )
+{
+    const Folder folder;
+    const QByteArray book = folder.Write( "check", CleanCard() );
+    EXPECT_EQ( RunPimvcard( { book } ).m_out, RunPimvcard( { "list", book } ).m_out );
+}
+
+TEST( ListCommandTest, QuietLeavesRemarksOutAndKeepsErrors )
+{
+    const ProgramRun run = ProgramCall( { "list", "--quiet", "-", "missing.vcf" } ).WithInput( PartCard() ).Run();
+    EXPECT_EQ( run.m_status, 2 );
+    EXPECT_EQ( run.m_out, "NAME    NUMBER  MAIL  ORGANISATION\nTobias\n" );
+    EXPECT_EQ( run.m_err, "pimvcard: missing.vcf: No such file or directory\n" );
+}
+
+TEST( ListCommandTest, CharsetIsThatOfCardsThatNameNone )
+{
+    const QByteArray card = CardText( "VERSION:3.0\r\nFN:\xE6\r\n" );
+    struct Row
+    {
+        QByteArray m_charset;
+        const char* m_name;
+    };
+    for ( const Row& row : { Row{ "windows-1252", "æ" }, Row{ "windows-1251", "ж" }, Row{ "UTF-8", "\xEF\xBF\xBD" } } )
+    {
+        const ProgramRun run = ProgramCall( { "list", "--charset", row.m_charset, "-" } ).WithInput( card ).Run();
+        EXPECT_NE( run.m_out.find( std::string( "\n" ) + row.m_name + "\n" ), std::string::npos ) << run.m_out;
+    }
+}
+
+TEST( ListCommandTest, WrongUsageIsReportedWithStatusTwo )
+{
+    struct Row
+    {
+        QList<QByteArray> m_arguments;
+        const char* m_message;
+    };
+    const std::vector<Row> rows = {
+        { { "list" }, "pimvcard: no file to list\n" },
+        { { "list", "--frob", "x" }, "pimvcard: Unknown option 'frob'.\n" },
+        { { "list", "--charst", "x" }, "pimvcard: Unknown option 'charst'. Did you mean \"--charset\"?\n" },
+        { { "list", "x", "--charset" }, "pimvcard: Missing value after '--charset'.\n" },
+        { { "list", "--quiet=no", "x" }, "pimvcard: Unexpected value after '--quiet'.\n" },
+        { { "list", "--max-cards", "many", "x" },
+          "pimvcard: --max-cards: \"many\" is not a number such as 500, 64K, 16M or 1G\n" },
+    };
+    for ( const Row& row : rows )
+    {
+        const ProgramRun run = RunPimvcard( row.m_arguments );
+        EXPECT_EQ( run.m_status, 2 ) << row.m_message;
+        EXPECT_EQ( run.m_out, "" ) << row.m_message;
+        EXPECT_EQ( run.m_err,
+                   row.m_message + std::string( "pimvcard: \"pimvcard list --help\" shows how to use it\n" ) );
+    }
+}
+
+TEST( ListCommandTest, HelpNamesEveryOptionAndTheStatus )
+{
+    const ProgramRun run = RunPimvcard( { "list", "--help" } );
+    EXPECT_EQ( run.m_status, 0 );
+    for ( const char* text : { "Usage: pimvcard [options] list BOOK...\n", "--quiet", "--charset <NAME>",
+                               "--max-card-bytes <NUMBER>", "Exit status: 0 everything is delivered" } )
+        EXPECT_NE( run.m_out.find( text ), std::string::npos ) << text << run.m_out;
+}

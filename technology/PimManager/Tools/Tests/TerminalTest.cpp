@@ -1,0 +1,96 @@
+#include "ProgramRun.h"
+#include "TerminalRun.h"
+
+#include "TestBooks.h"
+#include "TextColumns.h"
+
+#include <csignal>
+
+using namespace PimManager::vCard::Tools;
+
+namespace
+{
+
+const QByteArray s_kWide = CardText( "VERSION:3.0\r\nFN:Otmar von Hügelstein zu Maulwurfsburg und Grashalm\r\n"
+                                     "TEL;TYPE=WORK:+1-555-0170\r\nEMAIL:otmar.von.huegelstein@example.com\r\n"
+                                     "ORG:Academy of Small Hills\r\n" );
+
+} // namespace
+
+TEST( TerminalTest, TableFitsTheTerminal )
+{
+    for ( const int columns : { 40, 80, 100, 200 } )
+    {
+        TerminalRun run( { "list", "-" }, TerminalRun::Watched::Both, columns );
+        run.Feed( s_kWide );
+        EXPECT_EQ( run.Finish(), 0 );
+        const QStringList lines = QString::fromStdString( run.Screen() ).split( QLatin1Char( '\n' ) );
+        EXPECT_GT( lines.size(), 3 );
+        for ( const QString& line : lines )
+        {
+            const bool isMessage = line.startsWith( QLatin1String( "pimvcard: " ) );
+            EXPECT_TRUE( isMessage || ColumnsOf( line ) <= columns ) << columns << ": " << Utf8( line );
+        }
+    }
+}
+
+TEST( TerminalTest, PipeGetsLinesThatAreNotWrapped )
+{
+    TerminalRun run( { "list", "-" }, TerminalRun::Watched::ErrorsOnly, 40 );
+    run.Feed( s_kWide );
+    EXPECT_EQ( run.Finish(), 0 );
+    EXPECT_EQ( QByteArray::fromStdString( run.Pipe() ).count( '\n' ), 2 ) << run.Pipe();
+    EXPECT_EQ( run.Screen().find( "pimvcard: 1 file, 1 contact" ), 0U ) << run.Screen();
+}
+
+TEST( TerminalTest, CtrlCEndsInOrderWithWhatWasRead )
+{
+    const Folder folder;
+    const QByteArray rejects = folder.Path( "rejects" );
+    TerminalRun run( { "convert", "--to", "json", "--rejects", rejects, "-" }, TerminalRun::Watched::ErrorsOnly );
+    run.Feed( CleanCard() + PartCard() + "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Barnaby\r\nTEL:555-0" );
+    run.Interrupt();
+    EXPECT_EQ( run.Finish(), 130 );
+    EXPECT_NE( run.Pipe().find( "\"name\":\"Nell\"" ), std::string::npos ) << run.Pipe();
+    EXPECT_NE( run.Pipe().find( "\"name\":\"Tobias\"" ), std::string::npos ) << run.Pipe();
+    EXPECT_EQ( run.Pipe().find( "Barnaby" ), std::string::npos ) << run.Pipe();
+    EXPECT_EQ( run.Pipe().substr( run.Pipe().size() - 4 ), "}\n]\n" );
+    EXPECT_NE( run.Screen().find( "pimvcard: interrupted; this is what was read until then\npimvcard: 1 file, " ),
+               std::string::npos )
+        << run.Screen();
+    EXPECT_EQ( FileContent( rejects ), "\x01\x02 %%%\r\n" );
+}
+
+TEST( TerminalTest, CtrlCEndsACheckBehindTheLastWholeCard )
+{
+    TerminalRun run( { "check", "-" }, TerminalRun::Watched::ErrorsOnly );
+    run.Feed( PartCard() + "BEGIN:VCARD\r\nVERSION:3.0\r\nTEL:555-0" );
+    run.Interrupt();
+    EXPECT_EQ( run.Finish(), 130 );
+    EXPECT_EQ( run.Pipe().find( "standard input:4:1: dropped: " ), 0U ) << run.Pipe();
+    EXPECT_NE(
+        run.Pipe().find( "\nstandard input: 1 card: 1 in part; CR LF line endings; UTF-8 (all ASCII); version 3.0; "
+                         "1 × not-a-property; not read to its end\n" ),
+        std::string::npos )
+        << run.Pipe();
+    EXPECT_EQ( run.Screen(), "pimvcard: interrupted; this is what was read until then\n" );
+}
+
+TEST( TerminalTest, FilesBehindTheInterruptedOneAreNotRead )
+{
+    const Folder folder;
+    TerminalRun run( { "convert", "-t", "json-lines", "-", folder.Write( "book", CardText( "FN:Later\r\n" ) ) },
+                     TerminalRun::Watched::ErrorsOnly );
+    run.Feed( CleanCard() );
+    run.Interrupt();
+    EXPECT_EQ( run.Finish(), 130 );
+    EXPECT_EQ( run.Pipe().find( "Later" ), std::string::npos );
+}
+
+TEST( TerminalTest, ShortWorkShowsNoProgress )
+{
+    TerminalRun run( { "list", "--quiet", "-" }, TerminalRun::Watched::Both );
+    run.Feed( CleanCard() );
+    EXPECT_EQ( run.Finish(), 0 );
+    EXPECT_EQ( run.Screen().find( '\x1B' ), std::string::npos ) << run.Screen();
+}

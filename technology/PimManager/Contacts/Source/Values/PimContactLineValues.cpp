@@ -178,4 +178,11 @@ PimContactDecoding PimContactLine::Decoding() const
     return PimContactDecodingPrivate::Create( findings );
 }
 
+QByteArray PimContactLine::UndeclaredText() const
+{
+    const IndexedLine line = Indexed( *this );
+    ValueDecoder decoder;
+    return BytesOf( decoder.Undeclared( line ) );
+}
+
 } // namespace PimManager::Contacts

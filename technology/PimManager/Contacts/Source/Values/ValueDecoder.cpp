@@ -1,6 +1,7 @@
 #include "Values/ValueDecoder.h"
 
 #include "Text/Bytes.h"
+#include "Text/CharsetChoice.h"
 #include "Text/Codec.h"
 #include "Text/EncodedCharset.h"
 #include "Values/Buffer.h"
@@ -107,6 +108,36 @@ std::string_view ValueDecoder::Written( const IndexedLine& a_line, ByteRange a_r
     if ( !IsSurelyUtf8( a_line ) )
         DecodeRaw( a_line );
     return m_escaped.m_text;
+}
+
+std::string_view ValueDecoder::Undeclared( const IndexedLine& a_line )
+{
+    const bool isDefault = a_line.m_entry.m_charset == LineCharset::Default;
+    const bool isEncoded = a_line.m_entry.m_encoding == PimContactEncoding::QuotedPrintable;
+    if ( ( !isDefault && !isEncoded ) || a_line.m_entry.m_encoding == PimContactEncoding::Base64 )
+        return std::string_view();
+    m_runs.clear();
+    m_literals.clear();
+    Unfold( a_line, a_line.ValueRange() );
+    bool isUndeclared = isDefault && !IsAscii( m_escaped.m_text );
+    if ( isEncoded )
+    {
+        Empty( m_plain );
+        DecodeQuotedPrintable( m_escaped.m_text, m_plain, m_runs );
+        m_escaped.m_text = ViewOf( m_plain );
+        isUndeclared = isUndeclared || IsEncodedDefault( a_line );
+    }
+    return isUndeclared ? m_escaped.m_text : std::string_view();
+}
+
+// Asks about the bytes that were QUOTED-PRINTABLE.
+bool ValueDecoder::IsEncodedDefault( const IndexedLine& a_line ) const
+{
+    if ( m_runs.empty() || !RawCharset( a_line ).ContainsAscii() || !IsKnownCharset( a_line.m_card.m_defaultCharset ) )
+        return false;
+    QByteArray buffer;
+    const std::string_view named = NamedCharset( a_line, buffer );
+    return EncodedCharsetOf( ViewOf( m_plain ), named, a_line.m_card.m_defaultCharset ).m_isAssumed;
 }
 
 std::string_view ValueDecoder::Text()

@@ -40,6 +40,10 @@ public:
     ///         Valid as long as a value would be.
     std::string_view Parameters( const IndexedLine& a_line ) { return Written( a_line, a_line.m_entry.m_parameters ); }
 
+    /// \return the bytes of the value if text of it is read in the caller's default character set; otherwise, and for
+    ///         BASE64, empty. QUOTED-PRINTABLE is decoded. Valid as long as a value would be.
+    std::string_view Undeclared( const IndexedLine& a_line );
+
     /// The value with its escapes, in UTF-8. Valid until the next line.
     const EscapedText& Escaped() const { return m_escaped; }
 
@@ -56,6 +60,7 @@ private:
     void Unfold( const IndexedLine& a_line, ByteRange a_range );
     void DecodeRaw( const IndexedLine& a_line );
     void DecodeEncoded( const IndexedLine& a_line );
+    bool IsEncodedDefault( const IndexedLine& a_line ) const;
     bool Convert( std::string_view a_text, Charset a_encoded, Charset a_raw );
     void ConvertSegment( std::string_view a_text, ByteRange a_segment, Charset a_charset );
     void NoteLiterals( quint32 a_outBegin, quint32 a_segmentBegin );

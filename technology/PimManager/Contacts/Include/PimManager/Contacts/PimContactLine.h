@@ -186,6 +186,16 @@ public:
     /// \return what is found when the value is decoded. Decodes it.
     PimContactDecoding Decoding() const;
 
+    /// \return the bytes of the value if the caller's default character set is used for some of them; otherwise empty.
+    ///         QUOTED-PRINTABLE is decoded; escapes are kept.
+    ///
+    /// For programs that guess the default. It is used for text that is not UTF-8 if the line names no known character
+    /// set and, unless the text is QUOTED-PRINTABLE, no other line of the card does. A BASE64 value has no such text.
+    /// If the default is UTF-8 or unknown, no value has any.
+    /// \note Example: in a card that names no character set, `NOTE:caf\xE9\, bar` has the bytes `caf\xE9\, bar`, and
+    ///       `NOTE:bar` has none.
+    QByteArray UndeclaredText() const;
+
     /// What is unusual about the line.
     PimContactOddities Oddities() const;
 

@@ -130,6 +130,13 @@ std::string_view ValueDecoder::Undeclared( const IndexedLine& a_line )
     return isUndeclared ? m_escaped.m_text : std::string_view();
 }
 
+bool ValueDecoder::UsesDefault( const IndexedLine& a_line )
+{
+    const IndexEntry& entry = a_line.m_entry;
+    const bool isRaw = entry.m_charset == LineCharset::Default && entry.m_encoding != PimContactEncoding::Base64;
+    return isRaw || !Undeclared( a_line ).empty();
+}
+
 // Asks about the bytes that were QUOTED-PRINTABLE.
 bool ValueDecoder::IsEncodedDefault( const IndexedLine& a_line ) const
 {

@@ -44,6 +44,9 @@ public:
     ///         BASE64, empty. QUOTED-PRINTABLE is decoded. Valid as long as a value would be.
     std::string_view Undeclared( const IndexedLine& a_line );
 
+    /// \return true if the caller's default character set is used for the value or the parameters, see Undeclared().
+    bool UsesDefault( const IndexedLine& a_line );
+
     /// The value with its escapes, in UTF-8. Valid until the next line.
     const EscapedText& Escaped() const { return m_escaped; }
 

@@ -113,6 +113,16 @@ public:
     /// The default character set that applied when the card was read.
     QByteArray DefaultCharset() const;
 
+    /// \return true if text of the card or of a nested card is read in DefaultCharset(): it is not UTF-8, and the card
+    ///         names no known character set that applies to it. BASE64 values do not count. False if the default is
+    ///         UTF-8 or unknown, and for a null card.
+    ///
+    /// Such text is correct only if the default was right, so tell the user. Linear in the length of the card at most,
+    /// and much faster if no line is QUOTED-PRINTABLE.
+    /// \note Example: a card with `N:J\xF6rg` and no CHARSET uses the default. With `N;CHARSET=KOI8-R:J\xF6rg` it does
+    ///       not, and neither does a card in UTF-8.
+    bool UsesDefaultCharset() const;
+
     /// \return true if bytes, index and record are equal. The place in the file is not compared.
     bool operator==( const PimContactCard& a_other ) const;
     bool operator!=( const PimContactCard& a_other ) const;

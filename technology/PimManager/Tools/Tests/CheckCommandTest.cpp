@@ -169,7 +169,6 @@ TEST( CheckCommandTest, WrongUsageIsReportedWithStatusTwo )
         { {}, "no file to check" },
         { { "-", "--max-cards", "12x" }, "--max-cards: \"12x\" is not a number such as 500, 64K, 16M or 1G" },
         { { "-", "--max-cards" }, "Missing value after '--max-cards'." },
-        { { "-", "--charset", "no such set" }, "unknown character set" },
         { { "-", "--extents=yes" }, "Unexpected value after '--extents'." },
         { { "-", "--json" }, "Unknown option 'json'." },
     };
@@ -246,6 +245,16 @@ TEST( CheckCommandTest, HelpNamesEveryOptionAndTheStatus )
                                "--max-card-bytes <NUMBER>", "--max-book-bytes <NUMBER>",
                                "FILE:LINE:COLUMN: SEVERITY: TEXT [WORD]", "Exit status: 0 everything is delivered" } )
         EXPECT_NE( run.m_out.find( text ), std::string::npos ) << text << "\n" << run.m_out;
+}
+
+TEST( CheckCommandTest, UnknownCharsetListsThoseThatAreKnown )
+{
+    const ProgramRun run = RunPimvcard( { "check", "--charset", "koi8-x\x1B", "-" } );
+    EXPECT_EQ( run.m_status, 2 );
+    EXPECT_EQ( run.m_out, "" );
+    EXPECT_EQ( run.m_err.find( "pimvcard: unknown character set: koi8-x\\x1b; known are UTF-8, " ), 0U ) << run.m_err;
+    for ( const char* name : { ", windows-1252", ", Shift_JIS", ", KOI8-R" } )
+        EXPECT_NE( run.m_err.find( name ), std::string::npos ) << name << run.m_err;
 }
 
 TEST( CheckCommandTest, HelpShowsTheDefaultsOfTheReader )

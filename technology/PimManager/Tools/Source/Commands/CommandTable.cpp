@@ -3,6 +3,8 @@
 #include "Commands/LimitOptions.h"
 #include "Commands/OutputFormat.h"
 
+#include <PimManager/Contacts/PimContactCharset.h>
+
 #include <algorithm>
 
 namespace PimManager::vCard::Tools
@@ -35,7 +37,8 @@ CommandInfo Reading( const QString& a_name, const QString& a_summary, const std:
     command.m_options.push_back(
         Valued( QStringLiteral( "c" ), s_kCharsetOption, QStringLiteral( "NAME" ),
                 QStringLiteral( "The character set of cards that are not in UTF-8 and name none. Without this option "
-                                "it is guessed from their letters." ) ) );
+                                "it is guessed from their letters. A NAME that is wrong lists those that are right." ),
+                CharsetNames() ) );
     const std::vector<OptionInfo> limits = LimitOptions();
     command.m_options.insert( command.m_options.end(), limits.begin(), limits.end() );
     command.m_helpTail =
@@ -123,6 +126,15 @@ const std::vector<OptionInfo>& CommonOptions()
         Flag( QStringLiteral( "v" ), s_kVersionOption, QStringLiteral( "Shows the version and ends." ) ),
     };
     return s_kOptions;
+}
+
+QStringList CharsetNames()
+{
+    QStringList names;
+    const QList<QByteArray> all = Contacts::PimContactCharset::Names();
+    for ( const QByteArray& name : all )
+        names << QString::fromLatin1( name );
+    return names;
 }
 
 const CommandInfo* FindCommand( const QByteArray& a_name )

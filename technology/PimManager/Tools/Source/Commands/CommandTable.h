@@ -50,6 +50,9 @@ const std::vector<OptionInfo>& CommonOptions();
 /// \return the command of this name; null if there is none.
 const CommandInfo* FindCommand( const QByteArray& a_name );
 
+/// \return the names of the character sets that the reader knows.
+QStringList CharsetNames();
+
 // The names of the options, without the limits; those are in LimitOptions.h.
 inline const QString s_kHelpOption = QStringLiteral( "help" );
 inline const QString s_kVersionOption = QStringLiteral( "version" );

@@ -1,15 +1,38 @@
 #include "Commands/ReadingCommand.h"
 
 #include "Commands/LimitOptions.h"
+#include "Commands/Suggestion.h"
+#include "TerminalText.h"
+
+#include <PimManager/Contacts/PimContactCharset.h>
 
 namespace PimManager::vCard::Tools
 {
+
+using namespace Contacts;
+
+namespace
+{
+
+QString UnknownCharset( const QByteArray& a_name )
+{
+    const QStringList names = CharsetNames();
+    return QStringLiteral( "unknown character set: %1; known are %2.%3" )
+        .arg( ToShownFileName( a_name ), names.join( QStringLiteral( ", " ) ),
+              SuggestionFor( QString::fromUtf8( a_name ), names ) );
+}
+
+} // namespace
 
 QString ReadBookOptions( const CommandLine& a_line, BookOptions& a_options )
 {
     if ( a_line.IsSet( s_kCharsetOption ) )
     {
-        a_options.m_reader.SetDefaultCharset( a_line.Value( s_kCharsetOption ) );
+        const QByteArray label = a_line.Value( s_kCharsetOption );
+        const PimContactCharset charset = PimContactCharset::Of( label );
+        if ( !charset.IsKnown() )
+            return UnknownCharset( label );
+        a_options.m_reader.SetDefaultCharset( charset.Name() );
         a_options.m_isCharsetGuessed = false;
     }
     return ApplyLimits( a_line, a_options.m_reader );

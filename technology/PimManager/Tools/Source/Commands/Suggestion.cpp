@@ -47,7 +47,7 @@ QString SuggestionFor( const QString& a_word, const QStringList& a_words )
     {
         if ( std::abs( static_cast<int>( a_word.size() - word.size() ) ) > s_kMostChanges )
             continue;
-        const int changes = Changes( a_word, word );
+        const int changes = Changes( a_word.toLower(), word.toLower() );
         if ( changes < fewest && 2 * changes < word.size() )
         {
             fewest = changes;

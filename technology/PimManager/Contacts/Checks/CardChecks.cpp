@@ -13,11 +13,6 @@ namespace PimManager::Contacts::Checks
 namespace
 {
 
-Broken InCard( const Broken& a_broken, const PimContactCard& a_card )
-{
-    return a_broken.isEmpty() ? a_broken : a_broken + " in card " + QByteArray::number( a_card.Number() );
-}
-
 bool HasKind( const std::vector<PimContactExtent>& a_extents, PimContactExtentKind a_kind )
 {
     return std::any_of( a_extents.begin(), a_extents.end(),

@@ -1,6 +1,7 @@
 #include "Checks/Invariants.h"
 
 #include "Checks/CardChecks.h"
+#include "Checks/ConversionChecks.h"
 #include "Checks/DiagnosticChecks.h"
 #include "Checks/ExtentChecks.h"
 #include "Checks/FilterChecks.h"
@@ -27,10 +28,19 @@ struct Check
 
 // Later checks rely on earlier ones.
 constexpr std::array s_kChecks = {
-    Check{ "Extents", BrokenExtents },         Check{ "Sums", BrokenSums },       Check{ "Cards", BrokenCards },
-    Check{ "Counts", BrokenCounts },           Check{ "Lines", BrokenLineTexts }, Check{ "Limits", BrokenLimits },
-    Check{ "Diagnostics", BrokenDiagnostics }, Check{ "Filter", BrokenFilter },   Check{ "Pieces", BrokenPieces },
-    Check{ "Reread", BrokenReread },           Check{ "Markers", BrokenMarkers },
+    Check{ "Extents", BrokenExtents },
+    Check{ "Sums", BrokenSums },
+    Check{ "Cards", BrokenCards },
+    Check{ "Counts", BrokenCounts },
+    Check{ "Lines", BrokenLineTexts },
+    Check{ "Limits", BrokenLimits },
+    Check{ "Diagnostics", BrokenDiagnostics },
+    Check{ "Filter", BrokenFilter },
+    Check{ "Pieces", BrokenPieces },
+    Check{ "Reread", BrokenReread },
+    Check{ "Markers", BrokenMarkers },
+    Check{ "Objects", BrokenObjects },
+    Check{ "Json", BrokenJson },
 };
 
 } // namespace

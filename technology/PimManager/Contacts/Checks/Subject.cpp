@@ -34,6 +34,11 @@ Broken Same( const char* a_what, qint64 a_found, qint64 a_expected )
            QByteArray::number( a_expected );
 }
 
+Broken InCard( const Broken& a_broken, const PimContactCard& a_card )
+{
+    return a_broken.isEmpty() ? a_broken : a_broken + " in card " + QByteArray::number( a_card.Number() );
+}
+
 QByteArray Slice( const QByteArray& a_text, qint64 a_offset, qint64 a_length )
 {
     using Place = decltype( a_text.size() );

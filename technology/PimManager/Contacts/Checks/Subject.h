@@ -42,6 +42,9 @@ Broken Holds( bool a_isTrue, const char* a_what );
 /// \return the property, and the two numbers if they differ; else nothing.
 Broken Same( const char* a_what, qint64 a_found, qint64 a_expected );
 
+/// \return the broken property with the number of the card; nothing if it holds.
+Broken InCard( const Broken& a_broken, const PimContactCard& a_card );
+
 /// \return the bytes from the offset on; fewer if the text ends before.
 QByteArray Slice( const QByteArray& a_text, qint64 a_offset, qint64 a_length );
 

@@ -1,6 +1,7 @@
 // The checks can fail: each row changes something that the reader returned, or what the check compares it with.
 
 #include "Checks/CardChecks.h"
+#include "Checks/ConversionChecks.h"
 #include "Checks/ConvertedText.h"
 #include "Checks/DiagnosticChecks.h"
 #include "Checks/ExtentChecks.h"
@@ -19,6 +20,7 @@
 #include <ostream>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace PimManager::Contacts
 {
@@ -132,11 +134,39 @@ const Row s_kRows[] = {
       "differs when read by" },
     { "OtherCharsetWhenRereading", BrokenReread,
       []( Subject& a_subject ) { a_subject.m_options.SetDefaultCharset( "KOI8-R" ); }, "read alone" },
+    { "NullCardForObjects", BrokenObjects,
+      []( Subject& a_subject ) { a_subject.m_reading.m_cards[1] = PimContactCard(); }, "has no objects" },
 };
 
 INSTANTIATE_TEST_SUITE_P( Rows, ChecksTest, testing::ValuesIn( s_kRows ),
                           []( const testing::TestParamInfo<Row>& a_info )
                           { return std::string( a_info.param.m_name ); } );
+
+TEST( JsonTextChecksTest, EveryFaultOfTheJsonIsFound )
+{
+    struct JsonRow
+    {
+        QByteArray m_json;
+        const char* m_broken;
+    };
+    const std::vector<JsonRow> rows = {
+        { "{\"properties\":[{},{}]}", "" },
+        { " {\"properties\":[{},{}]}", "not an object" },
+        { "{\"properties\":[{},{}]}\n", "not an object" },
+        { "{\"properties\":[{},{\"a\":\"\x1F\"}]}", "control characters" },
+        { "{\"properties\":[{},{\"a\":\"\x7F\"}]}", "control characters" },
+        { "{\"properties\":[{},{\"a\":\"\xC3\"}]}", "not UTF-8" },
+        { "{\"properties\":[{},{\"a\":\"}]}", "cannot be parsed" },
+        { "{\"properties\":[{}]}", "properties of the JSON" },
+        { "{}", "properties of the JSON" },
+    };
+    for ( const JsonRow& row : rows )
+    {
+        const std::string broken = BrokenJsonText( row.m_json, 2 ).toStdString();
+        EXPECT_EQ( broken.empty(), *row.m_broken == 0 ) << row.m_json.toStdString() << broken;
+        EXPECT_NE( broken.find( row.m_broken ), std::string::npos ) << row.m_json.toStdString() << broken;
+    }
+}
 
 TEST( ConvertedTextTest, Utf16BecomesUtf8 )
 {

@@ -2,9 +2,11 @@
 
 #include "SupportReadings.h"
 
-#include "PimVCardImporter.h"
 #include "PimVCardParser.h"
 #include "PimVCardTestLog.h"
+
+#include <PimManager/Contacts/PimContactBook.h>
+#include <PimManager/Contacts/PimContactVCard.h>
 
 #include <QStringList>
 
@@ -15,47 +17,87 @@
 namespace PimManager::vCard::Documents
 {
 
-using namespace vCardImport;
+using namespace Contacts;
 
 namespace
 {
 
-using Properties = QList<PimVCardProperty*>;
 using Cards = std::vector<std::unique_ptr<PimVCard>>;
 
-Properties ExampleProperties( const PimVCard& a_card, const SupportExample& a_example )
+QString ShownProperty( const QString& a_group, const QString& a_name, const QStringList& a_parameters,
+                       const QStringList& a_values )
 {
-    // The line VERSION that the document does not show.
-    return a_card.GetProperties().mid( a_example.m_isWrapped ? 1 : 0 );
+    QString text = a_group.isEmpty() ? a_name : a_group + QLatin1Char( '.' ) + a_name;
+    for ( const QString& parameter : a_parameters )
+        text += QLatin1Char( '[' ) + parameter + QLatin1Char( ']' );
+    for ( const QString& value : a_values )
+        text += QLatin1Char( '<' ) + value + QLatin1Char( '>' );
+    return QLatin1Char( '`' ) + Shown( text ) + QLatin1Char( '`' );
 }
 
-QString Shown( const PimVCardProperty& a_property )
+QString ShownProperty( const PimVCardProperty& a_property )
 {
-    QString text = a_property.GetGroupID();
-    if ( !text.isEmpty() )
-        text += QLatin1Char( '.' );
-    text += a_property.GetName();
-    const QList<PimVCardParameter*> parameters = a_property.GetParameters();
-    for ( const PimVCardParameter* parameter : parameters )
+    QStringList parameters;
+    const QList<PimVCardParameter*> ofProperty = a_property.GetParameters();
+    for ( const PimVCardParameter* parameter : ofProperty )
     {
         const QString name = parameter->GetName().isEmpty() ? QString() : parameter->GetName() + QLatin1Char( '=' );
-        text += QLatin1Char( '[' ) + name + parameter->GetValue() + QLatin1Char( ']' );
+        parameters << name + parameter->GetValue();
     }
-    const QList<QString> values = a_property.GetValues();
-    for ( const QString& value : values )
-        text += QLatin1Char( '<' ) + value + QLatin1Char( '>' );
-    return QLatin1Char( '`' ) + Documents::Shown( text ) + QLatin1Char( '`' );
+    return ShownProperty( a_property.GetGroupID(), a_property.GetName(), parameters,
+                          QStringList( a_property.GetValues() ) );
 }
 
-QString Shown( const Cards& a_cards, const SupportExample& a_example )
+// White space in BASE64 means nothing.
+QStringList ValuesOf( const PimContactLine& a_line )
+{
+    QStringList values = a_line.Values();
+    if ( a_line.Encoding() == PimContactEncoding::Base64 )
+        values.replaceInStrings( QStringLiteral( " " ), QString() );
+    return values;
+}
+
+QStringList ShownProperties( const PimContactCard& a_card );
+
+QString ShownProperty( const PimContactLine& a_line )
+{
+    QStringList parameters;
+    const QList<QByteArray> ofLine = a_line.Parameters();
+    for ( const QByteArray& parameter : ofLine )
+        parameters << QString::fromUtf8( parameter );
+    const QString text = ShownProperty( QString::fromUtf8( a_line.Group() ), QString::fromUtf8( a_line.Name() ),
+                                        parameters, ValuesOf( a_line ) );
+    if ( a_line.NestedCard().IsNull() )
+        return text;
+    return text + QLatin1String( " { " ) + ShownProperties( a_line.NestedCard() ).join( QLatin1Char( ' ' ) ) +
+           QLatin1String( " }" );
+}
+
+QStringList ShownProperties( const PimContactCard& a_card )
+{
+    QStringList properties;
+    for ( const PimContactLine& line : a_card )
+        properties << ShownProperty( line );
+    return properties;
+}
+
+QStringList ShownProperties( const std::unique_ptr<PimVCard>& a_card )
+{
+    QStringList properties;
+    const QList<PimVCardProperty*> ofCard = a_card->GetProperties();
+    for ( const PimVCardProperty* property : ofCard )
+        properties << ShownProperty( *property );
+    return properties;
+}
+
+template <typename CardsOfAReader>
+QString ShownCards( const CardsOfAReader& a_cards, const SupportExample& a_example )
 {
     QStringList cards;
-    for ( const std::unique_ptr<PimVCard>& card : a_cards )
+    for ( const auto& card : a_cards )
     {
-        QStringList properties;
-        const Properties ofCard = ExampleProperties( *card, a_example );
-        for ( const PimVCardProperty* property : ofCard )
-            properties << Shown( *property );
+        // The document does not show the line VERSION.
+        const QStringList properties = ShownProperties( card ).mid( a_example.m_isWrapped ? 1 : 0 );
         cards << ( properties.isEmpty() ? QStringLiteral( "no property" ) : properties.join( QLatin1Char( ' ' ) ) );
     }
     return cards.join( QStringLiteral( " / " ) );
@@ -71,77 +113,51 @@ Cards ReadByComponent( const QByteArray& a_text )
     return cards;
 }
 
-bool IsEncoded( const PimVCard& a_card )
-{
-    const Properties properties = a_card.GetProperties();
-    return std::any_of( properties.begin(), properties.end(),
-                        []( const PimVCardProperty* a_property )
-                        { return !DecodedReadings( *a_property ).isEmpty(); } );
-}
-
-QString ComponentWord( const Cards& a_cards, bool a_isSame )
+QString ComponentWord( const Cards& a_cards, const PimContactBook& a_book, bool a_isSame )
 {
     if ( a_cards.empty() )
         return QStringLiteral( "refused" );
-    if ( !a_isSame )
+    const bool isParsed =
+        std::all_of( a_book.begin(), a_book.end(),
+                     []( const PimContactCard& a_card ) { return PimContactVCard::FromCard( a_card ).IsParsed(); } );
+    if ( !a_isSame && !isParsed )
         return QStringLiteral( "changed" );
-    const bool isAsWritten =
-        std::any_of( a_cards.begin(), a_cards.end(),
-                     []( const std::unique_ptr<PimVCard>& a_card ) { return IsEncoded( *a_card ); } );
-    return isAsWritten ? QStringLiteral( "as written" ) : QStringLiteral( "accepted" );
+    const bool isDecoded =
+        std::any_of( a_book.begin(), a_book.end(),
+                     []( const PimContactCard& a_card ) { return !DecodedReadings( a_card ).isEmpty(); } );
+    return a_isSame && !isDecoded ? QStringLiteral( "accepted" ) : QStringLiteral( "as written" );
 }
 
-QString ImportWord( const PimVCardImportAccount& a_account, bool a_isSame )
+QString ContactsWord( const PimContactReport& a_report, bool a_isSame )
 {
-    if ( a_account.m_beginLines == 0 )
+    if ( a_report.Cards() == 0 )
         return QStringLiteral( "no card" );
-    if ( a_account.Findings( PimVCardSeverity::Refused ) > 0 )
-        return QStringLiteral( "refused" );
-    if ( a_account.Findings( PimVCardSeverity::Dropped ) > 0 )
-        return QStringLiteral( "dropped" );
-    if ( a_account.Findings( PimVCardSeverity::Repaired ) > 0 )
-        return QStringLiteral( "mended" );
+    for ( const PimContactSeverity severity :
+          { PimContactSeverity::Refused, PimContactSeverity::Dropped, PimContactSeverity::Repaired } )
+    {
+        if ( a_report.Findings( severity ) > 0 )
+            return NameOf( severity );
+    }
     return a_isSame ? QStringLiteral( "same" ) : QStringLiteral( "delivered" );
 }
 
-QString FindingsText( const PimVCardImportAccount& a_account )
+QString FindingsText( const PimContactReport& a_report )
 {
     QStringList words;
-    for ( const PimVCardDiagnostic& diagnostic : a_account.m_diagnostics )
-        words << QLatin1Char( '`' ) + NameOf( diagnostic.m_code ) + QLatin1Char( '`' );
+    const QList<PimContactDiagnostic> diagnostics = a_report.Diagnostics();
+    for ( const PimContactDiagnostic& diagnostic : diagnostics )
+        words << QLatin1Char( '`' ) + NameOf( diagnostic.Code() ) + QLatin1Char( '`' );
     words.removeDuplicates();
     return words.isEmpty() ? QString() : QStringLiteral( " (%1)" ).arg( words.join( QStringLiteral( ", " ) ) );
 }
 
-QStringList ReadingsOf( const Cards& a_cards )
+QStringList ReadingsOf( const PimContactBook& a_book )
 {
     QStringList readings;
-    for ( const std::unique_ptr<PimVCard>& card : a_cards )
-    {
-        const Properties properties = card->GetProperties();
-        for ( const PimVCardProperty* property : properties )
-            readings << AllReadings( *card, *property );
-    }
-    readings.removeAll( QString() );
+    for ( const PimContactCard& card : a_book )
+        readings << AllReadings( card );
     readings.removeDuplicates();
     return readings;
-}
-
-// What import gave, and how.
-struct ImportReading
-{
-    Cards m_cards;
-    PimVCardImportAccount m_account;
-};
-
-ImportReading ReadByImport( const QByteArray& a_text )
-{
-    PimVCardImportResult result = PimVCardImporter().Import( a_text );
-    ImportReading reading;
-    for ( PimVCardImportedCard& card : result.m_cards )
-        reading.m_cards.push_back( std::move( card.m_card ) );
-    reading.m_account = result.m_account;
-    return reading;
 }
 
 QString Joined( const QString& a_first, const QString& a_sign, const QString& a_second )
@@ -154,16 +170,16 @@ QString Joined( const QString& a_first, const QString& a_sign, const QString& a_
 SupportAnswer AnswerTo( const SupportExample& a_example )
 {
     const Cards cards = ReadByComponent( a_example.m_text );
-    const ImportReading import = ReadByImport( a_example.m_text );
-    const QString shown = Shown( cards, a_example );
-    const QString shownByImport = Shown( import.m_cards, a_example );
-    const bool isSame = shown == shownByImport;
+    const PimContactBook book = PimContactBook::FromBytes( a_example.m_text );
+    const QString shown = ShownCards( cards, a_example );
+    const QString shownByContacts = ShownCards( book, a_example );
+    const bool isSame = shown == shownByContacts;
 
     const QString colon = QStringLiteral( ": " );
-    const QString word = ImportWord( import.m_account, isSame ) + FindingsText( import.m_account );
-    return { Joined( ComponentWord( cards, isSame ), colon, shown ),
-             Joined( Joined( word, colon, isSame ? QString() : shownByImport ), QStringLiteral( "; " ),
-                     ReadingsOf( import.m_cards ).join( QStringLiteral( ", " ) ) ) };
+    const QString word = ContactsWord( book.Report(), isSame ) + FindingsText( book.Report() );
+    return { Joined( ComponentWord( cards, book, isSame ), colon, shown ),
+             Joined( Joined( word, colon, isSame ? QString() : shownByContacts ), QStringLiteral( "; " ),
+                     ReadingsOf( book ).join( QStringLiteral( ", " ) ) ) };
 }
 
 } // namespace PimManager::vCard::Documents

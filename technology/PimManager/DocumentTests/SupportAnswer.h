@@ -1,5 +1,5 @@
 /// \file
-/// What the component and import make of an example of `docs/vcard-support.md`, in the words of that document.
+/// What the component and Contacts make of an example of `docs/vcard-support.md`, in the words of that document.
 
 #pragma once
 
@@ -14,10 +14,10 @@ namespace PimManager::vCard::Documents
 struct SupportAnswer
 {
     QString m_component;
-    QString m_import;
+    QString m_contacts;
 };
 
-/// Has the example read by both.
+/// Reads the example with both.
 SupportAnswer AnswerTo( const SupportExample& a_example );
 
 } // namespace PimManager::vCard::Documents

@@ -2,135 +2,150 @@
 
 #include "SupportNotation.h"
 
-#include "PimVCardDecoding.h"
+#include <PimManager/Contacts/PimContactJson.h>
 
-#include <utility>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <array>
 
 namespace PimManager::vCard::Documents
 {
 
-using namespace vCardImport;
+using namespace Contacts;
 
 namespace
 {
 
-bool IsAttachment( const PimVCardProperty& a_property )
+constexpr std::array s_kParts = { "family",   "given",  "additional", "prefixes", "suffixes",   "postOfficeBox",
+                                  "extended", "street", "locality",   "region",   "postalCode", "country" };
+
+QString Named( const QString& a_name, const QString& a_text )
 {
-    return IsNamed( a_property, "PHOTO" ) || IsNamed( a_property, "LOGO" ) || IsNamed( a_property, "SOUND" ) ||
-           IsNamed( a_property, "KEY" );
+    return a_name + QLatin1String( " `" ) + Shown( a_text ) + QLatin1Char( '`' );
 }
 
-QString Quoted( const QString& a_text )
+QJsonObject JsonOf( const PimContactCard& a_card )
 {
-    return QLatin1Char( '`' ) + Shown( a_text ) + QLatin1Char( '`' );
+    return QJsonDocument::fromJson( PimContactJson::Of( a_card ) ).object();
 }
 
-QString Named( const char* a_name, const QString& a_text )
+QJsonArray Properties( const QJsonObject& a_card )
 {
-    return QLatin1String( a_name ) + QLatin1Char( ' ' ) + Quoted( a_text );
+    return a_card.value( QLatin1String( "properties" ) ).toArray();
 }
 
-QString TextReading( const QStringList& a_texts )
+QString TextOf( const QJsonObject& a_object, const char* a_member )
 {
-    return Named( "text", QLatin1Char( '<' ) + a_texts.join( QLatin1String( "><" ) ) + QLatin1Char( '>' ) );
+    return a_object.value( QLatin1String( a_member ) ).toVariant().toString();
 }
 
-QString BytesReading( const PimVCardAttachment& a_attachment )
+QStringList TextsOf( const QJsonObject& a_object, const char* a_member )
 {
-    const QString type = a_attachment.m_mediaType.isEmpty() ? QStringLiteral( "unknown" ) : a_attachment.m_mediaType;
-    return QStringLiteral( "%1 bytes, " ).arg( a_attachment.m_bytes.size() ) + Quoted( type );
+    return a_object.value( QLatin1String( a_member ) ).toVariant().toStringList();
 }
 
-QStringList DecodedParameters( const PimVCardProperty& a_property )
+QString BytesReading( const QJsonObject& a_property )
 {
+    const QString type = TextOf( a_property, "mediaType" );
+    return Named( TextOf( a_property, "size" ) + QLatin1String( " bytes," ),
+                  type.isEmpty() ? QStringLiteral( "unknown" ) : type );
+}
+
+QStringList DecodedParameters( const QJsonObject& a_property, const PimContactLine& a_line )
+{
+    const QString written = QString::fromUtf8( a_line.Parameters().join( ';' ) );
     QStringList readings;
-    const QList<PimVCardParameter*> parameters = a_property.GetParameters();
-    for ( const PimVCardParameter* parameter : parameters )
+    const QJsonArray parameters = a_property.value( QLatin1String( "parameters" ) ).toArray();
+    for ( const auto& parameter : parameters )
     {
-        const QString text = ParameterValueOf( a_property, parameter->GetName().toLatin1().constData() );
-        if ( parameter->GetValue().contains( QLatin1Char( '^' ) ) && !parameter->GetValue().contains( text ) )
-            readings << parameter->GetName() + QLatin1Char( ' ' ) + Quoted( text );
+        const QString text = TextsOf( parameter.toObject(), "values" ).join( QLatin1Char( ',' ) );
+        // Values in quotes are written with them.
+        if ( !written.contains( text ) && !QString( written ).remove( QLatin1Char( '"' ) ).contains( text ) )
+            readings << Named( TextOf( parameter.toObject(), "name" ), text );
     }
     return readings;
 }
 
-using Part = std::pair<const char*, QString>;
+QStringList DecodedReadingsOf( const QJsonObject& a_property, const PimContactLine& a_line )
+{
+    QStringList readings;
+    if ( a_property.contains( QLatin1String( "data" ) ) )
+        readings << BytesReading( a_property );
+    return readings + DecodedParameters( a_property, a_line );
+}
 
-QString PartsReading( const QList<Part>& a_parts )
+// Of the list in the head of the JSON, those that are not the text of a line.
+QStringList HeadReadings( const QJsonObject& a_json, const PimContactCard& a_card, const char* a_list,
+                          const char* a_member )
 {
     QStringList texts;
-    for ( const auto& [name, text] : a_parts )
+    for ( const PimContactLine& line : a_card )
+        texts << line.Text();
+    QStringList readings;
+    const QJsonArray entries = a_json.value( QLatin1String( a_list ) ).toArray();
+    for ( const auto& entry : entries )
     {
-        if ( !text.isEmpty() )
-            texts << Named( name, text );
+        const QString text = TextOf( entry.toObject(), a_member );
+        if ( !texts.contains( text ) )
+            readings << Named( QLatin1String( a_member ), text );
     }
-    return texts.join( QStringLiteral( ", " ) );
+    return readings;
 }
 
-QString NameReading( const PimVCardName& a_name )
+QStringList PartReadings( const QJsonObject& a_parts )
 {
-    return PartsReading( { { "family", a_name.m_family },
-                           { "given", a_name.m_given },
-                           { "additional", a_name.m_additional },
-                           { "prefixes", a_name.m_prefixes },
-                           { "suffixes", a_name.m_suffixes } } );
+    QStringList readings;
+    for ( const char* const part : s_kParts )
+    {
+        const QString text = TextOf( a_parts, part );
+        if ( !text.isEmpty() )
+            readings << Named( QLatin1String( part ), text );
+    }
+    return readings;
 }
 
-QString AddressReading( const PimVCardAddress& a_address )
+QStringList MeaningOf( const QJsonObject& a_property )
 {
-    return PartsReading( { { "box", a_address.m_postOfficeBox },
-                           { "extended", a_address.m_extended },
-                           { "street", a_address.m_street },
-                           { "locality", a_address.m_locality },
-                           { "region", a_address.m_region },
-                           { "code", a_address.m_postalCode },
-                           { "country", a_address.m_country } } );
+    QStringList readings = PartReadings( a_property.value( QLatin1String( "parts" ) ).toObject() );
+    const QStringList types = TextsOf( a_property, "types" );
+    if ( !types.isEmpty() )
+        readings << Named( QStringLiteral( "types" ), types.join( QLatin1Char( ' ' ) ) );
+    for ( const char* const member : { "preference", "label" } )
+    {
+        if ( a_property.contains( QLatin1String( member ) ) )
+            readings << Named( QLatin1String( member ), TextOf( a_property, member ) );
+    }
+    const QJsonObject call = a_property.value( QLatin1String( "call" ) ).toObject();
+    if ( !call.isEmpty() )
+        readings << Named( TextOf( call, "direction" ), TextOf( call, "time" ) );
+    return readings;
 }
 
-QString CallReading( const PimVCardCall& a_call )
+template <typename ReadingsOf>
+QStringList EachReading( const PimContactCard& a_card, const ReadingsOf& a_readingsOf )
 {
-    const char* const direction = a_call.m_direction == PimVCardCallDirection::Missed     ? "missed"
-                                  : a_call.m_direction == PimVCardCallDirection::Received ? "received"
-                                  : a_call.m_direction == PimVCardCallDirection::Dialed   ? "dialed"
-                                                                                          : "unknown";
-    return Named( direction, a_call.m_when.toString( Qt::ISODate ) );
+    const QJsonObject json = JsonOf( a_card );
+    const QJsonArray properties = Properties( json );
+    QStringList readings;
+    int place = 0;
+    for ( const PimContactLine& line : a_card )
+        readings += a_readingsOf( properties.at( place++ ).toObject(), line );
+    return readings + HeadReadings( json, a_card, "numbers", "number" ) + HeadReadings( json, a_card, "mails", "mail" );
 }
 
 } // namespace
 
-QStringList DecodedReadings( const PimVCardProperty& a_property )
+QStringList DecodedReadings( const PimContactCard& a_card )
 {
-    QStringList readings;
-    const PimVCardAttachment attachment = AttachmentOf( a_property );
-    if ( IsAttachment( a_property ) && !attachment.m_bytes.isEmpty() )
-        readings << BytesReading( attachment );
-    else if ( TextsOf( a_property ) != QStringList( a_property.GetValues() ) )
-        readings << TextReading( TextsOf( a_property ) );
-    if ( IsNamed( a_property, "TEL" ) && TelephoneNumberOf( a_property ) != TextOf( a_property ) )
-        readings << Named( "number", TelephoneNumberOf( a_property ) );
-    if ( IsNamed( a_property, "EMAIL" ) && MailAddressOf( a_property ) != TextOf( a_property ) )
-        readings << Named( "mail", MailAddressOf( a_property ) );
-    return readings + DecodedParameters( a_property );
+    return EachReading( a_card, DecodedReadingsOf );
 }
 
-QStringList AllReadings( const PimVCard& a_card, const PimVCardProperty& a_property )
+QStringList AllReadings( const PimContactCard& a_card )
 {
-    QStringList readings = DecodedReadings( a_property );
-    if ( IsNamed( a_property, "N" ) )
-        readings << NameReading( NameOf( a_property ) );
-    if ( IsNamed( a_property, "ADR" ) )
-        readings << AddressReading( AddressOf( a_property ) );
-    if ( IsAttachment( a_property ) && !AttachmentOf( a_property ).m_address.isEmpty() )
-        readings << Named( "address", AttachmentOf( a_property ).m_address );
-    if ( !TypesOf( a_property ).isEmpty() )
-        readings << Named( "kind", TypesOf( a_property ).join( QLatin1Char( ' ' ) ) );
-    if ( PreferenceOf( a_property ) != 0 )
-        readings << Named( "preference", QString::number( PreferenceOf( a_property ) ) );
-    if ( !LabelOf( a_card, a_property ).isEmpty() )
-        readings << Named( "label", LabelOf( a_card, a_property ) );
-    if ( const std::optional<PimVCardCall> call = CallOf( a_property ) )
-        readings << CallReading( *call );
-    return readings;
+    return EachReading( a_card, []( const QJsonObject& a_property, const PimContactLine& a_line )
+                        { return DecodedReadingsOf( a_property, a_line ) + MeaningOf( a_property ); } );
 }
 
 } // namespace PimManager::vCard::Documents

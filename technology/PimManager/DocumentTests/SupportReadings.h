@@ -1,20 +1,20 @@
 /// \file
-/// What the decoding helpers read from a property beyond its values as they stand.
+/// What Contacts reads from a card beyond the values of its lines.
 
 #pragma once
 
-#include "PimVCard.h"
+#include <PimManager/Contacts/PimContactCard.h>
 
 #include <QStringList>
 
 namespace PimManager::vCard::Documents
 {
 
-/// \return what the values become when they are decoded: text, bytes, a number, a mail address. Empty when the values
-///         as they stand are the text that was meant.
-QStringList DecodedReadings( const PimVCardProperty& a_property );
+/// \return what differs from the text as it is written: bytes with their media type, parameters, numbers and mail
+///         addresses. Empty if nothing does.
+QStringList DecodedReadings( const Contacts::PimContactCard& a_card );
 
-/// \return DecodedReadings(), and what else the helpers tell: parts, kinds, preference, label, address, call.
-QStringList AllReadings( const PimVCard& a_card, const PimVCardProperty& a_property );
+/// \return the same, and what else the JSON of the card says of its properties: parts, types, preference, label, call.
+QStringList AllReadings( const Contacts::PimContactCard& a_card );
 
 } // namespace PimManager::vCard::Documents

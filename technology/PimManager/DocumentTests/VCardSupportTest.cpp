@@ -1,5 +1,5 @@
-// docs/vcard-support.md: every example of it is read by the component and by import, and its row must say what came
-// out.
+// docs/vcard-support.md: every example of it is read by the component and by Contacts, and its row must say what they
+// return.
 
 #include "DocumentFile.h"
 #include "SupportAnswer.h"
@@ -20,7 +20,7 @@ std::vector<TableRow> SupportRows()
 {
     return TableRows( DocumentText( QStringLiteral( "docs/vcard-support.md" ) ),
                       { QStringLiteral( "section" ), QStringLiteral( "construct" ), QStringLiteral( "example" ),
-                        QStringLiteral( "component" ), QStringLiteral( "import" ) } );
+                        QStringLiteral( "component" ), QStringLiteral( "contacts" ) } );
 }
 
 // The version that cards have under a heading.
@@ -53,7 +53,7 @@ TEST( VCardSupportTest, EachExampleGivesWhatItsRowSays )
         const QString version = Versions().at( row.m_heading );
         const SupportAnswer answer = AnswerTo( ExampleOf( WithoutQuotes( row.m_cells[2] ), version ) );
         EXPECT_EQ( row.m_cells[3].toStdString(), answer.m_component.toStdString() ) << "line " << row.m_line;
-        EXPECT_EQ( row.m_cells[4].toStdString(), answer.m_import.toStdString() ) << "line " << row.m_line;
+        EXPECT_EQ( row.m_cells[4].toStdString(), answer.m_contacts.toStdString() ) << "line " << row.m_line;
     }
 }
 

@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include <PimManager/Contacts/PimContact.h>
 #include <PimManager/Contacts/PimContactBook.h>
 #include <PimManager/Contacts/PimContactJson.h>
 #include <PimManager/Contacts/PimContactReader.h>

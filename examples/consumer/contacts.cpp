@@ -1,5 +1,5 @@
-// Prints the names and telephone numbers of an address book as they are written there: the smallest program that uses
-// PimManager::Contacts.
+// Prints the names and telephone numbers of an address book: the smallest program that uses PimManager::Contacts.
+#include <PimManager/Contacts/PimContact.h>
 #include <PimManager/Contacts/PimContactBook.h>
 
 #include <iostream>
@@ -12,13 +12,10 @@ int main( int argc, char* argv[] )
     const PimContactBook book = PimContactBook::ReadFile( name );
     for ( const PimContactCard& card : book )
     {
-        for ( const PimContactLine& line : card )
-        {
-            if ( line.Name().toUpper() == "FN" )
-                std::cout << line.Value().toStdString() << '\n';
-            if ( line.Name().toUpper() == "TEL" )
-                std::cout << "    " << line.Value().toStdString() << '\n';
-        }
+        const PimContact contact( card );
+        std::cout << contact.DisplayName().toStdString() << '\n';
+        for ( const PimContactEntry& phone : contact.Phones() )
+            std::cout << "    " << phone.Text().toStdString() << '\n';
     }
     std::cerr << book.Report().Summary().toStdString() << '\n';
     return book.Report().ErrorText().isEmpty() ? 0 : 1;

@@ -9,8 +9,8 @@
 #include <QSemaphore>
 #include <QThread>
 
-/// The contacts of one file, which grow while the file is read in a thread of its own. Belongs to the thread that makes
-/// it, needs its event loop, and tells everything there.
+/// The contacts of one file, which grow while the file is read in a thread of its own. Belongs to the thread that
+/// creates it, needs its event loop, and emits all signals there.
 class Phonebook : public QObject
 {
     Q_OBJECT
@@ -18,13 +18,14 @@ class Phonebook : public QObject
 public:
     explicit Phonebook( const QString& a_fileName );
 
-    /// Stops the import and waits until its thread has ended, which takes one piece of the file at most.
+    /// Stops the reading and waits until its thread has ended, which takes one piece of the file at most.
     ~Phonebook() override;
 
-    /// Begins to read. To be called once.
+    /// Begins to read. Call it once.
     void Open();
 
-    /// Asks the import to stop; Finished() comes soon after. What came before stays. Nothing happens when none runs.
+    /// Asks the reading to stop; Finished() is emitted soon after. The contacts so far stay. Does nothing if nothing is
+    /// read.
     void Cancel();
 
     const Contacts& AllContacts() const { return m_contacts; }

@@ -1,31 +1,31 @@
 #include "PhonebookWorker.h"
 
-#include <PimVCardDecoding.h>
+#include <PimManager/Contacts/PimContact.h>
+#include <PimManager/Contacts/PimContactReader.h>
 
 #include <QFile>
 #include <QSemaphore>
 #include <QThread>
 
-using namespace PimManager::vCard;
-using namespace PimManager::vCardImport;
+using namespace PimManager::Contacts;
 
 namespace
 {
 
-// Small enough that progress is seen and a cancel is heard soon, large enough that handing over costs little. Cards
-// come out of import many at a time, so contacts are counted apart from pieces.
+// Small enough that progress is seen and a cancel is noticed soon, large enough that handing over costs little. A piece
+// may hold many cards, so contacts are counted as well.
 constexpr int s_kPieceBytes = 16 * 1024;
 constexpr int s_kContacts = 50;
-// How long a cancel can stay unseen while the worker waits.
+// How long a cancel can stay unnoticed while the worker waits.
 constexpr int s_kWaitMilliseconds = 20;
 
-Contact ContactOf( const PimVCard& a_card )
+Contact ContactOf( const PimContactCard& a_card )
 {
+    const PimContact read( a_card );
     Contact contact;
-    contact.m_name = DisplayNameOf( a_card );
-    for ( const PimVCardProperty* property : a_card.GetProperties() )
-        if ( IsNamed( *property, "TEL" ) )
-            contact.m_numbers.append( TelephoneNumberOf( *property ) );
+    contact.m_name = read.DisplayName();
+    for ( const PimContactEntry& phone : read.Phones() )
+        contact.m_numbers.append( phone.Text() );
     return contact;
 }
 
@@ -34,12 +34,10 @@ bool IsCancelled()
     return QThread::currentThread()->isInterruptionRequested();
 }
 
-PimVCardImportOptions ListOptions()
+PimContactOptions ListOptions()
 {
-    PimVCardImportOptions options;
-    options.m_filter.m_names =
-        QStringList{ QStringLiteral( "N" ),   QStringLiteral( "FN" ),    QStringLiteral( "NICKNAME" ),
-                     QStringLiteral( "ORG" ), QStringLiteral( "EMAIL" ), QStringLiteral( "TEL" ) };
+    PimContactOptions options;
+    options.SetNames( { "N", "FN", "NICKNAME", "ORG", "EMAIL", "TEL" } );
     return options;
 }
 
@@ -59,18 +57,18 @@ void PhonebookWorker::Run()
         emit Failed( file.errorString() );
         return;
     }
-    PimVCardImporter importer( ListOptions() );
-    importer.SetCardHandler( [this]( PimVCardImportedCard a_card ) { return TakeCard( *a_card.m_card ); } );
-    ReadPieces( file, importer );
-    const PimVCardImportAccount account = importer.Finish();
+    PimContactReader reader( ListOptions() );
+    reader.SetCardHandler( [this]( const PimContactCard& a_card ) { return TakeCard( a_card ); } );
+    ReadPieces( file, reader );
+    reader.Finish();
     HandOver();
     if ( file.error() != QFileDevice::NoError )
         emit Failed( file.errorString() );
     else
-        emit Finished( account.m_cardsRefused, IsCancelled() );
+        emit Finished( reader.Report().CardsRefused(), IsCancelled() );
 }
 
-bool PhonebookWorker::TakeCard( const PimVCard& a_card )
+bool PhonebookWorker::TakeCard( const PimContactCard& a_card )
 {
     if ( IsCancelled() )
         return false;
@@ -80,13 +78,13 @@ bool PhonebookWorker::TakeCard( const PimVCard& a_card )
     return true;
 }
 
-void PhonebookWorker::ReadPieces( QIODevice& a_file, PimVCardImporter& a_importer )
+void PhonebookWorker::ReadPieces( QIODevice& a_file, PimContactReader& a_reader )
 {
     const qint64 size = qMax( a_file.size(), qint64( 1 ) );
     int percent = 0;
     for ( QByteArray piece = a_file.read( s_kPieceBytes ); !piece.isEmpty(); piece = a_file.read( s_kPieceBytes ) )
     {
-        if ( IsCancelled() || !a_importer.Feed( piece ) )
+        if ( IsCancelled() || !a_reader.Feed( piece ) )
             return;
         HandOver();
         percent = qMax( percent, static_cast<int>( qMin( a_file.pos() * 100 / size, qint64( 100 ) ) ) );

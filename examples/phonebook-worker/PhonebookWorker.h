@@ -5,23 +5,28 @@
 
 #include "Contact.h"
 
-#include <PimVCardImporter.h>
-
 #include <QObject>
 
 class QIODevice;
 class QSemaphore;
 
-/// Imports one file in the thread in which it lives and tells what comes of it. It stops early when that thread is
-/// asked to, by QThread::requestInterruption().
+namespace PimManager::Contacts
+{
+class PimContactCard;
+class PimContactReader;
+} // namespace PimManager::Contacts
+
+/// Reads one file in the thread in which it lives and emits the contacts. It stops early when that thread is asked to,
+/// by QThread::requestInterruption().
 class PhonebookWorker : public QObject
 {
     Q_OBJECT
 
 public:
-    /// \param a_places how many times ContactsRead() may be emitted before the other side has taken what came. The
-    ///                 worker takes a place for each, and who takes the contacts gives it back; so a slow taker slows
-    ///                 the worker down, and memory does not grow. Stays the caller's; must outlive the worker.
+    /// \param a_places how many times ContactsRead() may be emitted before the receiver has handled the first. The
+    /// worker
+    ///                 acquires a place for each, and the receiver releases it. A slow receiver thus slows the worker
+    ///                 down, and memory does not grow. Must outlive the worker.
     PhonebookWorker( const QString& a_fileName, QSemaphore& a_places );
 
 public slots:
@@ -33,15 +38,15 @@ signals:
     void ContactsRead( const Contacts& a_contacts );
     /// \param a_percent of the file, from 0 to 100, never less than before.
     void Progress( int a_percent );
-    /// \param a_refused   cards that could not be read.
+    /// \param a_refused   cards that were left out.
     /// \param a_cancelled true if the thread was asked to stop before the end of the file.
     void Finished( qint64 a_refused, bool a_cancelled );
     /// The file could not be read to its end.
     void Failed( const QString& a_reason );
 
 private:
-    bool TakeCard( const PimManager::vCard::PimVCard& a_card );
-    void ReadPieces( QIODevice& a_file, PimManager::vCardImport::PimVCardImporter& a_importer );
+    bool TakeCard( const PimManager::Contacts::PimContactCard& a_card );
+    void ReadPieces( QIODevice& a_file, PimManager::Contacts::PimContactReader& a_reader );
     void HandOver();
     bool WaitForPlace();
 

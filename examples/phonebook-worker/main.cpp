@@ -1,6 +1,7 @@
-// phonebook-worker FILE [COUNT]: imports an address book in a thread of its own. The main thread prints contacts and
-// progress as they come; it never waits for the file. With COUNT it cancels the import when it has as many contacts.
-// The exit status is 0 at the end of the file, 3 after a cancel, 1 when the file cannot be read, 2 for wrong use.
+// phonebook-worker FILE [COUNT]: reads an address book in a thread of its own. The main thread prints contacts and
+// progress as they arrive; it never waits for the file. With COUNT it cancels the reading when it has that many
+// contacts. The exit status is 0 at the end of the file, 3 after a cancel, 1 when the file cannot be read, 2 for wrong
+// use.
 #include "Phonebook.h"
 
 #include <QCoreApplication>

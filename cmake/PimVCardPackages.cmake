@@ -14,8 +14,8 @@ endforeach()
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "vCard 2.1 and 3.0 reader")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Reads the address books that phones and desktop programs write, and turns
 them into contacts. A broken card is reported and left out; the cards round
-it are kept. The other libraries read books as they are found and report all
-that they mended.
+it are kept. The second library reads books as they are found and reports what
+became of every byte.
 .
 This package holds the libraries.")
 set(CPACK_COMPONENT_DEVEL_DESCRIPTION "Headers, CMake package and pkg-config files, to compile programs that read
@@ -29,7 +29,6 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
 # The libraries of others are found by what the files need. Ours go with the version to the letter.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/technology/PimManager/Lib
-                                                ${PROJECT_BINARY_DIR}/technology/PimManager/Import
                                                 ${PROJECT_BINARY_DIR}/technology/PimManager/Contacts)
 set(CPACK_DEBIAN_DEVEL_PACKAGE_SHLIBDEPS OFF)
 set(CPACK_DEBIAN_DEVEL_PACKAGE_DEPENDS "${library_package} (= ${PROJECT_VERSION}), qtbase5-dev (>= 5.15)")

@@ -1,5 +1,6 @@
 // Every sample file gives its reference result, and the invariants hold for it and for every start of it.
 
+#include "PimVCardTestLog.h"
 #include "SampleFiles.h"
 
 #include "Checks/Invariants.h"
@@ -30,6 +31,13 @@ TEST_P( ReaderSamplesTest, WholeFileGivesItsReferenceResult )
 {
     EXPECT_EQ( TranscriptOf( ReadWhole( Sample() ) ).toStdString(),
                SampleFile( GetParam() + ".expected" ).toStdString() );
+}
+
+TEST_P( ReaderSamplesTest, ReadingWritesNothingToTheLog )
+{
+    const vCard::LogCapture log;
+    const std::string transcript = TranscriptOf( ReadWhole( Sample() ) ).toStdString();
+    EXPECT_TRUE( log.Messages().isEmpty() ) << transcript;
 }
 
 TEST_P( ReaderSamplesTest, InvariantsHoldForTheWholeFile )

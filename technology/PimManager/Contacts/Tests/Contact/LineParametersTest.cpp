@@ -40,6 +40,8 @@ constexpr std::array s_kRows = {
     Row{ "TEL;TYPE=home,cell;TYPE=voice:1", "home,cell,voice|0|" },
     Row{ "TEL;HOME;CELL=:1", "HOME,CELL|0|" },
     Row{ "TEL;TYPE=\"home,cell\":1", "home,cell|0|" },
+    Row{ "TEL;TYPE=\"main line\":1", "main line|0|" },
+    Row{ "TEL;TYPE=isdn\\,fax:1", "isdn,fax|0|" },
     Row{ "TEL;TYPE==home:1", "home|0|" },
     Row{ "TEL;TYPE='home':1", "home|0|" },
     Row{ "TEL;TYPE=\\\"home\\\":1", "home|0|" },

@@ -59,6 +59,7 @@ INSTANTIATE_TEST_SUITE_P(
         BinaryJsonRow{ "Empty", "PHOTO;ENCODING=b:", Data( "", "" ) },
         BinaryJsonRow{ "NotDeclared", "PHOTO:" + s_kGif, Data( "image/gif", QByteArray::fromBase64( s_kGif ) ) },
         BinaryJsonRow{ "NamedType", "X-D;ENCODING=b;TYPE=Image/X-Own:Zm9v", Data( "image/x-own", "foo" ) },
+        BinaryJsonRow{ "TypeThatIsNone", "PHOTO;ENCODING=b;TYPE=../../etc:Zm9v", Data( "", "foo" ) },
         BinaryJsonRow{ "TypeByBytesFirst", "PHOTO;ENCODING=b;TYPE=image/png:" + s_kGif,
                        Data( "image/gif", QByteArray::fromBase64( s_kGif ) ) } ),
     RowName );

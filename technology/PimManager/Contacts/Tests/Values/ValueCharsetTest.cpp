@@ -96,6 +96,12 @@ INSTANTIATE_TEST_SUITE_P(
         ValueCharsetRow{ "RawUnknownName", "N;CHARSET=x-none:\xE9", "\xC3\xA9",
                          Problem::AssumedCharset | Problem::UnknownCharset, "windows-1252" },
         ValueCharsetRow{ "EncodedUtf8", "N;QUOTED-PRINTABLE:=C3=A9", "\xC3\xA9", {}, "UTF-8" },
+        ValueCharsetRow{
+            "EncodedUtf8NamedAscii", "N;CHARSET=US-ASCII;QUOTED-PRINTABLE:=C3=A9", "\xC3\xA9", {}, "UTF-8" },
+        ValueCharsetRow{
+            "EncodedUtf8NamedIso2022Jp", "N;CHARSET=ISO-2022-JP;QUOTED-PRINTABLE:=C3=A9", "\xC3\xA9", {}, "UTF-8" },
+        ValueCharsetRow{ "EncodedUtf8UnknownName", "N;CHARSET=x-none;QUOTED-PRINTABLE:=C3=A9", "\xC3\xA9",
+                         Problem::UnknownCharset, "UTF-8" },
         ValueCharsetRow{ "EncodedDefault", "N;QUOTED-PRINTABLE:=E9", "\xC3\xA9", Problem::AssumedCharset,
                          "windows-1252" },
         ValueCharsetRow{ "EncodedUnknownName", "N;CHARSET=x-none;QUOTED-PRINTABLE:=E9", "\xC3\xA9",

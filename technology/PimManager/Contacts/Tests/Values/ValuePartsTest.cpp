@@ -52,6 +52,7 @@ INSTANTIATE_TEST_SUITE_P(
         ValuePartsRow{ "Name40", "4.0", "n:Doe;Jane,Ann;;", s_kComponents, "Doe|Jane,Ann||", "[Doe][Jane|Ann][][]" },
         ValuePartsRow{ "NameWithoutVersion", "", "N:Doe;Jane,Ann", s_kComponents, "Doe|Jane,Ann", "[Doe][Jane|Ann]" },
         ValuePartsRow{ "EscapedInName", "3.0", "N:D\\;oe;a\\,b,c", s_kComponents, "D;oe|a,b,c", "[D;oe][a,b|c]" },
+        ValuePartsRow{ "EscapesAtTheStart", "3.0", "ORG:\\;a;\\\\b", s_kComponents, ";a|\\b", "[;a][\\b]" },
         ValuePartsRow{ "Address", "3.0", "ADR:;;1 Main\\, St,x;T", s_kComponents, "||1 Main, St,x|T",
                        "[][][1 Main, St|x][T]" },
         ValuePartsRow{ "Address21", "2.1", "ADR;HOME:;;1 Main, St;T", s_kComponents, "||1 Main, St|T",

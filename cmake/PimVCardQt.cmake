@@ -23,17 +23,4 @@ macro(pimvcard_find_qt)
   find_package(Qt${PIMVCARD_QT_VERSION} ${pimvcard_least_qt} REQUIRED COMPONENTS ${ARGV})
 endmacro()
 
-# Import uses QTextCodec, which Qt 6 has in a library of its own. A program links that library itself when
-# ours are static.
-set(pimvcard_qt_components Core)
-set(pimvcard_text_codec "")
-set(pimvcard_static_requires "")
 pimvcard_find_qt(Core)
-if(PIMVCARD_QT_VERSION STREQUAL 6)
-  pimvcard_find_qt(Core5Compat)
-  set(pimvcard_text_codec Qt6::Core5Compat)
-  if(NOT BUILD_SHARED_LIBS)
-    string(APPEND pimvcard_qt_components " Core5Compat")
-    set(pimvcard_static_requires ", Qt6Core5Compat >= ${pimvcard_least_qt}")
-  endif()
-endif()

@@ -160,22 +160,13 @@ TEST( DocumentExamplesTest, ReadmeShowsWhatCheckPrints )
     EXPECT_EQ( ( shown.join( QLatin1Char( '\n' ) ) + QLatin1Char( '\n' ) ).toStdString(), run.m_out.toStdString() );
 }
 
-TEST( DocumentExamplesTest, ReadmeShowsWhatPrintGivesAsJson )
-{
-    const ExampleFolder folder;
-    folder.Write( "card.vcf", "BEGIN:VCARD\r\nTEL;TYPE=CELL:+1-555-0101\r\nEND:VCARD\r\n" );
-    const ShellRun run = folder.Run( QStringLiteral( "pimvcard print --json-lines card.vcf" ) );
-    EXPECT_TRUE( DocumentText( QStringLiteral( "README.md" ) ).contains( QStringLiteral( "    " ) + run.m_out ) )
-        << run.m_out.toStdString();
-}
-
 TEST( DocumentExamplesTest, JsonDocumentShowsHowTheFirstContactBegins )
 {
-    const QString document = DocumentText( QStringLiteral( "docs/json.md" ) );
+    const QString document = DocumentText( QStringLiteral( "docs/contact-json.md" ) );
     const QString shown = AllMatches( document, QStringLiteral( "^```json\\n((?:.*\\n)*?)```$" ) ).value( 0 );
     const ExampleFolder folder;
     const ShellRun run =
-        folder.Run( QStringLiteral( "pimvcard import --json-lines examples/messy-phonebook.vcf 2>errors | head -1" ) );
+        folder.Run( QStringLiteral( "pimvcard convert --to json-lines examples/messy-phonebook.vcf 2>errors | head -1" ) );
     EXPECT_GT( shown.size(), 100 );
     EXPECT_TRUE( Packed( run.m_out ).startsWith( Packed( shown ) ) ) << run.m_out.toStdString();
 }
@@ -194,7 +185,7 @@ TEST( DocumentExamplesTest, ScriptsOfTheScaleDocumentGiveEveryContact )
     EXPECT_EQ( step.m_out.toStdString(), "3\n" ) << step.m_err.toStdString();
 
     folder.Write( "names.txt", "book.vcf\nmissing.vcf\n" );
-    EXPECT_NE( folder.Run( QStringLiteral( "./import-step < names.txt" ) ).m_status, 0 );
+    EXPECT_NE( folder.Run( QStringLiteral( "./convert-step < names.txt" ) ).m_status, 0 );
 }
 
 } // namespace

@@ -3,11 +3,7 @@
 #include "PimVCard.h"
 #include "PimVCardVocabulary.h"
 
-#include <QByteArray>
 #include <QStringList>
-#include <QTextCodec>
-
-#include <algorithm>
 
 namespace PimManager::vCard::Tools
 {
@@ -18,24 +14,6 @@ namespace
 bool IsSameWord( const QString& a_first, const QString& a_second )
 {
     return a_first.compare( a_second, Qt::CaseInsensitive ) == 0;
-}
-
-bool IsQuotedPrintable( const PimVCardProperty& a_property )
-{
-    const QList<PimVCardParameter*> parameters = a_property.GetParameters();
-    return std::any_of( parameters.begin(), parameters.end(),
-                        []( const PimVCardParameter* a_parameter ) {
-                            return a_parameter != nullptr && IsSameWord( a_parameter->GetValue(), s_kQuotedPrintable );
-                        } );
-}
-
-QString Decoded( const QString& a_value )
-{
-    const QByteArray bytes = QByteArray::fromPercentEncoding( a_value.toUtf8(), '=' );
-    QTextCodec::ConverterState state;
-    const QString text =
-        QTextCodec::codecForName( "UTF-8" )->toUnicode( bytes.constData(), static_cast<int>( bytes.size() ), &state );
-    return state.invalidChars == 0 && state.remainingChars == 0 ? text : a_value;
 }
 
 // From "family;given;additional;prefixes;suffixes" to the order in which a name is spoken.
@@ -50,8 +28,6 @@ QStringList InSpokenOrder( const QStringList& a_parts )
 QString NameFrom( const PimVCardProperty& a_property )
 {
     QStringList parts( a_property.GetValues() );
-    if ( IsQuotedPrintable( a_property ) )
-        std::transform( parts.begin(), parts.end(), parts.begin(), Decoded );
     if ( IsSameWord( a_property.GetName(), s_kN ) )
         parts = InSpokenOrder( parts );
     return parts.join( s_kSpace ).simplified();

@@ -13,9 +13,8 @@ class PimVCard;
 namespace PimManager::vCard::Tools
 {
 
-/// \return the name on the card: its FN, else its N in the order of speech, else what comes first of NICKNAME, ORG,
-///         EMAIL and TEL; "(no name)" when it has none of them. QUOTED-PRINTABLE in UTF-8 is decoded, any other
-///         encoding is left as written. Not cut and not made safe for a terminal.
+/// \return the name on the card as written: its FN, or else its N in the order of speech, or else the first of NICKNAME,
+///         ORG, EMAIL and TEL; `(no name)` if it has none of them. Not cut and not safe for a terminal.
 QString CardName( const PimVCard& a_card );
 
 } // namespace PimManager::vCard::Tools

@@ -1,5 +1,7 @@
 /// \file
 /// The character set of address books that do not name theirs.
+///
+/// To read a book in it, use GuessedCharset instead.
 
 #pragma once
 

@@ -27,6 +27,17 @@ EXTRA_OECMAKE = " \
 PACKAGECONFIG ??= "tools"
 PACKAGECONFIG[tools] = "-DPIMVCARD_BUILD_TOOLS=ON,-DPIMVCARD_BUILD_TOOLS=OFF"
 
+# Contacts decodes East Asian character sets with these modules, see docs/target.md. It works without them.
+RRECOMMENDS:${PN}:append:libc-glibc = " \
+    glibc-gconv-big5hkscs \
+    glibc-gconv-cp932 \
+    glibc-gconv-euc-jp-ms \
+    glibc-gconv-gb18030 \
+    glibc-gconv-libjis \
+    glibc-gconv-libksc \
+    glibc-gconv-uhc \
+"
+
 # The program apart from the libraries, as a device needs one or the other.
 PACKAGE_BEFORE_PN = "${PN}-tools"
 FILES:${PN}-tools = "${bindir} ${mandir} ${datadir}/bash-completion ${datadir}/zsh"

@@ -45,7 +45,11 @@ ExitStatus ContactRun::Run( const QList<QByteArray>& a_fileNames )
 void ContactRun::BeginBook( const QString& a_source )
 {
     m_book = { a_source, m_book.m_number + 1, PimContactReport(), false };
-    m_reader = std::make_unique<PimContactReader>( m_options.m_reader );
+}
+
+void ContactRun::BeginReading( const PimContactOptions& a_options )
+{
+    m_reader = std::make_unique<PimContactReader>( a_options );
     SetHandlers();
     ForEachOutput( [this]( BookOutput& a_output ) { a_output.BeginBook( m_book, *m_reader ); } );
 }
@@ -56,6 +60,8 @@ void ContactRun::SetHandlers()
         [this]( const PimContactCard& a_card )
         {
             m_run.CountCard();
+            if ( m_charset )
+                m_charset->Count( a_card );
             ForEachOutput( [&]( BookOutput& a_output ) { a_output.TakeCard( m_book, a_card ); } );
             return !m_run.IsReaderGone();
         } );
@@ -71,24 +77,48 @@ void ContactRun::SetHandlers()
                                                      { a_output.TakeExtent( m_book, a_extent ); } ); } );
 }
 
-// A file that is refused is read to its end, so that its extents add up to its size.
 void ContactRun::ReadBook( InputDevice& a_input )
 {
-    qint64 count = 0;
-    while ( !m_run.IsOver() && ( count = a_input.read( m_piece.data(), qint64( m_piece.size() ) ) ) > 0 )
-        m_reader->Feed( m_piece.data(), count );
+    PimContactOptions options = m_options.m_reader;
+    if ( m_options.m_isCharsetGuessed )
+    {
+        m_charset.emplace( a_input );
+        options.SetDefaultCharset( m_charset->Name() );
+    }
+    BeginReading( options );
+    Feed( m_charset ? m_charset->Device() : a_input );
     m_book.m_isReadToEnd = !m_run.IsOver() && a_input.Error() == 0;
     // Where the reading was interrupted, no END line and no line ending is missing, and a number may be cut off.
     if ( m_book.m_isReadToEnd )
         m_reader->Finish();
 }
 
+// A file that is refused is read to its end, so that its extents add up to its size. At Ctrl-C the input ends.
+void ContactRun::Feed( QIODevice& a_input )
+{
+    qint64 count = 0;
+    while ( !m_run.IsReaderGone() && ( count = a_input.read( m_piece.data(), qint64( m_piece.size() ) ) ) > 0 )
+        m_reader->Feed( m_piece.data(), count );
+}
+
 ExitStatus ContactRun::EndBook()
 {
+    // There was no memory to begin.
+    if ( !m_reader )
+        return ExitStatus::Trouble;
     m_book.m_report = m_reader->Report();
     ForEachOutput( [this]( BookOutput& a_output ) { a_output.EndBook( m_book ); } );
     m_reader.reset();
+    ReportCharset();
     return StatusOf( m_book.m_report, m_book.m_isReadToEnd );
+}
+
+void ContactRun::ReportCharset()
+{
+    const QString note = m_charset ? m_charset->Note( m_book.m_source ) : QString();
+    m_charset.reset();
+    if ( !note.isEmpty() && m_console.IsOpen() )
+        m_console.Remark( note );
 }
 
 template <typename Call>

@@ -7,6 +7,7 @@
 #include "BookOutput.h"
 #include "BookRun.h"
 #include "BookTask.h"
+#include "Charsets/GuessedCharset.h"
 
 #include <PimManager/Contacts/PimContactReader.h>
 
@@ -14,6 +15,7 @@
 #include <QList>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace PimManager::vCard::Tools
@@ -43,7 +45,10 @@ private:
 
     template <typename Call>
     void ForEachOutput( Call a_call );
+    void BeginReading( const Contacts::PimContactOptions& a_options );
     void SetHandlers();
+    void Feed( QIODevice& a_input );
+    void ReportCharset();
     bool OpenOutputs();
     bool AreOutputsReady();
     ExitStatus ReportFailures( ExitStatus a_status );
@@ -55,6 +60,8 @@ private:
     BookRun m_run;
     BookInRun m_book;
     std::unique_ptr<Contacts::PimContactReader> m_reader;
+    // Empty if the user has chosen a character set.
+    std::optional<GuessedCharset> m_charset;
     std::vector<char> m_piece;
 };
 

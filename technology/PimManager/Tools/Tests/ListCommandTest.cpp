@@ -157,6 +157,48 @@ TEST( ListCommandTest, CharsetIsThatOfCardsThatNameNone )
     }
 }
 
+TEST( ListCommandTest, CharsetIsGuessedAlikeFromFilesAndPipes )
+{
+    const Folder folder;
+    QByteArray text;
+    for ( const char* name : { "\xF7\xC5\xD4\xD2\xCF\xD7\xC1 \xFA\xC9\xCE\xC1\xC9\xC4\xC1",
+                               "\xEF\xC2\xCC\xC1\xCB\xCF\xD7\xC1 \xED\xC1\xD2\xC9\xD1",
+                               "\xF3\xD4\xC5\xD0\xC1\xCE\xCF\xD7 \xE9\xD7\xC1\xCE",
+                               "\xF0\xC5\xD4\xD2\xCF\xD7\xC1 \xEF\xCC\xD8\xC7\xC1" } )
+        text += CardText( "VERSION:2.1\r\nFN:" + QByteArray( name ) + "\r\n" );
+    const QByteArray book = folder.Write( "book", text );
+    const std::string note = ": 4 cards name no character set and were read as KOI8-R, which was guessed from their "
+                             "letters. Use --charset NAME if names look wrong.\n";
+    const ProgramRun file = RunPimvcard( { book } );
+    const ProgramRun pipe = ProgramCall( { "list", "-" } ).WithInput( text ).Run();
+    const ProgramRun chosen = RunPimvcard( { "list", "--charset", "koi8_r", book } );
+    for ( const ProgramRun& run : { file, pipe, chosen } )
+    {
+        EXPECT_EQ( run.m_status, 0 );
+        EXPECT_NE( run.m_out.find( "\nВетрова Зинаида\nОблакова Мария\nСтепанов Иван\nПетрова Ольга\n" ),
+                   std::string::npos )
+            << run.m_out;
+        EXPECT_EQ( run.m_out, file.m_out );
+    }
+    EXPECT_EQ( Notes( file ), "pimvcard: " + book.toStdString() + note );
+    EXPECT_EQ( Notes( pipe ), "pimvcard: standard input" + note );
+    EXPECT_EQ( Notes( chosen ), "" );
+}
+
+TEST( ListCommandTest, CharsetOfEachFileIsItsOwn )
+{
+    const Folder folder;
+    const QByteArray first = folder.Write( "first", CardText( "VERSION:3.0\r\nFN:J\xFCrgen\r\n" ) );
+    const QByteArray second = folder.Write( "second", CardText( "VERSION:3.0\r\nFN:Nell\r\n" ) );
+    const ProgramRun run = RunPimvcard( { "list", first, second } );
+    EXPECT_NE( run.m_out.find( "\nJürgen\nNell\n" ), std::string::npos ) << run.m_out;
+    EXPECT_EQ( Notes( run ).find( "pimvcard: " + first.toStdString() + ": 1 card names no character set and was read as "
+                                                                      "windows-1252" ),
+               0U )
+        << run.m_err;
+    EXPECT_EQ( Notes( run ).find( second.toStdString() ), std::string::npos ) << run.m_err;
+}
+
 TEST( ListCommandTest, WrongUsageIsReportedWithStatusTwo )
 {
     struct Row

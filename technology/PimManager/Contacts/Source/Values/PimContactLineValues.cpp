@@ -75,17 +75,15 @@ bool PimContactLine::IsNamed( QLatin1String a_name ) const
 
 QStringList PimContactLine::ParameterNames() const
 {
-    const IndexedLine line = Indexed( *this );
-    ValueDecoder decoder;
     QStringList names;
     QSet<QString> known;
-    for ( ParameterReader reader( decoder.Parameters( line ), line.m_card.m_record.Version() ); reader.Next(); )
+    const QList<QPair<QString, QString>> parameters = NamedParameters();
+    for ( const QPair<QString, QString>& parameter : parameters )
     {
-        const QString name = StringOf( reader.Name() ).toUpper();
-        if ( known.contains( name ) )
+        if ( known.contains( parameter.first ) )
             continue;
-        known.insert( name );
-        names.append( name );
+        known.insert( parameter.first );
+        names.append( parameter.first );
     }
     return names;
 }
@@ -101,6 +99,16 @@ QStringList PimContactLine::Parameter( QLatin1String a_name ) const
             values.append( StringOf( reader.Value() ) );
     }
     return values;
+}
+
+QList<QPair<QString, QString>> PimContactLine::NamedParameters() const
+{
+    const IndexedLine line = Indexed( *this );
+    ValueDecoder decoder;
+    QList<QPair<QString, QString>> parameters;
+    for ( ParameterReader reader( decoder.Parameters( line ), line.m_card.m_record.Version() ); reader.Next(); )
+        parameters.append( { StringOf( reader.Name() ).toUpper(), StringOf( reader.Value() ) } );
+    return parameters;
 }
 
 QStringList PimContactLine::Types() const

@@ -130,6 +130,15 @@ TEST( ParametersOfLineTest, ValuesAreFoundByName )
     EXPECT_TRUE( line.Parameter( QLatin1String() ).isEmpty() );
 }
 
+TEST( ParametersOfLineTest, ValuesAreListedWithTheirNames )
+{
+    QStringList parameters;
+    const PimContactLine line = OneLine( "TEL;HOME;pref=1;TYPE=cell,voice;X-A=\"a^nb\":1" );
+    for ( const QPair<QString, QString>& parameter : line.NamedParameters() )
+        parameters << parameter.first + QLatin1Char( '=' ) + parameter.second;
+    EXPECT_EQ( Joined( parameters ), "TYPE=HOME|PREF=1|TYPE=cell|TYPE=voice|X-A=a\nb" );
+}
+
 TEST( ParametersOfLineTest, FoldInsideParametersIsRemoved )
 {
     const PimContactLine line = OneLine( "TEL;TYPE=ho\r\n me;X-A=\"a\r\n  b\":1" );

@@ -19,6 +19,7 @@
 #include <QFlags>
 #include <QLatin1String>
 #include <QList>
+#include <QPair>
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>
@@ -153,6 +154,11 @@ public:
     ///
     /// \param a_name in ASCII and in any letter case, such as `TYPE`.
     QStringList Parameter( QLatin1String a_name ) const;
+
+    /// \return the values of all parameters in their order, each with its name. Names and values are those of
+    ///         ParameterNames() and Parameter(), but a name is repeated for each of its values. To read all parameters,
+    ///         use this function: it reads the line once.
+    QList<QPair<QString, QString>> NamedParameters() const;
 
     /// \return the values of TYPE in the letter case in which they were written.
     QStringList Types() const;

@@ -43,4 +43,19 @@ QStringList ShortenedList( const QStringList& a_texts )
     return a_texts.mid( 0, s_kListed ) << QStringLiteral( u"\u2026 (%1 in all)" ).arg( a_texts.size() );
 }
 
+QString Shortened( const QString& a_text, TextLength a_length )
+{
+    return a_length == TextLength::Short ? Shortened( a_text ) : a_text;
+}
+
+QStringList ShortenedList( const QStringList& a_texts, TextLength a_length )
+{
+    if ( a_length == TextLength::Full )
+        return a_texts;
+    QStringList texts = ShortenedList( a_texts );
+    for ( QString& text : texts )
+        text = Shortened( text );
+    return texts;
+}
+
 } // namespace PimManager::vCard::Tools

@@ -58,3 +58,15 @@ TEST( ShortTextTest, LongerListIsCutAndTellsItsLength )
     EXPECT_EQ( shown.size(), 21 );
     EXPECT_EQ( Utf8( shown.last() ), "\xE2\x80\xA6 (1000 in all)" );
 }
+
+TEST( ShortTextTest, FullLengthCutsNothing )
+{
+    const QString text = Repeated( "x", 81 );
+    EXPECT_EQ( Utf8( Shortened( text, TextLength::Full ) ), Utf8( text ) );
+    EXPECT_EQ( Utf8( Shortened( text, TextLength::Short ) ), Utf8( Shortened( text ) ) );
+    const QStringList list = QStringList( text ) + QString( 998, QLatin1Char( ';' ) ).split( QLatin1Char( ';' ) );
+    EXPECT_EQ( ShortenedList( list, TextLength::Full ), list );
+    const QStringList shown = ShortenedList( list, TextLength::Short );
+    EXPECT_EQ( shown.size(), 21 );
+    EXPECT_EQ( Utf8( shown.first() ), Utf8( Shortened( text ) ) );
+}

@@ -6,6 +6,7 @@
 #include "Commands/HelpCommand.h"
 #include "Commands/ListCommand.h"
 #include "Commands/ReadingCommand.h"
+#include "Commands/ShowCommand.h"
 #include "Version.h"
 
 #include <algorithm>
@@ -28,6 +29,7 @@ struct Reading
 
 constexpr std::array s_kReadings = {
     Reading{ "list", RunList },
+    Reading{ "show", RunShow },
     Reading{ "check", RunCheck },
     Reading{ "convert", RunConvert },
 };

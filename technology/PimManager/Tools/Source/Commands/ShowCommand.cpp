@@ -5,6 +5,9 @@
 #include "ContactRun.h"
 #include "ContactText.h"
 #include "Outputs/OutputClaims.h"
+#include "TerminalSize.h"
+
+#include <unistd.h>
 
 namespace PimManager::vCard::Tools
 {
@@ -19,7 +22,7 @@ ExitStatus RunShow( const CommandLine& a_line, Console& a_console )
         return ExitStatus::Trouble;
     const auto length = a_line.IsSet( s_kFullOption ) ? ContactText::Length::Full : ContactText::Length::Short;
     ContactRun::Outputs outputs;
-    outputs.push_back( std::make_unique<ContactText>( a_console.Out(), length ) );
+    outputs.push_back( std::make_unique<ContactText>( a_console.Out(), length, TerminalColumns( STDOUT_FILENO ) ) );
     outputs.push_back( std::make_unique<BookNotes>( a_console ) );
     return ContactRun( a_console, options, std::move( outputs ), BookRun::WithoutReader::Stop )
         .Run( a_line.Arguments() );

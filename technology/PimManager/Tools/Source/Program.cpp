@@ -7,6 +7,7 @@
 #include "Commands/ListCommand.h"
 #include "Commands/ReadingCommand.h"
 #include "Commands/ShowCommand.h"
+#include "Commands/ShowCommand.h"
 #include "Version.h"
 
 #include <algorithm>
@@ -29,6 +30,7 @@ struct Reading
 
 constexpr std::array s_kReadings = {
     Reading{ "list", RunList },
+    Reading{ "show", RunShow },
     Reading{ "show", RunShow },
     Reading{ "check", RunCheck },
     Reading{ "convert", RunConvert },

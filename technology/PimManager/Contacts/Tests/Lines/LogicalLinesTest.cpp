@@ -244,6 +244,7 @@ INSTANTIATE_TEST_SUITE_P(
         WishRow{ "FilterWithFoldedName", { { "NOTE" }, 0, 0 }, "NO\n TE:a\nT\n EL:1\n", "Line 9 NOTE=a; Filtered 8" },
         WishRow{ "LineAtTheLimit", { {}, 6, 0 }, "TEL:1\nFN:a\n", "Line 6 TEL=1; Line 5 FN=a" },
         WishRow{ "LineBeyondTheLimit", { {}, 5, 0 }, "TEL:1\nFN:a\n", "Dropped 6 LineTooLong; Line 5 FN=a" },
+        WishRow{ "FoldAtTheLimit", { {}, 9, 0 }, "TEL:1\n 2\n", "Line 9 TEL=12" },
         WishRow{ "FoldBeyondTheLimit", { {}, 8, 0 }, "TEL:1\n 2\n", "Dropped 9 LineTooLong" },
         WishRow{ "Indentation", { {}, 0, 2 }, "  FN:a\n  N:b\n    c\n", "Line 7 FN=a; Line 12 N=b c" },
         WishRow{ "IndentedBlankLine", { {}, 0, 2 }, "  FN:a\n  \n  N:b\n", "Line 7 FN=a; Blank 3; Line 6 N=b" } ),

@@ -111,8 +111,10 @@ public:
     static CardRecord RecordOf( const PimContactCard& a_card );
     static std::string_view BytesOf( const PimContactCard& a_card );
     static PimContactCard CardAt( PimContactCardPrivate* a_private, quint32 a_record );
-    static PimContactLine FirstLineOf( PimContactCardPrivate* a_private, quint32 a_record );
-    static void StepOver( PimContactLine& a_line );
+    /// \return an iterator at the first property.
+    static PimContactCard::const_iterator Begin( PimContactCardPrivate* a_private, quint32 a_record );
+    /// Goes on to the next property, or to the end.
+    static void Step( PimContactCard::const_iterator& a_iterator );
     static bool AreSamePlace( const PimContactLine& a_first, const PimContactLine& a_second );
     static bool AreEqual( const PimContactCard& a_first, const PimContactCard& a_second );
 
@@ -130,7 +132,6 @@ public:
     const quint32 m_bytesLength;
 
 private:
-    static void FindLine( PimContactLine& a_line );
     PimContactCardPrivate( const Origin& a_origin, quint32 a_indexLength, quint32 a_bytesLength );
     void* operator new( size_t /*a_size*/, void* a_block ) { return a_block; }
     void operator delete( void* /*a_block*/, void* /*a_place*/ ) {}

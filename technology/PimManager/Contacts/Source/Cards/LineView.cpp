@@ -60,6 +60,12 @@ IndexedLine PimContactCardPrivate::LineView::LineOf( const PimContactLine& a_lin
     return line;
 }
 
+bool PimContactCardPrivate::LineView::FindName( const PimContactLine& a_line, std::string_view& a_name )
+{
+    const IndexReader reader( a_line.d->Index(), a_line.m_entry, a_line.m_entry );
+    return reader.FindName( a_line.d->Bytes().data() + a_line.m_begin, a_name );
+}
+
 bool PimContactCardPrivate::LineView::FindNested( const PimContactLine& a_line, IndexEntry& a_nested )
 {
     if ( a_line.IsNull() )

@@ -77,6 +77,9 @@ public:
     static CardView CardOf( const PimContactCard& a_card );
     /// \param a_line may be null; then nothing is in the line.
     static IndexedLine LineOf( const PimContactLine& a_line );
+    /// Finds the name of a line, which is not null, without reading the rest.
+    /// \return false if the line has something unusual, so that only LineOf() finds the name.
+    static bool FindName( const PimContactLine& a_line, std::string_view& a_name );
     /// Finds the entry of the nested card that follows the line; blank lines may be in between.
     static bool FindNested( const PimContactLine& a_line, IndexEntry& a_nested );
 

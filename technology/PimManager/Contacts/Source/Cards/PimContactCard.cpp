@@ -137,23 +137,18 @@ bool PimContactCardPrivate::AreEqual( const PimContactCard& a_first, const PimCo
 
 PimContactCard::const_iterator PimContactCard::begin() const
 {
-    return const_iterator( PimContactCardPrivate::FirstLineOf( d.data(), m_record ) );
+    return PimContactCardPrivate::Begin( d.data(), m_record );
 }
 
 // A member, as every container has it. NOLINTNEXTLINE(readability-convert-member-functions-to-static)
 PimContactCard::const_iterator PimContactCard::end() const
 {
-    return const_iterator( PimContactLine() );
-}
-
-PimContactCard::const_iterator::const_iterator( const PimContactLine& a_line ) :
-    m_line( a_line )
-{
+    return const_iterator();
 }
 
 PimContactCard::const_iterator& PimContactCard::const_iterator::operator++()
 {
-    PimContactCardPrivate::StepOver( m_line );
+    PimContactCardPrivate::Step( *this );
     return *this;
 }
 

@@ -29,45 +29,37 @@ ByteRange AllOf( const IndexedLine& a_line )
 
 } // namespace
 
-// Goes to the first property at or behind a place.
-void PimContactCardPrivate::FindLine( PimContactLine& a_line )
+void PimContactCardPrivate::Step( PimContactCard::const_iterator& a_iterator )
 {
-    IndexReader reader = EntriesOf( a_line.d->Index(), a_line.m_record );
-    reader.StepTo( a_line.m_entry );
+    PimContactLine& line = a_iterator.m_line;
+    IndexReader reader( line.d->Index(), a_iterator.m_nextEntry, a_iterator.m_indexEnd );
     IndexEntry entry;
     while ( !reader.AtEnd() )
     {
-        a_line.m_entry = reader.Place();
+        line.m_entry = reader.Place();
+        line.m_begin = a_iterator.m_nextBegin;
         reader.Next( entry, true );
+        a_iterator.m_nextBegin += entry.m_length;
+        a_iterator.m_nextEntry = reader.Place();
         if ( entry.m_kind == EntryKind::Line )
             return;
-        a_line.m_begin += entry.m_length;
     }
-    a_line = PimContactLine();
+    a_iterator = PimContactCard::const_iterator();
 }
 
-PimContactLine PimContactCardPrivate::FirstLineOf( PimContactCardPrivate* a_private, quint32 a_record )
+PimContactCard::const_iterator PimContactCardPrivate::Begin( PimContactCardPrivate* a_private, quint32 a_record )
 {
-    PimContactLine line;
+    PimContactCard::const_iterator iterator;
     if ( a_private == nullptr )
-        return line;
-    line.d = a_private;
-    line.m_record = a_record;
-    line.m_entry = EntriesOf( a_private->Index(), a_record ).Place();
-    line.m_begin = CardRecord::At( a_private->Index() + a_record ).m_begin;
-    FindLine( line );
-    return line;
-}
-
-void PimContactCardPrivate::StepOver( PimContactLine& a_line )
-{
-    IndexReader reader = EntriesOf( a_line.d->Index(), a_line.m_record );
-    reader.StepTo( a_line.m_entry );
-    IndexEntry entry;
-    reader.Next( entry, true );
-    a_line.m_entry = reader.Place();
-    a_line.m_begin += entry.m_length;
-    FindLine( a_line );
+        return iterator;
+    iterator.m_line.d = a_private;
+    iterator.m_line.m_record = a_record;
+    const CardRecord record = CardRecord::At( a_private->Index() + a_record );
+    iterator.m_nextEntry = EntriesOf( a_private->Index(), a_record ).Place();
+    iterator.m_nextBegin = record.m_begin;
+    iterator.m_indexEnd = iterator.m_nextEntry + record.m_indexLength;
+    Step( iterator );
+    return iterator;
 }
 
 bool PimContactCardPrivate::AreSamePlace( const PimContactLine& a_first, const PimContactLine& a_second )

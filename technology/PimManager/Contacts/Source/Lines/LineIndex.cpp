@@ -1,5 +1,9 @@
 #include "Lines/LineIndex.h"
 
+#include "Text/Bytes.h"
+
+#include <algorithm>
+
 namespace PimManager::Contacts
 {
 
@@ -279,6 +283,19 @@ void IndexReader::Next( IndexEntry& a_entry, bool a_isBrief )
     default:
         break;
     }
+}
+
+bool IndexReader::FindName( const char* a_line, std::string_view& a_name ) const
+{
+    const uint header = m_base[m_place];
+    if ( ( header & s_kHasExtras ) != 0 )
+        return false;
+    const uchar* place = m_base + m_place + 1;
+    ReadNumber( place );
+    const quint32 length = ReadNumber( place );
+    const quint32 begin = ( header & s_kHasGroup ) != 0 ? ReadNumber( place ) + 1 : 0;
+    a_name = std::string_view( a_line + begin, length );
+    return ( header & s_kHasFolds ) == 0 || std::none_of( a_name.begin(), a_name.end(), IsLineEndByte );
 }
 
 void IndexReader::ReadLine( IndexEntry& a_entry, uint a_header )

@@ -183,6 +183,11 @@ public:
     /// not read.
     void Next( IndexEntry& a_entry, bool a_isBrief = false );
 
+    /// Finds the name of the next entry, which is a line, without reading the rest of the entry.
+    /// \param a_line the bytes of the line and what follows it.
+    /// \return false if the line has something unusual, so that only Next() finds the name.
+    bool FindName( const char* a_line, std::string_view& a_name ) const;
+
 private:
     // Of the header.
     static constexpr uint s_kKindMask = 0x07;

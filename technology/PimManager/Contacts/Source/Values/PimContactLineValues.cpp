@@ -66,11 +66,16 @@ PimContactValueKind KindOf( Delimiters a_delimiters )
 
 } // namespace
 
+// Programs ask this of each line several times, so it does not read more than the name.
 bool PimContactLine::IsNamed( QLatin1String a_name ) const
 {
-    const IndexedLine line = Indexed( *this );
+    if ( IsNull() )
+        return false;
+    std::string_view name;
+    if ( PimContactCardPrivate::LineView::FindName( *this, name ) )
+        return IsSameWord( name, ViewOf( a_name ) );
     QByteArray buffer;
-    return !IsNull() && IsSameWord( line.Name( buffer ), ViewOf( a_name ) );
+    return IsSameWord( Indexed( *this ).Name( buffer ), ViewOf( a_name ) );
 }
 
 QStringList PimContactLine::ParameterNames() const

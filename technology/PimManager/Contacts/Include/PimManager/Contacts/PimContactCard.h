@@ -154,9 +154,14 @@ public:
     bool operator!=( const const_iterator& a_other ) const;
 
 private:
-    friend class PimContactCard; // creates iterators
-    explicit const_iterator( const PimContactLine& a_line );
+    friend class PimContactCard;        // creates iterators
+    friend class PimContactCardPrivate; // steps over the lines
+
     PimContactLine m_line;
+    // What follows the line: its places in the index and in the bytes, and the end of the index.
+    quint32 m_nextEntry = 0;
+    quint32 m_nextBegin = 0;
+    quint32 m_indexEnd = 0;
 };
 
 } // namespace PimManager::Contacts

@@ -6,6 +6,7 @@
 
 #include <PimManager/Contacts/PimContact.h>
 #include <PimManager/Contacts/PimContactBook.h>
+#include <PimManager/Contacts/PimContactCharset.h>
 #include <PimManager/Contacts/PimContactJson.h>
 #include <PimManager/Contacts/PimContactReader.h>
 #include <PimManager/Contacts/PimContactVCard.h>
@@ -31,5 +32,6 @@ extern const PimContactCard card;
 extern const PimContactLine line;
 extern const PimContactReport report;
 extern PimContactReader reader;
+extern const QByteArray bytes;
 extern Connection connection;
 extern QByteArray piece;

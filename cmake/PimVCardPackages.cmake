@@ -20,8 +20,8 @@ became of every byte.
 This package holds the libraries.")
 set(CPACK_COMPONENT_DEVEL_DESCRIPTION "Headers, CMake package and pkg-config files, to compile programs that read
 address books in vCard format.")
-set(CPACK_COMPONENT_TOOLS_DESCRIPTION "Prints and checks address books in vCard format, and imports contacts and
-pictures out of messy ones, as a table, as JSON or as a page for a browser.")
+set(CPACK_COMPONENT_TOOLS_DESCRIPTION "Lists, shows and checks address books in vCard format, and writes contacts and
+pictures, also of messy books, as JSON or as a page for a browser.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEVEL_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)

@@ -38,12 +38,22 @@ QString JoinedCounts( const QList<NamedCount>& a_counts )
     return texts.join( s_kBetween );
 }
 
+QString SumPhrase( const QString& a_sum, const QList<NamedCount>& a_parts )
+{
+    const QString parts = JoinedCounts( Present( a_parts ) );
+    return parts.isEmpty() ? a_sum : a_sum + QStringLiteral( ": " ) + parts;
+}
+
 } // namespace
 
 QString CardsPhrase( qint64 a_cards, const QList<NamedCount>& a_fates )
 {
-    const QString fates = JoinedCounts( Present( a_fates ) );
-    return fates.isEmpty() ? Cards( a_cards ) : Cards( a_cards ) + QStringLiteral( ": " ) + fates;
+    return SumPhrase( Cards( a_cards ), a_fates );
+}
+
+QString BytesPhrase( qint64 a_bytes, const QString& a_unit, const QList<NamedCount>& a_places )
+{
+    return SumPhrase( QString::number( a_bytes ) + QLatin1Char( ' ' ) + a_unit, a_places );
 }
 
 QString LineEndsPhrase( const QList<NamedCount>& a_kinds )

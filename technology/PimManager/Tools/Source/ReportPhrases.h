@@ -23,6 +23,10 @@ struct NamedCount
 /// \return a number of cards and what became of them, such as `12 cards: 11 whole, 1 refused`.
 QString CardsPhrase( qint64 a_cards, const QList<NamedCount>& a_fates );
 
+/// \param a_unit  what is counted, such as `bytes` or `bytes in UTF-8`.
+/// \return a number of bytes and where they are, such as `90 bytes: 80 in properties, 10 dropped`.
+QString BytesPhrase( qint64 a_bytes, const QString& a_unit, const QList<NamedCount>& a_places );
+
 /// \param a_kinds the number of lines with each line ending.
 /// \return a phrase such as `LF line endings` or `mixed line endings (10 CR LF, 2 LF)`.
 QString LineEndsPhrase( const QList<NamedCount>& a_kinds );

@@ -72,47 +72,26 @@ QString VersionsText( const PimContactReport& a_report )
                              { a_report.CardsOf( PimContactVersion::Unknown ), QStringLiteral( "none or other" ) } } );
 }
 
-QString FindingsText( const PimContactReport& a_report )
-{
-    QList<FindingCount> codes;
-    for ( int number = 0; number < s_kPimContactDiagnosticCodes; ++number )
-    {
-        const auto code = static_cast<PimContactDiagnosticCode>( number );
-        codes << FindingCount{ static_cast<int>( SeverityOf( code ) ),
-                               { a_report.Findings( code ), QString( NameOf( code ) ) } };
-    }
-    const QStringList phrases = FindingPhrases( codes );
-    return phrases.isEmpty() ? QStringLiteral( "no findings" ) : phrases.join( QStringLiteral( ", " ) );
-}
-
 bool HoldsCards( const PimContactReport& a_report )
 {
     return a_report.FileKind() == PimContactFileKind::AddressBook;
 }
 
-QStringList FactsOnCards( const PimContactReport& a_report )
+void AddCardFacts( QList<ReportFact>& a_facts, const PimContactReport& a_report )
 {
-    QStringList facts( CardsText( a_report ) );
-    if ( a_report.CardsNested() > 0 )
-        facts << Counted( a_report.CardsNested(), QStringLiteral( "nested card" ), QStringLiteral( "nested cards" ) );
-    return facts;
+    a_facts << ReportFact{ QStringLiteral( "Cards" ), CardsText( a_report ) };
+    const qint64 nested = a_report.CardsNested();
+    if ( nested > 0 )
+        a_facts << ReportFact{ QStringLiteral( "Cards inside cards" ),
+                               Counted( nested, QStringLiteral( "nested card" ), QStringLiteral( "nested cards" ) ) };
 }
 
-QStringList FactsOnText( const PimContactReport& a_report )
+void AddTextFacts( QList<ReportFact>& a_facts, const PimContactReport& a_report )
 {
-    QStringList facts = { LineEndsText( a_report ), EncodingText( a_report ) };
+    a_facts << ReportFact{ QStringLiteral( "Line endings" ), LineEndsText( a_report ) };
+    a_facts << ReportFact{ QStringLiteral( "Encoding" ), EncodingText( a_report ) };
     if ( a_report.CardsWhole() + a_report.CardsInPart() > 0 )
-        facts << VersionsText( a_report );
-    return facts;
-}
-
-QStringList Facts( const PimContactReport& a_report )
-{
-    const PimContactFileKind kind = a_report.FileKind();
-    QStringList facts = HoldsCards( a_report ) ? FactsOnCards( a_report ) : QStringList( KindText( kind ) );
-    if ( IsText( kind ) )
-        facts << FactsOnText( a_report );
-    return facts << FindingsText( a_report );
+        a_facts << ReportFact{ QStringLiteral( "Versions" ), VersionsText( a_report ) };
 }
 
 QString Cards( qint64 a_count )
@@ -132,14 +111,64 @@ QString WithoutCardText( PimContactFileKind a_kind )
     return isKnown ? KindText( a_kind ) : QStringLiteral( "holds no vCard" );
 }
 
+QStringList SummaryFacts( const PimContactReport& a_report )
+{
+    QStringList texts;
+    const QList<ReportFact> facts = FactsOn( a_report );
+    for ( const ReportFact& fact : facts )
+        texts << fact.m_text;
+    return texts << FindingsText( a_report );
+}
+
 } // namespace
+
+QList<ReportFact> FactsOn( const PimContactReport& a_report )
+{
+    QList<ReportFact> facts;
+    const PimContactFileKind kind = a_report.FileKind();
+    if ( kind == PimContactFileKind::AddressBook )
+        AddCardFacts( facts, a_report );
+    else if ( kind != PimContactFileKind::Empty )
+        facts << ReportFact{ QStringLiteral( "File" ), KindText( kind ) };
+    if ( IsText( kind ) )
+        AddTextFacts( facts, a_report );
+    return facts;
+}
+
+QString BytesText( const PimContactReport& a_report )
+{
+    using Kind = PimContactExtentKind;
+    const QString unit = a_report.IsConverted() ? QStringLiteral( "bytes in UTF-8" ) : QStringLiteral( "bytes" );
+    return BytesPhrase( a_report.Bytes(), unit,
+                        { { a_report.Bytes( Kind::Line ), QStringLiteral( "in properties" ) },
+                          { a_report.Bytes( Kind::Boundary ), QStringLiteral( "in BEGIN and END lines" ) },
+                          { a_report.Bytes( Kind::Blank ), QStringLiteral( "in blank lines" ) },
+                          { a_report.Bytes( Kind::Mark ), QStringLiteral( "in byte order marks" ) },
+                          { a_report.Bytes( Kind::Filtered ), QStringLiteral( "in filtered properties" ) },
+                          { a_report.Bytes( Kind::Outside ), QStringLiteral( "outside cards" ) },
+                          { a_report.Bytes( Kind::Dropped ), QStringLiteral( "dropped" ) },
+                          { a_report.Bytes( Kind::Refused ), QStringLiteral( "refused" ) } } );
+}
+
+QString FindingsText( const PimContactReport& a_report )
+{
+    QList<FindingCount> codes;
+    for ( int number = 0; number < s_kPimContactDiagnosticCodes; ++number )
+    {
+        const auto code = static_cast<PimContactDiagnosticCode>( number );
+        codes << FindingCount{ static_cast<int>( SeverityOf( code ) ),
+                               { a_report.Findings( code ), QString( NameOf( code ) ) } };
+    }
+    const QStringList phrases = FindingPhrases( codes );
+    return phrases.isEmpty() ? QStringLiteral( "no findings" ) : phrases.join( QStringLiteral( ", " ) );
+}
 
 QString SummaryText( const PimContactReport& a_report, bool a_isReadToEnd )
 {
     const bool isEmpty = a_report.FileKind() == PimContactFileKind::Empty;
     if ( isEmpty && a_isReadToEnd )
         return QStringLiteral( "is empty" );
-    QStringList facts = isEmpty ? QStringList() : Facts( a_report );
+    QStringList facts = isEmpty ? QStringList() : SummaryFacts( a_report );
     if ( !a_isReadToEnd )
         facts << QStringLiteral( "not read to its end" );
     return facts.join( QStringLiteral( "; " ) );

@@ -188,3 +188,48 @@ TEST( ReportTextTest, InterruptedFileNeedNotHoldACard )
     EXPECT_EQ( StatusOf( text, false ), s_kGiven );
     EXPECT_TRUE( SummaryText( text, false ).endsWith( QLatin1String( "; not read to its end" ) ) );
 }
+
+TEST( ReportTextTest, FactsAreNamed )
+{
+    const QByteArray nested = CardText( "VERSION:2.1\r\nN:x\r\nAGENT:\r\n" + s_kOldCard );
+    struct FactsRow
+    {
+        QByteArray m_book;
+        const char* m_facts;
+    };
+    const std::vector<FactsRow> rows = {
+        { "", "" },
+        { "%PDF-1.4\n", "File: is a PDF document|" },
+        { "hello\r\n", "File: is text without a card|Line endings: CR LF line endings|Encoding: UTF-8 (all ASCII)|" },
+        { nested, "Cards: 1 card: 1 whole|Cards inside cards: 1 nested card|Line endings: CR LF line endings|"
+                  "Encoding: UTF-8 (all ASCII)|Versions: version 2.1|" },
+    };
+    for ( const FactsRow& row : rows )
+    {
+        QString text;
+        const QList<ReportFact> facts = FactsOn( ReportOn( row.m_book ) );
+        for ( const ReportFact& fact : facts )
+            text += fact.m_name + QStringLiteral( ": " ) + fact.m_text + QLatin1Char( '|' );
+        EXPECT_EQ( Utf8( text ), row.m_facts );
+    }
+}
+
+TEST( ReportTextTest, BytesAreCountedByWhatBecameOfThem )
+{
+    struct BytesRow
+    {
+        QByteArray m_book;
+        const char* m_text;
+    };
+    const QByteArray marked = "\xEF\xBB\xBF" + CardText( "N:x\r\n\r\n# y\r\n" ) + "bye\r\n";
+    const std::vector<BytesRow> rows = {
+        { "", "0 bytes" },
+        { CardText( "N:x\r\n" ), "29 bytes: 5 in properties, 24 in BEGIN and END lines" },
+        { marked, "44 bytes: 5 in properties, 24 in BEGIN and END lines, 2 in blank lines, 3 in byte order marks, "
+                  "5 outside cards, 5 dropped" },
+        { "%PDF-1.4\n", "9 bytes: 9 refused" },
+        { Utf16( "a\r\n" ), "6 bytes in UTF-8: 3 in byte order marks, 3 outside cards" },
+    };
+    for ( const BytesRow& row : rows )
+        EXPECT_EQ( Utf8( BytesText( ReportOn( row.m_book ) ) ), row.m_text );
+}

@@ -1,12 +1,11 @@
 #include "Outputs/PhotoFolder.h"
 
-#include "Attachment.h"
 #include "Outputs/SafeFileName.h"
+#include "Pictures.h"
 #include "TerminalText.h"
 #include "Wording.h"
 
-#include "PimVCard.h"
-#include "PimVCardDecoding.h"
+#include <PimManager/Contacts/PimContact.h>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -15,7 +14,7 @@
 namespace PimManager::vCard::Tools
 {
 
-using namespace vCardImport;
+using namespace Contacts;
 
 namespace
 {
@@ -42,14 +41,9 @@ void PhotoFolder::Open()
         m_error = errno;
 }
 
-void PhotoFolder::TakeCard( const ImportedBook& /*a_book*/, const PimVCardImportedCard& a_card )
+void PhotoFolder::TakeCard( const BookInRun& /*a_book*/, const PimContactCard& a_card )
 {
-    const QList<PimVCardProperty*> properties = a_card.m_card->GetProperties();
-    for ( const PimVCardProperty* property : properties )
-    {
-        if ( m_error == 0 && property != nullptr && IsPicture( *property ) )
-            TakePicture( DisplayNameOf( *a_card.m_card ), *property );
-    }
+    TakePicturesOf( a_card );
 }
 
 void PhotoFolder::End()
@@ -70,24 +64,48 @@ QStringList PhotoFolder::Failures() const
 QString PhotoFolder::Result() const
 {
     QString result = Pictures( m_written ) + QStringLiteral( " written" );
-    if ( m_addresses > 0 )
-        result += QStringLiteral( " (%1 only linked to, not fetched)" ).arg( Pictures( m_addresses ) );
+    if ( m_links > 0 )
+        result += QStringLiteral( " (%1 only linked to, not fetched)" ).arg( Pictures( m_links ) );
     if ( m_unreadable > 0 )
         result += QStringLiteral( " (%1 unreadable)" ).arg( Pictures( m_unreadable ) );
     return result;
 }
 
-void PhotoFolder::TakePicture( const QString& a_contact, const PimVCardProperty& a_property )
+// The reader limits how deeply cards nest.
+void PhotoFolder::TakePicturesOf( const PimContactCard& a_card )
 {
-    const PimVCardAttachment picture = AttachmentOf( a_property );
-    if ( picture.m_bytes.isEmpty() )
+    QByteArray stem;
+    for ( const PimContactLine& line : a_card )
     {
-        const bool isEmpty = TextOf( a_property ).trimmed().isEmpty();
-        m_addresses += picture.m_address.isEmpty() ? 0 : 1;
-        m_unreadable += picture.m_address.isEmpty() && !isEmpty ? 1 : 0;
-        return;
+        if ( m_error != 0 )
+            return;
+        if ( IsPicture( line ) )
+        {
+            stem = stem.isEmpty() ? ToSafeFileName( PimContact( a_card ).DisplayName() ) : stem;
+            TakePicture( stem, line );
+        }
+        const PimContactCard nested = line.NestedCard();
+        if ( !nested.IsNull() )
+            TakePicturesOf( nested );
     }
-    WriteFile( picture.m_bytes, ToSafeFileName( a_contact ), picture.m_fileEnding.toUtf8() );
+}
+
+void PhotoFolder::TakePicture( const QByteArray& a_stem, const PimContactLine& a_line )
+{
+    const PimContactBinary picture = a_line.Binary();
+    if ( picture.IsNull() )
+        CountText( a_line );
+    else if ( picture.IsDamaged() )
+        ++m_unreadable;
+    else if ( !picture.Bytes().isEmpty() )
+        WriteFile( picture.Bytes(), a_stem, FileEndingOf( picture ) );
+}
+
+void PhotoFolder::CountText( const PimContactLine& a_line )
+{
+    if ( a_line.Text().trimmed().isEmpty() )
+        return;
+    ++( IsLink( a_line ) ? m_links : m_unreadable );
 }
 
 void PhotoFolder::WriteFile( const QByteArray& a_bytes, const QByteArray& a_stem, const QByteArray& a_ending )

@@ -3,23 +3,28 @@
 namespace PimManager::vCard::Tools
 {
 
-using namespace vCardImport;
+using namespace Contacts;
 
 RejectsFile::RejectsFile( const QByteArray& a_fileName, OutputClaims& a_claims ) :
     m_file( a_fileName, a_claims )
 {
 }
 
-void RejectsFile::TakeReject( const PimVCardReject& a_reject )
+void RejectsFile::BeginBook( const BookInRun& /*a_book*/, const PimContactReader& /*a_reader*/ )
 {
-    // A card that is too long comes in pieces.
-    const bool isTooLong = a_reject.m_reason == PimVCardDiagnosticCode::CardTooLong;
-    const bool isNextPiece = isTooLong && a_reject.m_card == m_longCard;
-    m_longCard = isTooLong ? a_reject.m_card : -1;
-    if ( m_isLineOpen && !isNextPiece )
+    m_end = -1;
+}
+
+void RejectsFile::TakeExtent( const BookInRun& /*a_book*/, const PimContactExtent& a_extent )
+{
+    if ( a_extent.Kind() != PimContactExtentKind::Dropped && a_extent.Kind() != PimContactExtentKind::Refused )
+        return;
+    if ( m_isLineOpen && a_extent.Offset() != m_end )
         m_file.Device().write( "\r\n" );
-    m_file.Device().write( a_reject.m_bytes );
-    m_isLineOpen = !a_reject.m_bytes.endsWith( '\n' ) && !a_reject.m_bytes.endsWith( '\r' );
+    const QByteArray bytes = a_extent.Bytes();
+    m_file.Device().write( bytes );
+    m_isLineOpen = !bytes.endsWith( '\n' ) && !bytes.endsWith( '\r' );
+    m_end = a_extent.Offset() + a_extent.Length();
 }
 
 void RejectsFile::End()

@@ -3,29 +3,33 @@
 
 #pragma once
 
-#include "ImportOutput.h"
+#include "BookOutput.h"
 #include "Outputs/OutputFile.h"
 
 namespace PimManager::vCard::Tools
 {
 
-/// Writes the bytes of each card and line that was left out, one after the other, so that they can be mended by hand
-/// and imported again. Nothing is added but a line end behind a reject that has none when another follows.
-class RejectsFile : public ImportOutput
+/// Writes the bytes of all extents that were dropped or refused, one after the other, so that they can be mended by
+/// hand and read again. Nothing is added but CR LF behind a text without a line ending, if another follows that did not
+/// follow it in the file.
+class RejectsFile : public BookOutput
 {
 public:
     /// The parameters are those of OutputFile.
     RejectsFile( const QByteArray& a_fileName, OutputClaims& a_claims );
 
-    void TakeReject( const vCardImport::PimVCardReject& a_reject ) override;
+    void BeginBook( const BookInRun& a_book, const Contacts::PimContactReader& a_reader ) override;
+    void TakeExtent( const BookInRun& a_book, const Contacts::PimContactExtent& a_extent ) override;
     void End() override;
     void Fail( const QString& a_reason ) override { m_file.Fail( a_reason ); }
+    bool WantsExtents() const override { return true; }
     QStringList Failures() const override;
 
 private:
     OutputFile m_file;
     bool m_isLineOpen = false;
-    qint64 m_longCard = -1;
+    // Where the last reject ends in its file; -1 before there is one.
+    qint64 m_end = -1;
 };
 
 } // namespace PimManager::vCard::Tools

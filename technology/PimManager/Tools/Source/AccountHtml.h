@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "ImportOutput.h"
+#include "BookOutput.h"
 
 #include <QList>
 
@@ -12,10 +12,10 @@ class QIODevice;
 namespace PimManager::vCard::Tools
 {
 
-/// Writes in a sentence a file whether anything is missing.
-void WriteVerdict( QIODevice& a_device, const QList<ImportedBook>& a_books );
+/// Writes a sentence about each file of which something is missing.
+void WriteVerdict( QIODevice& a_device, const QList<BookInRun>& a_books );
 
-/// Writes the accounts with their diagnostics, each of which links to its contact.
-void WriteAccounts( QIODevice& a_device, const QList<ImportedBook>& a_books );
+/// Writes what is known about the files, with the findings. A finding about a contact links to it.
+void WriteAccounts( QIODevice& a_device, const QList<BookInRun>& a_books );
 
 } // namespace PimManager::vCard::Tools

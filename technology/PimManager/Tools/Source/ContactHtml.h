@@ -3,48 +3,24 @@
 
 #pragma once
 
-#include "Contact.h"
+#include <PimManager/Contacts/PimContactCard.h>
 
 #include <QByteArray>
-#include <QString>
 
 class QIODevice;
 
 namespace PimManager::vCard::Tools
 {
 
-/// \return what the places of the page that speak of a card are called by, such as `1-3` for the third card of the
-///         first file: the contact behind `c`, the first thing said about it behind `d`.
-QByteArray CardAnchor( int a_book, qint64 a_index );
+/// \return the part that the anchors of a card have in common, such as `1-3` for the third card of the first file. The
+///         contact itself has the anchor `c1-3`, the first finding about it `d1-3`.
+/// \param a_book from 1.
+/// \param a_card from 1.
+QByteArray CardAnchor( int a_book, qint64 a_card );
 
-/// Writes one contact: picture, name, work, numbers, addresses and notes, and behind a click everything else that the
-/// card holds. Texts of more than 2000 characters are cut, and so is what goes beyond 200 lines of any kind.
-class ContactHtml
-{
-public:
-    /// \param a_device must be open; it and the card must outlive the object.
-    ContactHtml( QIODevice& a_device, const PimVCard& a_card );
-    Q_DISABLE_COPY( ContactHtml )
-
-    /// Writes the contact once.
-    void Write( const QByteArray& a_anchor, bool a_isWhole );
-
-private:
-    void WriteFace( const QString& a_name );
-    void WriteWork( const QString& a_name );
-    void WriteWays();
-    void WriteWay( const PimVCardProperty& a_property );
-    void WriteNotes();
-    void WriteExtraPictures();
-    void WriteRest();
-    void WriteRestOf( const PimVCardProperty& a_property );
-    void WriteText( const QString& a_text );
-    bool WritePicture( const PimVCardProperty& a_property, const char* a_class );
-
-    QIODevice& m_device;
-    const PimVCard& m_card;
-    // The picture that stands beside the name.
-    const PimVCardProperty* m_facePicture = nullptr;
-};
+/// Writes one contact: the picture, and what CardHtml writes.
+/// \param a_device must be open.
+/// \param a_anchor that of the card.
+void WriteContact( QIODevice& a_device, const Contacts::PimContactCard& a_card, const QByteArray& a_anchor );
 
 } // namespace PimManager::vCard::Tools

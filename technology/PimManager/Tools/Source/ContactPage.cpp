@@ -8,7 +8,7 @@
 namespace PimManager::vCard::Tools
 {
 
-using namespace vCardImport;
+using namespace Contacts;
 
 ContactPage::ContactPage( const QByteArray& a_fileName, OutputClaims& a_claims ) :
     m_file( a_fileName, a_claims )
@@ -20,19 +20,18 @@ void ContactPage::Begin()
     m_file.Device().write( PageHead() );
 }
 
-void ContactPage::BeginBook( const ImportedBook& a_book )
+void ContactPage::BeginBook( const BookInRun& a_book, const PimContactReader& /*a_reader*/ )
 {
     m_file.Device().write( "<section class=\"listed\">\n<h2><bdi>" + ToHtmlText( a_book.m_source ).toUtf8() +
                            "</bdi></h2>\n<div class=\"list\">\n" );
 }
 
-void ContactPage::TakeCard( const ImportedBook& a_book, const PimVCardImportedCard& a_card )
+void ContactPage::TakeCard( const BookInRun& a_book, const PimContactCard& a_card )
 {
-    ContactHtml( m_file.Device(), *a_card.m_card )
-        .Write( CardAnchor( a_book.m_number, a_card.m_index ), a_card.m_isWhole );
+    WriteContact( m_file.Device(), a_card, CardAnchor( a_book.m_number, a_card.Number() ) );
 }
 
-void ContactPage::EndBook( const ImportedBook& a_book )
+void ContactPage::EndBook( const BookInRun& a_book )
 {
     m_file.Device().write( "</div>\n</section>\n" );
     m_books << a_book;

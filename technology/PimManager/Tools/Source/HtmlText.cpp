@@ -3,6 +3,7 @@
 #include "CodePoints.h"
 #include "TerminalText.h"
 
+#include <QIODevice>
 #include <QUrl>
 
 #include <algorithm>
@@ -52,6 +53,11 @@ QString ToHtmlText( QStringView a_text )
                               html += a_units;
                       } );
     return html;
+}
+
+void WriteHtmlText( QIODevice& a_device, QStringView a_text )
+{
+    a_device.write( ToHtmlText( a_text ).toUtf8() );
 }
 
 QByteArray TelephoneLink( const QString& a_number )

@@ -7,12 +7,17 @@
 #include <QString>
 #include <QStringView>
 
+class QIODevice;
+
 namespace PimManager::vCard::Tools
 {
 
 /// \return the text for the inside of an element or of a quoted attribute: what HTML would read as its own is a
 ///         character reference, and what IsUnsafeOnTerminal() says is written as there, but for line feeds, which stay.
 QString ToHtmlText( QStringView a_text );
+
+/// Writes what ToHtmlText() returns.
+void WriteHtmlText( QIODevice& a_device, QStringView a_text );
 
 /// \return a link that dials a number: `tel:` and its digits, with a plus before them; empty when the text holds
 ///         anything that no telephone number does.

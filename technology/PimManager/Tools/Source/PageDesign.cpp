@@ -45,7 +45,7 @@ h2 { margin: 1.2rem 0 .6rem; font-size: 1rem; font-weight: 600; color: var(--sof
 .face1 { background: #9b3d5a } .face2 { background: #2f6f8f } .face3 { background: #3d7a4a }
 .face4 { background: #7a5a1e } .face5 { background: #5d4a9b }
 .about { flex: 1; min-width: 0; overflow-wrap: anywhere }
-h3 { margin: 0; font-size: 1.05rem; unicode-bidi: isolate }
+h3, h4 { margin: 0; font-size: 1.05rem; unicode-bidi: isolate }
 .about p { margin: .1rem 0; unicode-bidi: isolate }
 .work { color: var(--soft); font-size: .92rem }
 .ways { list-style: none; margin: .4rem 0 0; padding: 0 }
@@ -58,6 +58,7 @@ h3 { margin: 0; font-size: 1.05rem; unicode-bidi: isolate }
   font-size: .8rem; unicode-bidi: isolate }
 .about .note { margin-top: .4rem; padding-left: .7rem; border-left: 3px solid var(--line); font-size: .92rem;
   white-space: pre-line }
+.nested { margin-top: .6rem; padding-left: .7rem; border-left: 3px solid var(--line) }
 .extra { display: block; max-width: 100%; max-height: 10rem; margin-top: .5rem; border-radius: .4rem }
 .part { display: inline-block; margin-top: .3rem; color: var(--fair); font-size: .85rem }
 details { margin-top: .4rem; font-size: .9rem }

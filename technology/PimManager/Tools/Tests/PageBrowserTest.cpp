@@ -29,7 +29,7 @@ public:
     {
         const QByteArray page = m_folder.Path( "page.html" );
         const QByteArray book = m_folder.Write( "<img src=x onerror=\"document.title='run'\">.vcf", a_book );
-        EXPECT_LE( RunPimvcard( { "import", "--quiet", "--html", page, book } ).m_status, 1 );
+        EXPECT_LE( RunPimvcard( { "convert", "--to", "html", "-o", page, book } ).m_status, 1 );
         m_browser.SetSize( 1280, 1000, false );
         m_browser.SetScriptsAllowed( a_areScriptsAllowed );
         m_browser.Open( page );

@@ -4,9 +4,12 @@
 #include "Commands/OutputFormat.h"
 #include "Commands/ReadingCommand.h"
 #include "Commands/Suggestion.h"
+#include "ContactPage.h"
 #include "ContactRun.h"
 #include "Outputs/ContactJson.h"
 #include "Outputs/OutputClaims.h"
+#include "Outputs/PhotoFolder.h"
+#include "Outputs/RejectsFile.h"
 #include "TerminalText.h"
 
 namespace PimManager::vCard::Tools
@@ -67,7 +70,15 @@ std::unique_ptr<BookOutput> MakeOutput( const Request& a_request, OutputClaims& 
     case OutputFormat::Html:
         break;
     }
-    return std::make_unique<BookOutput>();
+    return std::make_unique<ContactPage>( a_request.m_fileName, a_claims );
+}
+
+void AddOtherOutputs( ContactRun::Outputs& a_outputs, const CommandLine& a_line, OutputClaims& a_claims )
+{
+    if ( a_line.IsSet( s_kPhotosOption ) )
+        a_outputs.push_back( std::make_unique<PhotoFolder>( a_line.Value( s_kPhotosOption ), a_claims ) );
+    if ( a_line.IsSet( s_kRejectsOption ) )
+        a_outputs.push_back( std::make_unique<RejectsFile>( a_line.Value( s_kRejectsOption ), a_claims ) );
 }
 
 // If nobody reads standard output any more, there is nothing left to do unless files are written.
@@ -91,6 +102,7 @@ ExitStatus RunConvert( const CommandLine& a_line, Console& a_console )
     if ( request.m_format )
         outputs.push_back( MakeOutput( request, claims ) );
     outputs.push_back( std::make_unique<BookNotes>( a_console ) );
+    AddOtherOutputs( outputs, a_line, claims );
     return ContactRun( a_console, request.m_options, std::move( outputs ), WithoutReader( a_line, claims ) )
         .Run( a_line.Arguments() );
 }

@@ -17,13 +17,13 @@ QByteArray Page( const QByteArray& a_book )
 {
     const Folder folder;
     const QByteArray page = folder.Path( "page.html" );
-    const ProgramRun run = RunPimvcard( { "import", "--quiet", "--html", page, folder.Write( "book.vcf", a_book ) } );
+    const ProgramRun run = RunPimvcard( { "convert", "--to", "html", "-o", page, folder.Write( "book.vcf", a_book ) } );
     EXPECT_LE( run.m_status, 1 ) << run.m_err;
     EXPECT_EQ( run.m_out, "" );
     return FileContent( page );
 }
 
-// What stands between two texts the first time.
+// What is between two texts the first time.
 QByteArray Between( const QByteArray& a_page, const QByteArray& a_start, const QByteArray& a_end )
 {
     const auto start = a_page.indexOf( a_start ) + a_start.size();
@@ -37,7 +37,7 @@ QByteArray HashOf( const QByteArray& a_text )
 
 } // namespace
 
-TEST( ImportPageTest, PolicyAllowsTheStyleTheScriptAndPicturesOfThePage )
+TEST( ConvertPageTest, PolicyAllowsTheStyleTheScriptAndPicturesOfThePage )
 {
     const QByteArray page = Page( CleanCard() );
     EXPECT_EQ( page.count( "<script" ), 1 );
@@ -52,7 +52,7 @@ TEST( ImportPageTest, PolicyAllowsTheStyleTheScriptAndPicturesOfThePage )
     EXPECT_TRUE( page.contains( "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">" ) );
 }
 
-TEST( ImportPageTest, PageNeedsNothingElse )
+TEST( ConvertPageTest, PageNeedsNothingElse )
 {
     const QByteArray page = Page( CleanCard() + CardText( "VERSION:3.0\r\nFN:x\r\nURL:https://example.com/\r\n" ) );
     static const QRegularExpression s_kSource(
@@ -61,7 +61,7 @@ TEST( ImportPageTest, PageNeedsNothingElse )
     EXPECT_TRUE( page.contains( "rel=\"noreferrer noopener\" href=\"https://example.com/\"" ) );
 }
 
-TEST( ImportPageTest, HostileTextStaysText )
+TEST( ConvertPageTest, HostileTextStaysText )
 {
     const QByteArray text = HostileText();
     QByteArray card = "VERSION:3.0\r\n";
@@ -80,17 +80,18 @@ TEST( ImportPageTest, HostileTextStaysText )
     EXPECT_FALSE( s_kHandler.match( QString::fromUtf8( page ) ).hasMatch() );
 }
 
-TEST( ImportPageTest, HostileFileNameStaysText )
+TEST( ConvertPageTest, HostileFileNameStaysText )
 {
     const Folder folder;
     const QByteArray page = folder.Path( "page.html" );
-    RunPimvcard( { "import", "--html", page, folder.Write( "<img src=x onerror=alert(1)>\x1B.vcf", PartCard() ) } );
+    RunPimvcard(
+        { "convert", "--to", "html", "-o", page, folder.Write( "<img src=x onerror=alert(1)>\x1B.vcf", PartCard() ) } );
     EXPECT_FALSE( FileContent( page ).contains( "<img" ) );
     EXPECT_TRUE(
         FileContent( page ).contains( "/&lt;img src=x onerror=alert(1)&gt;\\x1b.vcf</bdi>: 1 line dropped. " ) );
 }
 
-TEST( ImportPageTest, OnlyRasterPicturesByTheirBytesAreShown )
+TEST( ConvertPageTest, OnlyRasterPicturesByTheirBytesAreShown )
 {
     struct Row
     {
@@ -106,6 +107,7 @@ TEST( ImportPageTest, OnlyRasterPicturesByTheirBytesAreShown )
         { "PHOTO;ENCODING=b;TYPE=SVG", "<?xml version=\"1.0\"?><svg/>", "" },
         { "PHOTO;ENCODING=b;MEDIATYPE=\"image/svg+xml\"", "<html><script>alert(1)</script>", "" },
         { "PHOTO;ENCODING=b;TYPE=PNG", "no picture", "" },
+        { "PHOTO;ENCODING=b;TYPE=TIFF", QByteArray( "II*\0\x08\0\0\0", 8 ), "" },
     };
     for ( const Row& row : rows )
     {
@@ -117,16 +119,36 @@ TEST( ImportPageTest, OnlyRasterPicturesByTheirBytesAreShown )
     }
     EXPECT_FALSE(
         Page( CardText( "VERSION:4.0\r\nFN:x\r\nPHOTO:data:image/svg+xml;base64,PHN2Zy8+\r\n" ) ).contains( "<img" ) );
+    const QByteArray damaged = PhotoLine( PngPicture() ).replace( "\r\n", "%\r\n" );
+    EXPECT_FALSE( Page( CardText( "VERSION:3.0\r\nFN:x\r\n" + damaged ) ).contains( "<img" ) );
     EXPECT_FALSE(
         Page( CardText( "VERSION:3.0\r\nFN:x\r\nPHOTO;VALUE=uri:http://example.com/x.png\r\n" ) ).contains( "<img" ) );
 }
 
-TEST( ImportPageTest, AccountStandsOnThePage )
+TEST( ConvertPageTest, EveryContactHasItsAnchor )
+{
+    const Folder folder;
+    const QByteArray first = folder.Write( "first", CleanCard() + CleanCard() );
+    const QByteArray second = folder.Write( "second", CleanCard() );
+    const ProgramRun run = RunPimvcard( { "convert", "--to", "html", first, second } );
+    EXPECT_EQ( run.m_status, 0 ) << run.m_err;
+    const QByteArray page = QByteArray::fromStdString( run.m_out );
+    EXPECT_EQ( page.count( "<article" ), 3 );
+    for ( const char* anchor : { "c1-1", "c1-2", "c2-1" } )
+        EXPECT_EQ( page.count( QByteArray( "<article class=\"contact\" id=\"" ) + anchor + "\">" ), 1 ) << anchor;
+}
+
+TEST( ConvertPageTest, ReportIsOnThePage )
 {
     const QByteArray page = Page( CleanCard() + PartCard() );
     EXPECT_TRUE( page.contains( "</bdi>: 1 line dropped. <a href=\"#account\">" ) );
     EXPECT_TRUE( page.contains( "<dt>Cards</dt><dd>2 cards: 1 whole, 1 in part</dd>" ) );
     EXPECT_TRUE( page.contains( "<dt>Line endings</dt><dd>CR LF line endings</dd>" ) );
+    EXPECT_TRUE( page.contains( "<dt>Encoding</dt><dd>UTF-8 (all ASCII)</dd>" ) );
+    EXPECT_TRUE( page.contains( "<dt>Versions</dt><dd>version 3.0</dd>" ) );
+    EXPECT_TRUE(
+        page.contains( "<dt>Bytes</dt><dd>126 bytes: 70 in properties, 48 in BEGIN and END lines, 8 dropped</dd>" ) );
+    EXPECT_TRUE( page.contains( "<details open><summary>1 \xC3\x97 not-a-property</summary>" ) );
     EXPECT_TRUE( page.contains(
         "<li id=\"d1-2\"><span class=\"place\">9:1</span><span class=\"word dropped\">dropped</span>" ) );
     EXPECT_TRUE( page.contains( "<a class=\"part\" href=\"#d1-2\">" ) );
@@ -134,30 +156,30 @@ TEST( ImportPageTest, AccountStandsOnThePage )
     EXPECT_EQ( page.count( "class=\"part\"" ), 1 );
 }
 
-TEST( ImportPageTest, EveryPropertyOfAContactIsSomewhere )
+TEST( ConvertPageTest, FileWithoutCardsIsReported )
 {
-    const QByteArray page = Page(
-        CardText( "VERSION:3.0\r\nFN:a1\r\nN:a2;a2;;;\r\nORG:a3\r\nTITLE:a4\r\nTEL:a5\r\nEMAIL:a6\r\nADR:;;a7;;;;\r\n"
-                  "URL:a8\r\nNOTE:a9\\nb9\r\nBDAY:c1\r\nX-ODD:c2\r\nIMPP:c3\r\nROLE:c4\r\nNICKNAME:c5\r\n" ) );
-    for ( const char* text : { "a1", "a3", "a4", "a5", "a6", "a7", "a8", "a9\nb9", "c1", "c2", "c3", "c4", "c5" } )
-        EXPECT_TRUE( page.contains( QByteArray( ">" ) + text ) || page.contains( text + QByteArray( "<" ) ) ) << text;
+    const QByteArray page = Page( "%PDF-1.4\n" );
+    EXPECT_FALSE( page.contains( "<article" ) );
+    EXPECT_TRUE( page.contains( "</bdi>: is a PDF document. <a href=\"#account\">" ) );
+    EXPECT_TRUE(
+        page.contains( "<dt>File</dt><dd>is a PDF document</dd>\n<dt>Bytes</dt><dd>9 bytes: 9 refused</dd>" ) );
+    EXPECT_TRUE( page.contains( ">refused</span>" ) );
+    EXPECT_FALSE( page.contains( ">contact</a>" ) );
 }
 
-TEST( ImportPageTest, OrganisationThatIsTheNameStandsOnce )
+TEST( ConvertPageTest, LossesPrecedeOtherFindings )
 {
-    const QByteArray page = Page( CardText( "VERSION:3.0\r\nFN:Oven Row\r\nORG:Oven Row;\r\nTITLE:Baker\r\n" ) );
-    EXPECT_EQ( page.count( "Oven Row" ), 1 );
-    EXPECT_TRUE( page.contains( ">Baker</p>" ) );
+    const QByteArray page = Page( QByteArray( CleanCard() + PartCard() ).replace( "\r\n", "\n" ) );
+    const auto dropped = page.indexOf( "<span class=\"word dropped\">" );
+    const auto repaired = page.indexOf( "<span class=\"word repaired\">" );
+    EXPECT_GT( dropped, 0 );
+    EXPECT_GT( repaired, dropped );
 }
 
-TEST( ImportPageTest, HugeFieldsAndManyLinesAreCut )
+TEST( ConvertPageTest, FindingsBeyondTheLimitAreCounted )
 {
-    QByteArray lines =
-        "VERSION:3.0\r\nFN:" + QByteArray( 1000000, 'x' ) + "\r\nNOTE:" + QByteArray( 1000000, 'y' ) + "\r\n";
-    for ( int i = 0; i < 5000; ++i )
-        lines += "TEL:555\r\nX-A:b\r\n";
-    const QByteArray page = Page( CardText( lines ) );
-    EXPECT_LT( page.size(), 200000 );
-    EXPECT_EQ( page.count( "tel:555" ), 200 );
-    EXPECT_TRUE( page.contains( "(1000000 characters)" ) );
+    const QByteArray page = Page( PartCard().repeated( 1234 ) );
+    EXPECT_EQ( page.count( "<span class=\"said\">" ), 1000 );
+    EXPECT_TRUE( page.contains( "<p class=\"none\">234 more are not listed.</p>" ) );
+    EXPECT_EQ( page.count( "<article" ), 1234 );
 }

@@ -1,48 +1,101 @@
-# Completion of pimvcard for bash: commands, the options of the command, folders, character sets and address books.
-# Goes to the folder completions of bash-completion under the name pimvcard; or is read by "source".
+# Completion of pimvcard for bash: commands, options, their values, and address books.
+# Written by scripts/update-completion from the program's table of commands.
+# The file belongs into the folder completions of bash-completion under the name pimvcard, or is read by "source".
 
-# The words that may follow an option, one a line, folders and files as they are; fails for an option that takes none.
-_pimvcard_values()
-{
-  case $1 in
-    -c | --charset)
-      compgen -W "UTF-8 windows-1252 ISO-8859-1 ISO-8859-15 windows-1250 windows-1251 KOI8-R Shift_JIS EUC-JP
-                  ISO-2022-JP GB18030 Big5 EUC-KR" -- "$2" ;;
-    -p | --photos) compgen -d -- "$2" ;;
-    -r | --rejects | -o | --html) compgen -f -- "$2" ;;
-    --max-*) ;;
-    *) return 1 ;;
-  esac
-  return 0
-}
+_pimvcard_commands='list show check convert help'
 
 _pimvcard_options()
 {
-  local options="-h --help -v --version"
   case $1 in
-    import) options+=" -c --charset -j --json -J --json-lines -q --quiet -p --photos -r --rejects -o --html -f --force" ;;
-    check)
-      options+=" -c --charset -e --extents --max-card-bytes --max-line-bytes --max-card-lines --max-nesting --max-cards"
-      options+=" --max-book-bytes" ;;
-    print) options+=" -f --full -j --json -J --json-lines -l --log" ;;
+    list) echo '-c --charset --max-card-bytes --max-line-bytes --max-card-lines --max-nesting --max-cards
+      --max-book-bytes -q --quiet -h --help -v --version' ;;
+    show) echo '-F --full -c --charset --max-card-bytes --max-line-bytes --max-card-lines --max-nesting --max-cards
+      --max-book-bytes -q --quiet -h --help -v --version' ;;
+    check) echo '-e --extents -s --strict -c --charset --max-card-bytes --max-line-bytes --max-card-lines
+      --max-nesting --max-cards --max-book-bytes -q --quiet -h --help -v --version' ;;
+    convert) echo '-t --to -o --output -p --photos -r --rejects -f --force -c --charset --max-card-bytes
+      --max-line-bytes --max-card-lines --max-nesting --max-cards --max-book-bytes -q --quiet -h --help -v
+      --version' ;;
+    help) echo '-q --quiet -h --help -v --version' ;;
   esac
-  compgen -W "$options" -- "$2"
 }
 
-# Folders, for what is in them, and address books.
+# Prints what the value of an option is: file, folder, other, or words and those words. Nothing without a value.
+_pimvcard_value()
+{
+  case $1 in
+    -c | --charset) echo 'words UTF-8 windows-1250 windows-1251 windows-1252 windows-1253 windows-1254 windows-1255
+      windows-1256 windows-1257 windows-1258 windows-874 ISO-8859-2 ISO-8859-3 ISO-8859-4 ISO-8859-5
+      ISO-8859-6 ISO-8859-7 ISO-8859-8 ISO-8859-10 ISO-8859-13 ISO-8859-14 ISO-8859-15 ISO-8859-16 KOI8-R
+      KOI8-U IBM437 IBM850 IBM852 IBM866 macintosh x-mac-cyrillic Shift_JIS EUC-JP EUC-KR GB18030 Big5
+      ISO-2022-JP' ;;
+    --max-card-bytes) echo other ;;
+    --max-line-bytes) echo other ;;
+    --max-card-lines) echo other ;;
+    --max-nesting) echo other ;;
+    --max-cards) echo other ;;
+    --max-book-bytes) echo other ;;
+    -t | --to) echo 'words json json-lines html' ;;
+    -o | --output) echo file ;;
+    -p | --photos) echo folder ;;
+    -r | --rejects) echo file ;;
+  esac
+}
+
+# Prints address books, and folders for what is in them.
 _pimvcard_books()
 {
   local name
   compgen -f -- "$1" | while IFS= read -r name; do
-    if [[ -d $name || $name == *.[vV][cC][fF] || $name == *.[vV][cC][aA][rR][dD] ]]; then
+    if [[ -d ${name/#\~/$HOME} || ${name,,} == *.vcf || ${name,,} == *.vcard ]]; then
       printf '%s\n' "$name"
     fi
   done
 }
 
+# The same, or else other files.
+_pimvcard_files()
+{
+  local books
+  books=$(_pimvcard_books "$1")
+  if [[ -n $books ]]; then
+    printf '%s\n' "$books"
+  else
+    compgen -f -- "$1"
+  fi
+}
+
+# Prints what a word may become that is neither an option nor a value, of a command or of none.
+_pimvcard_arguments()
+{
+  case $2 in
+    '')
+      if compgen -W "$_pimvcard_commands" -- "$1"; then
+        _pimvcard_books "$1"
+      else
+        _pimvcard_files "$1"
+      fi ;;
+    help) compgen -W "$_pimvcard_commands" -- "$1" ;;
+    *) _pimvcard_files "$1" ;;
+  esac
+}
+
+# Prints what a word may become, by what it is.
+_pimvcard_words()
+{
+  local word=$1 command=$2 kind=$3
+  case $kind in
+    words*) compgen -W "${kind#words}" -- "$word" ;;
+    file) compgen -f -- "$word" ;;
+    folder) compgen -d -- "$word" ;;
+    options) compgen -W "$(_pimvcard_options "${command:-list}")" -- "$word" ;;
+    arguments) _pimvcard_arguments "$word" "$command" ;;
+  esac
+}
+
 _pimvcard()
 {
-  local word=$2 before=$3 command='' i
+  local word=$2 before=$3 command='' kind='' i
   # bash makes "=" a word of its own.
   if [[ ${COMP_WORDS[COMP_CWORD]} == '=' ]]; then
     word=''
@@ -50,23 +103,30 @@ _pimvcard()
   elif [[ $before == '=' ]]; then
     before=${COMP_WORDS[COMP_CWORD - 2]}
   fi
+  # The first word that is neither an option nor a value is the command. If it is a book, the command is list.
   for ((i = 1; i < COMP_CWORD; ++i)); do
-    if [[ ${COMP_WORDS[i]} != -* ]]; then
-      command=${COMP_WORDS[i]}
-      break
-    fi
+    case ${COMP_WORDS[i]} in
+      --)
+        kind=arguments
+        command=${command:-list}
+        break ;;
+      -?*)
+        if [[ -n $(_pimvcard_value "${COMP_WORDS[i]}") ]]; then
+          [[ ${COMP_WORDS[i + 1]} == '=' ]] && ((++i))
+          ((++i))
+        fi ;;
+      *)
+        if [[ -z $command ]]; then
+          command=list
+          [[ " $_pimvcard_commands " == *" ${COMP_WORDS[i]} "* ]] && command=${COMP_WORDS[i]}
+        fi ;;
+    esac
   done
-
-  COMPREPLY=()
-  if [[ -z $command && $word != -* ]]; then
-    mapfile -t COMPREPLY < <(compgen -W "import check print" -- "$word")
-  elif [[ $command == import || $command == check ]] && _pimvcard_values "$before" "$word" >/dev/null; then
-    mapfile -t COMPREPLY < <(_pimvcard_values "$before" "$word")
-  elif [[ $word == -* ]]; then
-    mapfile -t COMPREPLY < <(_pimvcard_options "$command" "$word")
-  else
-    mapfile -t COMPREPLY < <(_pimvcard_books "$word")
+  kind=${kind:-$(_pimvcard_value "$before")}
+  if [[ -z $kind ]]; then
+    [[ $word == -* ]] && kind=options || kind=arguments
   fi
+  mapfile -t COMPREPLY < <(_pimvcard_words "$word" "$command" "$kind")
 }
 
-complete -o filenames -o default -F _pimvcard pimvcard
+complete -o filenames -F _pimvcard pimvcard

@@ -17,11 +17,11 @@ namespace PimManager::vCard::Tools
 /// All that a line of a card says, decoded and safe for a terminal.
 struct PropertyText
 {
-    /// The name as written, such as `TEL`. The group precedes it, as in `item1.TEL`, unless the label of the group is in
-    /// m_remarks.
+    /// The name as written, such as `TEL`. The group precedes it, as in `item1.TEL`, unless the label of the group is
+    /// in m_remarks.
     QString m_name;
-    /// What the property is for, and other parameters, such as `cell [PREF; LANGUAGE=de]`. Types are in small letters,
-    /// but beside a label they are a parameter: `boat phone [TYPE=CELL]`. May be empty.
+    /// What the property is for, and other parameters, such as `cell [PREF; LANGUAGE=de]`. Types are in small letters.
+    /// If there is a label, they are shown as a parameter: `boat phone [TYPE=CELL]`. May be empty.
     QString m_remarks;
     /// The lines of the value; empty without a value.
     ///

@@ -132,14 +132,14 @@ TEST( ContactTextTest, WideCharactersAreAligned )
 
 TEST( ContactTextTest, ValuesAreWrappedIntoTheTerminal )
 {
-    EXPECT_EQ( Shown( CardText( "FN:Nell\r\nNOTE:Rings back after the last ferry.\\nNever before nine.\r\n" ), s_kShort,
-                      35 ),
-               "1. Nell (book.vcf)\n"
-               "\n"
-               "    FN    Nell\n"
-               "    NOTE  Rings back after the last\n"
-               "          ferry.\n"
-               "          Never before nine.\n" );
+    EXPECT_EQ(
+        Shown( CardText( "FN:Nell\r\nNOTE:Rings back after the last ferry.\\nNever before nine.\r\n" ), s_kShort, 35 ),
+        "1. Nell (book.vcf)\n"
+        "\n"
+        "    FN    Nell\n"
+        "    NOTE  Rings back after the last\n"
+        "          ferry.\n"
+        "          Never before nine.\n" );
 }
 
 TEST( ContactTextTest, NestedCardIsIndentedBelowItsLine )
@@ -178,11 +178,11 @@ TEST( ContactTextTest, NothingInACardDrivesTheTerminal )
 {
     const QByteArray hostile = HostileText();
     const QByteArray agent = CardText( "FN:" + hostile + "\r\n" );
-    const QByteArray book = CardText( "FN:" + hostile + "\r\nN:" + hostile + ";" + hostile + "\r\nNOTE;X-A=\"" +
-                                      hostile + "\";TYPE=" + hostile + ":\\n" + hostile + "\r\n" + hostile + ".X-" +
-                                      hostile + ":x\r\ni.TEL:\r\ni.X-ABLabel:" + hostile +
-                                      "\r\nPHOTO;ENCODING=b:AAAA" + hostile + "\r\nPHOTO:data:" + hostile +
-                                      ";base64,AAAA\r\nADR:;;" + hostile + ";;;;\r\nAGENT:\r\n" + agent );
+    const QByteArray book =
+        CardText( "FN:" + hostile + "\r\nN:" + hostile + ";" + hostile + "\r\nNOTE;X-A=\"" + hostile +
+                  "\";TYPE=" + hostile + ":\\n" + hostile + "\r\n" + hostile + ".X-" + hostile +
+                  ":x\r\ni.TEL:\r\ni.X-ABLabel:" + hostile + "\r\nPHOTO;ENCODING=b:AAAA" + hostile +
+                  "\r\nPHOTO:data:" + hostile + ";base64,AAAA\r\nADR:;;" + hostile + ";;;;\r\nAGENT:\r\n" + agent );
     for ( const ContactText::Length length : { s_kShort, s_kFull } )
     {
         for ( const int columns : { 0, 40 } )

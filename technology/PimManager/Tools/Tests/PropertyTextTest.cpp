@@ -111,7 +111,8 @@ TEST( PropertyTextTest, ValuesAreDecodedTexts )
 TEST( PropertyTextTest, BytesAreATypeAndASize )
 {
     ExpectTexts( {
-        { "PHOTO;ENCODING=b;TYPE=GIF:R0lGODlhAQABAIAAAP///wAAACwAAAAAAQABAAACAkQBADs=", "PHOTO|gif|image/gif, 35 bytes" },
+        { "PHOTO;ENCODING=b;TYPE=GIF:R0lGODlhAQABAIAAAP///wAAACwAAAAAAQABAAACAkQBADs=",
+          "PHOTO|gif|image/gif, 35 bytes" },
         { "PHOTO;ENCODING=b:AA==", "PHOTO||1 byte" },
         { "PHOTO:data:image/x-mine;base64,AAAA", "PHOTO||image/x-mine, 3 bytes" },
         { "PHOTO:data:a\xE2\x80\xAE/b;base64,AAAA", "PHOTO||a\\u202e/b, 3 bytes" },
@@ -139,12 +140,7 @@ TEST( PropertyTextTest, LongTextsAreCutUnlessFull )
     const QByteArray text( 100, 'x' );
     const std::string cut = std::string( 60, 'x' ) + "\xE2\x80\xA6 (100 characters)";
     const std::string full = text.toStdString();
-    const std::string lines = [] {
-        std::string twenty;
-        for ( int i = 0; i < 20; ++i )
-            twenty += "|x";
-        return twenty;
-    }();
+    const std::string lines = QByteArray( "|x" ).repeated( 20 ).toStdString();
     struct LongRow
     {
         QByteArray m_line;

@@ -37,7 +37,7 @@ CommandInfo Reading( const QString& a_name, const QString& a_summary, const std:
     command.m_options.push_back(
         Valued( QStringLiteral( "c" ), s_kCharsetOption, QStringLiteral( "NAME" ),
                 QStringLiteral( "The character set of cards that are not in UTF-8 and name none. Without this option "
-                                "it is guessed from their letters. A NAME that is wrong lists those that are right." ),
+                                "it is guessed from their letters. An unknown NAME lists the known ones." ),
                 CharsetNames() ) );
     const std::vector<OptionInfo> limits = LimitOptions();
     command.m_options.insert( command.m_options.end(), limits.begin(), limits.end() );

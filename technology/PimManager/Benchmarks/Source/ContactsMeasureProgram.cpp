@@ -8,7 +8,7 @@
 //   stream FILE TIMES            feeds the file that many times over as one text, in pieces of 64 KB, and drops each
 //                                card; the file is the only text in memory.
 //   json FILE                    reads the file in pieces of 64 KB, writes each card as JSON, and drops both.
-//   values FILE                  the same, but decodes FN, TEL and EMAIL of each card.
+//   values FILE                  reads the file into a book and decodes FN, TEL and EMAIL of each card.
 //   contacts FILE                the same, but makes a PimContact of each card.
 //
 // Each prints the number of cards, the bytes that were read, and the most memory that the process had at once.
@@ -133,17 +133,18 @@ int Pieces( const char* a_name, qint64 a_bytes, qint64 a_limit )
     return 0;
 }
 
-// Reads a file with one card in memory.
-template <typename Handler>
-int ReadCards( const char* a_name, Handler a_handler )
+int Json( const char* a_name )
 {
     QFile file;
     Open( file, a_name );
+    PimContactJson json;
+    QByteArray text;
     PimContactReader reader;
     reader.SetCardHandler(
-        [&a_handler]( const PimContactCard& a_card )
+        [&json, &text]( const PimContactCard& a_card )
         {
-            a_handler( a_card );
+            text.resize( 0 );
+            json.Append( a_card, text );
             return true;
         } );
     for ( QByteArray piece = file.read( s_kBlock ); !piece.isEmpty(); piece = file.read( s_kBlock ) )
@@ -151,18 +152,6 @@ int ReadCards( const char* a_name, Handler a_handler )
     reader.Finish();
     Print( reader.Report() );
     return 0;
-}
-
-int Json( const char* a_name )
-{
-    PimContactJson json;
-    QByteArray text;
-    return ReadCards( a_name,
-                      [&json, &text]( const PimContactCard& a_card )
-                      {
-                          text.resize( 0 );
-                          json.Append( a_card, text );
-                      } );
 }
 
 bool IsNameNumberOrMail( const PimContactLine& a_line )
@@ -173,27 +162,29 @@ bool IsNameNumberOrMail( const PimContactLine& a_line )
 
 int Values( const char* a_name )
 {
+    const PimContactBook book = ReadBook( a_name );
     volatile qint64 characters = 0; // written, so that the compiler leaves no text out
-    return ReadCards( a_name,
-                      [&characters]( const PimContactCard& a_card )
-                      {
-                          for ( const PimContactLine& line : a_card )
-                          {
-                              if ( IsNameNumberOrMail( line ) )
-                                  characters = characters + line.Text().size();
-                          }
-                      } );
+    for ( const PimContactCard& card : book )
+    {
+        for ( const PimContactLine& line : card )
+        {
+            if ( IsNameNumberOrMail( line ) )
+                characters = characters + line.Text().size();
+        }
+    }
+    EndWith( book );
 }
 
 int Contacts( const char* a_name )
 {
+    const PimContactBook book = ReadBook( a_name );
     volatile qint64 entries = 0;
-    return ReadCards( a_name,
-                      [&entries]( const PimContactCard& a_card )
-                      {
-                          const PimContact contact( a_card );
-                          entries = entries + contact.Phones().size() + contact.Mails().size();
-                      } );
+    for ( const PimContactCard& card : book )
+    {
+        const PimContact contact( card );
+        entries = entries + contact.Phones().size() + contact.Mails().size();
+    }
+    EndWith( book );
 }
 
 int Stream( const char* a_name, int a_times )

@@ -10,8 +10,12 @@ namespace PimManager::Contacts
 namespace
 {
 
-constexpr std::array s_kLines = { "NOTE:abc\r\n", "NOTE:abc\n", "NOTE:abc\r\n def\r\n", "NOTE:abc\n\tdef\n ghi\n",
-                                  "NOTE;QUOTED-PRINTABLE:a=\r\nb\r\n", "NOTE:\xC3\xA4\r\n \xC3\xB6\r\n" };
+constexpr std::array s_kLines = { "NOTE:abc\r\n",
+                                  "NOTE:abc\n",
+                                  "NOTE:abc\r\n def\r\n",
+                                  "NOTE:abc\n\tdef\n ghi\n",
+                                  "NOTE;QUOTED-PRINTABLE:a=\r\nb\r\n",
+                                  "NOTE:\xC3\xA4\r\n \xC3\xB6\r\n" };
 
 // The lines that are delivered of a card with three, the line in question in the middle.
 int DeliveredLines( const QByteArray& a_line, qint64 a_limit, int a_pieceBytes )

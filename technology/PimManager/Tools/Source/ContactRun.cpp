@@ -72,9 +72,9 @@ void ContactRun::SetHandlers()
         std::any_of( m_outputs.begin(), m_outputs.end(),
                      []( const std::unique_ptr<BookOutput>& a_output ) { return a_output->WantsExtents(); } );
     if ( areExtentsWanted )
-        m_reader->SetExtentHandler( [this]( const PimContactExtent& a_extent )
-                                    { ForEachOutput( [&]( BookOutput& a_output )
-                                                     { a_output.TakeExtent( m_book, a_extent ); } ); } );
+        m_reader->SetExtentHandler(
+            [this]( const PimContactExtent& a_extent )
+            { ForEachOutput( [&]( BookOutput& a_output ) { a_output.TakeExtent( m_book, a_extent ); } ); } );
 }
 
 void ContactRun::ReadBook( InputDevice& a_input )

@@ -7,7 +7,6 @@
 #include "Commands/ListCommand.h"
 #include "Commands/ReadingCommand.h"
 #include "Commands/ShowCommand.h"
-#include "Commands/ShowCommand.h"
 #include "Version.h"
 
 #include <algorithm>
@@ -29,11 +28,8 @@ struct Reading
 };
 
 constexpr std::array s_kReadings = {
-    Reading{ "list", RunList },
-    Reading{ "show", RunShow },
-    Reading{ "show", RunShow },
-    Reading{ "check", RunCheck },
-    Reading{ "convert", RunConvert },
+    Reading{ "list", RunList },   Reading{ "show", RunShow },       Reading{ "show", RunShow },
+    Reading{ "check", RunCheck }, Reading{ "convert", RunConvert },
 };
 
 const QString s_kProgram = QStringLiteral( "pimvcard" );
@@ -87,7 +83,8 @@ ExitStatus RunCommand( CommandLine& a_line, Console& a_console )
         return a_console.Show( VersionText() );
     a_console.SetRemarksWanted( !a_line.IsSet( s_kQuietOption ) );
     const auto* const reading =
-        std::find_if( s_kReadings.begin(), s_kReadings.end(), [&a_line]( const Reading& a_reading )
+        std::find_if( s_kReadings.begin(), s_kReadings.end(),
+                      [&a_line]( const Reading& a_reading )
                       { return a_line.Command().m_name == QLatin1String( a_reading.m_command ); } );
     if ( reading == s_kReadings.end() )
         return RunHelp( a_line, a_console );

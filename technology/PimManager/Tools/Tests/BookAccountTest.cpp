@@ -112,8 +112,9 @@ TEST( BookAccountTest, NoteTellsWhatDidNotCome )
         { "BEGIN:VCARD\rX_Y:z\rEND:VCARD\r",
           "1 of 1 cards refused\n"
           "3 of 3 lines end in a bare CR; the strict reader needs CR LF and loses cards without it" },
-        { s_kGood + "BEGIN:VCARD\r\nEND:VCARD", "1 of 2 cards refused\n"
-                                                "the last line has no line ending; the strict reader needs CR LF there, too" },
+        { s_kGood + "BEGIN:VCARD\r\nEND:VCARD",
+          "1 of 2 cards refused\n"
+          "the last line has no line ending; the strict reader needs CR LF there, too" },
         { QByteArray( "BEGIN:VCARD\nEND:VCARD\n" ) + '\0',
           "1 of 1 cards refused\n"
           "byte 23 is NUL and nothing after it is read; text in UTF-16 looks like this\n"

@@ -10,12 +10,14 @@ namespace
 // A command with a flag -x and an option --name.
 const CommandInfo& Command()
 {
-    static const CommandInfo s_kCommand = [] {
+    static const CommandInfo s_kCommand = []
+    {
         CommandInfo command;
         command.m_name = QStringLiteral( "frob" );
         command.m_arguments = QStringLiteral( "BOOK..." );
-        command.m_options = { { QStringLiteral( "x" ), QStringLiteral( "extra" ), {}, QStringLiteral( "More." ), {} },
-                              { {}, QStringLiteral( "name" ), QStringLiteral( "NAME" ), QStringLiteral( "Who." ), {} } };
+        command.m_options = {
+            { QStringLiteral( "x" ), QStringLiteral( "extra" ), {}, QStringLiteral( "More." ), {} },
+            { {}, QStringLiteral( "name" ), QStringLiteral( "NAME" ), QStringLiteral( "Who." ), {} } };
         return command;
     }();
     return s_kCommand;

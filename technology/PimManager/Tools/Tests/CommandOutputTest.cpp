@@ -74,7 +74,8 @@ TEST( CommandOutputTest, FullDiskIsReportedWithStatusTwo )
     for ( const QByteArray& book : { folder.Write( "large", LargeBook() ), folder.Write( "small", CleanCard() ) } )
     {
         for ( const QList<QByteArray>& mode :
-              { QList<QByteArray>{ "list" }, QList<QByteArray>{ "convert", "--to", "json" }, QList<QByteArray>{ "check" } } )
+              { QList<QByteArray>{ "list" }, QList<QByteArray>{ "convert", "--to", "json" },
+                QList<QByteArray>{ "check" } } )
         {
             const ProgramRun run = ProgramCall( mode + QList<QByteArray>{ book } ).WithOutputTo( "/dev/full" ).Run();
             EXPECT_EQ( run.m_status, 2 ) << mode.join( ' ' ).constData();

@@ -1,9 +1,9 @@
 #include "ContactRun.h"
 
 #include "ContactPage.h"
-#include "TestBooks.h"
 #include "Outputs/RejectsFile.h"
 #include "ProgramRun.h"
+#include "TestBooks.h"
 
 #include <fcntl.h>
 #include <new>
@@ -44,8 +44,7 @@ TEST( ContactRunTest, OutputThatRunsOutOfMemoryIsNotPublishedAndOthersAre )
     outputs.push_back( std::make_unique<RejectsFile>( rejects, claims ) );
     outputs.push_back( std::make_unique<CutPage>( page, claims ) );
     const ExitStatus status =
-        ContactRun( console, BookOptions(), std::move( outputs ), BookRun::WithoutReader::GoOn )
-            .Run( { book } );
+        ContactRun( console, BookOptions(), std::move( outputs ), BookRun::WithoutReader::GoOn ).Run( { book } );
     EXPECT_EQ( int( status ), int( ExitStatus::Trouble ) );
     EXPECT_EQ( FileContent( page ).toStdString(), "old" );
     EXPECT_EQ( FileContent( rejects ), "\x01\x02 %%%\r\n" );

@@ -24,8 +24,9 @@ QJsonArray Parsed( const std::string& a_json )
 // The object of the only property of a card but VERSION.
 std::string PropertyJson( const QByteArray& a_line )
 {
-    const ProgramRun run =
-        ProgramCall( { "convert", "--to", "json-lines", "-" } ).WithInput( CardText( a_line + "\r\nVERSION:3.0\r\n" ) ).Run();
+    const ProgramRun run = ProgramCall( { "convert", "--to", "json-lines", "-" } )
+                               .WithInput( CardText( a_line + "\r\nVERSION:3.0\r\n" ) )
+                               .Run();
     const std::string head = "\"properties\":[";
     const std::string tail = R"(,{"name":"VERSION","types":[],"values":["3.0"]}]})"
                              "\n";
@@ -121,7 +122,8 @@ TEST( ConvertJsonTest, EveryLineIsADocument )
 TEST( ConvertJsonTest, NothingIsCut )
 {
     const QByteArray value( 1000000, 'v' );
-    const ProgramRun run =
-        ProgramCall( { "convert", "-t", "json-lines", "-" } ).WithInput( CardText( "VERSION:3.0\r\nNOTE:" + value + "\r\n" ) ).Run();
+    const ProgramRun run = ProgramCall( { "convert", "-t", "json-lines", "-" } )
+                               .WithInput( CardText( "VERSION:3.0\r\nNOTE:" + value + "\r\n" ) )
+                               .Run();
     EXPECT_NE( run.m_out.find( '"' + value.toStdString() + '"' ), std::string::npos );
 }

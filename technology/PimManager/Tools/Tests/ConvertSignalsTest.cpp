@@ -1,9 +1,9 @@
 // What a signal leaves of the files that `pimvcard convert` writes: those that were there before.
 
-#include "TestBooks.h"
 #include "Outputs/FileDescriptor.h"
 #include "ProgramProcess.h"
 #include "ProgramRun.h"
+#include "TestBooks.h"
 
 #include <chrono>
 #include <csignal>
@@ -176,7 +176,8 @@ TEST_F( ConvertSignalsTest, PicturesThatAreCompleteStay )
     const QByteArray picture = PngPicture() + QByteArray( 10000, 'x' );
     const QByteArray card = CardText( "VERSION:3.0\r\nFN:Nell\r\n" + PhotoLine( picture ) );
     HeldProgram program( { "--photos", folder.Path( "photos" ), "-" } );
-    program.Feed( card.repeated( 40 ) );
+    // More than the program holds back at the start of a book.
+    program.Feed( card.repeated( 120 ) );
     WaitForNames( folder.Path( "photos" ), 2 );
     program.Signal( SIGTERM );
     EXPECT_EQ( program.Finish(), -SIGTERM );

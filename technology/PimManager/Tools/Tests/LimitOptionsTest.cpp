@@ -1,5 +1,5 @@
-#include "Commands/CommandLine.h"
 #include "Commands/LimitOptions.h"
+#include "Commands/CommandLine.h"
 
 #include "ToolsTestText.h"
 

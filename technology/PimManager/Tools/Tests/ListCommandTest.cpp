@@ -161,10 +161,10 @@ TEST( ListCommandTest, CharsetIsGuessedAlikeFromFilesAndPipes )
 {
     const Folder folder;
     QByteArray text;
-    for ( const char* name : { "\xF7\xC5\xD4\xD2\xCF\xD7\xC1 \xFA\xC9\xCE\xC1\xC9\xC4\xC1",
-                               "\xEF\xC2\xCC\xC1\xCB\xCF\xD7\xC1 \xED\xC1\xD2\xC9\xD1",
-                               "\xF3\xD4\xC5\xD0\xC1\xCE\xCF\xD7 \xE9\xD7\xC1\xCE",
-                               "\xF0\xC5\xD4\xD2\xCF\xD7\xC1 \xEF\xCC\xD8\xC7\xC1" } )
+    for ( const char* name :
+          { "\xF7\xC5\xD4\xD2\xCF\xD7\xC1 \xFA\xC9\xCE\xC1\xC9\xC4\xC1",
+            "\xEF\xC2\xCC\xC1\xCB\xCF\xD7\xC1 \xED\xC1\xD2\xC9\xD1",
+            "\xF3\xD4\xC5\xD0\xC1\xCE\xCF\xD7 \xE9\xD7\xC1\xCE", "\xF0\xC5\xD4\xD2\xCF\xD7\xC1 \xEF\xCC\xD8\xC7\xC1" } )
         text += CardText( "VERSION:2.1\r\nFN:" + QByteArray( name ) + "\r\n" );
     const QByteArray book = folder.Write( "book", text );
     const std::string note = ": 4 cards name no character set and were read as KOI8-R, which was guessed from their "
@@ -192,8 +192,9 @@ TEST( ListCommandTest, CharsetOfEachFileIsItsOwn )
     const QByteArray second = folder.Write( "second", CardText( "VERSION:3.0\r\nFN:Nell\r\n" ) );
     const ProgramRun run = RunPimvcard( { "list", first, second } );
     EXPECT_NE( run.m_out.find( "\nJürgen\nNell\n" ), std::string::npos ) << run.m_out;
-    EXPECT_EQ( Notes( run ).find( "pimvcard: " + first.toStdString() + ": 1 card names no character set and was read as "
-                                                                      "windows-1252" ),
+    EXPECT_EQ( Notes( run ).find( "pimvcard: " + first.toStdString() +
+                                  ": 1 card names no character set and was read as "
+                                  "windows-1252" ),
                0U )
         << run.m_err;
     EXPECT_EQ( Notes( run ).find( second.toStdString() ), std::string::npos ) << run.m_err;

@@ -1,9 +1,9 @@
 // The files that the options of `pimvcard convert` name.
 
-#include "TestBooks.h"
 #include "Outputs/FileDescriptor.h"
 #include "ProgramProcess.h"
 #include "ProgramRun.h"
+#include "TestBooks.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -49,7 +49,8 @@ TEST( OutputFilesTest, ExistingFileIsReplacedOnlyWithForce )
     ASSERT_EQ( chmod( rejects.constData(), 0640 ), 0 );
     for ( const char* option : { "--rejects", "--output" } )
     {
-        const ProgramRun run = ProgramCall( { "convert", "-t", "html", option, rejects, "-" } ).WithInput( PartCard() ).Run();
+        const ProgramRun run =
+            ProgramCall( { "convert", "-t", "html", option, rejects, "-" } ).WithInput( PartCard() ).Run();
         EXPECT_EQ( run.m_status, 2 ) << option;
         EXPECT_EQ( run.m_out, "" ) << option;
         EXPECT_EQ( run.m_err, CannotBeWritten( rejects, "it exists already; --force replaces it" ) ) << option;
@@ -263,7 +264,8 @@ TEST( OutputFilesTest, BrokenPipeEndsQuietlyWithTheUsualStatus )
 {
     const Folder folder;
     const QByteArray large = folder.Write( "large", CleanCard().repeated( 3000 ) );
-    const ProgramRun out = ProgramCall( { "convert", "-q", "-t", "html", "-o", "-", large, large } ).WithBrokenPipe().Run();
+    const ProgramRun out =
+        ProgramCall( { "convert", "-q", "-t", "html", "-o", "-", large, large } ).WithBrokenPipe().Run();
     EXPECT_EQ( out.m_status, 0 );
     EXPECT_EQ( out.m_err, "" );
 
@@ -281,10 +283,11 @@ TEST( OutputFilesTest, FullDiskKeepsTheOldFileAndLeavesNothing )
     const Folder folder;
     const QByteArray page = folder.Write( "page", "old" );
     const QByteArray rejects = folder.Path( "rejects" );
-    const ProgramRun run = ProgramCall( { "convert", "-q", "--force", "-t", "html", "-o", page, "--rejects", rejects, "-" } )
-                               .WithInput( PartCard().repeated( 100 ) )
-                               .WithFileSizeLimit( 10000 )
-                               .Run();
+    const ProgramRun run =
+        ProgramCall( { "convert", "-q", "--force", "-t", "html", "-o", page, "--rejects", rejects, "-" } )
+            .WithInput( PartCard().repeated( 100 ) )
+            .WithFileSizeLimit( 10000 )
+            .Run();
     EXPECT_EQ( run.m_status, 2 );
     EXPECT_EQ( run.m_err.find( CannotBeWritten( page, "File too large" ) ), run.m_err.find( '\n' ) + 1 ) << run.m_err;
     EXPECT_EQ( FileContent( page ).toStdString(), "old" );
@@ -296,7 +299,8 @@ TEST( OutputFilesTest, FullDeviceIsReportedAndTheContactsCome )
 {
     for ( const char* option : { "--rejects", "--output" } )
     {
-        const ProgramRun run = ProgramCall( { "convert", "-t", "json", option, "/dev/full", "-" } ).WithInput( PartCard() ).Run();
+        const ProgramRun run =
+            ProgramCall( { "convert", "-t", "json", option, "/dev/full", "-" } ).WithInput( PartCard() ).Run();
         EXPECT_EQ( run.m_status, 2 ) << option;
         EXPECT_NE( run.m_out.find( "Tobias" ), std::string::npos ) << option;
         EXPECT_NE( run.m_err.find( CannotBeWritten( "/dev/full", "No space left on device" ) ), std::string::npos )
@@ -311,7 +315,8 @@ TEST( OutputFilesTest, PathThatCannotBeWrittenEndsTheRun )
     {
         for ( const QByteArray& name : { folder.Path( "a/b" ), folder.Path( "" ), QByteArray( "" ) } )
         {
-            const ProgramRun run = ProgramCall( { "convert", "-t", "json", option, name, "-" } ).WithInput( CleanCard() ).Run();
+            const ProgramRun run =
+                ProgramCall( { "convert", "-t", "json", option, name, "-" } ).WithInput( CleanCard() ).Run();
             EXPECT_EQ( run.m_status, 2 ) << option << name.constData();
             EXPECT_EQ( run.m_out, "" ) << option << name.constData();
             EXPECT_NE( run.m_err.find( ": cannot be written: " ), std::string::npos ) << run.m_err;

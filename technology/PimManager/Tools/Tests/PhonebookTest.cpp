@@ -44,17 +44,18 @@ TEST( PhonebookTest, ComponentReturnsAllCardsButTheBrokenOne )
     QStringList names;
     for ( const auto& card : PhonebookCards() )
         names << CardName( *card );
-    EXPECT_EQ( Utf8( names.join( QLatin1Char( '\n' ) ) ), "Nell Imogen Brackwater\n"
-                                                          "Dr. Tobias F. Quillfeather\n"
-                                                          "Δάφνη Ανεμόμυλου\n"
-                                                          "=D0=97=D0=B8=D0=BD=D0=B0=D0=B8=D0=B4=D0=B0 =D0=92=D0=B5=D1=82=D1=80=D0=BE=D0=B2=D0=BD=D0=B0 "
-                                                          "=D0=9E=D0=B1=D0=BB=D0=B0=D0=BA=D0=BE=D0=B2=D0=B0\n"
-                                                          "月見里 はるか\n"
-                                                          "ليلى المرجاني\n"
-                                                          "Prof. Otmar von Hügelstein\n"
-                                                          "Siobh=C3=A1n =C3=93 Wrenfield\n"
-                                                          "तारा मेघवन\n"
-                                                          "Crumb & Kettle Bakery" );
+    EXPECT_EQ( Utf8( names.join( QLatin1Char( '\n' ) ) ),
+               "Nell Imogen Brackwater\n"
+               "Dr. Tobias F. Quillfeather\n"
+               "Δάφνη Ανεμόμυλου\n"
+               "=D0=97=D0=B8=D0=BD=D0=B0=D0=B8=D0=B4=D0=B0 =D0=92=D0=B5=D1=82=D1=80=D0=BE=D0=B2=D0=BD=D0=B0 "
+               "=D0=9E=D0=B1=D0=BB=D0=B0=D0=BA=D0=BE=D0=B2=D0=B0\n"
+               "月見里 はるか\n"
+               "ليلى المرجاني\n"
+               "Prof. Otmar von Hügelstein\n"
+               "Siobh=C3=A1n =C3=93 Wrenfield\n"
+               "तारा मेघवन\n"
+               "Crumb & Kettle Bakery" );
 }
 
 TEST( PhonebookTest, StrictCheckReportsTheBrokenCard )

@@ -41,7 +41,8 @@ TEST( ReadingMemoryTest, MemoryDoesNotGrowWithTheFile )
     const QByteArray large = WriteBook( folder, "large", 5000 );
     const QByteArray rejects = folder.Path( "rejects" );
     for ( const QList<QByteArray>& mode :
-          { QList<QByteArray>{ "list" }, QList<QByteArray>{ "show" }, QList<QByteArray>{ "convert", "--to", "json-lines" },
+          { QList<QByteArray>{ "list" }, QList<QByteArray>{ "show" },
+            QList<QByteArray>{ "convert", "--to", "json-lines" },
             QList<QByteArray>{ "convert", "--force", "-t", "html", "-o", "/dev/null", "--rejects", rejects },
             QList<QByteArray>{ "check" } } )
     {

@@ -78,7 +78,8 @@ TEST( StrictCheckTest, LogOfTheComponentPrecedesTheResult )
     EXPECT_EQ( run.m_status, 1 );
     size_t place = 0;
     for ( const char* text :
-          { "   Illegal Character: '_'\n", "Line Number:", "Error in \"ParseVCards()\" ->\n  \"Could not parse vCard...\"",
+          { "   Illegal Character: '_'\n",
+            "Line Number:", "Error in \"ParseVCards()\" ->\n  \"Could not parse vCard...\"",
             "[PVCP] : 1 vCards parsed in: ", "\nstandard input: the strict reader returns 1 card\n" } )
     {
         place = run.m_out.find( text, place );

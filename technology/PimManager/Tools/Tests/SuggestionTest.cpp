@@ -16,10 +16,22 @@ TEST( SuggestionTest, ClosestWordIsSuggested )
     const QStringList words = { QStringLiteral( "list" ), QStringLiteral( "show" ), QStringLiteral( "check" ),
                                 QStringLiteral( "convert" ) };
     const std::vector<Row> rows = {
-        { "lst", "list" },       { "lits", "list" },      { "lists", "list" },   { "chek", "check" },
-        { "cehck", "check" },    { "konvert", "convert" }, { "convrt", "convert" }, { "covnertt", "convert" },
-        { "sho", "show" },       { "import", "" },        { "print", "" },       { "", "" },
-        { "x", "" },             { "l", "" },             { "lt", "" },          { "checkcheck", "" },
+        { "lst", "list" },
+        { "lits", "list" },
+        { "lists", "list" },
+        { "chek", "check" },
+        { "cehck", "check" },
+        { "konvert", "convert" },
+        { "convrt", "convert" },
+        { "covnertt", "convert" },
+        { "sho", "show" },
+        { "import", "" },
+        { "print", "" },
+        { "", "" },
+        { "x", "" },
+        { "l", "" },
+        { "lt", "" },
+        { "checkcheck", "" },
     };
     for ( const Row& row : rows )
     {

@@ -132,6 +132,7 @@ public:
     const quint32 m_bytesLength;
 
 private:
+    static void SetName( PimContactLine& a_line, const IndexReader::Outline& a_outline );
     PimContactCardPrivate( const Origin& a_origin, quint32 a_indexLength, quint32 a_bytesLength );
     void* operator new( size_t /*a_size*/, void* a_block ) { return a_block; }
     void operator delete( void* /*a_block*/, void* /*a_place*/ ) {}

@@ -60,10 +60,14 @@ IndexedLine PimContactCardPrivate::LineView::LineOf( const PimContactLine& a_lin
     return line;
 }
 
-bool PimContactCardPrivate::LineView::FindName( const PimContactLine& a_line, std::string_view& a_name )
+bool PimContactCardPrivate::LineView::FindPlainValue( const PimContactLine& a_line, std::string_view& a_value )
 {
-    const IndexReader reader( a_line.d->Index(), a_line.m_entry, a_line.m_entry );
-    return reader.FindName( a_line.d->Bytes().data() + a_line.m_begin, a_name );
+    const uchar* const index = a_line.d->Index();
+    const IndexReader reader( index, a_line.m_entry, a_line.m_entry );
+    if ( !reader.FindValue( a_line.d->Bytes().data() + a_line.m_begin, a_value ) )
+        return false;
+    a_value = WithoutLineEnd( a_value );
+    return !CardRecord::At( index + a_line.m_record ).Has( CardRecord::IsOtherCharset );
 }
 
 bool PimContactCardPrivate::LineView::FindNested( const PimContactLine& a_line, IndexEntry& a_nested )

@@ -77,9 +77,10 @@ public:
     static CardView CardOf( const PimContactCard& a_card );
     /// \param a_line may be null; then nothing is in the line.
     static IndexedLine LineOf( const PimContactLine& a_line );
-    /// Finds the name of a line, which is not null, without reading the rest.
-    /// \return false if the line has something unusual, so that only LineOf() finds the name.
-    static bool FindName( const PimContactLine& a_line, std::string_view& a_name );
+    /// Finds a value that is text in UTF-8 as it is written, but for its escapes.
+    /// \param a_line is not null.
+    /// \return false for any other value.
+    static bool FindPlainValue( const PimContactLine& a_line, std::string_view& a_value );
     /// Finds the entry of the nested card that follows the line; blank lines may be in between.
     static bool FindNested( const PimContactLine& a_line, IndexEntry& a_nested );
 

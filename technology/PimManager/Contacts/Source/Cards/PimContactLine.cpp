@@ -6,6 +6,9 @@
 
 #include <PimManager/Contacts/PimContactCard.h>
 
+#include <algorithm>
+#include <limits>
+
 namespace PimManager::Contacts
 {
 
@@ -29,20 +32,33 @@ ByteRange AllOf( const IndexedLine& a_line )
 
 } // namespace
 
+// Remembers where the name is, unless that is unusual.
+void PimContactCardPrivate::SetName( PimContactLine& a_line, const IndexReader::Outline& a_outline )
+{
+    const ByteRange name = a_outline.m_name;
+    const auto bytes = std::string_view( a_line.d->Bytes().data() + a_line.m_begin + name.m_begin, name.m_length );
+    const bool isBroken = a_outline.m_isContinued && std::any_of( bytes.begin(), bytes.end(), IsLineEndByte );
+    const bool doesFit = name.End() <= std::numeric_limits<quint16>::max();
+    a_line.m_nameBegin = static_cast<quint16>( doesFit ? name.m_begin : 0 );
+    a_line.m_nameLength = static_cast<quint16>( doesFit && !isBroken ? name.m_length : 0 );
+}
+
 void PimContactCardPrivate::Step( PimContactCard::const_iterator& a_iterator )
 {
     PimContactLine& line = a_iterator.m_line;
     IndexReader reader( line.d->Index(), a_iterator.m_nextEntry, a_iterator.m_indexEnd );
-    IndexEntry entry;
     while ( !reader.AtEnd() )
     {
         line.m_entry = reader.Place();
         line.m_begin = a_iterator.m_nextBegin;
-        reader.Next( entry, true );
-        a_iterator.m_nextBegin += entry.m_length;
+        const IndexReader::Outline outline = reader.Skip();
+        a_iterator.m_nextBegin += outline.m_length;
         a_iterator.m_nextEntry = reader.Place();
-        if ( entry.m_kind == EntryKind::Line )
+        if ( outline.m_kind == EntryKind::Line )
+        {
+            SetName( line, outline );
             return;
+        }
     }
     a_iterator = PimContactCard::const_iterator();
 }

@@ -1,9 +1,5 @@
 #include "Lines/LineIndex.h"
 
-#include "Text/Bytes.h"
-
-#include <algorithm>
-
 namespace PimManager::Contacts
 {
 
@@ -285,17 +281,67 @@ void IndexReader::Next( IndexEntry& a_entry, bool a_isBrief )
     }
 }
 
-bool IndexReader::FindName( const char* a_line, std::string_view& a_name ) const
+inline IndexReader::LineLengths IndexReader::ReadLengths( const uchar*& a_place )
 {
-    const uint header = m_base[m_place];
-    if ( ( header & s_kHasExtras ) != 0 )
+    const uint header = *a_place++;
+    LineLengths lengths;
+    lengths.m_line = ReadNumber( a_place );
+    lengths.m_name = ReadNumber( a_place );
+    if ( ( header & s_kHasGroup ) != 0 )
+        lengths.m_group = ReadNumber( a_place );
+    if ( ( header & s_kHasParameters ) != 0 )
+        lengths.m_parameters = ReadNumber( a_place );
+    return lengths;
+}
+
+inline uint IndexReader::SkipExtras( uint a_header, const uchar*& a_place )
+{
+    constexpr int s_kPlaces = 4;
+    const uint extras = ( a_header & s_kHasExtras ) != 0 ? ReadNumber( a_place ) : 0;
+    if ( ( extras & ( s_kHasPlaces | s_kHasJoins ) ) == 0 )
+        return extras;
+    for ( int i = 0; i < s_kPlaces && ( extras & s_kHasPlaces ) != 0; ++i )
+        ReadNumber( a_place );
+    const quint32 joins = ( extras & s_kHasJoins ) != 0 ? ReadNumber( a_place ) : 0;
+    a_place += joins;
+    return extras;
+}
+
+IndexReader::Outline IndexReader::Skip()
+{
+    const uchar* place = m_base + m_place;
+    const uint header = *place;
+    Outline outline;
+    outline.m_kind = static_cast<EntryKind>( header & s_kKindMask );
+    if ( outline.m_kind == EntryKind::Line )
+    {
+        const LineLengths lengths = ReadLengths( place );
+        const uint extras = SkipExtras( header, place );
+        outline.m_length = lengths.m_line;
+        if ( ( extras & s_kHasPlaces ) == 0 )
+            outline.m_name = { lengths.NameBegin(), lengths.m_name };
+        outline.m_isContinued = ( header & s_kHasFolds ) != 0 || ( extras & s_kHasJoins ) != 0;
+    }
+    else
+    {
+        outline.m_length = ReadNumber( ++place );
+        const quint32 nested = outline.m_kind == EntryKind::Nested ? ReadNumber( place ) : 0;
+        place += nested;
+    }
+    m_place = static_cast<quint32>( place - m_base );
+    return outline;
+}
+
+bool IndexReader::FindValue( const char* a_line, std::string_view& a_value ) const
+{
+    const uchar* place = m_base + m_place;
+    const uint header = *place;
+    if ( ( header & ( s_kHasFolds | s_kHasExtras | s_kHasColon ) ) != s_kHasColon )
         return false;
-    const uchar* place = m_base + m_place + 1;
-    ReadNumber( place );
-    const quint32 length = ReadNumber( place );
-    const quint32 begin = ( header & s_kHasGroup ) != 0 ? ReadNumber( place ) + 1 : 0;
-    a_name = std::string_view( a_line + begin, length );
-    return ( header & s_kHasFolds ) == 0 || std::none_of( a_name.begin(), a_name.end(), IsLineEndByte );
+    const LineLengths lengths = ReadLengths( place );
+    const quint32 begin = lengths.NameBegin() + lengths.m_name + lengths.m_parameters + 1;
+    a_value = std::string_view( a_line + begin, lengths.m_line - begin );
+    return true;
 }
 
 void IndexReader::ReadLine( IndexEntry& a_entry, uint a_header )

@@ -183,14 +183,42 @@ public:
     /// not read.
     void Next( IndexEntry& a_entry, bool a_isBrief = false );
 
-    /// Finds the name of the next entry, which is a line, without reading the rest of the entry.
-    /// \param a_line the bytes of the line and what follows it.
-    /// \return false if the line has something unusual, so that only Next() finds the name.
-    bool FindName( const char* a_line, std::string_view& a_name ) const;
+    /// What Skip() reads of an entry.
+    struct Outline
+    {
+        EntryKind m_kind = EntryKind::Line;
+        quint32 m_length = 0;
+        /// Of a line; empty if its places are unusual, so that only Next() finds the name.
+        ByteRange m_name;
+        /// Of a line: there may be line endings in the name.
+        bool m_isContinued = false;
+    };
+
+    /// Steps behind the next entry and reads no more than this.
+    Outline Skip();
+
+    /// Finds the value of the next entry, which is a line, without reading the rest of the entry.
+    /// \param a_line       the bytes of the line and what follows it.
+    /// \param[out] a_value the value, with the line ending.
+    /// \return false if there is anything unusual about the line, or if it is continued or not in UTF-8.
+    bool FindValue( const char* a_line, std::string_view& a_value ) const;
 
 private:
     // Of the header.
     static constexpr uint s_kKindMask = 0x07;
+
+    // The lengths that follow the header of a line.
+    struct LineLengths
+    {
+        quint32 m_line = 0;
+        quint32 m_name = 0;
+        quint32 m_group = 0;
+        quint32 m_parameters = 0;
+
+        quint32 NameBegin() const { return m_group == 0 ? 0 : m_group + 1; }
+    };
+    static LineLengths ReadLengths( const uchar*& a_place );
+    static uint SkipExtras( uint a_header, const uchar*& a_place );
 
     void ReadLine( IndexEntry& a_entry, uint a_header );
     void ReadExtras( IndexEntry& a_entry );

@@ -66,16 +66,15 @@ PimContactValueKind KindOf( Delimiters a_delimiters )
 
 } // namespace
 
-// Programs ask this of each line several times, so it does not read more than the name.
+// Programs ask this of each line several times.
 bool PimContactLine::IsNamed( QLatin1String a_name ) const
 {
-    if ( IsNull() )
-        return false;
-    std::string_view name;
-    if ( PimContactCardPrivate::LineView::FindName( *this, name ) )
-        return IsSameWord( name, ViewOf( a_name ) );
+    if ( m_nameLength > 0 )
+        return m_nameLength == a_name.size() &&
+               IsSameWord( std::string_view( d->Bytes().data() + m_begin + m_nameBegin, m_nameLength ),
+                           ViewOf( a_name ) );
     QByteArray buffer;
-    return IsSameWord( Indexed( *this ).Name( buffer ), ViewOf( a_name ) );
+    return !IsNull() && IsSameWord( Indexed( *this ).Name( buffer ), ViewOf( a_name ) );
 }
 
 QStringList PimContactLine::ParameterNames() const
@@ -141,8 +140,13 @@ QStringList PimContactLine::Values() const
     }
 }
 
+// Most values have nothing to decode.
 QString PimContactLine::Text() const
 {
+    std::string_view value;
+    const bool isPlain = !IsNull() && PimContactCardPrivate::LineView::FindPlainValue( *this, value );
+    if ( isPlain && value.find( '\\' ) == std::string_view::npos )
+        return StringOf( value );
     return TextOf( Indexed( *this ) );
 }
 

@@ -59,9 +59,9 @@ CommandInfo List()
 
 CommandInfo Show()
 {
-    return Reading(
-        QStringLiteral( "show" ), QStringLiteral( "Prints everything that the cards hold, for reading." ),
-        { Flag( QStringLiteral( "F" ), s_kFullOption, QStringLiteral( "Prints long values whole." ) ) }, QString() );
+    return Reading( QStringLiteral( "show" ), QStringLiteral( "Prints everything that the cards hold, for reading." ),
+                    { Flag( QStringLiteral( "F" ), s_kFullOption, QStringLiteral( "Prints long values whole." ) ) },
+                    QString() );
 }
 
 CommandInfo Check()
@@ -95,7 +95,8 @@ CommandInfo Convert()
                   QStringLiteral( "Writes the pictures into a folder." ) ),
           Valued( QStringLiteral( "r" ), s_kRejectsOption, file,
                   QStringLiteral( "Writes what was refused or dropped, as it was found." ) ),
-          Flag( QStringLiteral( "f" ), s_kForceOption, QStringLiteral( "Lets the outputs replace files that exist." ) ) },
+          Flag( QStringLiteral( "f" ), s_kForceOption,
+                QStringLiteral( "Lets the outputs replace files that exist." ) ) },
         QStringLiteral( "\nAs FILE, - is standard output. A file appears only when it is complete.\n" ) );
 }
 
@@ -141,8 +142,8 @@ const CommandInfo* FindCommand( const QByteArray& a_name )
 {
     const auto& commands = Commands();
     const auto found =
-        std::find_if( commands.begin(), commands.end(), [&a_name]( const CommandInfo& a_command )
-                      { return a_command.m_name.toLatin1() == a_name; } );
+        std::find_if( commands.begin(), commands.end(),
+                      [&a_name]( const CommandInfo& a_command ) { return a_command.m_name.toLatin1() == a_name; } );
     return found == commands.end() ? nullptr : &*found;
 }
 

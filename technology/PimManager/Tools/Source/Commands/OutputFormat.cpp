@@ -22,7 +22,7 @@ constexpr std::array s_kNames = {
 };
 
 constexpr std::array s_kEndings = {
-    FormatWord{ ".json", OutputFormat::Json },       FormatWord{ ".jsonl", OutputFormat::JsonLines },
+    FormatWord{ ".json", OutputFormat::Json },        FormatWord{ ".jsonl", OutputFormat::JsonLines },
     FormatWord{ ".ndjson", OutputFormat::JsonLines }, FormatWord{ ".html", OutputFormat::Html },
     FormatWord{ ".htm", OutputFormat::Html },
 };

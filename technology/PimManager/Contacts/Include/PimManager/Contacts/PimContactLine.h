@@ -227,6 +227,9 @@ private:
     quint32 m_record = 0;
     quint32 m_entry = 0;
     quint32 m_begin = 0;
+    // Where the name is in the bytes of the line. No length if the index must be asked.
+    quint16 m_nameBegin = 0;
+    quint16 m_nameLength = 0;
 };
 
 } // namespace PimManager::Contacts

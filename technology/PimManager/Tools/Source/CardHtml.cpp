@@ -143,14 +143,19 @@ void CardHtml::WriteWay( const PimContactLine& a_line )
     m_device.write( ">" );
     WriteHtmlText( m_device, entry.Text() );
     m_device.write( "</" + tag + ">" );
-    const QStringList uses = UsesOf( entry );
+    WriteUses( entry );
+    m_device.write( "</li>\n" );
+}
+
+void CardHtml::WriteUses( const PimContactEntry& a_entry )
+{
+    const QStringList uses = UsesOf( a_entry );
     for ( const QString& use : uses )
     {
         m_device.write( R"( <span class="kind" dir="auto">)" );
         WriteHtmlText( m_device, use );
         m_device.write( "</span>" );
     }
-    m_device.write( "</li>\n" );
 }
 
 void CardHtml::WriteNotes()

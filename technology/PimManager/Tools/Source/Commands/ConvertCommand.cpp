@@ -99,10 +99,10 @@ ExitStatus RunConvert( const CommandLine& a_line, Console& a_console )
     OutputClaims claims( a_console, a_line.Arguments(),
                          a_line.IsSet( s_kForceOption ) ? Existing::Replace : Existing::Keep );
     ContactRun::Outputs outputs;
-    if ( request.m_format )
-        outputs.push_back( MakeOutput( request, claims ) );
     outputs.push_back( std::make_unique<BookNotes>( a_console ) );
     AddOtherOutputs( outputs, a_line, claims );
+    if ( request.m_format )
+        outputs.push_back( MakeOutput( request, claims ) );
     return ContactRun( a_console, request.m_options, std::move( outputs ), WithoutReader( a_line, claims ) )
         .Run( a_line.Arguments() );
 }

@@ -15,7 +15,7 @@
 #include <vector>
 
 using namespace PimManager::vCard::Documents;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

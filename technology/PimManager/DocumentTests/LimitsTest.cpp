@@ -1,7 +1,7 @@
 // docs/limits.md: the figures of the program are those of the code.
 
-#include "BookReader.h"
 #include "DocumentFile.h"
+#include "Strict/BookReader.h"
 
 #include <gtest/gtest.h>
 
@@ -29,7 +29,7 @@ TEST( LimitsTest, LargestFileToPrintIsThatOfTheCode )
     {
         if ( !row.m_cells[0].startsWith( QLatin1String( "bytes of a " ) ) || !row.m_cells[0].endsWith( bits ) )
             continue;
-        EXPECT_EQ( Figure( row.m_cells[1] ), PimManager::vCard::Tools::s_kLargestBook ) << "line " << row.m_line;
+        EXPECT_EQ( Figure( row.m_cells[1] ), PimManager::Tools::s_kLargestBook ) << "line " << row.m_line;
         ++rows;
     }
     EXPECT_EQ( rows, 2 );

@@ -11,7 +11,7 @@
 #include <QSet>
 
 using namespace PimManager::vCard::Documents;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

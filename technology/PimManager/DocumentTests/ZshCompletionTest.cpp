@@ -9,7 +9,7 @@
 #include <QRegularExpression>
 
 using namespace PimManager::vCard::Documents;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// What the shell gets, from good to bad.
@@ -26,4 +26,4 @@ inline ExitStatus Worse( ExitStatus a_first, ExitStatus a_second )
     return std::max( a_first, a_second );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

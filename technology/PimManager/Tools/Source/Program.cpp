@@ -7,13 +7,13 @@
 #include "Commands/ListCommand.h"
 #include "Commands/ReadingCommand.h"
 #include "Commands/ShowCommand.h"
-#include "Version.h"
+#include "Commands/Version.h"
 
 #include <algorithm>
 #include <array>
 #include <sys/stat.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -124,4 +124,4 @@ ExitStatus RunProgram( const QList<QByteArray>& a_arguments, Console& a_console 
     return hasWord ? RunCommand( line, a_console ) : RunNothing( line, a_console );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

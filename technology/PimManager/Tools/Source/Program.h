@@ -3,13 +3,13 @@
 
 #pragma once
 
-#include "Console.h"
 #include "ExitStatus.h"
+#include "Terminal/Console.h"
 
 #include <QByteArray>
 #include <QList>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Finds the command that the user wants and runs it. Options may precede the name of the command or follow it. Without
@@ -17,4 +17,4 @@ namespace PimManager::vCard::Tools
 /// \param a_arguments without the program's own name.
 ExitStatus RunProgram( const QList<QByteArray>& a_arguments, Console& a_console );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

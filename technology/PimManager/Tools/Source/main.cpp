@@ -1,7 +1,7 @@
-#include "Console.h"
 #include "Outputs/OutputDevice.h"
 #include "Outputs/UnfinishedFile.h"
 #include "Program.h"
+#include "Terminal/Console.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -14,7 +14,7 @@
 #include <new>
 #include <unistd.h>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

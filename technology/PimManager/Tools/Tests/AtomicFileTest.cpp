@@ -10,7 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

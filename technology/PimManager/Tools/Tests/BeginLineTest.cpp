@@ -1,14 +1,14 @@
-#include "BeginLine.h"
+#include "Strict/BeginLine.h"
 
-#include "ComponentLog.h"
 #include "PimVCard.h"
 #include "PimVCardParser.h"
+#include "Strict/ComponentLog.h"
 #include "ToolsTestText.h"
 
 #include <vector>
 
 using namespace PimManager::vCard;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

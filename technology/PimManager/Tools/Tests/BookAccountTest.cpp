@@ -1,11 +1,11 @@
-#include "BookAccount.h"
+#include "Strict/BookAccount.h"
 
-#include "ComponentLog.h"
+#include "Strict/ComponentLog.h"
 #include "ToolsTestText.h"
 
 #include <vector>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -1,6 +1,6 @@
-#include "BookReader.h"
+#include "Strict/BookReader.h"
 
-#include "InputDevice.h"
+#include "Reading/InputDevice.h"
 
 #include "ToolsTestText.h"
 
@@ -11,7 +11,7 @@
 #include <cerrno>
 #include <unistd.h>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -16,7 +16,7 @@
 #include <unistd.h>
 #include <vector>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -221,4 +221,4 @@ void Browser::Notice( const QJsonObject& a_message )
         m_complaints << QString::fromUtf8( QJsonDocument( parameters ).toJson() );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -10,7 +10,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Chromium with one page. Whatever it does not answer fails the test.
@@ -61,4 +61,4 @@ private:
     QStringList m_complaints;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

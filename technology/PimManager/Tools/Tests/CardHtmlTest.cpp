@@ -1,4 +1,4 @@
-#include "CardHtml.h"
+#include "Page/CardHtml.h"
 
 #include "TestBooks.h"
 
@@ -12,7 +12,7 @@
 #include <vector>
 
 using namespace PimManager::Contacts;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -1,11 +1,11 @@
-#include "CardName.h"
+#include "Strict/CardName.h"
 
 #include "ToolsTestText.h"
 
 #include <vector>
 
 using namespace PimManager::vCard;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 TEST( CardNameTest, NameIsTakenFromTheFirstPropertyThatHasOne )
 {

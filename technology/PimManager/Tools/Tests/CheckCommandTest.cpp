@@ -9,7 +9,7 @@
 #include <vector>
 
 using namespace PimManager::Contacts;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {
@@ -88,7 +88,7 @@ TEST( CheckCommandTest, FindingsAreListedInTheOrderOfTheFile )
     };
     for ( const Row& row : rows )
     {
-        const ProgramRun run = Check( row.m_book );
+        const ProgramRun run = Check( row.m_book, { "--quiet" } );
         EXPECT_EQ( run.m_status, row.m_status ) << row.m_name << "\n" << run.m_out;
         EXPECT_EQ( Findings( run ), row.m_findings ) << row.m_name << "\n" << run.m_out;
         EXPECT_EQ( LastLine( run ).find( "standard input: " ), 0U ) << row.m_name;

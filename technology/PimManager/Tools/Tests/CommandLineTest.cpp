@@ -2,7 +2,7 @@
 
 #include "ToolsTestText.h"
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -4,7 +4,7 @@
 
 #include <set>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 TEST( CommandTableTest, EveryNameAndLetterIsUniqueInItsCommand )
 {

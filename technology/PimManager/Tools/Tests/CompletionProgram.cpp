@@ -5,7 +5,7 @@
 
 #include <cstdio>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 int main( int a_count, char* a_arguments[] )
 {

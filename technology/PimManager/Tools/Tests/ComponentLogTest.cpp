@@ -1,4 +1,4 @@
-#include "ComponentLog.h"
+#include "Strict/ComponentLog.h"
 
 #include "ToolsTestText.h"
 
@@ -8,7 +8,7 @@
 
 #include <vector>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -1,7 +1,7 @@
-#include "ContactRun.h"
+#include "Reading/ContactRun.h"
 
-#include "ContactPage.h"
 #include "Outputs/RejectsFile.h"
+#include "Page/ContactPage.h"
 #include "ProgramRun.h"
 #include "TestBooks.h"
 
@@ -9,7 +9,7 @@
 #include <new>
 #include <unistd.h>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -1,6 +1,6 @@
-#include "ContactTable.h"
+#include "Outputs/ContactTable.h"
 
-#include "TextColumns.h"
+#include "Terminal/TextColumns.h"
 #include "ToolsTestText.h"
 
 #include <PimManager/Contacts/PimContactBook.h>
@@ -10,7 +10,7 @@
 #include <vector>
 
 using namespace PimManager::Contacts;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -1,4 +1,4 @@
-#include "ContactText.h"
+#include "Outputs/ContactText.h"
 
 #include "TestBooks.h"
 #include "ToolsTestText.h"
@@ -8,7 +8,7 @@
 #include <QBuffer>
 
 using namespace PimManager::Contacts;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -1,4 +1,4 @@
-#include "ContentLineReader.h"
+#include "Strict/ContentLineReader.h"
 
 #include "ToolsTestText.h"
 
@@ -6,7 +6,7 @@
 
 #include <vector>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -1,10 +1,10 @@
-#include "HtmlText.h"
+#include "Page/HtmlText.h"
 
 #include "ToolsTestText.h"
 
 #include <vector>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 TEST( HtmlTextTest, NothingOfATextIsMarkup )
 {

@@ -1,14 +1,14 @@
-#include "InputDevice.h"
+#include "Reading/InputDevice.h"
 
-#include "Interrupt.h"
 #include "ProgramRun.h"
+#include "Terminal/Interrupt.h"
 #include "ToolsTestText.h"
 
 #include <array>
 #include <csignal>
 #include <unistd.h>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 TEST( InputDeviceTest, BytesComeInOrderToTheEnd )
 {

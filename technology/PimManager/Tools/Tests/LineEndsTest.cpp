@@ -1,9 +1,9 @@
-#include "LineEnds.h"
+#include "Strict/LineEnds.h"
 
 #include <gtest/gtest.h>
 #include <vector>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 TEST( LineEndsTest, EachKindIsCounted )
 {

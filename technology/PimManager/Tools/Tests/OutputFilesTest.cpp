@@ -11,7 +11,7 @@
 #include <unistd.h>
 #include <vector>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -9,7 +9,7 @@
 #include <unistd.h>
 #include <vector>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

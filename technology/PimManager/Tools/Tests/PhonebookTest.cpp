@@ -1,16 +1,16 @@
 #include "ProgramRun.h"
 
-#include "BookAccount.h"
-#include "CardName.h"
-#include "ComponentLog.h"
-#include "LineEnds.h"
 #include "PimVCard.h"
+#include "Strict/BookAccount.h"
+#include "Strict/CardName.h"
+#include "Strict/ComponentLog.h"
+#include "Strict/LineEnds.h"
 #include "ToolsTestText.h"
 
 #include <QStringList>
 
 using namespace PimManager::vCard;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

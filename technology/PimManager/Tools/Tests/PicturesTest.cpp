@@ -1,4 +1,4 @@
-#include "Pictures.h"
+#include "Outputs/Pictures.h"
 
 #include "TestBooks.h"
 
@@ -7,7 +7,7 @@
 #include <vector>
 
 using namespace PimManager::Contacts;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

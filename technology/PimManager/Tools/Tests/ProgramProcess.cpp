@@ -13,7 +13,7 @@
 #include <unistd.h>
 #include <vector>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -91,4 +91,4 @@ void FeedPipe( int a_pipe, const QByteArray& a_bytes )
     }
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

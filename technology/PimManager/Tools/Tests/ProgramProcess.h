@@ -9,7 +9,7 @@
 #include <array>
 #include <sys/types.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// \return the ends of a new pipe, the one to read from first.
@@ -24,4 +24,4 @@ int WaitFor( pid_t a_child );
 /// Writes to a pipe and waits until its reader has taken everything.
 void FeedPipe( int a_pipe, const QByteArray& a_bytes );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -15,7 +15,7 @@
 #include <unistd.h>
 #include <vector>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -269,4 +269,4 @@ std::string NamesIn( const QByteArray& a_folder )
     return joined;
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -12,7 +12,7 @@
 #include <string>
 #include <sys/types.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// What a run of the program left behind.
@@ -107,4 +107,4 @@ unsigned ModeOf( const QByteArray& a_name );
 /// The names in a folder in order, each with a line feed. Names of hidden files are among them.
 std::string NamesIn( const QByteArray& a_folder );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -1,4 +1,4 @@
-#include "Progress.h"
+#include "Terminal/Progress.h"
 
 #include "Outputs/OutputDevice.h"
 #include "ToolsTestText.h"
@@ -8,7 +8,7 @@
 #include <unistd.h>
 #include <vector>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

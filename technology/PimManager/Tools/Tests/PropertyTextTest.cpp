@@ -1,4 +1,4 @@
-#include "PropertyText.h"
+#include "Outputs/PropertyText.h"
 
 #include "ToolsTestText.h"
 
@@ -7,7 +7,7 @@
 #include <vector>
 
 using namespace PimManager::Contacts;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -6,7 +6,7 @@
 
 #include <sys/resource.h>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

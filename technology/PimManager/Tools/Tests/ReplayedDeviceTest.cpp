@@ -1,7 +1,7 @@
-#include "ReplayedDevice.h"
+#include "Reading/ReplayedDevice.h"
 
 #include "Checks/TrickleDevice.h"
-#include "InputDevice.h"
+#include "Reading/InputDevice.h"
 
 #include <PimManager/Contacts/PimContactReader.h>
 
@@ -14,7 +14,7 @@
 #include <unistd.h>
 
 using namespace PimManager::Contacts;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

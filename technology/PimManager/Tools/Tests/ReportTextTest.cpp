@@ -1,4 +1,4 @@
-#include "ReportText.h"
+#include "Outputs/ReportText.h"
 
 #include "TestBooks.h"
 
@@ -7,7 +7,7 @@
 #include <vector>
 
 using namespace PimManager::Contacts;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -1,11 +1,11 @@
-#include "ScaledNumber.h"
+#include "Commands/ScaledNumber.h"
 
 #include "ToolsTestText.h"
 
 #include <limits>
 #include <vector>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -1,8 +1,8 @@
-#include "ShortText.h"
+#include "Terminal/ShortText.h"
 
 #include "ToolsTestText.h"
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -5,7 +5,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 TEST( SuggestionTest, ClosestWordIsSuggested )
 {

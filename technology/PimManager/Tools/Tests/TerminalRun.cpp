@@ -13,7 +13,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -104,4 +104,4 @@ void TerminalRun::Collect()
     }
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -8,7 +8,7 @@
 
 #include <string>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// The program on a terminal of its own, fed and interrupted by hand.
@@ -51,4 +51,4 @@ private:
     std::string m_pipe;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -1,12 +1,12 @@
 #include "ProgramRun.h"
 #include "TerminalRun.h"
 
+#include "Terminal/TextColumns.h"
 #include "TestBooks.h"
-#include "TextColumns.h"
 
 #include <csignal>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

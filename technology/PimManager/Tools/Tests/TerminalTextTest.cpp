@@ -1,11 +1,11 @@
-#include "TerminalText.h"
+#include "Terminal/TerminalText.h"
 
-#include "CodePoints.h"
+#include "Terminal/CodePoints.h"
 #include "ToolsTestText.h"
 
 #include <QVector>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

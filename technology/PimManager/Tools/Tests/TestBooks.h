@@ -7,7 +7,7 @@
 
 #include <QByteArray>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// A picture of one pixel in each of the types that a page shows first.
@@ -47,4 +47,4 @@ inline QByteArray HostileText()
            "onerror=\"document.title='run'\">\"'&lt;../../x";
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

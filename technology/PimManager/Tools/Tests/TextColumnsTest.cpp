@@ -1,10 +1,10 @@
-#include "TextColumns.h"
+#include "Terminal/TextColumns.h"
 
 #include "ToolsTestText.h"
 
 #include <vector>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 TEST( TextColumnsTest, CharactersTakeNoneOneOrTwoColumns )
 {

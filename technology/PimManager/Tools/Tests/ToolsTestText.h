@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "BookParser.h"
+#include "Strict/BookParser.h"
 
 #include <QByteArray>
 #include <QString>
@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <string>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// A text as failed comparisons can show it.
@@ -38,11 +38,11 @@ inline QByteArray Utf16( const QByteArray& a_text )
 }
 
 /// The only card of a text.
-inline std::unique_ptr<PimVCard> OnlyCard( const QByteArray& a_lines )
+inline std::unique_ptr<vCard::PimVCard> OnlyCard( const QByteArray& a_lines )
 {
     Cards cards = ParseBook( CardText( a_lines ) );
     EXPECT_EQ( cards.size(), 1U ) << a_lines.constData();
-    return cards.empty() ? std::make_unique<PimVCard>( nullptr ) : std::move( cards.front() );
+    return cards.empty() ? std::make_unique<vCard::PimVCard>( nullptr ) : std::move( cards.front() );
 }
 
 /// A control character but the line feed, a separator of lines or paragraphs, a byte order mark, or what turns the
@@ -67,4 +67,4 @@ inline bool IsHarmless( const std::string& a_bytes )
     return std::none_of( text.begin(), text.end(), DrivesTerminal );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 using Contacts::PimContactCharset;
@@ -121,4 +121,4 @@ PimContactCharset GuessCharset( const QByteArray& a_start )
     return std::any_of( best + 1, candidates.end(), isRival ) ? PimContactCharset() : best->m_charset;
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -11,7 +11,7 @@
 
 #include <QByteArray>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Guesses the character set of the text in a book that is not UTF-8 and names none.
@@ -28,4 +28,4 @@ namespace PimManager::vCard::Tools
 /// \return the character set; unknown if there is no such text, or if none fits it, or several do.
 Contacts::PimContactCharset GuessCharset( const QByteArray& a_start );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

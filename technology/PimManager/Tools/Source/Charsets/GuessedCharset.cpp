@@ -1,11 +1,11 @@
 #include "Charsets/GuessedCharset.h"
 
 #include "Charsets/CharsetGuess.h"
-#include "Wording.h"
+#include "Terminal/Wording.h"
 
 #include <PimManager/Contacts/PimContactOptions.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 using namespace PimManager::Contacts;
@@ -40,4 +40,4 @@ QString GuessedCharset::Note( const QString& a_source ) const
            QStringLiteral( ". Use --charset NAME if names look wrong." );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

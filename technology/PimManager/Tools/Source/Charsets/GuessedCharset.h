@@ -14,7 +14,7 @@
 
 #pragma once
 
-#include "ReplayedDevice.h"
+#include "Reading/ReplayedDevice.h"
 
 #include <PimManager/Contacts/PimContactCard.h>
 #include <PimManager/Contacts/PimContactCharset.h>
@@ -22,7 +22,7 @@
 #include <QByteArray>
 #include <QString>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Guesses the default character set from the start of the book, and tells the user which cards depend on the guess.
@@ -59,4 +59,4 @@ private:
     qint64 m_cards = 0;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -198,4 +198,4 @@ int Language::CostOfUnusual( QChar a_letter ) const
     return a_letter.isLetter() ? s_kUnusualLetter : s_kSymbol;
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -9,7 +9,7 @@
 
 #include <string_view>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// What a language is written in.
@@ -59,4 +59,4 @@ private:
     QHash<ushort, int> m_costs;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

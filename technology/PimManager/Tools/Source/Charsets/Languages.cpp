@@ -4,7 +4,7 @@
 // usual surnames, the characters and syllables of given names, and the words of addresses and companies. They were
 // written down from general knowledge; no list of names was counted.
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -199,4 +199,4 @@ const std::vector<UsedCharset>& UsedCharsets()
     return s_charsets;
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -9,7 +9,7 @@
 
 #include <vector>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// A character set that may be guessed.
@@ -25,4 +25,4 @@ struct UsedCharset
 /// \return all of them. Of those that explain a text equally well, the first one is preferred.
 const std::vector<UsedCharset>& UsedCharsets();
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <set>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 using namespace PimManager::Contacts;
@@ -102,4 +102,4 @@ UndeclaredWords UndeclaredWordsOf( const QByteArray& a_start )
     return words.Found();
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <QtGlobal>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// How much of an address book is looked at.
@@ -31,4 +31,4 @@ struct UndeclaredWords
 ///                book may go on, so the last line is left out unless its card is complete.
 UndeclaredWords UndeclaredWordsOf( const QByteArray& a_start );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

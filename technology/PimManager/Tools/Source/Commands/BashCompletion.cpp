@@ -1,11 +1,11 @@
 #include "Commands/BashCompletion.h"
 
 #include "Commands/CompletedValue.h"
-#include "TextColumns.h"
+#include "Terminal/TextColumns.h"
 
 #include <QSet>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -245,4 +245,4 @@ QByteArray BashCompletion( const std::vector<CommandInfo>& a_commands, const Opt
         .toUtf8();
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

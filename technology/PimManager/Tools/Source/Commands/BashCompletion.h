@@ -9,7 +9,7 @@
 
 #include <vector>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// \return a script that completes commands, options, their values, and the names of address books.
@@ -17,4 +17,4 @@ namespace PimManager::vCard::Tools
 /// \param a_common   the options that every command has in addition to its own.
 QByteArray BashCompletion( const std::vector<CommandInfo>& a_commands, const std::vector<OptionInfo>& a_common );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -1,13 +1,13 @@
 #include "Commands/CheckCommand.h"
 
-#include "CheckReport.h"
 #include "Commands/ReadingCommand.h"
-#include "Commands/StrictCheck.h"
-#include "ContactRun.h"
-#include "ExtentList.h"
+#include "Outputs/CheckReport.h"
+#include "Outputs/ExtentList.h"
 #include "Outputs/OutputClaims.h"
+#include "Reading/ContactRun.h"
+#include "Strict/StrictCheck.h"
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -43,4 +43,4 @@ ExitStatus RunCheck( const CommandLine& a_line, Console& a_console )
         .Run( a_line.Arguments() );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -1,11 +1,11 @@
 #include "Commands/CommandLine.h"
 
 #include "Commands/Suggestion.h"
-#include "TerminalText.h"
+#include "Terminal/TerminalText.h"
 
 #include <QCommandLineOption>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -82,4 +82,4 @@ QString CommandLine::HelpText() const
     return m_parser.helpText() + m_command.m_helpTail;
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

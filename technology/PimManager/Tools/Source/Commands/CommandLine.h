@@ -10,7 +10,7 @@
 #include <QList>
 #include <QString>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// The command line of one command. What the user wrote is bytes, and the name of a file need not be text in any
@@ -51,4 +51,4 @@ private:
     QStringList m_options;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

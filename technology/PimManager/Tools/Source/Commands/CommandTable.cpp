@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -147,4 +147,4 @@ const CommandInfo* FindCommand( const QByteArray& a_name )
     return found == commands.end() ? nullptr : &*found;
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

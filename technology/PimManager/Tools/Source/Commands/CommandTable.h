@@ -10,7 +10,7 @@
 
 #include <vector>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// An option of the command line.
@@ -67,4 +67,4 @@ inline const QString s_kPhotosOption = QStringLiteral( "photos" );
 inline const QString s_kRejectsOption = QStringLiteral( "rejects" );
 inline const QString s_kForceOption = QStringLiteral( "force" );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

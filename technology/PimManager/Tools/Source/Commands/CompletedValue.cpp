@@ -1,6 +1,6 @@
 #include "Commands/CompletedValue.h"
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 CompletedValue CompletedValueOf( const OptionInfo& a_option )
@@ -19,4 +19,4 @@ bool IsArgumentCommand( const CommandInfo& a_command )
     return a_command.m_arguments.contains( QLatin1String( "COMMAND" ) );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -5,7 +5,7 @@
 
 #include "Commands/CommandTable.h"
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// What the value of an option is.
@@ -23,4 +23,4 @@ CompletedValue CompletedValueOf( const OptionInfo& a_option );
 /// \return true if the arguments of a command are names of commands, false if they are books.
 bool IsArgumentCommand( const CommandInfo& a_command );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

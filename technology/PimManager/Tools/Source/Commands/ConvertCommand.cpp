@@ -1,18 +1,18 @@
 #include "Commands/ConvertCommand.h"
 
-#include "BookNotes.h"
 #include "Commands/OutputFormat.h"
 #include "Commands/ReadingCommand.h"
 #include "Commands/Suggestion.h"
-#include "ContactPage.h"
-#include "ContactRun.h"
+#include "Outputs/BookNotes.h"
 #include "Outputs/ContactJson.h"
 #include "Outputs/OutputClaims.h"
 #include "Outputs/PhotoFolder.h"
 #include "Outputs/RejectsFile.h"
-#include "TerminalText.h"
+#include "Page/ContactPage.h"
+#include "Reading/ContactRun.h"
+#include "Terminal/TerminalText.h"
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -107,4 +107,4 @@ ExitStatus RunConvert( const CommandLine& a_line, Console& a_console )
         .Run( a_line.Arguments() );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

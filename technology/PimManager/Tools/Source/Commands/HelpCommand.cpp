@@ -1,9 +1,9 @@
 #include "Commands/HelpCommand.h"
 
 #include "Commands/Suggestion.h"
-#include "TerminalText.h"
+#include "Terminal/TerminalText.h"
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -52,4 +52,4 @@ ExitStatus RefuseCommand( const QByteArray& a_word, Console& a_console )
                              QStringLiteral( "pimvcard" ) );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

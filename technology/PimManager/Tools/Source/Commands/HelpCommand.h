@@ -4,13 +4,13 @@
 #pragma once
 
 #include "Commands/CommandLine.h"
-#include "Console.h"
 #include "ExitStatus.h"
+#include "Terminal/Console.h"
 
 #include <QByteArray>
 #include <QString>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// \return what `pimvcard --help` shows: all commands, and the options that all of them have.
@@ -22,4 +22,4 @@ ExitStatus RunHelp( const CommandLine& a_line, Console& a_console );
 /// Reports a word that is neither a command nor a file, and which command may have been meant.
 ExitStatus RefuseCommand( const QByteArray& a_word, Console& a_console );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -1,15 +1,15 @@
 #include "Commands/LimitOptions.h"
 
 #include "Commands/CommandLine.h"
-#include "ScaledNumber.h"
-#include "TerminalText.h"
+#include "Commands/ScaledNumber.h"
+#include "Terminal/TerminalText.h"
 
 #include <algorithm>
 #include <array>
 #include <functional>
 #include <limits>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 using namespace Contacts;
@@ -92,4 +92,4 @@ QString ApplyLimits( const CommandLine& a_line, PimContactOptions& a_options )
     return QString();
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -11,7 +11,7 @@
 
 #include <vector>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 class CommandLine;
@@ -24,4 +24,4 @@ std::vector<OptionInfo> LimitOptions();
 /// \return what is wrong with a number, safe for a terminal; empty if all of them are understood.
 QString ApplyLimits( const CommandLine& a_line, Contacts::PimContactOptions& a_options );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -1,15 +1,15 @@
 #include "Commands/ListCommand.h"
 
-#include "BookNotes.h"
 #include "Commands/ReadingCommand.h"
-#include "ContactRun.h"
-#include "ContactTable.h"
+#include "Outputs/BookNotes.h"
+#include "Outputs/ContactTable.h"
 #include "Outputs/OutputClaims.h"
-#include "TerminalSize.h"
+#include "Reading/ContactRun.h"
+#include "Terminal/TerminalSize.h"
 
 #include <unistd.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 ExitStatus RunList( const CommandLine& a_line, Console& a_console )
@@ -27,4 +27,4 @@ ExitStatus RunList( const CommandLine& a_line, Console& a_console )
         .Run( a_line.Arguments() );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -4,14 +4,14 @@
 #pragma once
 
 #include "Commands/CommandLine.h"
-#include "Console.h"
 #include "ExitStatus.h"
+#include "Terminal/Console.h"
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Prints a table of the contacts.
 /// \param a_line has at least one file name.
 ExitStatus RunList( const CommandLine& a_line, Console& a_console );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

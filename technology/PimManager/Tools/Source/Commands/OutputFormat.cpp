@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -55,4 +55,4 @@ std::optional<OutputFormat> FormatByEnding( const QByteArray& a_fileName )
     return Find( s_kEndings, [&name]( const FormatWord& a_word ) { return name.endsWith( a_word.m_word ); } );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -8,7 +8,7 @@
 
 #include <optional>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 enum class OutputFormat
@@ -28,4 +28,4 @@ std::optional<OutputFormat> FormatNamed( const QByteArray& a_name );
 ///         `.htm`; nothing for any other.
 std::optional<OutputFormat> FormatByEnding( const QByteArray& a_fileName );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

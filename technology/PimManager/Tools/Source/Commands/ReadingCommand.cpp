@@ -2,11 +2,11 @@
 
 #include "Commands/LimitOptions.h"
 #include "Commands/Suggestion.h"
-#include "TerminalText.h"
+#include "Terminal/TerminalText.h"
 
 #include <PimManager/Contacts/PimContactCharset.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 using namespace Contacts;
@@ -43,4 +43,4 @@ ExitStatus RefuseUsage( Console& a_console, const CommandLine& a_line, const QSt
     return a_console.Refuse( a_reason, QStringLiteral( "pimvcard " ) + a_line.Command().m_name );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -3,13 +3,13 @@
 
 #pragma once
 
-#include "BookOptions.h"
 #include "Commands/CommandLine.h"
-#include "Console.h"
+#include "Reading/BookOptions.h"
+#include "Terminal/Console.h"
 
 #include <QString>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Reads `--charset` and the limits.
@@ -22,4 +22,4 @@ QString ReadBookOptions( const CommandLine& a_line, BookOptions& a_options );
 /// \return the exit status for it.
 ExitStatus RefuseUsage( Console& a_console, const CommandLine& a_line, const QString& a_reason );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

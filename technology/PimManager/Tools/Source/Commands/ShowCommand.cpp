@@ -1,15 +1,15 @@
 #include "Commands/ShowCommand.h"
 
-#include "BookNotes.h"
 #include "Commands/ReadingCommand.h"
-#include "ContactRun.h"
-#include "ContactText.h"
+#include "Outputs/BookNotes.h"
+#include "Outputs/ContactText.h"
 #include "Outputs/OutputClaims.h"
-#include "TerminalSize.h"
+#include "Reading/ContactRun.h"
+#include "Terminal/TerminalSize.h"
 
 #include <unistd.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 ExitStatus RunShow( const CommandLine& a_line, Console& a_console )
@@ -28,4 +28,4 @@ ExitStatus RunShow( const CommandLine& a_line, Console& a_console )
         .Run( a_line.Arguments() );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

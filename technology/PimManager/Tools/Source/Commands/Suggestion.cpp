@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -57,4 +57,4 @@ QString SuggestionFor( const QString& a_word, const QStringList& a_words )
     return best.isEmpty() ? QString() : QStringLiteral( " Did you mean \"%1\"?" ).arg( best );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -2,7 +2,7 @@
 
 #include "Commands/CompletedValue.h"
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -158,4 +158,4 @@ QByteArray ZshCompletion( const std::vector<CommandInfo>& a_commands, const Opti
         .toUtf8();
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

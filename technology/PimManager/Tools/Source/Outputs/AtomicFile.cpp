@@ -5,7 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -68,4 +68,4 @@ int AtomicFile::Sync()
     return m_isSynced ? 0 : errno;
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -8,7 +8,7 @@
 
 #include <QByteArray>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// What happens to a file that has the name of a new one.
@@ -54,4 +54,4 @@ private:
     bool m_isSynced = false;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

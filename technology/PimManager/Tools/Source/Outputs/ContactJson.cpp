@@ -1,6 +1,6 @@
 #include "Outputs/ContactJson.h"
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 using namespace Contacts;
@@ -47,4 +47,4 @@ QStringList ContactJson::Failures() const
     return failure.isEmpty() ? QStringList() : QStringList( failure );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

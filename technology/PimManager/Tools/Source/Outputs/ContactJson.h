@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include "BookOutput.h"
+#include "Outputs/BookOutput.h"
 #include "Outputs/OutputFile.h"
 
 #include <PimManager/Contacts/PimContactJson.h>
 
 #include <QByteArray>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Writes each contact as an object on a line of its own, in the format of docs/contact-json.md.
@@ -41,4 +41,4 @@ private:
     QByteArray m_buffer;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

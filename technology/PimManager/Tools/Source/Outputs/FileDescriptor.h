@@ -9,7 +9,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Owns a file descriptor.
@@ -47,4 +47,4 @@ private:
     int m_descriptor;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

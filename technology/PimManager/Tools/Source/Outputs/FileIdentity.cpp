@@ -2,7 +2,7 @@
 
 #include <fcntl.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 FileIdentity FileIdentity::At( int a_folder, const QByteArray& a_name )
@@ -14,4 +14,4 @@ FileIdentity FileIdentity::At( int a_folder, const QByteArray& a_name )
     return { status.st_dev, status.st_ino, a_name };
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

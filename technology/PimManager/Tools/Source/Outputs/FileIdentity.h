@@ -8,7 +8,7 @@
 #include <sys/stat.h>
 #include <tuple>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// An existing file: its device and inode. A file that does not exist yet: those of its folder, and its name.
@@ -30,4 +30,4 @@ struct FileIdentity
     }
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -2,7 +2,7 @@
 
 #include <unistd.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 OutputClaims::OutputClaims( Console& a_console, const QList<QByteArray>& a_inputs, Existing a_existing ) :
@@ -48,4 +48,4 @@ bool OutputClaims::IsUsed( const FileIdentity& a_file ) const
     return m_inputs.count( a_file ) > 0 || m_outputs.count( a_file ) > 0;
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

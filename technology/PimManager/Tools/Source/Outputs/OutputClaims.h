@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include "Console.h"
 #include "Outputs/AtomicFile.h"
 #include "Outputs/FileIdentity.h"
 #include "Outputs/OutputTarget.h"
+#include "Terminal/Console.h"
 
 #include <QByteArray>
 #include <QList>
@@ -14,7 +14,7 @@
 
 #include <set>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Keeps two outputs of a run out of the same file, and every output out of the files that are read.
@@ -52,4 +52,4 @@ private:
     bool m_hasFiles = false;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -4,7 +4,7 @@
 #include <poll.h>
 #include <unistd.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -79,4 +79,4 @@ void OutputDevice::Send( const char* a_data, qint64 a_size )
     }
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -8,7 +8,7 @@
 
 #include <functional>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Writes bytes to a file descriptor through a buffer, and remembers why that failed.
@@ -49,4 +49,4 @@ private:
     std::function<void()> m_sendHandler;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -1,11 +1,11 @@
 #include "Outputs/OutputFile.h"
 
-#include "TerminalText.h"
+#include "Terminal/TerminalText.h"
 
 #include <cerrno>
 #include <fcntl.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 OutputFile::OutputFile( const QByteArray& a_fileName, OutputClaims& a_claims ) :
@@ -103,4 +103,4 @@ void OutputFile::FailFor( int a_error )
         Fail( qt_error_string( a_error ) );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -13,7 +13,7 @@
 
 #include <memory>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Writes to what a name means. Files appear under their names only when they are complete, see AtomicFile; a link to a
@@ -60,4 +60,4 @@ private:
     OutputDevice* m_device = nullptr;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -7,7 +7,7 @@
 #include <fcntl.h>
 #include <memory>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -134,4 +134,4 @@ bool HasOneUse( const struct stat& a_status )
     return S_ISREG( a_status.st_mode ) || S_ISFIFO( a_status.st_mode );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -11,7 +11,7 @@
 
 #include <vector>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Finds out where an output goes, without writing anything.
@@ -69,4 +69,4 @@ private:
 /// \return true for regular files and pipes. A terminal and `/dev/null` may have several uses at once.
 bool HasOneUse( const struct stat& a_status );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -1,9 +1,9 @@
 #include "Outputs/PhotoFolder.h"
 
+#include "Outputs/Pictures.h"
 #include "Outputs/SafeFileName.h"
-#include "Pictures.h"
-#include "TerminalText.h"
-#include "Wording.h"
+#include "Terminal/TerminalText.h"
+#include "Terminal/Wording.h"
 
 #include <PimManager/Contacts/PimContact.h>
 
@@ -11,7 +11,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 using namespace Contacts;
@@ -129,4 +129,4 @@ int PhotoFolder::Publish( AtomicFile& a_file, const QByteArray& a_stem, const QB
     }
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

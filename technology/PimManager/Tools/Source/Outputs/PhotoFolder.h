@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include "BookOutput.h"
 #include "Outputs/AtomicFile.h"
+#include "Outputs/BookOutput.h"
 #include "Outputs/FileDescriptor.h"
 #include "Outputs/OutputClaims.h"
 
 #include <QByteArray>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Writes each PHOTO and LOGO into a folder, as `Nell-Brackwater-1.jpg`: the name of the contact without what is no
@@ -51,4 +51,4 @@ private:
     qint64 m_unreadable = 0;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

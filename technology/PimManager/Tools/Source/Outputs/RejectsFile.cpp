@@ -1,6 +1,6 @@
 #include "Outputs/RejectsFile.h"
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 using namespace Contacts;
@@ -38,4 +38,4 @@ QStringList RejectsFile::Failures() const
     return failure.isEmpty() ? QStringList() : QStringList( failure );
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

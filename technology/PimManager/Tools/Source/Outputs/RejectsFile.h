@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include "BookOutput.h"
+#include "Outputs/BookOutput.h"
 #include "Outputs/OutputFile.h"
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Writes the bytes of all extents that were dropped or refused, one after the other, so that they can be mended by
@@ -32,4 +32,4 @@ private:
     qint64 m_end = -1;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -1,8 +1,8 @@
 #include "Outputs/SafeFileName.h"
 
-#include "CodePoints.h"
+#include "Terminal/CodePoints.h"
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -38,4 +38,4 @@ QByteArray ToSafeFileName( const QString& a_text )
     return name.isEmpty() ? QByteArrayLiteral( "contact" ) : name;
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// \return a text as a part of a file name, in UTF-8: letters, digits and marks of any script, at most 100 bytes, and
@@ -14,4 +14,4 @@ namespace PimManager::vCard::Tools
 ///         `contact` when nothing is left.
 QByteArray ToSafeFileName( const QString& a_text );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

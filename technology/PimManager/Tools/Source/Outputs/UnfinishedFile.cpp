@@ -10,7 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -140,4 +140,4 @@ int UnfinishedFile::Named( int a_result )
     return 0;
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -7,7 +7,7 @@
 
 #include <array>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Creates a file under a temporary name and removes it when it is no longer needed: in the destructor, and if a signal
@@ -62,4 +62,4 @@ private:
     UnfinishedFile* m_previous = nullptr;
 };
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

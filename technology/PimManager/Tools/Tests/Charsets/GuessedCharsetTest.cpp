@@ -13,7 +13,7 @@
 #include <string>
 
 using namespace PimManager::Contacts;
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

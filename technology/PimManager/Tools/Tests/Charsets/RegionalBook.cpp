@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 RegionalBook::RegionalBook( const RegionalNames& a_names, unsigned a_seed ) :
@@ -60,4 +60,4 @@ QByteArray Encoded( const QByteArray& a_utf8, const char* a_charset )
     return encoded;
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -9,7 +9,7 @@
 
 #include <random>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// Makes cards of version 2.1 with names, a company, an address and a note, in UTF-8. The same seed makes the same
@@ -33,4 +33,4 @@ private:
 /// \return the text in another character set. A test fails if it has characters that are not in the set.
 QByteArray Encoded( const QByteArray& a_utf8, const char* a_charset );
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 namespace
@@ -510,4 +510,4 @@ std::vector<RegionalNames> WesternEuropeanNames()
     };
 }
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

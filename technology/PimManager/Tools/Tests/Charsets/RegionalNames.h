@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace PimManager::vCard::Tools
+namespace PimManager::Tools
 {
 
 /// The words of a language. The tables of the program were written before them and from other sources. Do not adapt the
@@ -35,4 +35,4 @@ std::vector<RegionalNames> CentralEuropeanNames();
 /// German, French, Spanish, Portuguese and Danish.
 std::vector<RegionalNames> WesternEuropeanNames();
 
-} // namespace PimManager::vCard::Tools
+} // namespace PimManager::Tools

@@ -4,7 +4,7 @@
 
 #include <string>
 
-using namespace PimManager::vCard::Tools;
+using namespace PimManager::Tools;
 
 namespace
 {

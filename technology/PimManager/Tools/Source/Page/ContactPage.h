@@ -1,0 +1,38 @@
+/// \file
+/// Contacts as a page for a browser.
+
+#pragma once
+
+#include "Outputs/BookOutput.h"
+#include "Outputs/OutputFile.h"
+
+#include <QList>
+
+namespace PimManager::Tools
+{
+
+/// Writes one page that needs no other file: contacts with their pictures, a search, and what became of each file with
+/// the findings. Contacts are written as they are read; only the reports are kept.
+///
+/// Everything that a card says is on the page, as text, see ToHtmlText(). Pictures are shown only if RasterTypeOf()
+/// returns a type.
+class ContactPage : public BookOutput
+{
+public:
+    /// The parameters are those of OutputFile.
+    ContactPage( const QByteArray& a_fileName, OutputClaims& a_claims );
+
+    void Begin() override;
+    void BeginBook( const BookInRun& a_book, const Contacts::PimContactReader& a_reader ) override;
+    void TakeCard( const BookInRun& a_book, const Contacts::PimContactCard& a_card ) override;
+    void EndBook( const BookInRun& a_book ) override;
+    void End() override;
+    void Fail( const QString& a_reason ) override { m_file.Fail( a_reason ); }
+    QStringList Failures() const override;
+
+private:
+    OutputFile m_file;
+    QList<BookInRun> m_books;
+};
+
+} // namespace PimManager::Tools

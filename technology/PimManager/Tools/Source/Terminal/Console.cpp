@@ -1,0 +1,49 @@
+#include "Terminal/Console.h"
+
+#include <cerrno>
+
+namespace PimManager::Tools
+{
+
+Console::Console( OutputDevice& a_out, OutputDevice& a_err ) :
+    m_out( a_out ),
+    m_err( a_err )
+{
+}
+
+void Console::Tell( const QString& a_text )
+{
+    m_out.Flush();
+    m_err.write( QStringLiteral( "pimvcard: %1\n" ).arg( a_text ).toUtf8() );
+    m_err.Flush();
+}
+
+void Console::Remark( const QString& a_text )
+{
+    if ( m_areRemarksWanted )
+        Tell( a_text );
+}
+
+ExitStatus Console::Show( const QString& a_text )
+{
+    m_out.write( a_text.toUtf8() );
+    return Close( ExitStatus::AllGiven );
+}
+
+ExitStatus Console::Refuse( const QString& a_text, const QString& a_command )
+{
+    Tell( a_text );
+    Tell( QStringLiteral( "\"%1 --help\" shows how to use it" ).arg( a_command ) );
+    return ExitStatus::Trouble;
+}
+
+ExitStatus Console::Close( ExitStatus a_status )
+{
+    m_out.Flush();
+    if ( m_out.Error() == 0 || m_out.Error() == EPIPE )
+        return a_status;
+    Tell( QStringLiteral( "the output cannot be written: " ) + qt_error_string( m_out.Error() ) );
+    return ExitStatus::Trouble;
+}
+
+} // namespace PimManager::Tools

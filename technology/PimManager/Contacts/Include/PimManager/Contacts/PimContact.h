@@ -47,9 +47,10 @@ public:
     /// |---|---|
     /// | TEL | the number; `tel:+1-555;ext=2` is `+1-555;ext=2` (RFC 3966) |
     /// | EMAIL | the address, without `mailto:` and without the name of the person |
-    /// | ADR | a line each for post office box, extended address, street, postal code with locality, region and country
-    /// | | X-IRMC-CALL-DATETIME | the time, such as `2024-03-11 08:45:12 UTC`; if it is none, the value | | a list, or
-    /// components | its parts, joined by commas; empty ones are left out | | any other | the value |
+    /// | ADR | lines: post office box, extended address, street, postal code and locality, region, country |
+    /// | X-IRMC-CALL-DATETIME | the time, such as `2024-03-11 08:45:12 UTC`; if it is none, the value |
+    /// | a list, or components | its parts, joined by commas; empty ones are left out |
+    /// | any other | the value |
     QString Text() const;
 
     /// \return the values of TYPE, such as `CELL`, each once. Letters of ASCII are in upper case. PREF is left out, and

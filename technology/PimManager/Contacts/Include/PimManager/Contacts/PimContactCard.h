@@ -66,9 +66,8 @@ public:
     /// True for a null card.
     bool IsNull() const;
 
-    /// \return the bytes as found, dropped and blank lines included, filtered lines not. The byte order mark of a
-    /// nested
-    ///         line is included; a file in UTF-16 was converted to UTF-8 first. Copies the bytes.
+    /// \return the bytes as found, with dropped and blank lines, but without filtered lines. A byte order mark before a
+    ///         nested card is included. A file in UTF-16 was converted to UTF-8 first. Copies the bytes.
     QByteArray Bytes() const;
 
     /// The properties of the card; those of nested cards are not counted.

@@ -113,8 +113,7 @@ public:
     /// The number of occurrences, for codes that count; otherwise 1.
     qint64 Count() const;
 
-    /// \return an English sentence without a full stop, such as `the last line has no line ending`, with the count
-    /// where
+    /// \return an English sentence without a full stop, such as `the last line has no line ending`, with the count if
     ///         the code counts. It contains no text of the file.
     QString Text() const;
 

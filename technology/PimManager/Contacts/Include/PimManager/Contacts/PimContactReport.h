@@ -130,9 +130,8 @@ public:
     /// The number of findings of a severity, kept or not.
     qint64 Findings( PimContactSeverity a_severity ) const;
 
-    /// \return true if nothing is missing: no line was dropped, no card refused, no text was outside cards, and the
-    /// file
-    ///         was read to its end without an error. Filtered lines do not count as missing.
+    /// \return true if nothing is missing: no line was dropped, no card was refused, no text was outside cards, and
+    ///         the file was read to its end without an error. Filtered lines do not count as missing.
     bool IsComplete() const;
 
     /// \return an English sentence for people, such as `12 cards; 1 refused; 2 lines dropped`. It contains no text of

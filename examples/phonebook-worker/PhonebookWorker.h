@@ -24,9 +24,8 @@ class PhonebookWorker : public QObject
 
 public:
     /// \param a_places how many times ContactsRead() may be emitted before the receiver has handled the first. The
-    /// worker
-    ///                 acquires a place for each, and the receiver releases it. A slow receiver thus slows the worker
-    ///                 down, and memory does not grow. Must outlive the worker.
+    ///                 worker acquires a place for each, and the receiver releases it. A slow receiver thus slows the
+    ///                 worker down, and memory does not grow. Must outlive the worker.
     PhonebookWorker( const QString& a_fileName, QSemaphore& a_places );
 
 public slots:

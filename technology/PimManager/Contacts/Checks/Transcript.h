@@ -12,9 +12,8 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// \return bytes as text in UTF-8: what does not print, and each malformed byte, is escaped as `\xHH`, and a backslash
-/// is
-///         doubled. Of long bytes the beginning, followed by their number and a hash.
+/// \return bytes as text in UTF-8: what does not print, and each malformed byte, is escaped as `\xHH`, and backslashes
+///         are doubled. Of long bytes the beginning, followed by their number and a hash.
 QByteArray Shown( const QByteArray& a_bytes );
 
 /// \return the record of a card and its lines, one a line, nested cards indented.

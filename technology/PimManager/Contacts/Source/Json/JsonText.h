@@ -32,10 +32,7 @@ public:
     void Finish();
 
     /// Appends brackets, names and the like.
-    void Raw( std::string_view a_json )
-    {
-        m_end = std::copy( a_json.begin(), a_json.end(), Room( a_json.size() ) );
-    }
+    void Raw( std::string_view a_json ) { m_end = std::copy( a_json.begin(), a_json.end(), Room( a_json.size() ) ); }
 
     /// Appends a string with its quotes.
     void String( std::string_view a_text )

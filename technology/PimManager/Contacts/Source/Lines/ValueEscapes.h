@@ -20,9 +20,7 @@ struct UnknownEscapes
 
 /// \param a_line a content line without its last line ending; may have continuation lines.
 /// \return true if there are backslashes in its value that precede neither a backslash, a comma, a semicolon, a colon
-/// nor the letter
-/// n
-///         (RFC 2426, section 4; RFC 6350, section 3.4).
+///         nor the letter n (RFC 2426, section 4; RFC 6350, section 3.4).
 bool HasUnknownEscapes( std::string_view a_line, const IndexEntry& a_entry );
 
 /// Counts them.

@@ -21,8 +21,7 @@ class Base64Decoder
 public:
     /// \param a_length the length of all pieces, at most 2 GiB.
     /// \param a_out    receives the bytes after what it contains already. It must outlive the decoder, and is valid
-    /// once
-    ///                 Finish() was called.
+    ///                 after Finish().
     Base64Decoder( size_t a_length, QByteArray& a_out );
 
     /// Decodes the next piece.

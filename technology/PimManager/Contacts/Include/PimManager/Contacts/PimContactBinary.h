@@ -41,9 +41,8 @@ public:
     /// \return the media type of a `data:` URI as written, such as `image/jpeg`; empty if the value names none.
     QByteArray MediaType() const;
 
-    /// \return the media type by the first bytes, such as `image/png`; empty if they are those of no known image or sound.
-    ///         The types are JPEG, PNG, GIF, WebP, HEIC, HEIF, AVIF, TIFF, BMP and icons, WAV, MP3, Ogg, AMR, MIDI, FLAC
-    ///         and AU.
+    /// \return the media type by the first bytes, such as `image/png`; empty if they are not known. The types are JPEG,
+    ///         PNG, GIF, WebP, HEIC, HEIF, AVIF, TIFF, BMP and icons, WAV, MP3, Ogg, AMR, MIDI, FLAC and AU.
     QByteArray DetectedType() const;
 
     /// \return true if the value could not be decoded to its end.

@@ -169,13 +169,12 @@ PropertyText PropertyTextOf( const PimContact& a_contact, const PimContactLine& 
 
 QString ContactHeading( const PimContact& a_contact, const QString& a_source )
 {
-    const QString name = a_contact.DisplayName();
     QStringList remarks;
     if ( !a_source.isEmpty() )
         remarks << a_source;
     if ( !a_contact.Card().IsWhole() )
         remarks << QStringLiteral( "in part" );
-    const QString heading = name.isEmpty() ? QStringLiteral( "(no name)" ) : ToTerminalText( Shortened( name ) );
+    const QString heading = ToTerminalText( Shortened( ShownName( a_contact ) ) );
     return remarks.isEmpty() ? heading : QStringLiteral( "%1 (%2)" ).arg( heading, remarks.join( s_kComma ) );
 }
 

@@ -52,7 +52,7 @@ QString ShownProperty( const PimVCardProperty& a_property )
 QStringList ValuesOf( const PimContactLine& a_line )
 {
     QStringList values = a_line.Values();
-    if ( a_line.Encoding() == PimContactEncoding::Base64 )
+    if ( a_line.Encoding() == PimContactEncoding::Base64 && a_line.Kind() == PimContactValueKind::Binary )
         values.replaceInStrings( QStringLiteral( " " ), QString() );
     return values;
 }

@@ -131,6 +131,8 @@ INSTANTIATE_TEST_SUITE_P(
                                 "VERSION:[2.1]\nN;CHARSET=UTF-8;ENCODING=QUOTED-PRINTABLE:[D=C3=B6e][Jane]\n" },
                        CardRow{ "Base64StaysEncoded", true, Card21( "PHOTO;ENCODING=BASE64;TYPE=JPEG:Zm9v\r\n" ),
                                 "VERSION:[2.1]\nPHOTO;ENCODING=BASE64;TYPE=JPEG:[Zm9v]\n" },
+                       CardRow{ "Base64OfATextStaysEncoded", true, Card21( "FN;ENCODING=BASE64:SsO2cmc=\r\n" ),
+                                "VERSION:[2.1]\nFN;ENCODING=BASE64:[SsO2cmc=]\n" },
                        CardRow{ "FileInUtf16", true, Utf16( Card30( "N:J\xC3\xA4ne" ) ),
                                 "VERSION:[3.0]\nN:[J\xC3\xA4ne]\n" },
                        CardRow{ "NoProperties", true, "BEGIN:VCARD\r\nEND:VCARD\r\n", "" } ),
@@ -159,6 +161,13 @@ INSTANTIATE_TEST_SUITE_P(
                  "VERSION:[2.1]\nPHOTO;ENCODING=BASE64;ENCODING=8BIT:[Zm9v]\n" },
         CardRow{ "DamagedBase64IsKept", false, Card21( "X_A:1\r\nPHOTO;BASE64:Zm9*; v" ),
                  "VERSION:[2.1]\nX_A:[1]\nPHOTO;BASE64:[Zm9*;v]\n" },
+        CardRow{ "Base64OfATextIsDecoded", false, Card21( "X_A:1\r\nFN;LANGUAGE=de;ENCODING=BASE64:SsO2\r\n cmc=" ),
+                 "VERSION:[2.1]\nX_A:[1]\nFN;LANGUAGE=de:[J\xC3\xB6rg]\n" },
+        CardRow{ "Base64OfTextsIsSplit", false,
+                 Card21( "X_A:1\r\nN;CHARSET=KOI8-R;BASE64;HOME:" + QByteArray( "\xC1\\;;\xC2" ).toBase64() ),
+                 "VERSION:[2.1]\nX_A:[1]\nN;HOME:[\xD0\xB0;][\xD0\xB1]\n" },
+        CardRow{ "Base64OfBytesIsKept", false, Card21( "X_A:1\r\nNOTE;CHARSET=UTF-8;BASE64:AP\r\n //" ),
+                 "VERSION:[2.1]\nX_A:[1]\nNOTE;BASE64:[AP//]\n" },
         CardRow{ "ParametersAreQuotedWhereNeeded", false,
                  Card30( "TEL;TYPE=\"home\",image/png;X-A=\"a;b\";LABEL=a^nb^'^^:1" ),
                  "VERSION:[3.0]\nTEL;TYPE=home,\"image/png\";X-A=\"a;b\";LABEL=\"a^nb^'^^\":[1]\n" },
@@ -269,16 +278,17 @@ void ExpectMade( const PimVCardProperty& a_property, const PimContactLine& a_lin
 {
     EXPECT_EQ( ParametersOf( ReadAgain( a_property, a_version ) ), ParametersOf( a_line ) );
     const QList<QString> values = a_property.GetValues();
+    const bool isBase64 = a_line.Encoding() == PimContactEncoding::Base64 && !a_line.Binary().IsNull();
     if ( !a_line.NestedCard().IsNull() )
     {
         EXPECT_TRUE( values.value( 0 ).startsWith( QLatin1String( "BEGIN:VCARD\r\n" ) ) );
     }
-    else if ( a_line.Encoding() == PimContactEncoding::Base64 && !a_line.Binary().MediaType().isEmpty() )
+    else if ( isBase64 && !a_line.Binary().MediaType().isEmpty() )
     {
         const QString text = a_line.Text();
         EXPECT_EQ( values.value( 0 ), QString( text ).remove( QLatin1Char( ' ' ) ).remove( QLatin1Char( '\t' ) ) );
     }
-    else if ( a_line.Encoding() == PimContactEncoding::Base64 )
+    else if ( isBase64 )
     {
         const QByteArray bytes = a_line.Binary().Bytes();
         EXPECT_EQ( QByteArray::fromBase64( values.value( 0 ).toLatin1() ).left( bytes.size() ), bytes );

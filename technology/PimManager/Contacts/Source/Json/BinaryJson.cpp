@@ -123,16 +123,17 @@ void WriteHead( size_t a_place, const QByteArray& a_mediaType, JsonText& a_json 
 
 } // namespace
 
-BinaryJson WriteBinary( const IndexedLine& a_line, const HeadJson& a_head, JsonText& a_json )
+BinaryJson WriteBinary( const IndexedLine& a_line, const HeadJson& a_head, const ValueDecoder& a_decoder,
+                        JsonText& a_json )
 {
-    if ( !IsBinary( a_line, a_head.IsMedia() ) )
+    if ( !IsBinary( a_line, a_decoder, a_head.IsMedia() ) )
         return {};
     const size_t place = a_json.Place();
     QByteArray mediaType;
     if ( !CopyBase64( a_line, a_json ) || !IsCanonical( a_json.From( place ) ) )
     {
         a_json.Remove( place );
-        const PimContactBinary binary = BinaryOf( a_line );
+        const PimContactBinary binary = DecodedBinary( a_line );
         if ( binary.IsDamaged() )
             return { false, binary.FaultPlace() };
         mediaType = MediaTypeNamed( ViewOf( binary.MediaType() ) );

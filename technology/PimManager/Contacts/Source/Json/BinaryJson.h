@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Cards/LineView.h"
+#include "Values/ValueDecoder.h"
 #include "Json/HeadJson.h"
 #include "Json/JsonText.h"
 
@@ -24,7 +25,9 @@ struct BinaryJson
 /// anything unusual is copied, and any other value is decoded and encoded again. Nothing is written for a text, and for
 /// a value that cannot be decoded.
 ///
-/// \param a_head the head of the line.
-BinaryJson WriteBinary( const IndexedLine& a_line, const HeadJson& a_head, JsonText& a_json );
+/// \param a_head    the head of the line.
+/// \param a_decoder has decoded the value as far as DecodeBase64Text() does.
+BinaryJson WriteBinary( const IndexedLine& a_line, const HeadJson& a_head, const ValueDecoder& a_decoder,
+                        JsonText& a_json );
 
 } // namespace PimManager::Contacts

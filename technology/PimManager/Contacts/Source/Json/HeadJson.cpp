@@ -1,8 +1,8 @@
 #include "Json/HeadJson.h"
 
+#include "Lines/KnownNames.h"
 #include "Text/Bytes.h"
 #include "Text/MediaType.h"
-#include "Values/BinaryValue.h"
 #include "Values/Buffer.h"
 
 #include <algorithm>

@@ -51,10 +51,12 @@ void PropertyJson::Write( const IndexedLine& a_line, const GroupLabels& a_labels
         WriteGroupAndHead( a_line, head, a_labels, a_json );
     else
         a_json.Raw( head.All() );
-    const BinaryJson binary = WriteBinary( a_line, head, a_json );
+    m_decoder.DecodeBase64Text( a_line );
+    const BinaryJson binary = WriteBinary( a_line, head, m_decoder, a_json );
     if ( binary.m_isWritten )
         return;
-    m_decoder.Decode( a_line );
+    if ( !m_decoder.IsBase64Text() )
+        m_decoder.Decode( a_line );
     if ( a_holdsCard && m_decoder.Escaped().m_text.empty() )
         return;
     WriteValues( head, a_contact, a_json );

@@ -113,6 +113,18 @@ bool HoldsText( std::string_view a_name )
     }
 }
 
+bool IsMediaName( std::string_view a_name )
+{
+    const UpperName name( a_name );
+    return name.IsOneOf( "PHOTO", "LOGO", "SOUND", "KEY" );
+}
+
+bool IsKnownTextName( std::string_view a_name )
+{
+    const UpperName name( a_name );
+    return IsKnownName( a_name ) && !IsMediaName( a_name ) && !name.IsOneOf( "AGENT", "BEGIN", "END", "VERSION" );
+}
+
 bool IsPersonName( std::string_view a_name )
 {
     const UpperName name( a_name );

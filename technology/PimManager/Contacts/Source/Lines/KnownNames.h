@@ -19,6 +19,13 @@ bool IsExtensionName( std::string_view a_name );
 ///         a line of text does not continue these values. Returns true for every other name, known or not.
 bool HoldsText( std::string_view a_name );
 
+/// \return true for PHOTO, LOGO, SOUND and KEY.
+bool IsMediaName( std::string_view a_name );
+
+/// \return true for a known name whose value is text, such as FN, TEL and REV; false for PHOTO, LOGO, SOUND, KEY and
+///         AGENT, and for BEGIN, END and VERSION, which are read with the card.
+bool IsKnownTextName( std::string_view a_name );
+
 /// \return true for N, FN and NICKNAME.
 bool IsPersonName( std::string_view a_name );
 

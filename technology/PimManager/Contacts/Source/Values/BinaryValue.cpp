@@ -1,10 +1,11 @@
 #include "Values/BinaryValue.h"
 
+#include "Lines/KnownNames.h"
 #include "Text/Base64.h"
 #include "Text/Bytes.h"
 #include "Text/FileSignature.h"
 #include "Text/PercentEncoding.h"
-#include "Values/Buffer.h"
+#include "Values/Base64Value.h"
 #include "Values/ValueDecoder.h"
 
 #include <algorithm>
@@ -23,7 +24,6 @@ constexpr std::string_view s_kBase64 = "base64";
 // Enough for the longest signature, in BASE64.
 constexpr size_t s_kStart = 24;
 
-constexpr std::array s_kMediaNames = { "PHOTO"sv, "LOGO"sv, "SOUND"sv, "KEY"sv };
 constexpr std::array s_kSounds = { "RIFF"sv, "OggS"sv, "ID3"sv, "#!AMR"sv, "MThd"sv, "fLaC"sv, ".snd"sv };
 // Armoured keys, certificates in DER, and public keys of OpenPGP.
 constexpr std::array s_kKeys = { "-----BEGIN "sv, "\x30\x82"sv, "\x99\x01"sv, "\x99\x02"sv };
@@ -105,19 +105,6 @@ void DecodeBase64( std::string_view a_text, BinaryData& a_data )
     a_data.m_faultPlace = decoder.FaultPlace();
 }
 
-// Joins the lines while decoding, because a picture has thousands of them.
-void DecodeBase64Lines( const IndexedLine& a_line, BinaryData& a_data )
-{
-    const ByteRange value = a_line.ValueRange();
-    Base64Decoder decoder( value.m_length, a_data.m_bytes );
-    LinePieces pieces = a_line.Pieces( value );
-    bool isSound = true;
-    while ( isSound && pieces.Next() )
-        isSound = decoder.Take( pieces.Text() );
-    decoder.Finish();
-    a_data.m_faultPlace = decoder.FaultPlace();
-}
-
 void DecodePercents( std::string_view a_text, BinaryData& a_data )
 {
     size_t fault = a_text.find( '%' );
@@ -170,37 +157,36 @@ PimContactBinary PimContactBinaryPrivate::Create( const BinaryData& a_data )
     return binary;
 }
 
-bool IsMediaName( std::string_view a_name )
-{
-    return std::any_of( s_kMediaNames.begin(), s_kMediaNames.end(),
-                        [a_name]( std::string_view a_media ) { return IsSameWord( a_name, a_media ); } );
-}
-
-bool IsBinary( const IndexedLine& a_line, bool a_isMedia )
+bool IsBinary( const IndexedLine& a_line, const ValueDecoder& a_decoder, bool a_isMedia )
 {
     if ( a_line.m_entry.m_encoding == PimContactEncoding::Base64 )
-        return true;
+        return !a_decoder.IsBase64Text();
     if ( !a_isMedia && !MayBeDataUri( a_line ) )
         return false;
     const ValueStart start( a_line );
     return IsDataUri( start.Text() ) || ( a_isMedia && HasKnownSignature( start.Text() ) );
 }
 
-bool IsBinary( const IndexedLine& a_line )
+bool IsBinary( const IndexedLine& a_line, const ValueDecoder& a_decoder )
 {
     QByteArray buffer;
-    return IsBinary( a_line, IsMediaName( a_line.Name( buffer ) ) );
+    return IsBinary( a_line, a_decoder, IsMediaName( a_line.Name( buffer ) ) );
 }
 
-PimContactBinary BinaryOf( const IndexedLine& a_line )
+bool IsBinary( const IndexedLine& a_line )
 {
-    if ( !IsBinary( a_line ) )
-        return PimContactBinary();
+    ValueDecoder decoder;
+    decoder.DecodeBase64Text( a_line );
+    return IsBinary( a_line, decoder );
+}
+
+PimContactBinary DecodedBinary( const IndexedLine& a_line )
+{
     BinaryData data;
     data.m_isNull = false;
     const bool isDataUri = IsDataUri( ValueStart( a_line ).Text() );
     if ( !isDataUri && a_line.m_entry.m_encoding == PimContactEncoding::Base64 )
-        DecodeBase64Lines( a_line, data );
+        data.m_faultPlace = DecodeBase64Value( a_line, data.m_bytes );
     else
     {
         ValueDecoder decoder;
@@ -212,6 +198,11 @@ PimContactBinary BinaryOf( const IndexedLine& a_line )
             DecodeBase64( text, data );
     }
     return PimContactBinaryPrivate::Create( data );
+}
+
+PimContactBinary BinaryOf( const IndexedLine& a_line )
+{
+    return IsBinary( a_line ) ? DecodedBinary( a_line ) : PimContactBinary();
 }
 
 } // namespace PimManager::Contacts

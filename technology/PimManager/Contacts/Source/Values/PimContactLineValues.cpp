@@ -34,21 +34,19 @@ Delimiters DelimitersOf( const IndexedLine& a_line )
     return DelimitersOf( a_line.Name( buffer ), a_line.m_card.m_record.Version() );
 }
 
-QStringList PartsOf( const IndexedLine& a_line, Delimiters a_delimiters )
+QStringList PartsOf( ValueDecoder& a_decoder, Delimiters a_delimiters )
 {
     QStringList parts;
-    ValueDecoder decoder;
-    decoder.Decode( a_line );
-    for ( PartReader reader = decoder.Parts( a_delimiters ); reader.Next(); )
+    for ( PartReader reader = a_decoder.Parts( a_delimiters ); reader.Next(); )
         parts.append( StringOf( reader.Text() ) );
     return parts;
 }
 
-QString TextOf( const IndexedLine& a_line )
+QStringList PartsOf( const IndexedLine& a_line, Delimiters a_delimiters )
 {
     ValueDecoder decoder;
     decoder.Decode( a_line );
-    return StringOf( decoder.Text() );
+    return PartsOf( decoder, a_delimiters );
 }
 
 PimContactValueKind KindOf( Delimiters a_delimiters )
@@ -129,15 +127,10 @@ PimContactValueKind PimContactLine::Kind() const
 QStringList PimContactLine::Values() const
 {
     const IndexedLine line = Indexed( *this );
-    switch ( Kind() )
-    {
-    case PimContactValueKind::List:
-        return PartsOf( line, Delimiters::Commas );
-    case PimContactValueKind::Components:
-        return PartsOf( line, Delimiters::Semicolons );
-    default:
-        return { TextOf( line ) };
-    }
+    ValueDecoder decoder;
+    decoder.Decode( line );
+    const Delimiters delimiters = IsBinary( line, decoder ) ? Delimiters::None : DelimitersOf( line );
+    return PartsOf( decoder, delimiters == Delimiters::SemicolonsAndCommas ? Delimiters::Semicolons : delimiters );
 }
 
 // Most values have nothing to decode.
@@ -147,7 +140,10 @@ QString PimContactLine::Text() const
     const bool isPlain = !IsNull() && PimContactCardPrivate::LineView::FindPlainValue( *this, value );
     if ( isPlain && value.find( '\\' ) == std::string_view::npos )
         return StringOf( value );
-    return TextOf( Indexed( *this ) );
+    const IndexedLine line = Indexed( *this );
+    ValueDecoder decoder;
+    decoder.Decode( line );
+    return StringOf( decoder.Text() );
 }
 
 QStringList PimContactLine::List() const
@@ -189,7 +185,7 @@ PimContactDecoding PimContactLine::Decoding() const
     decoder.Decode( line );
     decoder.Text();
     Findings findings = decoder.Found();
-    const PimContactBinary binary = BinaryOf( line );
+    const PimContactBinary binary = IsBinary( line, decoder ) ? DecodedBinary( line ) : PimContactBinary();
     if ( binary.IsDamaged() )
         findings.Add( PimContactDecodingProblem::MalformedBinary, binary.FaultPlace() );
     return PimContactDecodingPrivate::Create( findings );

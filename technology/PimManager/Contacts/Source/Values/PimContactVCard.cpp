@@ -62,8 +62,10 @@ void Append( OwnedList<T>& a_list, std::unique_ptr<T> a_element )
 class ParameterMaker
 {
 public:
-    explicit ParameterMaker( const IndexedLine& a_line ) :
-        m_line( a_line )
+    /// \param a_kept the encoding that the values still have.
+    ParameterMaker( const IndexedLine& a_line, PimContactEncoding a_kept ) :
+        m_line( a_line ),
+        m_kept( a_kept )
     {
     }
 
@@ -101,14 +103,13 @@ private:
         m_value = QString();
     }
 
-    // BASE64 is the only encoding that the values still have.
     bool IsWanted( std::string_view a_name, std::string_view a_value ) const
     {
         if ( IsSameWord( a_name, s_kCharsetParameter ) )
             return false;
         const PimContactEncoding encoding = EncodingOf( a_value );
         return !IsSameWord( a_name, s_kEncodingParameter ) || encoding == PimContactEncoding::None ||
-               ( encoding == PimContactEncoding::Base64 && encoding == m_line.m_entry.m_encoding );
+               encoding == m_kept;
     }
 
     QString Written( std::string_view a_value ) const
@@ -124,6 +125,7 @@ private:
     }
 
     const IndexedLine& m_line;
+    PimContactEncoding m_kept;
     OwnedList<PimVCardParameter> m_parameters = NewList<PimVCardParameter>();
     bool m_isOpen = false;
     QString m_name;
@@ -166,28 +168,32 @@ void AppendCard( const PimContactCard& a_card, QByteArray& a_text )
     a_text += "END:VCARD\r\n";
 }
 
-QList<QString> ComponentsOf( const IndexedLine& a_line )
+QList<QString> ComponentsOf( ValueDecoder& a_decoder )
 {
     QList<QString> values;
-    ValueDecoder decoder;
-    decoder.Decode( a_line );
-    for ( PartReader reader = decoder.Parts( Delimiters::Semicolons ); reader.Next(); )
+    for ( PartReader reader = a_decoder.Parts( Delimiters::Semicolons ); reader.Next(); )
         values.append( StringOf( reader.Text() ) );
     return values;
 }
 
-QString Base64Of( const IndexedLine& a_line )
+QString Base64Of( std::string_view a_written )
 {
-    ValueDecoder decoder;
-    const std::string_view written = decoder.Written( a_line, a_line.ValueRange() );
     QByteArray text;
-    text.reserve( static_cast<int>( written.size() ) );
-    std::copy_if( written.begin(), written.end(), std::back_inserter( text ),
+    text.reserve( static_cast<int>( a_written.size() ) );
+    std::copy_if( a_written.begin(), a_written.end(), std::back_inserter( text ),
                   []( char a_byte ) { return !IsBlank( a_byte ) && !IsLineEndByte( a_byte ); } );
     return QString::fromUtf8( text );
 }
 
-QList<QString> ValuesOf( const PimContactLine& a_line, const IndexedLine& a_indexed )
+/// BASE64 is the only encoding that made values have, if they are not text.
+PimContactEncoding KeptEncoding( const IndexedLine& a_line, const ValueDecoder& a_decoder )
+{
+    const bool isKept = a_line.m_entry.m_encoding == PimContactEncoding::Base64 && !a_decoder.IsBase64Text();
+    return isKept ? PimContactEncoding::Base64 : PimContactEncoding::None;
+}
+
+/// \param a_decoder has decoded the line.
+QList<QString> ValuesOf( const PimContactLine& a_line, PimContactEncoding a_kept, ValueDecoder& a_decoder )
 {
     const PimContactCard nested = a_line.NestedCard();
     if ( !nested.IsNull() )
@@ -196,9 +202,9 @@ QList<QString> ValuesOf( const PimContactLine& a_line, const IndexedLine& a_inde
         AppendCard( nested, text );
         return { QString::fromUtf8( text ) };
     }
-    if ( a_indexed.m_entry.m_encoding == PimContactEncoding::Base64 )
-        return { Base64Of( a_indexed ) };
-    return ComponentsOf( a_indexed );
+    if ( a_kept == PimContactEncoding::Base64 )
+        return { Base64Of( a_decoder.Escaped().m_text ) };
+    return ComponentsOf( a_decoder );
 }
 
 std::unique_ptr<PimVCardProperty> MadeProperty( const PimContactLine& a_line )
@@ -207,8 +213,10 @@ std::unique_ptr<PimVCardProperty> MadeProperty( const PimContactLine& a_line )
     ValueDecoder decoder;
     const QString group = StringOf( decoder.Written( line, line.m_entry.m_group ) );
     const QString name = StringOf( decoder.Written( line, line.m_entry.m_name ) );
-    OwnedList<PimVCardParameter> parameters = ParameterMaker( line ).Make();
-    auto values = std::make_unique<QList<QString>>( ValuesOf( a_line, line ) );
+    decoder.Decode( line );
+    const PimContactEncoding kept = KeptEncoding( line, decoder );
+    OwnedList<PimVCardParameter> parameters = ParameterMaker( line, kept ).Make();
+    auto values = std::make_unique<QList<QString>>( ValuesOf( a_line, kept, decoder ) );
     auto property = std::make_unique<PimVCardProperty>( group, name, parameters.get(), values.get() );
     static_cast<void>( parameters.release() );
     static_cast<void>( values.release() );

@@ -1,9 +1,11 @@
 #include "Values/ValueDecoder.h"
 
+#include "Lines/KnownNames.h"
 #include "Text/Bytes.h"
 #include "Text/CharsetChoice.h"
 #include "Text/Codec.h"
 #include "Text/EncodedCharset.h"
+#include "Values/Base64Value.h"
 #include "Values/Buffer.h"
 #include "Values/ParameterReader.h"
 
@@ -89,9 +91,9 @@ bool IsAssumed( LineCharset a_charset )
 
 void ValueDecoder::Decode( const IndexedLine& a_line )
 {
-    m_findings.Clear();
-    m_runs.clear();
-    m_literals.clear();
+    if ( DecodeBase64Text( a_line ) )
+        return;
+    Clear();
     Unfold( a_line, a_line.ValueRange() );
     if ( a_line.m_entry.m_encoding == PimContactEncoding::QuotedPrintable )
         DecodeEncoded( a_line );
@@ -99,11 +101,25 @@ void ValueDecoder::Decode( const IndexedLine& a_line )
         DecodeRaw( a_line );
 }
 
+bool ValueDecoder::DecodeBase64Text( const IndexedLine& a_line )
+{
+    m_isBase64Text = false;
+    if ( a_line.m_entry.m_encoding != PimContactEncoding::Base64 )
+        return false;
+    QByteArray buffer;
+    if ( !IsKnownTextName( a_line.Name( buffer ) ) )
+        return false;
+    Clear();
+    const std::string_view named = NamedCharset( a_line, buffer );
+    m_isBase64Text = Contacts::DecodeBase64Text( a_line, named, m_plain, m_utf8, m_findings );
+    if ( m_isBase64Text )
+        m_escaped = { ViewOf( m_utf8 ), &m_literals };
+    return m_isBase64Text;
+}
+
 std::string_view ValueDecoder::Written( const IndexedLine& a_line, ByteRange a_range )
 {
-    m_findings.Clear();
-    m_runs.clear();
-    m_literals.clear();
+    Clear();
     Unfold( a_line, a_range );
     if ( !IsSurelyUtf8( a_line ) )
         DecodeRaw( a_line );
@@ -154,6 +170,13 @@ std::string_view ValueDecoder::Text()
     PartReader reader = Parts( Delimiters::None );
     reader.Next();
     return reader.Text();
+}
+
+void ValueDecoder::Clear()
+{
+    m_findings.Clear();
+    m_runs.clear();
+    m_literals.clear();
 }
 
 void ValueDecoder::Unfold( const IndexedLine& a_line, ByteRange a_range )

@@ -17,20 +17,30 @@
 namespace PimManager::Contacts
 {
 
-/// Decodes lines one after the other. The order is fixed: continuation lines are joined, QUOTED-PRINTABLE is decoded,
-/// then the character set; the text is split at its delimiters, and the escapes of each part are removed.
+/// Decodes lines one after the other. The order is fixed: continuation lines are joined, QUOTED-PRINTABLE or
+/// BASE64 is decoded, then the character set; the text is split at its delimiters, and the escapes of each part are
+/// removed.
 ///
 /// A byte that was encoded, or that is a part of another character, neither delimits nor escapes: `=3B` is no
-/// delimiter, and neither is 0x5C in the character `83 5C` of Shift_JIS.
+/// delimiter, and neither is 0x5C in the character `83 5C` of Shift_JIS. BASE64 encodes a value as a whole, so its
+/// delimiters and escapes are those of the decoded text.
 ///
 /// A text that needs no decoding is not copied. Otherwise the decoder holds the text, and uses the same memory for
 /// the next line.
 class ValueDecoder
 {
 public:
-    /// Decodes the value of a line up to its escapes. BASE64 is not decoded, see BinaryValue.h.
+    /// Decodes the value of a line up to its escapes. BASE64 is decoded only if DecodeBase64Text() accepts it.
     /// \param a_line must outlive the texts of the value.
     void Decode( const IndexedLine& a_line );
+
+    /// Decodes the value of a line like Decode() if the line says BASE64, its property is a known one whose value is
+    /// text, and the value is text (see Base64Value.h). This is the only place that decides it.
+    /// \return false for any other line, whose value is not decoded then.
+    bool DecodeBase64Text( const IndexedLine& a_line );
+
+    /// What DecodeBase64Text() returns for the line that was passed last to it or to Decode().
+    bool IsBase64Text() const { return m_isBase64Text; }
 
     /// Decodes the character set of a part of a line, and nothing else.
     /// \return the part in UTF-8, continuation lines joined. Valid as long as a value would be.
@@ -60,6 +70,7 @@ public:
     const Findings& Found() const { return m_findings; }
 
 private:
+    void Clear();
     void Unfold( const IndexedLine& a_line, ByteRange a_range );
     void DecodeRaw( const IndexedLine& a_line );
     void DecodeEncoded( const IndexedLine& a_line );
@@ -80,6 +91,7 @@ private:
     std::vector<quint32> m_places;
     // The first run that does not end before the place that NoteLiterals() has reached.
     size_t m_run = 0;
+    bool m_isBase64Text = false;
 };
 
 } // namespace PimManager::Contacts

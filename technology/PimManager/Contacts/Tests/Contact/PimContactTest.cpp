@@ -58,6 +58,10 @@ constexpr std::array s_kNames = {
     Row{ "TEL:1\r\nEMAIL:\"Omega\" <a@example.com>", "a@example.com" },
     Row{ "NOTE:x\r\nTEL:tel:+1-555", "+1-555" },
     Row{ "NOTE:x", "" },
+    Row{ "FN;ENCODING=BASE64:SsO2cmc=", "J\xC3\xB6rg" },
+    Row{ "FN;CHARSET=ISO-8859-1;BASE64:SvZyZw==", "J\xC3\xB6rg" },
+    Row{ "N;ENCODING=b:RG9lO0rDtnJn", "J\xC3\xB6rg Doe" },
+    Row{ "TEL;ENCODING=b:KzEtNTU1", "+1-555" },
 };
 
 class PimContactEntryTest : public testing::TestWithParam<Row>
@@ -77,6 +81,9 @@ constexpr std::array s_kEntries = {
     Row{ "CATEGORIES:a\\,b, c,,d", "a,b, c, d|||0" },
     Row{ "ORG:;Lanthorn; Tide ", "Lanthorn, Tide|||0" },
     Row{ "NOTE: one\\ntwo; three, four ", "one\ntwo; three, four|||0" },
+    Row{ "TEL;TYPE=cell;ENCODING=b:KzEtNTU1", "+1-555|CELL||0" },
+    Row{ "ADR;BASE64:Ozs7T3VzZSBNb3V0aA==", "Ouse Mouth|||0" },
+    Row{ "NOTE;ENCODING=b:AP//", "AP//|||0" },
     Row{ "NOTE;TYPE=\xC3\xA4\x62:", "|\xC3\xA4"
                                     "B||0" },
 };

@@ -80,6 +80,18 @@ INSTANTIATE_TEST_SUITE_P(
                                       Data( "image/gif", QByteArray::fromBase64( s_kGif ) ) } ),
     RowName );
 
+// Properties whose values should be text.
+INSTANTIATE_TEST_SUITE_P(
+    Texts, BinaryJsonTest,
+    ::testing::Values(
+        BinaryJsonRow{ "Text", "NOTE;ENCODING=b:SsO2cmc=", "\"types\":[],\"values\":[\"J\xC3\xB6rg\"]}" },
+        BinaryJsonRow{ "FoldedText", "NOTE;BASE64:SsO\r\n 2cmc", "\"types\":[],\"values\":[\"J\xC3\xB6rg\"]}" },
+        BinaryJsonRow{ "NoText", "NOTE;ENCODING=b:AP//", Data( "", QByteArray::fromBase64( "AP//" ) ) },
+        BinaryJsonRow{ "NoTextAndOdd", "NOTE;ENCODING=b:AP /w", Data( "", QByteArray::fromBase64( "AP/w" ) ) },
+        BinaryJsonRow{ "Fault", "NOTE;ENCODING=b:SsO2*", R"("values":["SsO2*"],"fault":4})" },
+        BinaryJsonRow{ "Extension", "X-A;ENCODING=b:Zm9v", Data( "", "foo" ) } ),
+    RowName );
+
 INSTANTIATE_TEST_SUITE_P(
     Faults, BinaryJsonTest,
     ::testing::Values(

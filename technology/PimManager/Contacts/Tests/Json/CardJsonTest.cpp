@@ -59,6 +59,9 @@ INSTANTIATE_TEST_SUITE_P(
         HeadRow{ "Org", "EMAIL:a@b\r\nORG:One; ;Two", s_kName, R"("One, Two",)" },
         HeadRow{ "Mail", "TEL:1\r\nEMAIL:\"Omega\" <omega@example.com>", s_kName, R"("omega@example.com",)" },
         HeadRow{ "Number", "TEL:tel:+1;ext=2", s_kName, R"("+1;ext=2",)" },
+        HeadRow{ "Base64", "FN;BASE64:SsO2cmc=", s_kName, "\"J\xC3\xB6rg\"," },
+        HeadRow{ "Base64OfN", "N;BASE64:" + QByteArray( "Doe;J\xC3\xB6rg" ).toBase64(), s_kName,
+                 "\"J\xC3\xB6rg Doe\"," },
         HeadRow{ "QuotedPrintable", "FN;QUOTED-PRINTABLE:J=C3=B6=0D=0ADoe", s_kName, "\"J\xC3\xB6 Doe\"," } ),
     RowName );
 
@@ -69,6 +72,8 @@ INSTANTIATE_TEST_SUITE_P(
                                 s_kNumbers,
                                 R"([{"number":"1","types":["CELL"],"preference":1},)"
                                 R"({"number":"2","types":[],"label":"boat","preference":2}],)" },
+                       HeadRow{ "Base64OfANumber", "TEL;CELL;BASE64:KzEtNTU1", s_kNumbers,
+                                R"([{"number":"+1-555","types":["CELL"]}],)" },
                        HeadRow{ "NumberUri", "TEL;VALUE=uri:tel:+1-555;ext=2", s_kNumbers,
                                 R"([{"number":"+1-555;ext=2","types":[]}],)" },
                        HeadRow{ "Mails", "EMAIL;INTERNET;HOME:mailto:a%40b?x=y\r\nEMAIL:\"O\" <o@e.com>", s_kMails,

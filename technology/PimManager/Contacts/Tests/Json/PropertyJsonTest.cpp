@@ -79,6 +79,12 @@ INSTANTIATE_TEST_SUITE_P(
         PropertyRow{ "GeoIsText21", "2.1", "GEO:1.5,2", R"({"name":"GEO","types":[],"values":["1.5,2"]})" },
         PropertyRow{ "EncodedSemicolonDividesNothing", "2.1", "ORG;QUOTED-PRINTABLE:a=3Bb;c",
                      R"({"name":"ORG","types":[],"values":["a;b","c"]})" },
+        PropertyRow{ "Base64OfComponents", "2.1", "ORG;ENCODING=BASE64:" + QByteArray( "a;b\\;c" ).toBase64(),
+                     R"({"name":"ORG","types":[],"values":["a","b;c"]})" },
+        PropertyRow{ "Base64OfAName", "2.1", "N;CHARSET=ISO-8859-1;BASE64:" + QByteArray( "D\xF6;J" ).toBase64(),
+                     "{\"name\":\"N\",\"types\":[],\"values\":[\"D\xC3\xB6\",\"J\"],"
+                     "\"parts\":{\"family\":\"D\xC3\xB6\",\"given\":\"J\",\"additional\":\"\",\"prefixes\":\"\","
+                     "\"suffixes\":\"\"}}" },
         PropertyRow{ "FoldsAndControls", "3.0", "NOTE:a\r\n b\x1B[1m",
                      R"({"name":"NOTE","types":[],"values":["ab\u001b[1m"]})" },
         PropertyRow{ "LinkedPhoto", "3.0", "PHOTO;VALUE=uri:http://example.com/x.jpg",

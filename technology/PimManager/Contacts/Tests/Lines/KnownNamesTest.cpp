@@ -149,6 +149,30 @@ TEST( KnownNamesTest, ShortValuesHoldNoText )
         EXPECT_TRUE( HoldsText( row ) ) << row;
 }
 
+TEST( KnownNamesTest, FourNamesAreOfMedia )
+{
+    const std::vector<std::string> media = { "KEY", "LOGO", "PHOTO", "SOUND" };
+    for ( const std::string& name : AllNames() )
+    {
+        EXPECT_EQ( IsMediaName( name ), IsOneOf( media, name ) ) << name;
+        EXPECT_EQ( IsMediaName( InSmallLetters( name ) ), IsMediaName( name ) ) << name;
+    }
+    for ( const char* const row : { "", "X-PHOTO", "PHOTOS", "KE" } )
+        EXPECT_FALSE( IsMediaName( row ) ) << row;
+}
+
+TEST( KnownNamesTest, OtherKnownNamesHaveTexts )
+{
+    const std::vector<std::string> others = { "AGENT", "BEGIN", "END", "KEY", "LOGO", "PHOTO", "SOUND", "VERSION" };
+    for ( const std::string& name : AllNames() )
+    {
+        EXPECT_EQ( IsKnownTextName( name ), !IsOneOf( others, name ) ) << name;
+        EXPECT_EQ( IsKnownTextName( InSmallLetters( name ) ), IsKnownTextName( name ) ) << name;
+    }
+    for ( const char* const row : { "", "X-FN", "FNS", "a name that nobody knows" } )
+        EXPECT_FALSE( IsKnownTextName( row ) ) << row;
+}
+
 TEST( KnownNamesTest, ThreeNamesAreOfPersons )
 {
     for ( const char* const row : { "N", "n", "FN", "Fn", "NICKNAME", "Nickname" } )

@@ -59,6 +59,44 @@ INSTANTIATE_TEST_SUITE_P(
                        BinaryRow{ "Text", "NOTE:Zm9v", false, "", "", -1 } ),
     RowName );
 
+// Properties whose values should be text.
+INSTANTIATE_TEST_SUITE_P(
+    DeclaredOfTexts, BinaryValueTest,
+    ::testing::Values(
+        BinaryRow{ "Text", "NOTE;ENCODING=b:Zm9v", false, "", "", -1 },
+        BinaryRow{ "BareWord", "TEL;HOME;BASE64:Zm9v", false, "", "", -1 },
+        BinaryRow{ "Empty", "NOTE;ENCODING=b:", false, "", "", -1 },
+        BinaryRow{ "LineBreaksAndTabs", "NOTE;ENCODING=b:" + QByteArray( "a\r\nb\tc\rd\n" ).toBase64(), false, "", "",
+                   -1 },
+        BinaryRow{ "NoUtf8", "NOTE;ENCODING=b:" + QByteArray( "caf\xE9" ).toBase64(), true, "caf\xE9", "", -1 },
+        BinaryRow{ "NotOfItsCharset", "NOTE;CHARSET=UTF-8;ENCODING=b:" + QByteArray( "caf\xE9" ).toBase64(), true,
+                   "caf\xE9", "", -1 },
+        BinaryRow{ "NotOfAnUnknownCharset", "NOTE;CHARSET=x-none;ENCODING=b:" + QByteArray( "caf\xE9" ).toBase64(),
+                   true, "caf\xE9", "", -1 },
+        BinaryRow{ "HalfACharacter", "FN;CHARSET=SHIFT_JIS;ENCODING=b:" + QByteArray( "a\x83" ).toBase64(), true,
+                   "a\x83", "", -1 },
+        BinaryRow{ "Nul", "NOTE;ENCODING=b:AA==", true, QByteArray( 1, '\0' ), "", -1 },
+        BinaryRow{ "Escape", "NOTE;ENCODING=b:" + QByteArray( "\x1B[1m" ).toBase64(), true, "\x1B[1m", "", -1 },
+        BinaryRow{ "VerticalTab", "NOTE;ENCODING=b:" + QByteArray( "a\x0B" ).toBase64(), true, "a\x0B", "", -1 },
+        BinaryRow{ "Delete", "NOTE;ENCODING=b:" + QByteArray( "a\x7F" ).toBase64(), true, "a\x7F", "", -1 },
+        BinaryRow{ "FirstOfC1", "NOTE;ENCODING=b:" + QByteArray( "\xC2\x80" ).toBase64(), true, "\xC2\x80", "", -1 },
+        BinaryRow{ "LastOfC1", "NOTE;ENCODING=b:" + QByteArray( "\xC2\x9F" ).toBase64(), true, "\xC2\x9F", "", -1 },
+        BinaryRow{ "NextToC1", "NOTE;ENCODING=b:" + QByteArray( "\xC2\xA0" ).toBase64(), false, "", "", -1 },
+        BinaryRow{ "Picture", "NOTE;ENCODING=b:" + s_kJpeg, true, QByteArray::fromBase64( s_kJpeg ), "", -1 },
+        BinaryRow{ "Fault", "NOTE;ENCODING=b:Zm9v*", true, "foo", "", 4 },
+        BinaryRow{ "CutShort", "NOTE;ENCODING=b:Zm9vZ", true, "foo", "", 5 },
+        BinaryRow{ "EncodedComponents", "N;ENCODING=b:Zm9v;Zm9v", true, "foo", "", 4 },
+        BinaryRow{ "DataUri", "NOTE;ENCODING=b:data:image/gif;base64,Zm9v", true, "foo", "image/gif", -1 },
+        BinaryRow{ "Extension", "X-NOTE;ENCODING=b:Zm9v", true, "foo", "", -1 },
+        BinaryRow{ "UnknownName", "NOTES;ENCODING=b:Zm9v", true, "foo", "", -1 },
+        BinaryRow{ "Photo", "PHOTO;ENCODING=b:Zm9v", true, "foo", "", -1 },
+        BinaryRow{ "Logo", "LOGO;ENCODING=b:Zm9v", true, "foo", "", -1 },
+        BinaryRow{ "Sound", "SOUND;ENCODING=b:Zm9v", true, "foo", "", -1 },
+        BinaryRow{ "Key", "KEY;ENCODING=b:Zm9v", true, "foo", "", -1 },
+        BinaryRow{ "Agent", "AGENT;ENCODING=b:Zm9v", true, "foo", "", -1 },
+        BinaryRow{ "Version", "VERSION;ENCODING=b:Zm9v", true, "foo", "", -1 } ),
+    RowName );
+
 INSTANTIATE_TEST_SUITE_P(
     DataUris, BinaryValueTest,
     ::testing::Values(

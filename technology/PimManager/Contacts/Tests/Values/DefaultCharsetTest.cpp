@@ -53,6 +53,8 @@ INSTANTIATE_TEST_SUITE_P(
                        DefaultCharsetRow{ "EncodedUtf8", "FN;QUOTED-PRINTABLE:=C3=A9", false },
                        DefaultCharsetRow{ "EncodedAndNamed", "FN;CHARSET=KOI8-R;QUOTED-PRINTABLE:=E9", false },
                        DefaultCharsetRow{ "Base64", "PHOTO;BASE64:\xE9", false },
+                       DefaultCharsetRow{ "Base64OfUtf8", "FN;BASE64:w6k=", false },
+                       DefaultCharsetRow{ "Base64OfOtherBytes", "FN;BASE64:6Q==", false },
                        DefaultCharsetRow{ "NestedCard", "FN:abc\r\nAGENT:\r\n" + CardOf( "FN:\xE9" ), true },
                        DefaultCharsetRow{ "NestedCardInUtf8", "FN:abc\r\nAGENT:\r\n" + CardOf( "FN:\xC3\xA9" ), false },
                        DefaultCharsetRow{ "LineBehindANestedCard", "AGENT:\r\n" + CardOf( "FN:abc" ) + "FN:\xE9",

@@ -52,7 +52,9 @@ INSTANTIATE_TEST_SUITE_P(
         UndeclaredRow{ "EncodedAndNamedByAnotherLine", "NOTE;QUOTED-PRINTABLE:=E9\r\nFN;CHARSET=KOI8-R:\xC1", "\xE9" },
         UndeclaredRow{ "HalfEncoded", "NOTE;QUOTED-PRINTABLE:=E9\xE8", "\xE9\xE8" },
         UndeclaredRow{ "EncodedAmongShiftedJapanese", "NOTE;QUOTED-PRINTABLE:\x1B$B%\\\x1B(B=E9", "" },
-        UndeclaredRow{ "Base64", "PHOTO;BASE64:\xE9", "" }, UndeclaredRow{ "Parameter", "TEL;X-A=\xE9:1", "" },
+        UndeclaredRow{ "Base64", "PHOTO;BASE64:\xE9", "" }, UndeclaredRow{ "Base64OfUtf8", "NOTE;BASE64:w6k=", "" },
+        UndeclaredRow{ "Base64OfOtherBytes", "NOTE;BASE64:6Q==", "" },
+        UndeclaredRow{ "Parameter", "TEL;X-A=\xE9:1", "" },
         UndeclaredRow{ "NotReallyEncoded", "NOTE;QUOTED-PRINTABLE:\xE8", "\xE8" },
         UndeclaredRow{ "NotReallyEncodedInANamedCard", "NOTE;QUOTED-PRINTABLE:\xE8\r\nFN;CHARSET=KOI8-R:\xC1", "" } ),
     RowName );

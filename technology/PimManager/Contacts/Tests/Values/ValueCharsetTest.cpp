@@ -125,6 +125,46 @@ INSTANTIATE_TEST_SUITE_P(
         ValueCharsetRow{ "RawAndEncodedHalves", "N;QUOTED-PRINTABLE:\xC3=A9", "\xC3\xA9", {}, "UTF-8" } ),
     RowName );
 
+INSTANTIATE_TEST_SUITE_P(
+    Base64, ValueCharsetTest,
+    ::testing::Values(
+        ValueCharsetRow{ "Utf8", "N;BASE64:" + QByteArray( "\xC3\xA9;a" ).toBase64(), "\xC3\xA9|a", {}, "UTF-8" },
+        ValueCharsetRow{ "Named",
+                         "N;CHARSET=KOI8-R;BASE64:" + QByteArray( "\xC1;\xC2" ).toBase64(),
+                         "\xD0\xB0|\xD0\xB1",
+                         {},
+                         "KOI8-R" },
+        ValueCharsetRow{ "NamedBig5",
+                         "N;CHARSET=Big5;BASE64:" + QByteArray( "\xA5\x5C;\xB3\x5C" ).toBase64(),
+                         "\xE5\x8A\x9F|\xE8\xA8\xB1",
+                         {},
+                         "Big5" },
+        ValueCharsetRow{ "Iso2022Jp",
+                         "N;CHARSET=ISO-2022-JP;BASE64:" + QByteArray( "\x1B$B%\\\x1B(B;a" ).toBase64(),
+                         "\xE3\x83\x9C|a",
+                         {},
+                         "ISO-2022-JP" },
+        ValueCharsetRow{ "Utf8NamedIso2022Jp",
+                         "N;CHARSET=ISO-2022-JP;BASE64:" + QByteArray( "\xC3\xA9" ).toBase64(),
+                         "\xC3\xA9",
+                         {},
+                         "UTF-8" },
+        ValueCharsetRow{ "BareWordNames",
+                         "N;SHIFT_JIS;BASE64:" + QByteArray( "\x83\x5C" ).toBase64(),
+                         "\xE3\x82\xBD",
+                         {},
+                         "Shift_JIS" },
+        ValueCharsetRow{ "UnknownName", "N;CHARSET=x-none;BASE64:" + QByteArray( "\xC3\xA9" ).toBase64(), "\xC3\xA9",
+                         Problem::UnknownCharset, "UTF-8" },
+        ValueCharsetRow{ "Escapes", "N;BASE64:" + QByteArray( "\\q" ).toBase64(), "\\q", Problem::UnknownEscape,
+                         "UTF-8" },
+        ValueCharsetRow{ "NamedByAnotherLine",
+                         "N;BASE64:" + QByteArray( "\xC3\xA9" ).toBase64() + "\r\nFN;CHARSET=KOI8-R:\xC1",
+                         "\xC3\xA9",
+                         {},
+                         "UTF-8" } ),
+    RowName );
+
 TEST_P( ValueCharsetTest, CharsetOfTheLineIsDecoded )
 {
     const ValueCharsetRow& row = GetParam();
@@ -140,6 +180,16 @@ TEST( ValueCharsetOfCallerTest, DefaultHoldsForRawAndEncodedText )
     options.SetDefaultCharset( "KOI8-R" );
     EXPECT_EQ( OneLine( "NOTE:\xC1", "2.1", options ).Text().toStdString(), "\xD0\xB0" );
     EXPECT_EQ( OneLine( "NOTE;QUOTED-PRINTABLE:=C1", "2.1", options ).Text().toStdString(), "\xD0\xB0" );
+}
+
+TEST( ValueCharsetOfCallerTest, DefaultDoesNotHoldForBase64 )
+{
+    PimContactOptions options;
+    options.SetDefaultCharset( "KOI8-R" );
+    const PimContactLine line = OneLine( "NOTE;BASE64:wQ==", "2.1", options );
+    EXPECT_EQ( line.Kind(), PimContactValueKind::Binary );
+    EXPECT_EQ( line.Text().toStdString(), "wQ==" );
+    EXPECT_EQ( line.Binary().Bytes(), "\xC1" );
 }
 
 TEST( ValueCharsetOfCallerTest, WithoutDefaultMalformedBytesAreReplaced )

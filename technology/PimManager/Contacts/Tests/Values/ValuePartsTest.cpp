@@ -95,6 +95,29 @@ INSTANTIATE_TEST_SUITE_P(
                                       "\xD0\xB0;|;\xD0\xB1;", "[\xD0\xB0;][;\xD0\xB1;]" } ),
     RowName );
 
+// The whole value is encoded, so the delimiters and escapes are those of the decoded text.
+INSTANTIATE_TEST_SUITE_P(
+    Base64, ValuePartsTest,
+    ::testing::Values( ValuePartsRow{ "Name21", "2.1", "N;ENCODING=BASE64:" + QByteArray( "Doe;Jane,Ann;;" ).toBase64(),
+                                      s_kComponents, "Doe|Jane,Ann||", "[Doe][Jane,Ann][][]" },
+                       ValuePartsRow{ "Name30", "3.0", "N;ENCODING=b:" + QByteArray( "Doe;Jane,Ann;;" ).toBase64(),
+                                      s_kComponents, "Doe|Jane,Ann||", "[Doe][Jane|Ann][][]" },
+                       ValuePartsRow{ "Escapes", "3.0",
+                                      "ADR;ENCODING=b:" + QByteArray( ";;a\\;b\\nc\\,d,e;T" ).toBase64(), s_kComponents,
+                                      "||a;b\nc,d,e|T", "[][][a;b\nc,d|e][T]" },
+                       ValuePartsRow{ "SecondBytes", "2.1",
+                                      "ORG;CHARSET=SHIFT_JIS;BASE64:" + QByteArray( "\x83\x5C;a" ).toBase64(),
+                                      s_kComponents, "\xE3\x82\xBD|a", "[\xE3\x82\xBD][a]" },
+                       ValuePartsRow{ "List", "3.0", "CATEGORIES;ENCODING=b:" + QByteArray( "a\\,b,c" ).toBase64(),
+                                      s_kList, "a,b|c", "[a,b,c]" },
+                       ValuePartsRow{ "Note", "3.0", "NOTE;ENCODING=b:" + QByteArray( "a;b,c" ).toBase64(), s_kText,
+                                      "a;b,c", "[a][b,c]" },
+                       ValuePartsRow{ "Empty", "3.0", "N;ENCODING=b:", s_kComponents, "", "[]" },
+                       ValuePartsRow{ "Bytes", "3.0", "N;ENCODING=b:AP//", s_kBinary, "AP//", "[AP//]" },
+                       ValuePartsRow{ "EncodedOneByOne", "3.0", "N;ENCODING=b:RG9l;SmFuZQ==", s_kBinary,
+                                      "RG9l;SmFuZQ==", "[RG9l][SmFuZQ==]" } ),
+    RowName );
+
 TEST_P( ValuePartsTest, ValueIsDividedByItsKind )
 {
     const ValuePartsRow& row = GetParam();

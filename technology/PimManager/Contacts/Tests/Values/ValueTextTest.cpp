@@ -33,6 +33,7 @@ std::string RowName( const ::testing::TestParamInfo<ValueTextRow>& a_info )
     return a_info.param.m_name;
 }
 
+constexpr const char* s_kJoerg = "J\xC3\xB6rg";
 constexpr const char* s_kQuotedPrintable = "NOTE;CHARSET=UTF-8;ENCODING=QUOTED-PRINTABLE:";
 
 // A value of words, cut behind each blank or before it: "word 0 word 1 ...".
@@ -78,6 +79,30 @@ INSTANTIATE_TEST_SUITE_P(
         ValueTextRow{ "ByteOrderMarksAtTheStart", "3.0", "NOTE:\xEF\xBB\xBF\xEF\xBB\xBFz",
                       "\xEF\xBB\xBF\xEF\xBB\xBFz" },
         ValueTextRow{ "Base64StaysEncoded", "3.0", "PHOTO;ENCODING=b:Zm9v\r\n Zm9v", "Zm9vZm9v" } ),
+    RowName );
+
+// Other values that say BASE64 are in BinaryValueTest.
+INSTANTIATE_TEST_SUITE_P(
+    Base64, ValueTextTest,
+    ::testing::Values(
+        ValueTextRow{ "Base64", "2.1", "FN;ENCODING=BASE64:SsO2cmc=", s_kJoerg },
+        ValueTextRow{ "B", "3.0", "FN;ENCODING=b:SsO2cmc=", s_kJoerg },
+        ValueTextRow{ "BareWord", "2.1", "TEL;HOME;BASE64:KzEtNTU1", "+1-555" },
+        ValueTextRow{ "SmallName", "2.1", "item1.email;encoding=base64:YUBi", "a@b" },
+        ValueTextRow{ "WithoutPadding", "3.0", "FN;ENCODING=b:SsO2cmc", s_kJoerg },
+        ValueTextRow{ "Empty", "3.0", "FN;ENCODING=b:", "" },
+        ValueTextRow{ "Folded", "2.1", "NOTE;BASE64:SsO\r\n 2cmc=", s_kJoerg },
+        ValueTextRow{ "NotIndented", "2.1", "NOTE;BASE64:\r\nSsO2\r\ncmc=\r\n\r\n", s_kJoerg },
+        ValueTextRow{ "Charset", "2.1", "FN;CHARSET=ISO-8859-1;ENCODING=BASE64:SvZyZw==", s_kJoerg },
+        ValueTextRow{ "LineBreaks", "3.0", "NOTE;ENCODING=b:" + QByteArray( "\r\na\r\n\r\nb\nc\rd\r" ).toBase64(),
+                      "\na\n\nb\nc\rd\r" },
+        ValueTextRow{ "Escapes", "3.0", "NOTE;ENCODING=b:" + QByteArray( "a\\nb\\,c\\\\d;e" ).toBase64(),
+                      "a\nb,c\\d;e" },
+        ValueTextRow{ "Base64InBase64", "3.0", "NOTE;ENCODING=b:" + QByteArray( "Zm9v" ).toBase64(), "Zm9v" },
+        ValueTextRow{ "QuotedPrintableToo", "2.1", "NOTE;BASE64;QUOTED-PRINTABLE:PTQx", "=41" },
+        ValueTextRow{ "BytesStayEncoded", "3.0", "NOTE;ENCODING=b:AP//", "AP//" },
+        ValueTextRow{ "FaultStaysEncoded", "3.0", "NOTE;ENCODING=b:SsO2cmc=*", "SsO2cmc=*" },
+        ValueTextRow{ "ExtensionStaysEncoded", "3.0", "X-A;ENCODING=b:SsO2cmc=", "SsO2cmc=" } ),
     RowName );
 
 INSTANTIATE_TEST_SUITE_P(

@@ -83,15 +83,26 @@ enum class PimContactValueKind
 /// QString or a list of them decode. They do so in this order:
 ///
 /// 1. Continuation lines are joined.
-/// 2. QUOTED-PRINTABLE is decoded; an encoded CR LF becomes a line feed.
+/// 2. QUOTED-PRINTABLE is decoded, and so is BASE64 if the value is text; an encoded CR LF becomes a line feed.
 /// 3. The character set is decoded. QUOTED-PRINTABLE text is in that of the CHARSET parameter, or else in UTF-8 if that
-///    fits, or else in the caller's default.
+///    fits, or else in the caller's default. BASE64 text is in that of the CHARSET parameter, or else in UTF-8.
 /// 4. The value is split at its semicolons or commas.
 /// 5. Escapes are removed: `\n` and `\N` become a line feed, and a backslash before a backslash, comma, semicolon,
 ///    colon, quote or apostrophe is removed. Any other backslash is kept.
 ///
 /// A byte that was written as QUOTED-PRINTABLE, or that is a part of another character, neither splits a value nor
-/// begins an escape. The rules are the same for all versions. A card without a version is read as 3.0.
+/// begins an escape. BASE64 encodes a value as a whole, so its delimiters and escapes are those of the decoded text.
+/// The rules are the same for all versions. A card without a version is read as 3.0.
+///
+/// **BASE64 text.** Some phones write names and numbers as BASE64. A value that says BASE64 is text, not bytes, if all
+/// of these are true:
+///
+/// - The property belongs to a standard, and is not PHOTO, LOGO, SOUND, KEY, AGENT or VERSION.
+/// - The BASE64 can be decoded without a fault, and its bytes without a malformed character: by the CHARSET parameter,
+///   or else as UTF-8. The caller's default is not used, because in many character sets almost any bytes are text.
+/// - The text has no control characters except tabs and line breaks.
+///
+/// Any other value that says BASE64 is Binary, and its text is the BASE64.
 ///
 /// Each function is linear in the length of the line at most. Const functions may run in several threads at once.
 class PIMCONTACT_EXPORT PimContactLine
@@ -170,8 +181,8 @@ public:
     ///         Never empty.
     QStringList Values() const;
 
-    /// \return the whole value as one text, whatever semicolons and commas are in it. The text of a BASE64 value is the
-    ///         BASE64.
+    /// \return the whole value as one text, whatever semicolons and commas are in it. The text of a BASE64 value that
+    ///         is bytes is the BASE64.
     QString Text() const;
 
     /// \return the value split at its commas. An empty value has one empty element. Example: `a\,b,c` has two elements.
@@ -185,8 +196,9 @@ public:
     ///         one element.
     QList<QStringList> ComponentLists() const;
 
-    /// \return the bytes of a value that is BASE64 or a `data:` URI; null if the value is neither. In PHOTO, LOGO,
-    ///         SOUND and KEY, a value that does not say so is BASE64 too if it begins like a picture, sound or key.
+    /// \return the bytes of a value that is BASE64 or a `data:` URI; null if the value is neither, and for BASE64 text.
+    ///         In PHOTO, LOGO, SOUND and KEY, a value that does not say so is BASE64 too if it begins like a picture,
+    ///         sound or key.
     PimContactBinary Binary() const;
 
     /// \return what is found when the value is decoded. Decodes it.

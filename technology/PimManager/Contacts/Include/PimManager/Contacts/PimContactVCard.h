@@ -38,9 +38,9 @@ class PimContactVCardPrivate;
 ///
 /// **Made.** Any other card is made from what Contacts decodes:
 ///
-/// - Values are those of PimContactLine::Components(): QUOTED-PRINTABLE and the character set are decoded, and escapes
-///   are removed. CHARSET is left out, and so is each ENCODING that no longer applies.
-/// - BASE64 is not decoded. White space in it is removed.
+/// - Values are those of PimContactLine::Components(): QUOTED-PRINTABLE, BASE64 text and the character set are decoded,
+///   and escapes are removed. CHARSET is left out, and so is each ENCODING that no longer applies.
+/// - BASE64 that is not text is not decoded. White space in it is removed.
 /// - Parameter values have quotes if they contain other characters than letters, digits and hyphens. Empty parameters
 ///   are left out. In versions 3.0 and 4.0, carets escape quotes and line feeds (RFC 6868).
 /// - The value of a property that holds a nested card is the text of that card, with one line for each property and

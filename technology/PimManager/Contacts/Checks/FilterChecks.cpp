@@ -10,11 +10,21 @@ namespace PimManager::Contacts::Checks
 namespace
 {
 
+// True for a property that is text if its value is the BASE64 of a letter.
+bool MayBeBase64Text( const QByteArray& a_name )
+{
+    const Reading reading = ReadWhole( "BEGIN:VCARD\r\n" + a_name + ";BASE64:YQ==\r\nEND:VCARD\r\n" );
+    if ( reading.m_cards.size() != 1 || reading.m_cards.front().LineCount() != 1 )
+        return false;
+    return ( *reading.m_cards.front().begin() ).Kind() != PimContactValueKind::Binary;
+}
+
 bool IsMedia( const PimContactLine& a_line )
 {
     const QByteArray name = a_line.Name().toUpper();
     return name == "PHOTO" || name == "LOGO" || name == "SOUND" || name == "KEY" ||
-           a_line.Encoding() == PimContactEncoding::Base64 || a_line.Value().trimmed().left( 5 ).toLower() == "data:";
+           ( a_line.Encoding() == PimContactEncoding::Base64 && !MayBeBase64Text( name ) ) ||
+           a_line.Value().trimmed().left( 5 ).toLower() == "data:";
 }
 
 bool IsNameWanted( const PimContactLine& a_line, const QList<QByteArray>& a_names )

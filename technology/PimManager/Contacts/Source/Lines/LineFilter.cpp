@@ -1,5 +1,6 @@
 #include "Lines/LineFilter.h"
 
+#include "Lines/KnownNames.h"
 #include "Lines/LineHead.h"
 #include "Text/Bytes.h"
 
@@ -13,10 +14,10 @@ namespace
 
 constexpr std::string_view s_kDataUri = "data:";
 
+// Whether the BASE64 of a text property is text is known only at its end. A name must not be lost.
 bool IsMedia( const LineHead& a_head, std::string_view a_name, std::string_view a_value )
 {
-    return a_head.m_encoding == PimContactEncoding::Base64 || IsSameWord( a_name, "PHOTO" ) ||
-           IsSameWord( a_name, "LOGO" ) || IsSameWord( a_name, "SOUND" ) || IsSameWord( a_name, "KEY" ) ||
+    return ( a_head.m_encoding == PimContactEncoding::Base64 && !IsKnownTextName( a_name ) ) || IsMediaName( a_name ) ||
            IsSameWord( TrimmedLeft( a_value ).substr( 0, s_kDataUri.size() ), s_kDataUri );
 }
 

@@ -78,8 +78,8 @@ public:
     QList<QByteArray> Names() const;
     void SetNames( const QList<QByteArray>& a_names );
 
-    /// False leaves out PHOTO, LOGO, SOUND and KEY, and every property whose value is BASE64 or a `data:` URI.
-    /// Default: true.
+    /// False leaves out PHOTO, LOGO, SOUND and KEY, and every property whose value is a `data:` URI. BASE64 is left out
+    /// too, except in a property such as FN, whose BASE64 may be text (see PimContactLine). Default: true.
     bool AreMediaWanted() const;
     void SetMediaWanted( bool a_areWanted );
 

@@ -84,7 +84,10 @@ TEST( CheckCommandTest, FindingsAreListedInTheOrderOfTheFile )
         { "PDF", "%PDF-1.4\n", 1, "1:1 refused document-file" },
         { "image", PngPicture(), 1, "1:1 refused image-file" },
         { "UTF-16", Utf16( card ), 0, "1:1 note encoding" },
-        { "not UTF-8", CardText( "VERSION:3.0\r\nFN:J\xF6rg\r\n" ), 0, "1:1 repaired charset" },
+        { "not UTF-8", CardText( "VERSION:3.0\r\nFN:J\xF6rg\r\n" ), 0,
+          "1:1 repaired charset\n3:1 repaired assumed-charset" },
+        { "picture that cannot be decoded", CardText( "VERSION:3.0\r\nPHOTO;ENCODING=b:/9j/*\r\n" ), 0,
+          "3:1 note malformed-binary" },
     };
     for ( const Row& row : rows )
     {

@@ -69,7 +69,7 @@ QString Explanation( const QString& a_help )
 // What follows the explanation of an option: the name of its value, and what completes it.
 QString ValueOf( const OptionInfo& a_option )
 {
-    const QString name = QLatin1Char( ':' ) + a_option.m_argument.toLower() + QLatin1Char( ':' );
+    QString name = QLatin1Char( ':' ) + a_option.m_argument.toLower() + QLatin1Char( ':' );
     switch ( CompletedValueOf( a_option ) )
     {
     case CompletedValue::Words:

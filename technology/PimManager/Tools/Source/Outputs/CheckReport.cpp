@@ -15,6 +15,18 @@ CheckReport::CheckReport( QIODevice& a_device ) :
 {
 }
 
+void CheckReport::BeginBook( const BookInRun& /*a_book*/, const PimContactReader& /*a_reader*/ )
+{
+    m_values.Clear();
+}
+
+void CheckReport::TakeCard( const BookInRun& a_book, const PimContactCard& a_card )
+{
+    const QStringList findings = m_values.Of( a_book.m_source, a_card );
+    for ( const QString& finding : findings )
+        m_device.write( finding.toUtf8() + '\n' );
+}
+
 void CheckReport::TakeDiagnostic( const BookInRun& a_book, const PimContactDiagnostic& a_diagnostic )
 {
     m_device.write( DiagnosticText( a_book.m_source, a_diagnostic ).toUtf8() + '\n' );
@@ -22,8 +34,8 @@ void CheckReport::TakeDiagnostic( const BookInRun& a_book, const PimContactDiagn
 
 void CheckReport::EndBook( const BookInRun& a_book )
 {
-    m_device.write( a_book.m_source.toUtf8() + ": " + SummaryText( a_book.m_report, a_book.m_isReadToEnd ).toUtf8() +
-                    '\n' );
+    const QString summary = SummaryText( a_book.m_report, a_book.m_isReadToEnd, m_values.Counts() );
+    m_device.write( a_book.m_source.toUtf8() + ": " + summary.toUtf8() + '\n' );
 }
 
 } // namespace PimManager::Tools

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Outputs/BookOutput.h"
+#include "Outputs/ValueFindings.h"
 
 class QIODevice;
 
@@ -11,7 +12,7 @@ namespace PimManager::Tools
 {
 
 /// Writes one line for each finding as soon as it is made, in the form that compilers use, and a summary after each
-/// file:
+/// file. What is wrong with the values of a card follows everything else about the card.
 ///
 ///     book.vcf:12:7: repaired: the last line has no line ending [last-line-end]
 ///     book.vcf: 3 cards: 3 whole; CR LF line endings; UTF-8 (valid); version 3.0; 1 × last-line-end
@@ -21,11 +22,14 @@ public:
     /// \param a_device must be open and outlive the report.
     explicit CheckReport( QIODevice& a_device );
 
+    void BeginBook( const BookInRun& a_book, const Contacts::PimContactReader& a_reader ) override;
+    void TakeCard( const BookInRun& a_book, const Contacts::PimContactCard& a_card ) override;
     void TakeDiagnostic( const BookInRun& a_book, const Contacts::PimContactDiagnostic& a_diagnostic ) override;
     void EndBook( const BookInRun& a_book ) override;
 
 private:
     QIODevice& m_device;
+    ValueFindings m_values;
 };
 
 } // namespace PimManager::Tools

@@ -111,13 +111,13 @@ QString WithoutCardText( PimContactFileKind a_kind )
     return isKnown ? KindText( a_kind ) : QStringLiteral( "holds no vCard" );
 }
 
-QStringList SummaryFacts( const PimContactReport& a_report )
+QStringList SummaryFacts( const PimContactReport& a_report, const QList<FindingCount>& a_values )
 {
     QStringList texts;
     const QList<ReportFact> facts = FactsOn( a_report );
     for ( const ReportFact& fact : facts )
         texts << fact.m_text;
-    return texts << FindingsText( a_report );
+    return texts << FindingsText( a_report, a_values );
 }
 
 } // namespace
@@ -150,7 +150,7 @@ QString BytesText( const PimContactReport& a_report )
                           { a_report.Bytes( Kind::Refused ), QStringLiteral( "refused" ) } } );
 }
 
-QString FindingsText( const PimContactReport& a_report )
+QString FindingsText( const PimContactReport& a_report, const QList<FindingCount>& a_values )
 {
     QList<FindingCount> codes;
     for ( int number = 0; number < s_kPimContactDiagnosticCodes; ++number )
@@ -159,16 +159,16 @@ QString FindingsText( const PimContactReport& a_report )
         codes << FindingCount{ static_cast<int>( SeverityOf( code ) ),
                                { a_report.Findings( code ), QString( NameOf( code ) ) } };
     }
-    const QStringList phrases = FindingPhrases( codes );
+    const QStringList phrases = FindingPhrases( codes + a_values );
     return phrases.isEmpty() ? QStringLiteral( "no findings" ) : phrases.join( QStringLiteral( ", " ) );
 }
 
-QString SummaryText( const PimContactReport& a_report, bool a_isReadToEnd )
+QString SummaryText( const PimContactReport& a_report, bool a_isReadToEnd, const QList<FindingCount>& a_values )
 {
     const bool isEmpty = a_report.FileKind() == PimContactFileKind::Empty;
     if ( isEmpty && a_isReadToEnd )
         return QStringLiteral( "is empty" );
-    QStringList facts = isEmpty ? QStringList() : SummaryFacts( a_report );
+    QStringList facts = isEmpty ? QStringList() : SummaryFacts( a_report, a_values );
     if ( !a_isReadToEnd )
         facts << QStringLiteral( "not read to its end" );
     return facts.join( QStringLiteral( "; " ) );

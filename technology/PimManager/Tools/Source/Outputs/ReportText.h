@@ -4,6 +4,7 @@
 #pragma once
 
 #include "ExitStatus.h"
+#include "Outputs/ReportPhrases.h"
 
 #include <PimManager/Contacts/PimContactReport.h>
 
@@ -29,15 +30,18 @@ QList<ReportFact> FactsOn( const Contacts::PimContactReport& a_report );
 /// \return what became of the bytes, such as `90 bytes: 56 in properties, 24 in BEGIN and END lines, 10 dropped`.
 QString BytesText( const Contacts::PimContactReport& a_report );
 
+/// \param a_values findings that are not in the report, see ValueFindings.
 /// \return the number of findings of each code, the worst first, such as `1 × comment, 3 × unknown-escape`, or
 ///         `no findings`.
-QString FindingsText( const Contacts::PimContactReport& a_report );
+QString FindingsText( const Contacts::PimContactReport& a_report, const QList<FindingCount>& a_values = {} );
 
 /// \param a_isReadToEnd false if the reading was interrupted or failed.
+/// \param a_values      as for FindingsText().
 /// \return one line about the file without its name, such as
 ///         `2 cards: 1 whole, 1 in part; LF line endings; UTF-8 (valid); version 3.0; 1 × not-a-property`. Of a file
 ///         without cards it says what the file is, such as `is a PDF document; 1 × document-file`.
-QString SummaryText( const Contacts::PimContactReport& a_report, bool a_isReadToEnd );
+QString SummaryText( const Contacts::PimContactReport& a_report, bool a_isReadToEnd,
+                     const QList<FindingCount>& a_values = {} );
 
 /// \param a_isReadToEnd false if the reading was interrupted or failed.
 /// \return what is missing, such as `1 card refused, 2 lines dropped`. Of a file that is not empty and has no card:

@@ -64,7 +64,8 @@ int FindWord( const QList<QByteArray>& a_arguments )
             return place;
         place += WantsNext( argument ) ? 1 : 0;
     }
-    return place;
+    // The value of the last option may be missing.
+    return std::min( place, static_cast<int>( a_arguments.size() ) );
 }
 
 // Looks like the name of a command, and is no file.

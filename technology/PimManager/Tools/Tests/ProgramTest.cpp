@@ -61,6 +61,8 @@ TEST( ProgramTest, WrongUsageIsReportedWithStatusTwo )
         { {}, "pimvcard: no command and no file\n", programHint },
         { { "--quiet" }, "pimvcard: no command and no file\n", programHint },
         { { "--full" }, "pimvcard: Unknown option 'full'.\n", programHint },
+        { { "--charset" }, "pimvcard: Missing value after '--charset'.\n", programHint },
+        { { "-q", "-c" }, "pimvcard: Missing value after '-c'.\n", programHint },
         { { "frobnicate" }, "pimvcard: frobnicate is neither a command nor a file.\n", programHint },
         { { "chekc", "x.vcf" },
           "pimvcard: chekc is neither a command nor a file. Did you mean \"check\"?\n",

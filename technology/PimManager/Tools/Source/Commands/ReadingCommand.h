@@ -4,10 +4,13 @@
 #pragma once
 
 #include "Commands/CommandLine.h"
+#include "Outputs/BookOutput.h"
 #include "Reading/BookOptions.h"
 #include "Terminal/Console.h"
 
 #include <QString>
+
+#include <memory>
 
 namespace PimManager::Tools
 {
@@ -17,6 +20,10 @@ namespace PimManager::Tools
 /// \return what is wrong with them, safe for a terminal; empty if nothing is. For an unknown character set this is a
 ///         list of those that are known.
 QString ReadBookOptions( const CommandLine& a_line, BookOptions& a_options );
+
+/// Reads the books of a command line into an output on standard output, and sums up.
+/// \param a_output writes to a_console.Out().
+ExitStatus PrintBooks( const CommandLine& a_line, Console& a_console, std::unique_ptr<BookOutput> a_output );
 
 /// Reports wrong usage of a command.
 /// \return the exit status for it.

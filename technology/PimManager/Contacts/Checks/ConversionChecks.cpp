@@ -23,11 +23,11 @@ namespace
 class LogCounter
 {
 public:
-    LogCounter()
+    LogCounter() :
+        m_former(
+            qInstallMessageHandler( []( QtMsgType, const QMessageLogContext&, const QString& ) { ++sm_messages; } ) )
     {
         sm_messages = 0;
-        m_former =
-            qInstallMessageHandler( []( QtMsgType, const QMessageLogContext&, const QString& ) { ++sm_messages; } );
     }
     ~LogCounter() { qInstallMessageHandler( m_former ); }
     Q_DISABLE_COPY( LogCounter )
@@ -36,7 +36,7 @@ public:
 
 private:
     inline static int sm_messages = 0;
-    QtMessageHandler m_former;
+    const QtMessageHandler m_former;
 };
 
 Broken BrokenProperty( const vCard::PimVCardProperty* a_property )

@@ -43,8 +43,8 @@ TEST( ContactRunTest, OutputThatRunsOutOfMemoryIsNotPublishedAndOthersAre )
     ContactRun::Outputs outputs;
     outputs.push_back( std::make_unique<RejectsFile>( rejects, claims ) );
     outputs.push_back( std::make_unique<CutPage>( page, claims ) );
-    const ExitStatus status =
-        ContactRun( console, BookOptions(), std::move( outputs ), BookRun::WithoutReader::GoOn ).Run( { book } );
+    ContactRun run( console, BookOptions(), std::move( outputs ), BookRun::WithoutReader::GoOn );
+    const ExitStatus status = run.Run( { book } );
     EXPECT_EQ( int( status ), int( ExitStatus::Trouble ) );
     EXPECT_EQ( FileContent( page ).toStdString(), "old" );
     EXPECT_EQ( FileContent( rejects ), "\x01\x02 %%%\r\n" );

@@ -40,7 +40,7 @@ namespace
 {
 
 constexpr int s_kWrongUse = 2;
-constexpr qint64 s_kBlock = 64 * 1024;
+constexpr qint64 s_kBlock = qint64( 64 ) * 1024;
 
 void Open( QFile& a_file, const char* a_name )
 {

@@ -1,8 +1,9 @@
 #include "Text/WordGroups.h"
 
+#include <QByteArray>
+
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <map>
 #include <string>
 #include <vector>
@@ -13,12 +14,10 @@ namespace PimManager::Contacts
 namespace
 {
 
+// Whatever the locale is: in Turkish, the capital of "i" is no letter of ASCII.
 std::string InCapitals( const std::string& a_word )
 {
-    std::string word = a_word;
-    for ( char& letter : word )
-        letter = static_cast<char>( std::toupper( static_cast<unsigned char>( letter ) ) );
-    return word;
+    return QByteArray::fromStdString( a_word ).toUpper().toStdString();
 }
 
 // Compares with a map of the words.

@@ -43,9 +43,10 @@ TEST( ContactRunTest, OutputThatRunsOutOfMemoryIsNotPublishedAndOthersAre )
     ContactRun::Outputs outputs;
     outputs.push_back( std::make_unique<RejectsFile>( rejects, claims ) );
     outputs.push_back( std::make_unique<CutPage>( page, claims ) );
-    ContactRun run( console, BookOptions(), std::move( outputs ), BookRun::WithoutReader::GoOn );
-    const ExitStatus status = run.Run( { book } );
-    EXPECT_EQ( int( status ), int( ExitStatus::Trouble ) );
+    {
+        ContactRun run( console, BookOptions(), std::move( outputs ), BookRun::WithoutReader::GoOn );
+        EXPECT_EQ( int( run.Run( { book } ) ), int( ExitStatus::Trouble ) );
+    }
     EXPECT_EQ( FileContent( page ).toStdString(), "old" );
     EXPECT_EQ( FileContent( rejects ), "\x01\x02 %%%\r\n" );
     EXPECT_EQ( NamesIn( folder.Path( "" ) ), "book\nmessages\npage\nrejects\n" );

@@ -40,16 +40,18 @@ quint32 FindWide( std::string_view a_text, quint32 a_begin, quint32 a_end )
     return static_cast<quint32>( std::find_if( a_text.data() + a_begin, end, IsWide ) - a_text.data() );
 }
 
-// Of the first CHARSET parameter, as written.
+// Of the first CHARSET parameter.
 std::string_view NamedCharset( const IndexedLine& a_line, QByteArray& a_buffer )
 {
-    ParameterReader parameters( a_line.Parameters( a_buffer ), a_line.m_card.m_record.Version() );
-    while ( parameters.Next() )
-    {
-        if ( IsSameWord( parameters.Name(), s_kCharsetParameter ) )
-            return parameters.Value();
-    }
-    return std::string_view();
+    QByteArray unfolded;
+    ParameterReader parameters( a_line.Parameters( unfolded ), a_line.m_card.m_record.Version() );
+    Empty( a_buffer );
+    bool isFound = false;
+    while ( !isFound && parameters.Next() )
+        isFound = IsSameWord( parameters.Name(), s_kCharsetParameter );
+    if ( isFound )
+        Append( a_buffer, parameters.Value() );
+    return ViewOf( a_buffer );
 }
 
 // What the index says about the bytes that are not QUOTED-PRINTABLE.

@@ -95,6 +95,11 @@ INSTANTIATE_TEST_SUITE_P(
         ValueCharsetRow{ "RawDefault", "N:\xE9", "\xC3\xA9", Problem::AssumedCharset, "windows-1252" },
         ValueCharsetRow{ "RawUnknownName", "N;CHARSET=x-none:\xE9", "\xC3\xA9",
                          Problem::AssumedCharset | Problem::UnknownCharset, "windows-1252" },
+        // The name is decoded in memory of the parameters, and needed afterwards.
+        ValueCharsetRow{ "RawNameWithACaret", "N;CHARSET=x^^none:\xE9", "\xC3\xA9",
+                         Problem::AssumedCharset | Problem::UnknownCharset, "windows-1252" },
+        ValueCharsetRow{ "EncodedNameWithACaret", "N;CHARSET=x^^none;QUOTED-PRINTABLE:=E9", "\xC3\xA9",
+                         Problem::AssumedCharset | Problem::UnknownCharset, "windows-1252" },
         ValueCharsetRow{ "EncodedUtf8", "N;QUOTED-PRINTABLE:=C3=A9", "\xC3\xA9", {}, "UTF-8" },
         ValueCharsetRow{
             "EncodedUtf8NamedAscii", "N;CHARSET=US-ASCII;QUOTED-PRINTABLE:=C3=A9", "\xC3\xA9", {}, "UTF-8" },

@@ -28,8 +28,10 @@ struct Reading
 };
 
 constexpr std::array s_kReadings = {
-    Reading{ "list", RunList },   Reading{ "show", RunShow },       Reading{ "show", RunShow },
-    Reading{ "check", RunCheck }, Reading{ "convert", RunConvert },
+    Reading{ "list", RunList },
+    Reading{ "show", RunShow },
+    Reading{ "check", RunCheck },
+    Reading{ "convert", RunConvert },
 };
 
 const QString s_kProgram = QStringLiteral( "pimvcard" );
@@ -76,7 +78,7 @@ bool IsUnknownCommand( const QByteArray& a_word )
     return isPlain && ::stat( a_word.constData(), &status ) != 0;
 }
 
-ExitStatus RunCommand( CommandLine& a_line, Console& a_console )
+ExitStatus RunCommand( const CommandLine& a_line, Console& a_console )
 {
     if ( a_line.IsSet( s_kHelpOption ) )
         return a_console.Show( a_line.HelpText() );

@@ -53,7 +53,7 @@ const CommandInfo* FindCommand( const QByteArray& a_name );
 /// \return the names of the character sets that the reader knows.
 QStringList CharsetNames();
 
-// The names of the options, without the limits; those are in LimitOptions.h.
+// The names of the options. Those of the limits are in LimitOptions.cpp.
 inline const QString s_kHelpOption = QStringLiteral( "help" );
 inline const QString s_kVersionOption = QStringLiteral( "version" );
 inline const QString s_kQuietOption = QStringLiteral( "quiet" );

@@ -9,7 +9,7 @@
 namespace PimManager::Tools
 {
 
-/// Remarks for each file what is missing, and sums up at the end.
+/// Reports for each file what is missing, and sums up at the end.
 class BookNotes : public BookOutput
 {
 public:

@@ -24,3 +24,8 @@ macro(pimvcard_find_qt)
 endmacro()
 
 pimvcard_find_qt(Core)
+
+# moc runs on the machine that builds. A toolchain file names it where the Qt of the target brings only its own.
+if(PIMVCARD_MOC)
+  set_target_properties(Qt${PIMVCARD_QT_VERSION}::moc PROPERTIES IMPORTED_LOCATION ${PIMVCARD_MOC})
+endif()

@@ -7,6 +7,9 @@ set(CMAKE_SYSROOT ${CMAKE_CURRENT_LIST_DIR}/../build/arm-sysroot)
 cmake_path(NORMAL_PATH CMAKE_SYSROOT)
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-arm -L ${CMAKE_SYSROOT})
 
+# The folder has a moc for the target; this one runs here.
+set(PIMVCARD_MOC /usr/lib/qt5/bin/moc)
+
 set(CMAKE_FIND_ROOT_PATH ${CMAKE_SYSROOT})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

@@ -19,13 +19,18 @@ constexpr int s_kContacts = 50;
 // How long a cancel can stay unnoticed while the worker waits.
 constexpr int s_kWaitMilliseconds = 20;
 
-Contact ContactOf( const PimContactCard& a_card )
+Number NumberOf( const PimContactPhone& a_phone )
 {
-    const PimContact read( a_card );
-    Contact contact;
-    contact.m_name = read.DisplayName();
-    for ( const PimContactEntry& phone : read.Phones() )
-        contact.m_numbers.append( phone.Text() );
+    return { a_phone.Text(), a_phone.Label(), a_phone.Kinds().testFlag( PimContactPhoneKind::Mobile ) };
+}
+
+Contact ContactOf( const PimContact& a_contact )
+{
+    const PimContactList<PimContactPhone> phones = a_contact.Phones();
+    Contact contact = { a_contact.DisplayName(), NumberOf( phones.Preferred() ), {} };
+    contact.m_numbers.reserve( phones.size() );
+    for ( const PimContactPhone& phone : phones )
+        contact.m_numbers.append( NumberOf( phone ) );
     return contact;
 }
 
@@ -34,10 +39,11 @@ bool IsCancelled()
     return QThread::currentThread()->isInterruptionRequested();
 }
 
+// What a list of numbers needs: names, numbers and their labels. Photos are never kept in memory.
 PimContactOptions ListOptions()
 {
     PimContactOptions options;
-    options.SetNames( { "N", "FN", "NICKNAME", "ORG", "EMAIL", "TEL" } );
+    options.SetNames( { "N", "FN", "NICKNAME", "ORG", "EMAIL", "TEL", "X-ABLABEL" } );
     return options;
 }
 
@@ -72,7 +78,7 @@ bool PhonebookWorker::TakeCard( const PimContactCard& a_card )
 {
     if ( IsCancelled() )
         return false;
-    m_contacts.append( ContactOf( a_card ) );
+    m_contacts.append( ContactOf( PimContact( a_card ) ) );
     if ( m_contacts.size() >= s_kContacts )
         HandOver();
     return true;

@@ -11,11 +11,19 @@
 namespace
 {
 
+QString TextOf( const Number& a_number )
+{
+    const QString kind = a_number.m_isMobile ? QStringLiteral( "mobile" ) : QString();
+    const QString purpose = a_number.m_label.isEmpty() ? kind : a_number.m_label;
+    return purpose.isEmpty() ? a_number.m_text : QStringLiteral( "%1 (%2)" ).arg( a_number.m_text, purpose );
+}
+
+// The number to call, and how many numbers there are.
 void PrintContacts( const Contacts& a_contacts, int a_first, int a_count )
 {
     for ( const Contact& contact : a_contacts.mid( a_first, a_count ) )
-        std::cout << contact.m_name.toStdString() << ": "
-                  << contact.m_numbers.join( QStringLiteral( ", " ) ).toStdString() << '\n';
+        std::cout << contact.m_name.toStdString() << ": " << TextOf( contact.m_preferred ).toStdString() << ", "
+                  << contact.m_numbers.size() << " in all\n";
 }
 
 void PrintEnd( qint64 a_contacts, qint64 a_refused, bool a_isCancelled )

@@ -7,14 +7,18 @@
 #include <PimManager/Contacts/PimContact.h>
 #include <PimManager/Contacts/PimContactBook.h>
 #include <PimManager/Contacts/PimContactCharset.h>
+#include <PimManager/Contacts/PimContactConformance.h>
+#include <PimManager/Contacts/PimContactDate.h>
 #include <PimManager/Contacts/PimContactJson.h>
 #include <PimManager/Contacts/PimContactReader.h>
 #include <PimManager/Contacts/PimContactVCard.h>
+#include <PimManager/Contacts/PimContactWriter.h>
 
 #include <PimVCard.h>
 
 #include <QByteArray>
 #include <QDebug>
+#include <QSaveFile>
 #include <QString>
 
 using namespace PimManager::Contacts;
@@ -25,13 +29,25 @@ struct Connection
     bool Read( QByteArray& a_piece );
 };
 
+/// Something that shows a picture.
+struct Image
+{
+    bool loadFromData( const QByteArray& a_bytes );
+};
+
 bool Store( const PimContactCard& a_card );
+void Write( const QString& a_address );
+void ShowFaxIcon();
 void Show( const QByteArray& a_picture );
 
+extern const PimContact contact;
+extern const PimContactPhoneKinds kinds;
+extern Image image;
 extern const PimContactCard card;
 extern const PimContactLine line;
 extern const PimContactReport report;
 extern PimContactReader reader;
+extern PimContactWriter writer;
 extern const QByteArray bytes;
 extern Connection connection;
 extern QByteArray piece;

@@ -118,12 +118,12 @@ QString ComponentWord( const Cards& a_cards, const PimContactBook& a_book, bool 
     if ( a_cards.empty() )
         return QStringLiteral( "refused" );
     const bool isParsed =
-        std::all_of( a_book.begin(), a_book.end(),
+        std::all_of( a_book.Cards().begin(), a_book.Cards().end(),
                      []( const PimContactCard& a_card ) { return PimContactVCard::FromCard( a_card ).IsParsed(); } );
     if ( !a_isSame && !isParsed )
         return QStringLiteral( "changed" );
     const bool isDecoded =
-        std::any_of( a_book.begin(), a_book.end(),
+        std::any_of( a_book.Cards().begin(), a_book.Cards().end(),
                      []( const PimContactCard& a_card ) { return !DecodedReadings( a_card ).isEmpty(); } );
     return a_isSame && !isDecoded ? QStringLiteral( "accepted" ) : QStringLiteral( "as written" );
 }
@@ -154,7 +154,7 @@ QString FindingsText( const PimContactReport& a_report )
 QStringList ReadingsOf( const PimContactBook& a_book )
 {
     QStringList readings;
-    for ( const PimContactCard& card : a_book )
+    for ( const PimContactCard& card : a_book.Cards() )
         readings << AllReadings( card );
     readings.removeDuplicates();
     return readings;
@@ -172,7 +172,7 @@ SupportAnswer AnswerTo( const SupportExample& a_example )
     const Cards cards = ReadByComponent( a_example.m_text );
     const PimContactBook book = PimContactBook::FromBytes( a_example.m_text );
     const QString shown = ShownCards( cards, a_example );
-    const QString shownByContacts = ShownCards( book, a_example );
+    const QString shownByContacts = ShownCards( book.Cards(), a_example );
     const bool isSame = shown == shownByContacts;
 
     const QString colon = QStringLiteral( ": " );

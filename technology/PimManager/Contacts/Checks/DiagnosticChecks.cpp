@@ -30,15 +30,25 @@ Broken BrokenCardNumber( const PimContactDiagnostic& a_diagnostic, const std::ve
 {
     const PimContactDiagnosticCode code = a_diagnostic.Code();
     if ( code == PimContactDiagnosticCode::Encoding || code == PimContactDiagnosticCode::LineEnd ||
-         code == PimContactDiagnosticCode::LastLineEnd )
+         code == PimContactDiagnosticCode::LastLineEnd || code == PimContactDiagnosticCode::JCard )
         return Same( "card", a_diagnostic.Card(), 0 );
     const bool isAtEnd = code == PimContactDiagnosticCode::MissingEnd || code == PimContactDiagnosticCode::EndOfFile;
     const qint64 card = CardAt( a_extents, a_diagnostic.Offset() - ( isAtEnd ? 1 : 0 ) );
     return card == -1 ? Broken() : Same( "card", a_diagnostic.Card(), card );
 }
 
+// Its place is in the JSON, before that was converted.
+bool IsInJson( const PimContactDiagnostic& a_diagnostic )
+{
+    return a_diagnostic.Code() == PimContactDiagnosticCode::JsonSyntax ||
+           a_diagnostic.Code() == PimContactDiagnosticCode::JsonPart;
+}
+
 Broken BrokenPlace( const PimContactDiagnostic& a_diagnostic, const Subject& a_subject )
 {
+    if ( IsInJson( a_diagnostic ) )
+        return Holds( a_diagnostic.Offset() >= 0 && a_diagnostic.Offset() <= a_subject.m_bytes.size(),
+                      "offset beyond the JSON" );
     const qint64 offset = a_diagnostic.Offset();
     if ( offset < 0 || offset > a_subject.m_text.size() )
         return "offset beyond the text";
@@ -67,6 +77,8 @@ Broken BrokenOrder( const std::vector<PimContactDiagnostic>& a_diagnostics )
     return FirstBrokenOf( a_diagnostics,
                           [&offset]( const PimContactDiagnostic& a_diagnostic )
                           {
+                              if ( IsInJson( a_diagnostic ) )
+                                  return Broken();
                               const bool isBack = a_diagnostic.Offset() < offset;
                               offset = a_diagnostic.Offset();
                               return isBack ? Of( "order", a_diagnostic ) : Broken();

@@ -1,6 +1,7 @@
 #include "Checks/Invariants.h"
 
 #include "Checks/CardChecks.h"
+#include "Checks/ContactChecks.h"
 #include "Checks/ConversionChecks.h"
 #include "Checks/DiagnosticChecks.h"
 #include "Checks/ExtentChecks.h"
@@ -11,6 +12,7 @@
 #include "Checks/PieceChecks.h"
 #include "Checks/RereadChecks.h"
 #include "Checks/Transcript.h"
+#include "Checks/WriteChecks.h"
 
 #include <array>
 
@@ -41,6 +43,8 @@ constexpr std::array s_kChecks = {
     Check{ "Markers", BrokenMarkers },
     Check{ "Objects", BrokenObjects },
     Check{ "Json", BrokenJson },
+    Check{ "Contacts", BrokenContacts },
+    Check{ "Writing", BrokenWriting },
 };
 
 } // namespace

@@ -72,7 +72,7 @@ Reading ReadOnTheLongerRoad( const Subject& a_subject )
 QByteArray TranscriptOf( const PimContactBook& a_book )
 {
     QByteArray text;
-    for ( const PimContactCard& card : a_book )
+    for ( const PimContactCard& card : a_book.Cards() )
         text += Checks::TranscriptOf( card );
     return text + Checks::TranscriptOf( a_book.Report() );
 }

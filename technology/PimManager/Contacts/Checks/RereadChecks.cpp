@@ -15,7 +15,7 @@ Broken BrokenCard( const PimContactCard& a_card, const PimContactOptions& a_opti
     const PimContactBook book = PimContactBook::FromBytes( a_card.Bytes(), a_options );
     if ( book.Size() != 1 )
         return Same( "cards read from the bytes of one", book.Size(), 1 );
-    const PimContactCard& again = book.At( 0 );
+    const PimContactCard& again = book.CardAt( 0 );
     const QByteArray content = ContentOf( again );
     if ( content != ContentOf( a_card ) )
         return "read alone it is\n" + content + "instead of\n" + ContentOf( a_card );

@@ -5,13 +5,28 @@
 namespace PimManager::Contacts::Checks
 {
 
+namespace
+{
+
+QByteArray TextOf( const QByteArray& a_bytes, const Reading& a_reading )
+{
+    if ( a_reading.m_report.Findings( PimContactDiagnosticCode::JCard ) == 0 )
+        return ConvertedTextOf( a_bytes );
+    QByteArray text;
+    for ( const PimContactExtent& extent : a_reading.m_extents )
+        text += extent.Bytes();
+    return text;
+}
+
+} // namespace
+
 Subject::Subject( const QByteArray& a_bytes, const PimContactOptions& a_options, unsigned a_seed ) :
     m_bytes( a_bytes ),
     m_options( a_options ),
     m_seed( a_seed ),
-    m_text( ConvertedTextOf( a_bytes ) ),
-    m_lines( PhysicalLinesOf( m_text ) ),
-    m_reading( ReadWhole( a_bytes, a_options ) )
+    m_reading( ReadWhole( a_bytes, a_options ) ),
+    m_text( TextOf( a_bytes, m_reading ) ),
+    m_lines( PhysicalLinesOf( m_text ) )
 {
 }
 

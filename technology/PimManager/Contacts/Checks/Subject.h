@@ -26,10 +26,10 @@ struct Subject
     PimContactOptions m_options;
     /// Chooses what is left to chance.
     unsigned m_seed;
-    /// The bytes, of UTF-16 in UTF-8: what offsets refer to.
+    Reading m_reading;
+    /// The bytes, of UTF-16 in UTF-8: what offsets refer to. Of jCards the text that the reader made of them.
     QByteArray m_text;
     std::vector<PhysicalLine> m_lines;
-    Reading m_reading;
 };
 
 /// \return true if the file was refused because of its first bytes.
@@ -63,7 +63,7 @@ Broken FirstBrokenOf( const Container& a_container, const Check& a_check )
 {
     for ( const auto& element : a_container )
     {
-        if ( const Broken broken = a_check( element ); !broken.isEmpty() )
+        if ( Broken broken = a_check( element ); !broken.isEmpty() )
             return broken;
     }
     return Broken();

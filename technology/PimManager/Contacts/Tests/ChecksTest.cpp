@@ -1,6 +1,7 @@
 // The checks can fail: each row changes something that the reader returned, or what the check compares it with.
 
 #include "Checks/CardChecks.h"
+#include "Checks/ContactChecks.h"
 #include "Checks/ConversionChecks.h"
 #include "Checks/ConvertedText.h"
 #include "Checks/DiagnosticChecks.h"
@@ -34,7 +35,7 @@ const QByteArray s_kText = "outside\r\n"
                            "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Ada\r\nNOTE:one\r\n two\r\nAGENT:\r\n"
                            "BEGIN:VCARD\r\nFN:Agent\r\nEND:VCARD\r\nEND:VCARD\r\n"
                            "BEGIN:VCARD\r\nVERSION:4.0\r\nN:M\xFCller\r\n***\r\nPHOTO;ENCODING=b:AAAA\r\nEND:VCARD\r\n"
-                           "BEGIN:VCARD\r\nFN:Cleo\n\r\nEND:VCARD\r\n";
+                           "BEGIN:VCARD\r\nFN:Cleo\n\r\nTITLE;QUOTED-PRINTABLE:J=F6rg\r\nEND:VCARD\r\n";
 
 Reading OtherReading()
 {
@@ -134,6 +135,9 @@ const Row s_kRows[] = {
       "differs when read by" },
     { "OtherCharsetWhenRereading", BrokenReread,
       []( Subject& a_subject ) { a_subject.m_options.SetDefaultCharset( "KOI8-R" ); }, "read alone" },
+    { "OtherCharsetForContacts", BrokenContacts,
+      []( Subject& a_subject ) { a_subject.m_options.SetDefaultCharset( "KOI8-R" ); },
+      "the bytes of an edited card say something else" },
     { "NullCardForObjects", BrokenObjects,
       []( Subject& a_subject ) { a_subject.m_reading.m_cards[1] = PimContactCard(); }, "has no objects" },
 };

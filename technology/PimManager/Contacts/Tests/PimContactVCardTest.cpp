@@ -77,7 +77,7 @@ PimContactCard FirstCard( const QByteArray& a_bytes, const PimContactOptions& a_
 {
     const PimContactBook book = PimContactBook::FromBytes( a_bytes, a_options );
     EXPECT_EQ( book.Size(), 1 );
-    return book.IsEmpty() ? PimContactCard() : book.At( 0 );
+    return book.IsEmpty() ? PimContactCard() : book.CardAt( 0 );
 }
 
 QByteArray Card30( const QByteArray& a_lines )
@@ -358,14 +358,14 @@ INSTANTIATE_TEST_SUITE_P( Samples, PimContactVCardSamplesTest, ::testing::Values
 TEST_P( PimContactVCardSamplesTest, EachPropertyIsInTheObjects )
 {
     const PimContactBook book = PimContactBook::FromBytes( SampleFile( GetParam() + ".vcf" ) );
-    for ( const PimContactCard& card : book )
+    for ( const PimContactCard& card : book.Cards() )
         ExpectComplete( card );
 }
 
 TEST_P( PimContactVCardSamplesTest, NestedCardCanBeReadFromItsText )
 {
     const PimContactBook book = PimContactBook::FromBytes( SampleFile( GetParam() + ".vcf" ) );
-    for ( const PimContactCard& card : book )
+    for ( const PimContactCard& card : book.Cards() )
     {
         const PimContactVCard objects = PimContactVCard::FromCard( card );
         const QList<PimVCardProperty*> properties = objects->GetProperties();
@@ -395,7 +395,7 @@ TEST_P( PimContactVCardSamplesTest, DamagedCardIsSilentAndCompleteToo )
         damaged[place] = s_kBytes[random() % ( sizeof s_kBytes - 1 )];
         SCOPED_TRACE( damaged.toStdString() );
         const PimContactBook book = PimContactBook::FromBytes( damaged );
-        for ( const PimContactCard& card : book )
+        for ( const PimContactCard& card : book.Cards() )
             ExpectComplete( card );
     }
 }

@@ -112,7 +112,7 @@ TEST_P( WriterFoldsTest, ValueIsTheTextOrTheDocumentedReading )
     const Row& row = GetParam();
     const PimContactBook book = PimContactBook::FromBytes( CardOf( row ) );
     ASSERT_EQ( book.Size(), 1 );
-    const PimContactCard& card = book.At( 0 );
+    const PimContactCard& card = book.CardAt( 0 );
     ASSERT_EQ( card.LineCount(), 4 );
     const PimContactLine line = *std::next( card.begin(), 2 );
     EXPECT_EQ( line.Value().toStdString(), ExpectedValueOf( row ).toStdString() );
@@ -253,9 +253,9 @@ TEST_P( WriterSingleFoldTest, OnlyTheUsualLengthsCount )
         PimContactBook::FromBytes( "BEGIN:VCARD\r\nVERSION:2.1\r\n" + line + "\r\nEND:VCARD\r\n" );
     ASSERT_EQ( book.Size(), 1 );
     const bool isRemoved = GetParam().m_style == s_kRemoved;
-    EXPECT_EQ( book.At( 0 ).FoldStyle(), GetParam().m_style );
+    EXPECT_EQ( book.CardAt( 0 ).FoldStyle(), GetParam().m_style );
     EXPECT_EQ( book.Report().Findings( PimContactDiagnosticCode::FoldsByLength ), isRemoved ? 1 : 0 );
-    const PimContactLine note = *std::next( book.At( 0 ).begin() );
+    const PimContactLine note = *std::next( book.CardAt( 0 ).begin() );
     EXPECT_EQ( note.Value().contains( ' ' ), !isRemoved );
 }
 

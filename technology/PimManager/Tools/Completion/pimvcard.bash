@@ -11,11 +11,11 @@ _pimvcard_options()
       --max-book-bytes -q --quiet -h --help -v --version' ;;
     show) echo '-F --full -c --charset --max-card-bytes --max-line-bytes --max-card-lines --max-nesting --max-cards
       --max-book-bytes -q --quiet -h --help -v --version' ;;
-    check) echo '-e --extents -s --strict -c --charset --max-card-bytes --max-line-bytes --max-card-lines
-      --max-nesting --max-cards --max-book-bytes -q --quiet -h --help -v --version' ;;
-    convert) echo '-t --to -o --output -p --photos -r --rejects -f --force -c --charset --max-card-bytes
-      --max-line-bytes --max-card-lines --max-nesting --max-cards --max-book-bytes -q --quiet -h --help -v
-      --version' ;;
+    check) echo '-e --extents -S --standard -s --strict -c --charset --max-card-bytes --max-line-bytes
+      --max-card-lines --max-nesting --max-cards --max-book-bytes -q --quiet -h --help -v --version' ;;
+    convert) echo '-t --to -o --output -d --split -n --filter -s --sort -C --columns -m --mark -p --photos -r --rejects
+      -f --force -c --charset --max-card-bytes --max-line-bytes --max-card-lines --max-nesting --max-cards
+      --max-book-bytes -q --quiet -h --help -v --version' ;;
     help) echo '-q --quiet -h --help -v --version' ;;
   esac
 }
@@ -35,8 +35,11 @@ _pimvcard_value()
     --max-nesting) echo other ;;
     --max-cards) echo other ;;
     --max-book-bytes) echo other ;;
-    -t | --to) echo 'words json json-lines html' ;;
+    -t | --to) echo 'words 2.1 3.0 4.0 jcard csv json json-lines html' ;;
     -o | --output) echo file ;;
+    -d | --split) echo folder ;;
+    -n | --filter) echo other ;;
+    -C | --columns) echo other ;;
     -p | --photos) echo folder ;;
     -r | --rejects) echo file ;;
   esac

@@ -13,7 +13,7 @@ enum class ExitStatus
 {
     /// Every card of every file was given.
     AllGiven = 0,
-    /// A card was refused, something of one was dropped, or a file holds no vCard.
+    /// A card was refused, something of one was dropped, a file holds no vCard, or `check --standard` found something.
     SomeRefused = 1,
     /// Wrong usage, or something that cannot be read or written.
     Trouble = 2,

@@ -23,7 +23,7 @@ QByteArray Html( const QByteArray& a_lines )
     EXPECT_EQ( book.Size(), 1 ) << a_lines.left( 1000 ).constData();
     QBuffer buffer;
     buffer.open( QIODevice::WriteOnly );
-    CardHtml( buffer, PimContact( book.At( 0 ) ), PimContactLine() ).Write( "h3" );
+    CardHtml( buffer, PimContact( book.CardAt( 0 ) ), PimContactLine() ).Write( "h3" );
     return buffer.data();
 }
 

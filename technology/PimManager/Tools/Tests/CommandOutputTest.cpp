@@ -44,6 +44,21 @@ TEST( CommandOutputTest, HostileFileReachesTheTerminalHarmlessly )
     }
 }
 
+// The cards themselves go into files, and keep their characters.
+TEST( CommandOutputTest, RemarksOnHostileCardsAreHarmless )
+{
+    const Folder folder;
+    const QByteArray book = folder.Write( "evil\x1B[2J\x07\xC2\x9B\xE2\x80\xAE\n.vcf", HostileBook() );
+    for ( const char* const format : { "2.1", "3.0", "4.0", "jcard", "csv" } )
+    {
+        const ProgramRun run = RunPimvcard( { "convert", "--to", format, book } );
+        EXPECT_LE( run.m_status, 1 ) << format;
+        EXPECT_GT( run.m_err.size(), 60U ) << format;
+        EXPECT_TRUE( IsHarmless( run.m_err ) )
+            << QByteArray::fromStdString( run.m_err ).toPercentEncoding( " \n" ).constData();
+    }
+}
+
 TEST( CommandOutputTest, BrokenPipeEndsTheProgramQuietly )
 {
     const Folder folder;

@@ -19,7 +19,7 @@ PimContactCard CardOf( const QByteArray& a_lines )
 {
     const PimContactBook book = PimContactBook::FromBytes( CardText( a_lines ) );
     EXPECT_EQ( book.Size(), 1 ) << a_lines.constData();
-    return book.IsEmpty() ? PimContactCard() : book.At( 0 );
+    return book.IsEmpty() ? PimContactCard() : book.CardAt( 0 );
 }
 
 QString Table( const QList<QByteArray>& a_cards, int a_columns )

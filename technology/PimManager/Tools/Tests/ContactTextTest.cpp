@@ -24,7 +24,8 @@ std::string Shown( const QByteArray& a_book, ContactText::Length a_length = s_kS
     ContactText output( buffer, a_length, a_columns );
     BookInRun run;
     run.m_source = QStringLiteral( "book.vcf" );
-    for ( const PimContactCard& card : PimContactBook::FromBytes( a_book ) )
+    const PimContactBook book = PimContactBook::FromBytes( a_book );
+    for ( const PimContactCard& card : book.Cards() )
         output.TakeCard( run, card );
     return buffer.data().toStdString();
 }

@@ -15,13 +15,23 @@ TEST( ConvertCommandTest, WrongUsageIsReportedWithStatusTwo )
     };
     const std::vector<Row> rows = {
         { {}, "no file to convert" },
-        { { "x.vcf" }, "no format; --to takes json, json-lines, html" },
-        { { "-o", "x", "x.vcf" }, "no format; --to takes json, json-lines, html" },
-        { { "-o", "x", "--photos", "p", "x.vcf" }, "no format; --to takes json, json-lines, html" },
+        { { "x.vcf" }, "no format; --to takes 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html" },
+        { { "-o", "x", "x.vcf" }, "no format; --to takes 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html" },
+        { { "-o", "x", "--photos", "p", "x.vcf" },
+          "no format; --to takes 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html" },
         { { "-t", "htm", "x.vcf" },
-          "unknown format: htm; the formats are json, json-lines, html. Did you mean \"html\"?" },
-        { { "-t", "\x1B", "x.vcf" }, "unknown format: \\x1b; the formats are json, json-lines, html." },
+          "unknown format: htm; the formats are 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html. Did you mean "
+          "\"html\"?" },
+        { { "-t", "\x1B", "x.vcf" },
+          "unknown format: \\x1b; the formats are 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html." },
         { { "x.vcf", "--photos" }, "Missing value after '--photos'." },
+        { { "--split", "d", "-o", "x.vcf", "x.vcf" }, "--split and --output exclude each other" },
+        { { "--split", "d", "-t", "csv", "x.vcf" }, "--split needs the format 2.1, 3.0, 4.0 or jcard" },
+        { { "--sort", "-t", "html", "x.vcf" }, "--sort does not apply to a page or to pictures" },
+        { { "--mark", "-t", "3.0", "x.vcf" }, "--columns and --mark need the format csv" },
+        { { "--columns", "name", "-t", "json", "x.vcf" }, "--columns and --mark need the format csv" },
+        { { "--filter", "FN,,TEL", "-t", "3.0", "x.vcf" }, "no name of a property: \"\"" },
+        { { "--filter", "FN:TEL", "-t", "3.0", "x.vcf" }, "no name of a property: FN:TEL" },
     };
     for ( const Row& row : rows )
     {
@@ -43,7 +53,9 @@ TEST( ConvertCommandTest, EndingOfTheOutputIsTheFormat )
         const char* m_start;
     };
     for ( const Row& row :
-          { Row{ "a.json", "[\n{\"file\":" }, Row{ "a.jsonl", "{\"file\":" }, Row{ "a.html", "<!DOCTYPE html>" } } )
+          { Row{ "a.vcf", "BEGIN:VCARD\r\nVERSION:3.0\r\n" }, Row{ "a.jcard", "[\"vcard\",[[\"version\"" },
+            Row{ "a.csv", "name,prefix," }, Row{ "a.json", "[\n{\"file\":" }, Row{ "a.jsonl", "{\"file\":" },
+            Row{ "a.html", "<!DOCTYPE html>" } } )
     {
         const QByteArray output = folder.Path( row.m_name );
         EXPECT_EQ( RunPimvcard( { "convert", book, "-o", output } ).m_status, 0 ) << row.m_name;

@@ -48,10 +48,10 @@ TEST( ConvertJsonTest, ContactHoldsWhereItStoodAndWhatAListShows )
             .Run();
     EXPECT_EQ( run.m_status, 0 );
     EXPECT_NE(
-        run.m_out.find(
-            R"({"file":"standard input","card":2,"line":6,"whole":true,"version":"2.1","name":"Nell",)"
-            R"("numbers":[{"number":"555","types":["CELL"],"preference":1}],)"
-            R"("mails":[{"mail":"n@example.com","types":[]}],"organisation":"Tide Office, Charts","properties":[)" ),
+        run.m_out.find( R"({"file":"standard input","card":2,"line":6,"whole":true,"version":"2.1","name":"Nell",)"
+                        R"("numbers":[{"number":"555","types":["CELL"],"kinds":["mobile"],"preference":1}],)"
+                        R"("mails":[{"mail":"n@example.com","types":[]}],"organisation":"Tide Office, Charts",)"
+                        R"("organisations":[{"name":"Tide Office","units":["Charts"]}],"properties":[)" ),
         std::string::npos )
         << run.m_out;
 }

@@ -5,6 +5,8 @@
 #include "ProgramRun.h"
 #include "TestBooks.h"
 
+#include <QFile>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <thread>
@@ -311,6 +313,40 @@ TEST( OutputFilesTest, FullDeviceIsReportedAndTheOtherOutputsAreComplete )
         EXPECT_EQ( run.m_err, failure ) << format;
         EXPECT_EQ( FileContent( rejects ), s_kRejects ) << format;
     }
+}
+
+TEST( OutputFilesTest, TotalsDoNotCountWhatCannotBeWritten )
+{
+    for ( const char* format : { "3.0", "jcard", "csv" } )
+    {
+        const ProgramRun run = ProgramCall( { "convert", "-t", format, "-o", "/dev/full", "-" } )
+                                   .WithInput( CleanCard().repeated( 5 ) )
+                                   .Run();
+        EXPECT_EQ( run.m_status, 2 ) << format;
+        EXPECT_EQ( run.LastMessage().find( "written" ), std::string::npos ) << run.m_err;
+    }
+}
+
+TEST( OutputFilesTest, FileStaysAsItIsIfNothingCanBeRead )
+{
+    const Folder folder;
+    const QByteArray missing = folder.Path( "missing" );
+    for ( const char* const name : { "a.vcf", "a.jcard", "a.csv", "a.json", "a.jsonl", "a.html" } )
+    {
+        const QByteArray path = folder.Write( name, "old" );
+        const ProgramRun run = RunPimvcard( { "convert", "-q", "--force", "-o", path, missing } );
+        EXPECT_EQ( run.m_status, 2 ) << name;
+        EXPECT_EQ( run.m_err, "pimvcard: " + missing.toStdString() + ": No such file or directory\n" +
+                                  CannotBeWritten( path, "no file could be read" ) );
+        EXPECT_EQ( FileContent( path ), "old" ) << name;
+    }
+    const QByteArray sorted = folder.Path( "sorted.vcf" );
+    EXPECT_EQ( RunPimvcard( { "convert", "-q", "--sort", "-o", sorted, missing } ).m_status, 2 );
+    EXPECT_FALSE( QFile::exists( QFile::decodeName( sorted ) ) );
+    EXPECT_EQ( RunPimvcard( { "convert", "-q", "-t", "csv", "-C", "name", missing } ).m_out, "name\r\n" );
+    const QByteArray book = folder.Write( "book", CleanCard() );
+    EXPECT_EQ( RunPimvcard( { "convert", "-q", "-o", sorted, missing, book } ).m_status, 2 );
+    EXPECT_TRUE( FileContent( sorted ).contains( "FN:Nell\r\n" ) );
 }
 
 TEST( OutputFilesTest, PathThatCannotBeWrittenEndsTheRun )

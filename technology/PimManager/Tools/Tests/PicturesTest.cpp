@@ -14,7 +14,7 @@ namespace
 
 PimContactLine Line( const QByteArray& a_line )
 {
-    return *PimContactBook::FromBytes( CardText( a_line + "\r\n" ) ).At( 0 ).begin();
+    return *PimContactBook::FromBytes( CardText( a_line + "\r\n" ) ).CardAt( 0 ).begin();
 }
 
 } // namespace

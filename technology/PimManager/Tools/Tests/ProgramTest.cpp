@@ -75,6 +75,8 @@ TEST( ProgramTest, WrongUsageIsReportedWithStatusTwo )
         { { "check", "--frob", "x" }, "pimvcard: Unknown option 'frob'.\n", checkHint },
         { { "check", "--extents=yes", "x" }, "pimvcard: Unexpected value after '--extents'.\n", checkHint },
         { { "check", "-es", "x" }, "pimvcard: --extents and --strict contradict each other\n", checkHint },
+        { { "check", "-eS", "x" }, "pimvcard: --extents and --standard contradict each other\n", checkHint },
+        { { "check", "-sS", "x" }, "pimvcard: --standard and --strict contradict each other\n", checkHint },
     };
     for ( const Row& row : rows )
     {

@@ -17,7 +17,7 @@ std::string LastProperty( const QByteArray& a_lines, TextLength a_length = TextL
 {
     const PimContactBook book = PimContactBook::FromBytes( CardText( a_lines + "\r\n" ) );
     EXPECT_EQ( book.Size(), 1 ) << a_lines.constData();
-    const PimContact contact( book.At( 0 ) );
+    const PimContact contact( book.CardAt( 0 ) );
     QStringList texts;
     for ( const PimContactLine& line : contact.Card() )
     {
@@ -29,7 +29,8 @@ std::string LastProperty( const QByteArray& a_lines, TextLength a_length = TextL
 
 QString HeadingOf( const QByteArray& a_book, const char* a_source = "" )
 {
-    return ContactHeading( PimContact( PimContactBook::FromBytes( a_book ).At( 0 ) ), QString::fromUtf8( a_source ) );
+    return ContactHeading( PimContact( PimContactBook::FromBytes( a_book ).CardAt( 0 ) ),
+                           QString::fromUtf8( a_source ) );
 }
 
 struct Row

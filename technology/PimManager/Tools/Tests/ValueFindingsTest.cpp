@@ -17,7 +17,8 @@ std::string Findings( const QByteArray& a_book )
 {
     ValueFindings findings;
     QStringList lines;
-    for ( const PimContactCard& card : PimContactBook::FromBytes( a_book ) )
+    const PimContactBook book = PimContactBook::FromBytes( a_book );
+    for ( const PimContactCard& card : book.Cards() )
         lines << findings.Of( QStringLiteral( "x" ), card );
     EXPECT_EQ( lines.isEmpty(), findings.Counts().isEmpty() );
     return Utf8( lines.join( QLatin1Char( '\n' ) ) );
@@ -80,8 +81,8 @@ TEST( ValueFindingsTest, CountsAreOfAllCardsUntilCleared )
 {
     ValueFindings findings;
     const PimContactBook book = PimContactBook::FromBytes( CardText( "FN:\\'x\r\nN:\\'y\r\n" ) );
-    findings.Of( QString(), book.At( 0 ) );
-    findings.Of( QString(), book.At( 0 ) );
+    findings.Of( QString(), book.CardAt( 0 ) );
+    findings.Of( QString(), book.CardAt( 0 ) );
     ASSERT_EQ( findings.Counts().size(), 1 );
     EXPECT_EQ( findings.Counts().first().m_findings.m_count, 4 );
     EXPECT_EQ( Utf8( findings.Counts().first().m_findings.m_name ), "escaped-quote" );

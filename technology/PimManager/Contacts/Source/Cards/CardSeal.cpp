@@ -1,5 +1,6 @@
 #include "Cards/CardSeal.h"
 
+#include "Cards/CardCopy.h"
 #include "Lines/LinePieces.h"
 #include "Lines/NamedCharset.h"
 #include "Text/Bytes.h"
@@ -110,59 +111,6 @@ private:
     const CardRecord& m_record;
 };
 
-/// Copies a card and its nested cards, but for the filtered lines.
-class FilteredCopy
-{
-public:
-    FilteredCopy( const uchar* a_index, std::string_view a_bytes ) :
-        m_index( a_index ),
-        m_bytes( a_bytes )
-    {
-    }
-
-    // Calls itself for nested cards, so at most as deeply as the limit of nesting allows.
-    CardIndex Copy( quint32 a_record )
-    {
-        CardRecord record = CardRecord::At( m_index + a_record );
-        const auto begin = static_cast<quint32>( m_kept.size() );
-        IndexWriter writer;
-        IndexEntry entry;
-        for ( IndexReader reader = EntriesOf( m_index, a_record ); !reader.AtEnd(); )
-        {
-            const quint32 from = reader.Place();
-            reader.Next( entry, true );
-            if ( entry.m_kind == EntryKind::Filtered )
-            {
-                m_place += entry.m_length;
-                continue;
-            }
-            if ( entry.m_kind == EntryKind::Nested )
-            {
-                const auto nestedBegin = static_cast<quint32>( m_kept.size() );
-                const CardIndex nested = Copy( entry.m_indexBegin );
-                writer.AddNested( static_cast<quint32>( m_kept.size() ) - nestedBegin, nested.Bytes() );
-                continue;
-            }
-            writer.AddRaw( { m_index + from, reader.Place() - from } );
-            m_kept.append( m_bytes.data() + m_place, static_cast<int>( entry.m_length ) );
-            m_place += entry.m_length;
-        }
-        record.m_begin = begin;
-        record.m_length = static_cast<quint32>( m_kept.size() ) - begin;
-        CardIndex index;
-        index.Set( record, writer.Bytes(), CharsetOf( m_index, a_record ) );
-        return index;
-    }
-
-    const QByteArray& Bytes() const { return m_kept; }
-
-private:
-    const uchar* m_index;
-    std::string_view m_bytes;
-    quint32 m_place = 0;
-    QByteArray m_kept;
-};
-
 } // namespace
 
 void SealCard( const CardFacts& a_facts, IndexBytes a_entries, CardRecord a_record, std::string_view a_bytes,
@@ -187,7 +135,7 @@ void SealCard( const CardFacts& a_facts, IndexBytes a_entries, CardRecord a_reco
 
 FilteredCard WithoutFilteredLines( const CardIndex& a_index, std::string_view a_bytes )
 {
-    FilteredCopy copy( a_index.Base(), a_bytes );
+    CardCopy copy( a_index.Base(), a_bytes, 0 );
     FilteredCard card;
     card.m_index = copy.Copy( 0 );
     card.m_bytes = copy.Bytes();

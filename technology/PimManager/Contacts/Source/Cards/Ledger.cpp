@@ -25,19 +25,13 @@ void Ledger::Report( PimContactDiagnosticCode a_code, qint64 a_card, const TextP
     Keep( a_code, a_card, a_place, a_count );
 }
 
-void Ledger::Announce( PimContactDiagnosticCode a_code, const TextPlace& a_place )
-{
-    m_announced.push_back( { a_code, a_place } );
-}
-
-// At most one for each kind of line ending is waiting.
 void Ledger::Flush( qint64 a_offset )
 {
-    while ( !m_announced.empty() && m_announced.front().m_place.m_offset <= a_offset )
+    while ( !m_announced.empty() && m_announced.front().m_offset <= a_offset )
     {
         const Announced first = m_announced.front();
-        m_announced.erase( m_announced.begin() );
-        Keep( first.m_code, 0, first.m_place, 1 );
+        m_announced.pop_front();
+        Keep( first.m_code, first.m_card, first.m_place, first.m_count );
     }
 }
 

@@ -11,8 +11,8 @@
 #include <QSharedData>
 
 #include <array>
+#include <deque>
 #include <string_view>
-#include <vector>
 
 namespace PimManager::Contacts
 {
@@ -97,7 +97,17 @@ public:
     /// Reports a finding. Findings are reported in the order of the text, but for those that were announced.
     void Report( PimContactDiagnosticCode a_code, qint64 a_card, const TextPlace& a_place, qint64 a_count = 1 );
     /// Reports a finding as soon as no earlier one can come.
-    void Announce( PimContactDiagnosticCode a_code, const TextPlace& a_place );
+    void Announce( PimContactDiagnosticCode a_code, const TextPlace& a_place )
+    {
+        m_announced.push_back( { a_code, 0, a_place, 1, a_place.m_offset } );
+    }
+    /// The same for a finding whose place is not in this text.
+    /// \param a_offset where it belongs in this text.
+    void Announce( PimContactDiagnosticCode a_code, qint64 a_card, const TextPlace& a_place, qint64 a_count,
+                   qint64 a_offset )
+    {
+        m_announced.push_back( { a_code, a_card, a_place, a_count, a_offset } );
+    }
     /// No finding before this place follows.
     void FlushUpTo( qint64 a_offset )
     {
@@ -113,7 +123,10 @@ private:
     struct Announced
     {
         PimContactDiagnosticCode m_code;
+        qint64 m_card;
         TextPlace m_place;
+        qint64 m_count;
+        qint64 m_offset;
     };
 
     void Flush( qint64 a_offset );
@@ -123,7 +136,7 @@ private:
     ReportData m_data;
     qint64 m_offset = 0;
     qint64 m_mostDiagnostics = 0;
-    std::vector<Announced> m_announced;
+    std::deque<Announced> m_announced;
     PimContactReader::ExtentHandler m_extentHandler;
     PimContactReader::DiagnosticHandler m_diagnosticHandler;
 };

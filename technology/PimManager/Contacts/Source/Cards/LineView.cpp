@@ -8,7 +8,7 @@ namespace PimManager::Contacts
 // A join of the head has a line ending, and most heads have none.
 std::string_view IndexedLine::Unfolded( std::string_view a_part, ByteRange a_range, QByteArray& a_buffer ) const
 {
-    if ( std::none_of( a_part.begin(), a_part.end(), IsLineEndByte ) )
+    if ( a_part.find( '\n' ) == std::string_view::npos && a_part.find( '\r' ) == std::string_view::npos )
         return a_part;
     a_buffer = PimManager::Contacts::Unfolded( m_text, m_entry, m_card.m_record.FoldStyle(), a_range );
     return ViewOf( a_buffer );
@@ -46,18 +46,28 @@ CardView PimContactCardPrivate::LineView::CardOf( const PimContactCard& a_card )
     return a_card.d ? ViewOf( a_card.d.data(), a_card.m_record ) : CardView();
 }
 
+PimContactCard PimContactCardPrivate::LineView::CardAt( const PimContactCard& a_outermost, const CardView& a_card )
+{
+    return a_outermost.d ? PimContactCardPrivate::CardAt( a_outermost.d.data(), a_card.m_place ) : PimContactCard();
+}
+
 IndexedLine PimContactCardPrivate::LineView::LineOf( const PimContactLine& a_line )
 {
     IndexedLine line;
     if ( a_line.IsNull() )
         return line;
     line.m_card = ViewOf( a_line.d.data(), a_line.m_record );
-    IndexReader reader = EntriesOf( line.m_card.m_index, a_line.m_record );
-    reader.StepTo( a_line.m_entry );
-    reader.Next( line.m_entry );
-    line.m_bytes = line.m_card.m_bytes.substr( a_line.m_begin, line.m_entry.m_length );
-    line.m_text = WithoutLineEnd( line.m_bytes );
+    Read( PlaceOf( a_line ), line );
     return line;
+}
+
+void PimContactCardPrivate::LineView::Read( LinePlace a_place, IndexedLine& a_line )
+{
+    // A line is read to its end, wherever the index ends.
+    IndexReader reader( a_line.m_card.m_index, a_place.m_entry, a_place.m_entry );
+    reader.ReadLine( a_line.m_entry );
+    a_line.m_bytes = std::string_view( a_line.m_card.m_bytes.data() + a_place.m_begin, a_line.m_entry.m_length );
+    a_line.m_text = WithoutLineEnd( a_line.m_bytes );
 }
 
 bool PimContactCardPrivate::LineView::FindPlainValue( const PimContactLine& a_line, std::string_view& a_value )

@@ -30,6 +30,13 @@ struct CardView
     std::string_view Charset() const { return CharsetOf( m_index, m_place ); }
 };
 
+/// Where a line is in its card: its entry in the index, and its first byte.
+struct LinePlace
+{
+    quint32 m_entry = 0;
+    quint32 m_begin = 0;
+};
+
 /// A line, its entry in the index, and its card.
 struct IndexedLine
 {
@@ -47,6 +54,12 @@ struct IndexedLine
         const auto length = static_cast<quint32>( m_text.size() );
         const quint32 begin = std::min( m_entry.m_valueBegin, length );
         return { begin, length - begin };
+    }
+
+    /// \return true if the value has nothing but blanks and line endings.
+    bool IsBlankValue() const
+    {
+        return m_text.find_first_not_of( " \t\r\n", ValueRange().m_begin ) == std::string_view::npos;
     }
 
     LinePieces Pieces( ByteRange a_range ) const
@@ -75,8 +88,37 @@ class PimContactCardPrivate::LineView
 {
 public:
     static CardView CardOf( const PimContactCard& a_card );
+    /// \param a_card the view of a card that is nested in this one, or of this one.
+    static PimContactCard CardAt( const PimContactCard& a_outermost, const CardView& a_card );
     /// \param a_line may be null; then nothing is in the line.
     static IndexedLine LineOf( const PimContactLine& a_line );
+    /// Reads the entry of a line of a card.
+    /// \param a_line its m_card is set.
+    static void Read( LinePlace a_place, IndexedLine& a_line );
+    /// \return where a line is in its card.
+    static LinePlace PlaceOf( const PimContactLine& a_line ) { return { a_line.m_entry, a_line.m_begin }; }
+    static PimContactLine LineAt( const PimContactCard& a_card, LinePlace a_place )
+    {
+        PimContactLine line;
+        SetLine( a_card, a_place, line );
+        return line;
+    }
+    /// Sets a line to that of a card.
+    static void SetLine( const PimContactCard& a_card, LinePlace a_place, PimContactLine& a_line )
+    {
+        a_line.d = a_card.d;
+        a_line.m_record = a_card.m_record;
+        a_line.m_entry = a_place.m_entry;
+        a_line.m_begin = a_place.m_begin;
+        a_line.m_nameLength = 0;
+    }
+    /// \return true for a line of this card.
+    static bool IsOf( const PimContactLine& a_line, const CardView& a_card )
+    {
+        return a_line.d->Index() == a_card.m_index && a_line.m_record == a_card.m_place;
+    }
+    /// \param a_card is not null.
+    static const Origin& OriginOf( const PimContactCard& a_card ) { return a_card.d->m_origin; }
     /// Finds a value that is text in UTF-8 as it is written, but for its escapes.
     /// \param a_line is not null.
     /// \return false for any other value.
@@ -101,6 +143,12 @@ public:
     /// Steps to the next part of any kind. Line() is then that part.
     /// \return false behind the last part.
     bool NextPart();
+    /// Moves to the place before a part of the card: NextPart() then steps to that part.
+    void StepTo( LinePlace a_place )
+    {
+        m_reader.StepTo( a_place.m_entry );
+        m_begin = a_place.m_begin;
+    }
 
     /// \return true if the line holds a card, as AGENT does.
     bool FindNested( CardView& a_nested ) const

@@ -2,6 +2,7 @@
 
 #include "Cards/CardCutter.h"
 #include "Cards/Ledger.h"
+#include "JCard/JCardText.h"
 #include "Lines/LineScanner.h"
 #include "Text/Bytes.h"
 #include "Text/TextDecoder.h"
@@ -26,6 +27,8 @@ constexpr qint64 s_kLeastPiece = qint64( 4 ) * 1024;
 constexpr qint64 s_kMostPiece = qint64( 256 ) * 1024;
 constexpr qint64 s_kPieceOfLimit = 8;
 constexpr qint64 s_kRefusedPiece = qint64( 64 ) * 1024;
+// Of a card, if the options do not limit it.
+constexpr qint64 s_kMostBytes = qint64( 1024 ) * 1024 * 1024;
 
 qint64 PieceFor( qint64 a_mostCardBytes )
 {
@@ -69,6 +72,7 @@ public:
     explicit PimContactReaderPrivate( const PimContactOptions& a_options ) :
         m_options( a_options ),
         m_piece( PieceFor( a_options.CardBytes() ) ),
+        m_jcards( a_options.CardBytes() > 0 ? std::min( a_options.CardBytes(), s_kMostBytes ) : s_kMostBytes ),
         m_cutter( m_scanner, m_ledger, m_options, [this]( PimContactCard a_card ) { TakeCard( std::move( a_card ) ); } )
     {
         Reset();
@@ -88,6 +92,7 @@ public:
     LineScanner m_scanner;
     Ledger m_ledger;
     TextDecoder m_decoder;
+    JCardText m_jcards;
     PimContactReader::CardHandler m_cardHandler;
     bool m_isInCall = false;
     bool m_isBroken = false;
@@ -116,11 +121,15 @@ private:
     };
 
     void Begin();
+    void TakeDecoded( std::string_view a_text );
+    void TakeConverted( std::string_view a_text );
     void TakeText( std::string_view a_text );
     void TakeLines();
     void CountLineEnd( const PhysicalLine& a_line );
     void TakeRefused( bool a_isAll );
     void TakeCard( PimContactCard a_card );
+    // The bytes of the file are the text.
+    bool IsUnchanged() const { return m_isBegun && m_decoder.IsUnchanged() && m_jcards.IsUnchanged(); }
     bool IsRefused() const { return m_decoder.RefusedKind() != PimContactFileKind::Unknown; }
     void LeaveDevice();
     void PassPulled();
@@ -148,6 +157,7 @@ void PimContactReaderPrivate::Reset()
     m_scanner.Reset();
     m_ledger.Reset( m_options.Diagnostics() );
     m_decoder.Reset();
+    m_jcards.Reset();
     m_cutter.Reset( false );
     m_isBroken = false;
     m_isFinished = false;
@@ -172,25 +182,48 @@ void PimContactReaderPrivate::Begin()
 {
     m_isBegun = true;
     ReportData& data = m_ledger.Data();
-    data.m_isConverted = m_decoder.IsUtf16();
+    data.m_isConverted = m_decoder.IsUtf16() || m_jcards.IsJCard();
     data.m_evidence = m_decoder.Evidence();
     if ( !m_decoder.Charset().isEmpty() )
         data.m_charset = m_decoder.Charset();
-    m_cutter.Reset( data.m_isConverted );
-    if ( data.m_isConverted )
+    m_cutter.Reset( m_decoder.IsUtf16() );
+    if ( m_decoder.IsUtf16() )
         m_ledger.Report( Code::Encoding, 0, TextPlace() );
+    if ( m_jcards.IsJCard() )
+        m_ledger.Report( Code::JCard, 0, TextPlace() );
     if ( !IsRefused() )
         return;
     data.m_fileKind = m_decoder.RefusedKind();
     m_ledger.Report( CodeOf( data.m_fileKind ), 0, TextPlace() );
 }
 
+// jCards become vCards.
+void PimContactReaderPrivate::TakeDecoded( std::string_view a_text )
+{
+    if ( m_jcards.IsUnchanged() )
+        TakeText( a_text );
+    else
+        TakeConverted( m_jcards.Convert( a_text ) );
+}
+
+void PimContactReaderPrivate::TakeConverted( std::string_view a_text )
+{
+    if ( m_jcards.IsJCard() && !m_isBegun )
+        Begin();
+    for ( const JsonFinding& finding : m_jcards.Findings() )
+    {
+        const TextPlace place = { finding.m_place.m_offset, finding.m_place.m_line, finding.m_place.m_lineOffset };
+        m_ledger.Announce( finding.m_code, finding.m_card, place, finding.m_count, finding.m_offset );
+    }
+    TakeText( a_text );
+}
+
 void PimContactReaderPrivate::TakeText( std::string_view a_text )
 {
     if ( a_text.empty() )
         return;
-    const bool isFirst = !m_isBegun;
-    if ( isFirst )
+    const bool isFirst = m_scanner.NextOffset() == 0 && m_scanner.OpenLength() == 0;
+    if ( !m_isBegun )
         Begin();
     m_scanner.Append( a_text );
     if ( IsRefused() )
@@ -269,11 +302,11 @@ bool PimContactReaderPrivate::Feed( const char* a_bytes, qint64 a_size )
     {
         const qint64 length = std::min( a_size - place, m_piece );
         const std::string_view piece( a_bytes + place, static_cast<size_t>( length ) );
-        TakeText( m_decoder.IsUnchanged() ? piece : m_decoder.Decode( piece ) );
+        TakeDecoded( m_decoder.IsUnchanged() ? piece : m_decoder.Decode( piece ) );
     }
     call.Succeed();
     const bool isMoreWanted = !m_ledger.Data().m_isStopped && !IsRefused();
-    m_mayTakeBytes = isMoreWanted && m_isBegun && m_decoder.IsUnchanged();
+    m_mayTakeBytes = isMoreWanted && IsUnchanged();
     return isMoreWanted;
 }
 
@@ -291,7 +324,8 @@ void PimContactReaderPrivate::PassPulled()
 void PimContactReaderPrivate::EndText()
 {
     m_isTextEnded = true;
-    TakeText( m_decoder.Finish() );
+    TakeDecoded( m_decoder.Finish() );
+    TakeConverted( m_jcards.Finish() );
     m_scanner.Finish();
     if ( IsRefused() )
         TakeRefused( true );
@@ -369,7 +403,7 @@ PimContactNext PimContactReaderPrivate::Next( QIODevice& a_device, PimContactCar
 // A text that passes unchanged is read to where its lines are found, without a copy.
 qint64 PimContactReaderPrivate::TakeFrom( QIODevice& a_device )
 {
-    if ( m_isBegun && m_decoder.IsUnchanged() && !IsRefused() )
+    if ( IsUnchanged() && !IsRefused() )
     {
         const qint64 length = a_device.read( m_scanner.Room( static_cast<size_t>( m_piece ) ), m_piece );
         m_scanner.Grow( static_cast<size_t>( std::max<qint64>( length, 0 ) ) );
@@ -378,7 +412,7 @@ qint64 PimContactReaderPrivate::TakeFrom( QIODevice& a_device )
     QByteArray piece( static_cast<int>( m_piece ), Qt::Uninitialized );
     const qint64 length = a_device.read( piece.data(), m_piece );
     if ( length > 0 )
-        TakeText( m_decoder.Decode( ViewOf( piece ).substr( 0, static_cast<size_t>( length ) ) ) );
+        TakeDecoded( m_decoder.Decode( ViewOf( piece ).substr( 0, static_cast<size_t>( length ) ) ) );
     return length;
 }
 

@@ -1,8 +1,8 @@
 #include "Contact/ContactName.h"
 
+#include "Text/Buffer.h"
 #include "Text/Bytes.h"
 #include "Text/WhiteSpace.h"
-#include "Values/Buffer.h"
 
 namespace PimManager::Contacts
 {
@@ -10,10 +10,10 @@ namespace PimManager::Contacts
 void ContactName::Clear()
 {
     Empty( m_text );
-    m_source = PropertyName::Other;
+    m_source = PropertyId::Other;
 }
 
-void ContactName::Take( PropertyName a_source, std::initializer_list<std::string_view> a_parts )
+void ContactName::Take( PropertyId a_source, std::initializer_list<std::string_view> a_parts )
 {
     Empty( m_candidate );
     for ( const std::string_view part : a_parts )
@@ -26,11 +26,24 @@ void ContactName::Take( PropertyName a_source, std::initializer_list<std::string
 
 void ContactName::TakeParts( const NamedParts& a_parts )
 {
-    Take( PropertyName::N, { a_parts[3], a_parts[1], a_parts[2], a_parts[0], a_parts[4] } );
+    Empty( m_parts );
+    for ( const size_t part : { 3U, 1U, 2U, 0U, 4U } )
+    {
+        const std::string_view text = WithoutOuterSpace( a_parts.at( part ) );
+        if ( !m_parts.isEmpty() && !text.empty() )
+            m_parts.append( ' ' );
+        Append( m_parts, text );
+    }
+    if ( m_parts.isEmpty() )
+        return;
+    Empty( m_text );
+    m_source = PropertyId::N;
 }
 
-std::string_view ContactName::Text() const
+std::string_view ContactName::Text()
 {
+    if ( m_source == PropertyId::N && m_text.isEmpty() )
+        AppendWords( ViewOf( m_parts ), m_text );
     return ViewOf( m_text );
 }
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Contact/NamedParts.h"
-#include "Contact/PropertyName.h"
+#include "Lines/PropertyTable.h"
 
 #include <QByteArray>
 
@@ -22,22 +22,25 @@ public:
     void Clear();
 
     /// \return true if a property of this name would be a better name than what there is.
-    bool Wants( PropertyName a_source ) const { return a_source < m_source && a_source <= PropertyName::Tel; }
+    bool Wants( PropertyId a_source ) const { return a_source < m_source && a_source <= PropertyId::Tel; }
 
     /// Takes a name that Wants() has accepted.
     /// \param a_parts are joined by blanks; all white space becomes single blanks.
-    void Take( PropertyName a_source, std::initializer_list<std::string_view> a_parts );
+    void Take( PropertyId a_source, std::initializer_list<std::string_view> a_parts );
 
     /// Takes an N in the order of speech: prefixes, given name, additional names, family name and suffixes.
     void TakeParts( const NamedParts& a_parts );
 
     /// Empty if there is none.
-    std::string_view Text() const;
+    std::string_view Text();
 
 private:
+    // Empty if it must be made of m_parts.
     QByteArray m_text;
+    // Of an N, in the order of speech: most cards have an FN as well, and need no name of them.
+    QByteArray m_parts;
     QByteArray m_candidate;
-    PropertyName m_source = PropertyName::Other;
+    PropertyId m_source = PropertyId::Other;
 };
 
 } // namespace PimManager::Contacts

@@ -1,13 +1,15 @@
 #include "Contact/EntryReader.h"
 
-#include "Contact/CallTime.h"
+#include "Contact/DateParser.h"
+#include "Contact/DateText.h"
 #include "Contact/NumberAndMail.h"
+#include "Text/Buffer.h"
 #include "Text/Bytes.h"
 #include "Text/WhiteSpace.h"
-#include "Values/Buffer.h"
 #include "Values/PropertyKinds.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 namespace PimManager::Contacts
@@ -32,8 +34,8 @@ void EntryReader::Read( const IndexedLine& a_line )
 {
     m_line = &a_line;
     const std::string_view name = a_line.Name( m_name );
-    m_property = PropertyNameOf( name );
-    m_delimiters = DelimitersOf( name, a_line.m_card.m_record.Version() );
+    m_property = PropertyOf( name );
+    m_delimiters = DelimitersOf( m_property, a_line.m_card.m_record.Version() );
     m_isDecoded = false;
 }
 
@@ -49,13 +51,13 @@ std::string_view EntryReader::Text()
 {
     switch ( m_property )
     {
-    case PropertyName::Tel:
+    case PropertyId::Tel:
         return NumberOf( Value().Text(), m_text );
-    case PropertyName::Email:
+    case PropertyId::Email:
         return MailOf( Value().Text(), m_text );
-    case PropertyName::Adr:
+    case PropertyId::Adr:
         return AddressText();
-    case PropertyName::CallTime:
+    case PropertyId::CallTime:
         return TimeText();
     default:
         return m_delimiters == Delimiters::None ? WithoutOuterSpace( Value().Text() ) : JoinedParts();
@@ -99,11 +101,11 @@ std::string_view EntryReader::AddressText()
 std::string_view EntryReader::TimeText()
 {
     const std::string_view value = WithoutOuterSpace( Value().Text() );
-    const CallTime time( value );
-    if ( time.Text().empty() )
+    const std::optional<DateFields> time = ReadCallTime( value );
+    if ( !time )
         return value;
     Empty( m_text );
-    Append( m_text, time.Text() );
+    Append( m_text, DateText( *time, DateFormat::Extended ).Text() );
     m_text.replace( 'T', ' ' ).replace( 'Z', " UTC" );
     return ViewOf( m_text );
 }
@@ -126,13 +128,13 @@ void EntryReader::AppendPart( std::string_view a_part, std::string_view a_betwee
     Append( m_text, a_part );
 }
 
-QStringList EntryTypes( PropertyName a_property, const LineParameters& a_parameters )
+QStringList EntryTypes( PropertyId a_property, const LineParameters& a_parameters )
 {
     QStringList texts;
     const WordGroups& types = a_parameters.Types();
     for ( size_t i = 0; i < types.Size(); ++i )
     {
-        const bool isOfEveryMail = a_property == PropertyName::Email && IsSameWord( types.Word( i ), "INTERNET" );
+        const bool isOfEveryMail = a_property == PropertyId::Email && IsSameWord( types.Word( i ), "INTERNET" );
         if ( types.IsFirst( i ) && !isOfEveryMail )
             texts.append( UpperAscii( types.Word( i ) ) );
     }

@@ -6,7 +6,7 @@
 #include "Cards/LineView.h"
 #include "Contact/LineParameters.h"
 #include "Contact/NamedParts.h"
-#include "Contact/PropertyName.h"
+#include "Lines/PropertyTable.h"
 #include "Text/KeptTexts.h"
 #include "Values/ValueDecoder.h"
 
@@ -26,7 +26,7 @@ public:
     /// \param a_line must exist as long as something of it is wanted.
     void Read( const IndexedLine& a_line );
 
-    PropertyName Property() const { return m_property; }
+    PropertyId Property() const { return m_property; }
 
     /// \return the text of PimContactEntry, in UTF-8. Valid until the next call.
     std::string_view Text();
@@ -45,7 +45,7 @@ private:
     void AppendPart( std::string_view a_part, std::string_view a_between );
 
     const IndexedLine* m_line = nullptr;
-    PropertyName m_property = PropertyName::Other;
+    PropertyId m_property = PropertyId::Other;
     Delimiters m_delimiters = Delimiters::None;
     ValueDecoder m_decoder;
     bool m_isDecoded = false;
@@ -57,6 +57,6 @@ private:
 };
 
 /// \return the types of PimContactEntry.
-QStringList EntryTypes( PropertyName a_property, const LineParameters& a_parameters );
+QStringList EntryTypes( PropertyId a_property, const LineParameters& a_parameters );
 
 } // namespace PimManager::Contacts

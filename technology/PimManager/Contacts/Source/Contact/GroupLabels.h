@@ -5,7 +5,6 @@
 
 #include "Cards/LineView.h"
 #include "Text/WordGroups.h"
-#include "Values/ValueDecoder.h"
 
 #include <QByteArray>
 
@@ -15,26 +14,47 @@
 namespace PimManager::Contacts
 {
 
+class ContactLines;
+
 /// The labels of the groups of one card: the values of X-ABLabel. The first one of a group counts. Keeps its memory.
 class GroupLabels
 {
 public:
+    /// The label of a group, as written.
+    struct Label
+    {
+        std::string_view m_text;
+        /// Of its line in the contact; 0 if it was read from a card.
+        int m_id = 0;
+    };
+
     /// Reads the labels of a card.
     /// \param a_first is at the first line of the card that has a group.
     void Read( const LineCursor& a_first );
+    /// Reads the labels of a contact.
+    void Read( const ContactLines& a_lines );
 
     /// \param a_group in any letter case, as written.
     /// \return the label without marks (see LabelMarks.h); empty if there is none.
     std::string_view Of( std::string_view a_group ) const;
+    /// The same with marks, and the line.
+    Label LabelOf( std::string_view a_group ) const;
 
 private:
-    void Add( const IndexedLine& a_line );
+    struct Entry
+    {
+        ByteRange m_label;
+        ByteRange m_group;
+        int m_id = 0;
+    };
+
+    void Clear();
+    void Add( const IndexedLine& a_line, int a_id );
+    void Finish();
     ByteRange Add( std::string_view a_text );
 
-    ValueDecoder m_decoder;
     QByteArray m_texts;
-    std::vector<ByteRange> m_labels;
-    std::vector<ByteRange> m_groupRanges;
+    std::vector<Entry> m_entries;
     WordGroups m_groups;
 };
 

@@ -14,4 +14,7 @@ std::string_view Unwrapped( std::string_view a_text, std::string_view a_begin, s
 /// \return a label without the marks of a built-in one: `Home` for `_$!<Home>!$_`. White space at both ends is removed.
 std::string_view WithoutLabelMarks( std::string_view a_label );
 
+/// \return `Home` for `_$!<Home>!$_`; empty for a label without these marks, which is free text.
+std::string_view BuiltInLabel( std::string_view a_label );
+
 } // namespace PimManager::Contacts

@@ -1,12 +1,10 @@
 #include "Contact/LineParameters.h"
 
-#include "Contact/LabelMarks.h"
+#include "Contact/ParameterValues.h"
 #include "Text/Bytes.h"
-#include "Values/Buffer.h"
+#include "Text/WhiteSpace.h"
+#include "Values/EncodedLabel.h"
 #include "Values/ParameterReader.h"
-
-#include <algorithm>
-#include <charconv>
 
 namespace PimManager::Contacts
 {
@@ -15,12 +13,6 @@ namespace
 {
 
 constexpr std::string_view s_kPreference = "PREF";
-constexpr int s_kLeastPreference = 100;
-
-bool IsQuoteOrBackslash( char a_byte )
-{
-    return a_byte == '"' || a_byte == '\\';
-}
 
 } // namespace
 
@@ -47,6 +39,12 @@ int LineParameters::Preference() const
     return m_preference == 0 && m_isPreferred ? 1 : m_preference;
 }
 
+std::string_view LineParameters::CustomLabel() const
+{
+    const size_t index = m_names.Find( s_kCustomParameter );
+    return index == WordGroups::s_kNone ? std::string_view() : WithoutOuterSpace( m_values[index] );
+}
+
 void LineParameters::Take( std::string_view a_name, std::string_view a_value )
 {
     if ( IsSameWord( a_name, s_kTypeParameter ) )
@@ -62,17 +60,8 @@ void LineParameters::Take( std::string_view a_name, std::string_view a_value )
 
 void LineParameters::TakeType( std::string_view a_type )
 {
-    std::string_view type = a_type;
-    if ( std::any_of( type.begin(), type.end(), IsQuoteOrBackslash ) )
-    {
-        Empty( m_buffer );
-        std::copy_if( type.begin(), type.end(), std::back_inserter( m_buffer ),
-                      []( char a_byte ) { return !IsQuoteOrBackslash( a_byte ); } );
-        type = ViewOf( m_buffer );
-    }
-    type.remove_prefix( std::min( type.find_first_not_of( '=' ), type.size() ) );
-    type = WithoutLabelMarks( Unwrapped( Trimmed( type ), "'", "'" ) );
-    if ( IsSameWord( type, s_kPreference ) )
+    const std::string_view type = TypeWordIn( a_type, m_buffer );
+    if ( IsPreferredType( type ) )
         m_isPreferred = true;
     else if ( !type.empty() )
         m_types.Add( m_texts.Keep( type ) );
@@ -81,12 +70,8 @@ void LineParameters::TakeType( std::string_view a_type )
 // The first one counts, also if it is no preference.
 void LineParameters::TakePreference( std::string_view a_value )
 {
-    const std::string_view value = Trimmed( a_value );
-    int preference = 0;
-    const auto result = std::from_chars( value.data(), value.data() + value.size(), preference );
-    const bool isNumber = result.ec == std::errc() && result.ptr == value.data() + value.size();
-    if ( !m_hasPreference && isNumber && preference >= 1 && preference <= s_kLeastPreference )
-        m_preference = preference;
+    if ( !m_hasPreference )
+        m_preference = PreferenceIn( a_value );
     m_hasPreference = true;
 }
 

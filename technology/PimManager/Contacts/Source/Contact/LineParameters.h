@@ -34,6 +34,10 @@ public:
     /// \return the value that has this place in Names().
     std::string_view Value( size_t a_index ) const { return m_values[a_index]; }
 
+    /// \return what X-CUSTOM says the line is for, as some phones write it; empty if there is none. The first one
+    /// counts.
+    std::string_view CustomLabel() const;
+
 private:
     void Take( std::string_view a_name, std::string_view a_value );
     void TakeType( std::string_view a_type );

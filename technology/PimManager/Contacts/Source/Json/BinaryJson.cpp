@@ -107,7 +107,8 @@ size_t SizeOf( std::string_view a_base64 )
 }
 
 /// Writes what precedes the BASE64, which begins at a place.
-void WriteHead( size_t a_place, const QByteArray& a_mediaType, JsonText& a_json )
+/// \return the length of `mediaType` and `size`.
+size_t WriteHead( size_t a_place, const QByteArray& a_mediaType, JsonText& a_json )
 {
     QByteArray head;
     JsonText json( head );
@@ -115,10 +116,12 @@ void WriteHead( size_t a_place, const QByteArray& a_mediaType, JsonText& a_json 
     json.String( ViewOf( a_mediaType ) );
     json.Raw( R"(,"size":)" );
     json.Number( static_cast<qint64>( SizeOf( a_json.From( a_place ) ) ) );
+    const size_t length = json.Place();
     json.Raw( R"(,"data":")" );
     json.Finish();
     a_json.Insert( a_place, ViewOf( head ) );
     a_json.Raw( R"(")" );
+    return length;
 }
 
 } // namespace
@@ -135,7 +138,7 @@ BinaryJson WriteBinary( const IndexedLine& a_line, const HeadJson& a_head, const
         a_json.Remove( place );
         const PimContactBinary binary = DecodedBinary( a_line );
         if ( binary.IsDamaged() )
-            return { false, binary.FaultPlace() };
+            return { false, binary.FaultPlace(), 0, 0 };
         mediaType = MediaTypeNamed( ViewOf( binary.MediaType() ) );
         a_json.Raw( ViewOf( binary.Bytes().toBase64() ) );
     }
@@ -144,8 +147,8 @@ BinaryJson WriteBinary( const IndexedLine& a_line, const HeadJson& a_head, const
         mediaType = BytesOf( known );
     else if ( mediaType.isEmpty() )
         mediaType = BytesOf( a_head.MediaType() );
-    WriteHead( place, mediaType, a_json );
-    return { true, -1 };
+    const size_t length = WriteHead( place, mediaType, a_json );
+    return { true, -1, place, length };
 }
 
 } // namespace PimManager::Contacts

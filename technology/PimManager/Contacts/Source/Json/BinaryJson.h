@@ -4,9 +4,9 @@
 #pragma once
 
 #include "Cards/LineView.h"
+#include "Text/JsonText.h"
 #include "Values/ValueDecoder.h"
 #include "Json/HeadJson.h"
-#include "Json/JsonText.h"
 
 #include <QtGlobal>
 
@@ -19,6 +19,9 @@ struct BinaryJson
     bool m_isWritten = false;
     /// The place of the first character that could not be decoded; -1 if there is none, or if the value is text.
     qint64 m_faultPlace = -1;
+    /// Where the members `mediaType` and `size` are, with a comma before each of them.
+    size_t m_place = 0;
+    size_t m_length = 0;
 };
 
 /// Writes the members `mediaType`, `size` and `data` for a value that is bytes (see BinaryValue.h). BASE64 without

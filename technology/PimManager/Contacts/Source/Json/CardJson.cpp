@@ -8,6 +8,7 @@ namespace PimManager::Contacts
 void CardJson::Write( const PimContactCard& a_card, const QByteArray& a_file, JsonText& a_json )
 {
     const CardView view = PimContactCardPrivate::LineView::CardOf( a_card );
+    m_card = a_card;
     m_firstLine = a_card.FirstLine() - view.m_record.m_line;
     a_json.Raw( "{" );
     if ( !a_file.isNull() )
@@ -21,6 +22,7 @@ void CardJson::Write( const PimContactCard& a_card, const QByteArray& a_file, Js
     a_json.Raw( "," );
     WriteMembers( view, 0, a_json );
     a_json.Raw( "}" );
+    m_card = PimContactCard();
 }
 
 // The properties are written first, because each of them is decoded only once.
@@ -34,8 +36,14 @@ void CardJson::WriteMembers( const CardView& a_card, size_t a_depth, JsonText& a
     WriteProperties( a_card, a_depth, a_json );
     a_json.Raw( "]" );
     m_head.Clear();
-    LevelAt( a_depth ).m_head.WriteTo( m_head );
+    ContactHead& head = LevelAt( a_depth ).m_head;
+    head.WriteTo( head.IsDeferred() ? ContactOf( a_card ) : m_noContact, m_head );
     a_json.Insert( headPlace, m_head.From( 0 ) );
+}
+
+PimContact CardJson::ContactOf( const CardView& a_card ) const
+{
+    return PimContact( PimContactCardPrivate::LineView::CardAt( m_card, a_card ) );
 }
 
 void CardJson::WriteProperties( const CardView& a_card, size_t a_depth, JsonText& a_json )
@@ -44,6 +52,7 @@ void CardJson::WriteProperties( const CardView& a_card, size_t a_depth, JsonText
     level.m_head.Clear();
     level.m_hasLabels = false;
     std::string_view before;
+    size_t place = 0;
     for ( LineCursor cursor( a_card ); cursor.Next(); )
     {
         if ( cursor.Line().m_entry.m_group.m_length > 0 && !level.m_hasLabels )
@@ -54,7 +63,8 @@ void CardJson::WriteProperties( const CardView& a_card, size_t a_depth, JsonText
         CardView nested;
         const bool holdsCard = cursor.FindNested( nested );
         a_json.Raw( before );
-        m_property.Write( cursor.Line(), level.m_labels, holdsCard, level.m_head, a_json );
+        m_property.Write( cursor.Line(), level.m_labels, holdsCard, place, level.m_head, a_json );
+        ++place;
         if ( holdsCard )
         {
             a_json.Raw( R"(,"card":{)" );

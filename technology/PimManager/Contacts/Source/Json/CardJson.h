@@ -4,10 +4,11 @@
 #pragma once
 
 #include "Contact/GroupLabels.h"
+#include "Text/JsonText.h"
 #include "Json/ContactHead.h"
-#include "Json/JsonText.h"
 #include "Json/PropertyJson.h"
 
+#include <PimManager/Contacts/PimContact.h>
 #include <PimManager/Contacts/PimContactCard.h>
 
 #include <QByteArray>
@@ -35,12 +36,16 @@ private:
     };
 
     void WriteMembers( const CardView& a_card, size_t a_depth, JsonText& a_json );
+    PimContact ContactOf( const CardView& a_card ) const;
     void WriteProperties( const CardView& a_card, size_t a_depth, JsonText& a_json );
     Level& LevelAt( size_t a_depth );
 
     PropertyJson m_property;
     std::vector<std::unique_ptr<Level>> m_levels;
     JsonText m_head;
+    // The outermost card.
+    PimContactCard m_card;
+    const PimContact m_noContact;
     // Of the file, from 1: of the first byte of the outermost card.
     qint64 m_firstLine = 1;
 };

@@ -1,9 +1,14 @@
 #include "Json/HeadJson.h"
 
+#include "Contact/ContactLines.h"
+#include "Contact/CropRectangle.h"
+#include "Contact/KindWords.h"
+#include "Contact/NamedMediaType.h"
 #include "Lines/KnownNames.h"
+#include "Text/Buffer.h"
 #include "Text/Bytes.h"
 #include "Text/MediaType.h"
-#include "Values/Buffer.h"
+#include "Text/WhiteSpace.h"
 
 #include <algorithm>
 #include <cstring>
@@ -17,6 +22,48 @@ namespace
 using namespace std::string_view_literals;
 
 constexpr std::array s_kDirections = { "dialed"sv, "received"sv, "missed"sv };
+
+KindSet KindSetOf( FieldWay a_way, PropertyId a_property )
+{
+    switch ( a_way )
+    {
+    case FieldWay::Name:
+    case FieldWay::Event:
+    case FieldWay::OnlyDate:
+    case FieldWay::Media:
+        return KindSet::None;
+    default:
+        return PimManager::Contacts::KindSetOf( a_property );
+    }
+}
+
+bool SaysDate( std::string_view a_value )
+{
+    return !IsSameWord( Trimmed( a_value ), "text" ) && !IsSameWord( Trimmed( a_value ), "time" );
+}
+
+/// \return true if the parameter makes a difference that only PimContact knows. Media are never left to it.
+bool IsUnusual( FieldWay a_way, FieldParameter a_parameter, std::string_view a_value )
+{
+    if ( a_way == FieldWay::Media )
+        return false;
+    switch ( a_parameter )
+    {
+    case FieldParameter::Value:
+        return ( a_way == FieldWay::Event || a_way == FieldWay::OnlyDate ) && !SaysDate( a_value );
+    case FieldParameter::SortAs:
+    case FieldParameter::Label:
+    case FieldParameter::Geo:
+    case FieldParameter::TimeZone:
+    case FieldParameter::CountryCode:
+    case FieldParameter::Calendar:
+    case FieldParameter::Level:
+    case FieldParameter::OmittedYear:
+        return true;
+    default:
+        return false;
+    }
+}
 
 /// \return the bytes from a place on, up to eight of them, as a number.
 quint64 NumberAt( std::string_view a_text, size_t a_place )
@@ -32,8 +79,8 @@ void HeadReader::Read( const IndexedLine& a_line, HeadJson& a_head )
 {
     m_json.Clear();
     const std::string_view name = m_decoder.Written( a_line, a_line.m_entry.m_name );
-    a_head.m_property = PropertyNameOf( name );
-    a_head.m_delimiters = DelimitersOf( name, a_line.m_card.m_record.Version() );
+    a_head.m_property = PropertyNamed( name );
+    a_head.m_delimiters = DelimitersOf( a_head.m_property, a_line.m_card.m_record.Version() );
     a_head.m_isMedia = IsMediaName( name );
     a_head.m_name = WriteName( name );
     m_parameters.Read( a_line );
@@ -41,6 +88,7 @@ void HeadReader::Read( const IndexedLine& a_line, HeadJson& a_head )
     a_head.m_preference = WritePreference();
     a_head.m_parameters = WriteParameters();
     a_head.m_typesOfEntry = WriteTypes( InternetType::LeftOut );
+    ReadField( a_line, a_head );
     a_head.m_mediaType = WriteMediaType();
     a_head.m_direction = Direction();
     Empty( a_head.m_text );
@@ -126,6 +174,55 @@ ByteRange HeadReader::WriteMediaType()
         type = MediaTypeNamed( m_parameters.Types().Word( i ) );
     m_json.Raw( ViewOf( type ) );
     return From( place );
+}
+
+void HeadReader::ReadField( const IndexedLine& a_line, HeadJson& a_head )
+{
+    a_head.m_rule = FieldRuleOf( a_head.m_property );
+    const FieldWay way = a_head.m_rule.m_way;
+    a_head.m_kindSet = KindSetOf( way, a_head.m_property );
+    // HOME and WORK say nothing about the bytes of a picture.
+    const bool isMedia = way == FieldWay::Media;
+    m_fieldParameters.Read( a_line, WordReaderOf( isMedia ? KindSet::Kinds : a_head.m_kindSet ) );
+    a_head.m_kinds = m_fieldParameters.Kinds();
+    a_head.m_fieldMediaType = isMedia ? NamedMediaType( a_head.m_property, m_fieldParameters ).toUtf8() : QByteArray();
+    a_head.m_isDeferred = way == FieldWay::Deferred;
+    for ( const auto& [parameter, value] : m_fieldParameters.Values() )
+        a_head.m_isDeferred = a_head.m_isDeferred || IsUnusual( way, parameter, value );
+    const std::string_view value = m_fieldParameters.First( FieldParameter::Value );
+    a_head.m_isUri = IsSameWord( value, "uri" ) || IsSameWord( value, "url" );
+    a_head.m_crop = CropIn( m_fieldParameters.First( FieldParameter::Crop ) );
+    WriteCommon( a_head );
+}
+
+void HeadReader::WriteCommon( HeadJson& a_head )
+{
+    const size_t place = m_json.Place();
+    WriteKinds( a_head.m_kindSet, a_head.m_kinds, m_json );
+    std::string_view label = WithoutOuterSpace( m_fieldParameters.First( FieldParameter::Custom ) );
+    if ( label.empty() && a_head.m_kindSet != KindSet::None )
+        label = CustomLabelOf( m_fieldParameters.CustomType() );
+    const size_t labelPlace = m_json.Place();
+    WriteText( R"(,"label":)", label );
+    a_head.m_ownLabel = From( labelPlace );
+    const size_t behindLabel = m_json.Place();
+    if ( m_fieldParameters.Preference() > 0 )
+    {
+        m_json.Raw( R"(,"preference":)" );
+        m_json.Number( m_fieldParameters.Preference() );
+    }
+    WriteText( R"(,"language":)", WithoutOuterSpace( m_fieldParameters.First( FieldParameter::Language ) ) );
+    WriteText( R"(,"altId":)", WithoutOuterSpace( m_fieldParameters.First( FieldParameter::AltId ) ) );
+    a_head.m_common = From( place );
+    a_head.m_behindLabel = From( behindLabel );
+}
+
+void HeadReader::WriteText( std::string_view a_name, std::string_view a_text )
+{
+    if ( a_text.empty() )
+        return;
+    m_json.Raw( a_name );
+    m_json.String( a_text );
 }
 
 std::string_view HeadReader::Direction() const

@@ -4,17 +4,22 @@
 #pragma once
 
 #include "Cards/LineView.h"
+#include "Contact/FieldParameters.h"
 #include "Contact/LineParameters.h"
-#include "Contact/PropertyName.h"
+#include "Lines/PropertyTable.h"
 #include "Text/Bytes.h"
+#include "Text/JsonText.h"
 #include "Values/PropertyKinds.h"
 #include "Values/ValueDecoder.h"
-#include "Json/JsonText.h"
+#include "Json/ContactMember.h"
+#include "Json/KindJson.h"
 
 #include <QByteArray>
+#include <QRect>
 #include <QtGlobal>
 
 #include <array>
+#include <optional>
 #include <string_view>
 
 namespace PimManager::Contacts
@@ -24,7 +29,7 @@ namespace PimManager::Contacts
 class HeadJson
 {
 public:
-    PropertyName Property() const { return m_property; }
+    PropertyId Property() const { return m_property; }
     Delimiters ValueDelimiters() const { return m_delimiters; }
     /// \return true for PHOTO, LOGO, SOUND and KEY.
     bool IsMedia() const { return m_isMedia; }
@@ -39,8 +44,27 @@ public:
     std::string_view Rest() const { return All().substr( m_preference.m_begin ); }
     /// A comma and the member `types` without INTERNET: every mail address has this type, so it says nothing about one.
     std::string_view TypesOfEntry() const { return m_typesOfEntry.In( ViewOf( m_text ) ); }
-    /// A comma and the member `preference`; empty without one.
-    std::string_view Preference() const { return m_preference.In( ViewOf( m_text ) ); }
+
+    /// What the property becomes in its contact.
+    const FieldRule& Rule() const { return m_rule; }
+    /// \return true if PimContact must read the members that depend on the property.
+    bool IsDeferred() const { return m_isDeferred; }
+    /// The members `kinds`, `label`, `preference`, `language` and `altId` of the field, as far as there are any, with a
+    /// comma before each. They are those of a line without a label of its group.
+    std::string_view Common() const { return m_common.In( ViewOf( m_text ) ); }
+    /// The member `label` in Common().
+    std::string_view OwnLabel() const { return m_ownLabel.In( ViewOf( m_text ) ); }
+    /// What follows `label` in Common().
+    std::string_view CommonBehindLabel() const { return m_behindLabel.In( ViewOf( m_text ) ); }
+    KindSet SetOfKinds() const { return m_kindSet; }
+    quint32 Kinds() const { return m_kinds; }
+    /// \return true if the parameters say that the value is a URI.
+    bool IsUri() const { return m_isUri; }
+    /// Of a picture, sound or key: the media type as PimContactMedia reads it from the parameters; empty if they name
+    /// none.
+    std::string_view FieldMediaType() const { return ViewOf( m_fieldMediaType ); }
+    /// The part of a picture that is shown.
+    const std::optional<QRect>& Crop() const { return m_crop; }
 
     /// The media type that the parameters name; empty if they name none.
     std::string_view MediaType() const { return m_mediaType.In( ViewOf( m_text ) ); }
@@ -50,17 +74,27 @@ public:
 private:
     friend class HeadReader; // fills it
 
-    PropertyName m_property = PropertyName::Other;
+    PropertyId m_property = PropertyId::Other;
     Delimiters m_delimiters = Delimiters::None;
     bool m_isMedia = false;
     QByteArray m_text;
     ByteRange m_name;
     ByteRange m_types;
     ByteRange m_typesOfEntry;
+    ByteRange m_common;
+    ByteRange m_ownLabel;
+    ByteRange m_behindLabel;
     ByteRange m_preference;
     ByteRange m_parameters;
     ByteRange m_mediaType;
     std::string_view m_direction;
+    FieldRule m_rule;
+    bool m_isDeferred = false;
+    KindSet m_kindSet = KindSet::None;
+    quint32 m_kinds = 0;
+    bool m_isUri = false;
+    QByteArray m_fieldMediaType;
+    std::optional<QRect> m_crop;
 };
 
 /// Reads heads. Keeps its memory.
@@ -82,10 +116,14 @@ private:
     ByteRange WriteParameters();
     ByteRange WriteMediaType();
     ByteRange From( size_t a_place ) const;
+    void ReadField( const IndexedLine& a_line, HeadJson& a_head );
+    void WriteCommon( HeadJson& a_head );
+    void WriteText( std::string_view a_name, std::string_view a_text );
     std::string_view Direction() const;
 
     ValueDecoder m_decoder;
     LineParameters m_parameters;
+    FieldParameters m_fieldParameters;
     JsonText m_json;
 };
 

@@ -5,15 +5,19 @@
 
 #include "Cards/LineView.h"
 #include "Contact/GroupLabels.h"
+#include "Text/JsonText.h"
 #include "Text/KeptTexts.h"
 #include "Values/ValueDecoder.h"
+#include "Json/BinaryJson.h"
 #include "Json/ContactHead.h"
 #include "Json/HeadJson.h"
-#include "Json/JsonText.h"
 
 #include <QByteArray>
 
+#include <array>
 #include <string_view>
+#include <tuple>
+#include <vector>
 
 namespace PimManager::Contacts
 {
@@ -25,18 +29,28 @@ public:
     /// Writes the object of a property, without the brace that ends it.
     /// \param a_labels of the card.
     /// \param a_holdsCard an empty value is not written, because the property holds a card.
-    void Write( const IndexedLine& a_line, const GroupLabels& a_labels, bool a_holdsCard, ContactHead& a_contact,
-                JsonText& a_json );
+    /// \param a_place of the property in the list of properties.
+    void Write( const IndexedLine& a_line, const GroupLabels& a_labels, bool a_holdsCard, size_t a_place,
+                ContactHead& a_contact, JsonText& a_json );
 
 private:
     void WriteGroupAndHead( const IndexedLine& a_line, const HeadJson& a_head, const GroupLabels& a_labels,
                             JsonText& a_json );
     std::string_view GroupText( const IndexedLine& a_line );
-    void WriteValues( const HeadJson& a_head, ContactHead& a_contact, JsonText& a_json );
-    void WriteText( const HeadJson& a_head, ContactHead& a_contact, JsonText& a_json );
-    void WriteElements( const HeadJson& a_head, ContactHead& a_contact, JsonText& a_json );
+    void WriteLabel( const HeadJson& a_head, std::string_view a_label, JsonText& a_json );
+    BinaryJson DecodeOrWrite( const IndexedLine& a_line, const HeadJson& a_head, JsonText& a_json );
+    static void TakeBinary( const IndexedLine& a_line, const FieldHead& a_head, const BinaryJson& a_binary,
+                            size_t a_place, ContactHead& a_contact, const JsonText& a_json );
+    void WriteValues( const FieldHead& a_head, ContactHead& a_contact, JsonText& a_json );
+    void WriteText( const FieldHead& a_head, ContactHead& a_contact, JsonText& a_json );
+    void WriteElements( const FieldHead& a_head, ContactHead& a_contact, JsonText& a_json );
     void WriteComponents( const HeadJson& a_head, ContactHead& a_contact, JsonText& a_json );
-    void WriteMeaning( const HeadJson& a_head, ContactHead& a_contact, JsonText& a_json );
+    void WriteMeaning( const FieldHead& a_head, ContactHead& a_contact, JsonText& a_json );
+    template <size_t s_kSize>
+    void WriteParts( const std::array<std::string_view, s_kSize>& a_names, JsonText& a_json );
+    FieldParts ListsOf( const HeadJson& a_head, size_t a_written, size_t a_most, const JsonText& a_json );
+    void TakeComponent( std::string_view a_text, size_t a_place, PropertyId a_property, const JsonText& a_json );
+    void ReadLists( const HeadJson& a_head, size_t a_most );
     void WriteCall( const HeadJson& a_head, JsonText& a_json );
 
     HeadCache m_heads;
@@ -44,9 +58,17 @@ private:
     KeptTexts m_texts;
     QByteArray m_group;
 
-    // Of the property: the member `label` with a comma before it, and the parts of an N or ADR.
-    JsonText m_label;
+    // Of a property whose group has a label: what a field has in common with others.
+    JsonText m_common;
+    bool m_hasLabel = false;
+    // Of an N or ADR: the components without white space at both ends, how many there are, and where the texts of
+    // components are in the JSON. The length of a component that must be written again is 0, and so is that of one that
+    // is not there. The components of an ADR that need not be written again are not kept.
     NamedParts m_parts;
+    std::array<FieldParts::Part, std::tuple_size<NamedParts>::value> m_written;
+    size_t m_partCount = 0;
+    std::vector<FieldParts::Part> m_places;
+    JsonText m_lists;
 };
 
 } // namespace PimManager::Contacts

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Lines/PropertyTable.h"
+
 #include <string_view>
 
 namespace PimManager::Contacts
@@ -12,14 +14,12 @@ namespace PimManager::Contacts
 ///         9555), in any letter case, BEGIN and END included. Takes constant time.
 bool IsKnownName( std::string_view a_name );
 
-/// \return true for a name that begins with `X-` in any letter case and is longer.
-bool IsExtensionName( std::string_view a_name );
-
 /// \return false for TEL, EMAIL, BDAY and other names whose values are one word, a number, a date or a picture, because
 ///         a line of text does not continue these values. Returns true for every other name, known or not.
 bool HoldsText( std::string_view a_name );
 
 /// \return true for PHOTO, LOGO, SOUND and KEY.
+bool IsMediaProperty( PropertyId a_property );
 bool IsMediaName( std::string_view a_name );
 
 /// \return true for a known name whose value is text, such as FN, TEL and REV; false for PHOTO, LOGO, SOUND, KEY and

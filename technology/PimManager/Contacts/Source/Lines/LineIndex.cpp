@@ -6,20 +6,12 @@ namespace PimManager::Contacts
 namespace
 {
 
-// The header: the kind in the lowest three bits. Of a line the five flags, of other parts a number.
-constexpr uint s_kDetailShift = 3;
-constexpr uint s_kHasGroup = 0x08;
-constexpr uint s_kHasParameters = 0x10;
-constexpr uint s_kHasColon = 0x20;
-constexpr uint s_kHasFolds = 0x40;
-constexpr uint s_kHasExtras = 0x80;
-
 // The extras of a line: encoding and character set, three flags, and the oddities.
 constexpr uint s_kEncodingMask = 0x03;
 constexpr uint s_kCharsetShift = 2;
 constexpr uint s_kCharsetMask = 0x07;
-constexpr uint s_kHasJoins = 0x20;
-constexpr uint s_kHasPlaces = 0x40;
+constexpr uint s_kHasJoins = IndexHeader::s_kExtraJoins;
+constexpr uint s_kHasPlaces = IndexHeader::s_kExtraPlaces;
 constexpr uint s_kDoSoftBreaksTakeBlank = 0x80;
 constexpr uint s_kOdditiesShift = 8;
 
@@ -82,11 +74,11 @@ template <typename Parts>
 inline uint HeaderOf( const Parts& a_parts, bool a_hasFolds, uint a_extras )
 {
     uint header = static_cast<uint>( EntryKind::Line );
-    header |= a_parts.m_group.m_length > 0 ? s_kHasGroup : 0;
-    header |= a_parts.m_parameters.m_length > 0 ? s_kHasParameters : 0;
-    header |= a_parts.m_hasColon ? s_kHasColon : 0;
-    header |= a_hasFolds ? s_kHasFolds : 0;
-    return header | ( a_extras != 0 ? s_kHasExtras : 0 );
+    header |= a_parts.m_group.m_length > 0 ? IndexHeader::s_kHasGroup : 0;
+    header |= a_parts.m_parameters.m_length > 0 ? IndexHeader::s_kHasParameters : 0;
+    header |= a_parts.m_hasColon ? IndexHeader::s_kHasColon : 0;
+    header |= a_hasFolds ? IndexHeader::s_kHasFolds : 0;
+    return header | ( a_extras != 0 ? IndexHeader::s_kHasExtras : 0 );
 }
 
 template <typename Parts>
@@ -166,7 +158,7 @@ void IndexWriter::AddPart( EntryKind a_kind, quint32 a_length, uint a_detail )
     if ( a_length == 0 )
         return;
     uchar* const place = m_buffer.Begin( s_kMostOfLine );
-    *place = static_cast<uchar>( static_cast<uint>( a_kind ) | ( a_detail << s_kDetailShift ) );
+    *place = static_cast<uchar>( static_cast<uint>( a_kind ) | ( a_detail << IndexHeader::s_kDetailShift ) );
     m_buffer.End( WriteNumber( place + 1, a_length ) );
 }
 
@@ -241,35 +233,41 @@ inline quint32 IndexReader::Number()
     return number;
 }
 
+// Of a header that says that there are extras.
+uint IndexReader::SkipExtras( const uchar*& a_place )
+{
+    constexpr int s_kPlaces = 4;
+    const uint extras = ReadNumber( a_place );
+    for ( int i = 0; i < s_kPlaces && ( extras & s_kHasPlaces ) != 0; ++i )
+        ReadNumber( a_place );
+    const quint32 joins = ( extras & s_kHasJoins ) != 0 ? ReadNumber( a_place ) : 0;
+    a_place += joins;
+    return extras;
+}
+
 void IndexReader::Next( IndexEntry& a_entry, bool a_isBrief )
 {
+    const uint header = m_base[m_place];
+    if ( ( header & IndexHeader::s_kKindMask ) != static_cast<uint>( EntryKind::Line ) )
+        ReadPart( a_entry );
+    else if ( a_isBrief && ( header & IndexHeader::s_kHasExtras ) == 0 )
+        ReadBrief( a_entry );
+    else
+        ReadLine( a_entry );
+}
+
+void IndexReader::ReadPart( IndexEntry& a_entry )
+{
     const uint header = m_base[m_place++];
-    a_entry.m_kind = static_cast<EntryKind>( header & s_kKindMask );
+    a_entry.m_kind = static_cast<EntryKind>( header & IndexHeader::s_kKindMask );
     a_entry.m_length = Number();
     switch ( a_entry.m_kind )
     {
-    case EntryKind::Line:
-        if ( a_isBrief && ( header & s_kHasExtras ) == 0 )
-        {
-            a_entry.m_oddities = {};
-            a_entry.m_encoding = PimContactEncoding::None;
-            a_entry.m_hasColon = ( header & s_kHasColon ) != 0;
-            a_entry.m_hasFolds = ( header & s_kHasFolds ) != 0;
-            a_entry.m_joins = {};
-            Number();
-            if ( ( header & s_kHasGroup ) != 0 )
-                Number();
-            if ( ( header & s_kHasParameters ) != 0 )
-                Number();
-        }
-        else
-            ReadLine( a_entry, header );
-        break;
     case EntryKind::Dropped:
-        a_entry.m_reason = static_cast<DropReason>( header >> s_kDetailShift );
+        a_entry.m_reason = static_cast<DropReason>( header >> IndexHeader::s_kDetailShift );
         break;
     case EntryKind::Boundary:
-        a_entry.m_isMended = ( header >> s_kDetailShift ) != 0;
+        a_entry.m_isMended = ( header >> IndexHeader::s_kDetailShift ) != 0;
         break;
     case EntryKind::Nested:
         a_entry.m_indexLength = Number();
@@ -281,86 +279,40 @@ void IndexReader::Next( IndexEntry& a_entry, bool a_isBrief )
     }
 }
 
-inline IndexReader::LineLengths IndexReader::ReadLengths( const uchar*& a_place )
-{
-    const uint header = *a_place++;
-    LineLengths lengths;
-    lengths.m_line = ReadNumber( a_place );
-    lengths.m_name = ReadNumber( a_place );
-    if ( ( header & s_kHasGroup ) != 0 )
-        lengths.m_group = ReadNumber( a_place );
-    if ( ( header & s_kHasParameters ) != 0 )
-        lengths.m_parameters = ReadNumber( a_place );
-    return lengths;
-}
-
-inline uint IndexReader::SkipExtras( uint a_header, const uchar*& a_place )
-{
-    constexpr int s_kPlaces = 4;
-    const uint extras = ( a_header & s_kHasExtras ) != 0 ? ReadNumber( a_place ) : 0;
-    if ( ( extras & ( s_kHasPlaces | s_kHasJoins ) ) == 0 )
-        return extras;
-    for ( int i = 0; i < s_kPlaces && ( extras & s_kHasPlaces ) != 0; ++i )
-        ReadNumber( a_place );
-    const quint32 joins = ( extras & s_kHasJoins ) != 0 ? ReadNumber( a_place ) : 0;
-    a_place += joins;
-    return extras;
-}
-
-IndexReader::Outline IndexReader::Skip()
+inline void IndexReader::ReadBrief( IndexEntry& a_entry )
 {
     const uchar* place = m_base + m_place;
     const uint header = *place;
-    Outline outline;
-    outline.m_kind = static_cast<EntryKind>( header & s_kKindMask );
-    if ( outline.m_kind == EntryKind::Line )
-    {
-        const LineLengths lengths = ReadLengths( place );
-        const uint extras = SkipExtras( header, place );
-        outline.m_length = lengths.m_line;
-        if ( ( extras & s_kHasPlaces ) == 0 )
-            outline.m_name = { lengths.NameBegin(), lengths.m_name };
-        outline.m_isContinued = ( header & s_kHasFolds ) != 0 || ( extras & s_kHasJoins ) != 0;
-    }
-    else
-    {
-        outline.m_length = ReadNumber( ++place );
-        const quint32 nested = outline.m_kind == EntryKind::Nested ? ReadNumber( place ) : 0;
-        place += nested;
-    }
+    a_entry.m_kind = EntryKind::Line;
+    a_entry.m_length = ReadLengths( place ).m_line;
     m_place = static_cast<quint32>( place - m_base );
-    return outline;
+    a_entry.m_oddities = {};
+    a_entry.m_encoding = PimContactEncoding::None;
+    a_entry.m_hasColon = ( header & IndexHeader::s_kHasColon ) != 0;
+    a_entry.m_hasFolds = ( header & IndexHeader::s_kHasFolds ) != 0;
+    a_entry.m_joins = {};
 }
 
-bool IndexReader::FindValue( const char* a_line, std::string_view& a_value ) const
+void IndexReader::ReadLine( IndexEntry& a_entry )
 {
     const uchar* place = m_base + m_place;
     const uint header = *place;
-    if ( ( header & ( s_kHasFolds | s_kHasExtras | s_kHasColon ) ) != s_kHasColon )
-        return false;
     const LineLengths lengths = ReadLengths( place );
-    const quint32 begin = lengths.NameBegin() + lengths.m_name + lengths.m_parameters + 1;
-    a_value = std::string_view( a_line + begin, lengths.m_line - begin );
-    return true;
-}
-
-void IndexReader::ReadLine( IndexEntry& a_entry, uint a_header )
-{
-    a_entry.m_hasColon = ( a_header & s_kHasColon ) != 0;
-    a_entry.m_hasFolds = ( a_header & s_kHasFolds ) != 0;
-    a_entry.m_name.m_length = Number();
-    a_entry.m_group.m_length = ( a_header & s_kHasGroup ) != 0 ? Number() : 0;
-    a_entry.m_parameters.m_length = ( a_header & s_kHasParameters ) != 0 ? Number() : 0;
-    a_entry.m_group.m_begin = 0;
-    a_entry.m_name.m_begin = a_entry.m_group.m_length == 0 ? 0 : a_entry.m_group.m_length + 1;
-    a_entry.m_parameters.m_begin = a_entry.m_name.End();
+    m_place = static_cast<quint32>( place - m_base );
+    a_entry.m_kind = EntryKind::Line;
+    a_entry.m_length = lengths.m_line;
+    a_entry.m_hasColon = ( header & IndexHeader::s_kHasColon ) != 0;
+    a_entry.m_hasFolds = ( header & IndexHeader::s_kHasFolds ) != 0;
+    a_entry.m_group = { 0, lengths.m_group };
+    a_entry.m_name = { lengths.NameBegin(), lengths.m_name };
+    a_entry.m_parameters = { a_entry.m_name.End(), lengths.m_parameters };
     a_entry.m_valueBegin = a_entry.m_parameters.End() + ( a_entry.m_hasColon ? 1 : 0 );
     a_entry.m_encoding = PimContactEncoding::None;
     a_entry.m_charset = LineCharset::Utf8;
     a_entry.m_oddities = {};
     a_entry.m_joins = {};
     a_entry.m_doSoftBreaksTakeBlank = false;
-    if ( ( a_header & s_kHasExtras ) != 0 )
+    if ( ( header & IndexHeader::s_kHasExtras ) != 0 )
         ReadExtras( a_entry );
 }
 

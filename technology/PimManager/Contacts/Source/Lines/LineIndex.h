@@ -130,6 +130,21 @@ private:
     quint32 m_begin = 0;
 };
 
+/// The first byte of an entry: the kind in the lowest three bits. Of a line five flags, of other parts a number.
+struct IndexHeader
+{
+    static constexpr uint s_kKindMask = 0x07;
+    static constexpr uint s_kDetailShift = 3;
+    static constexpr uint s_kHasGroup = 0x08;
+    static constexpr uint s_kHasParameters = 0x10;
+    static constexpr uint s_kHasColon = 0x20;
+    static constexpr uint s_kHasFolds = 0x40;
+    static constexpr uint s_kHasExtras = 0x80;
+    // Of the extras of a line.
+    static constexpr uint s_kExtraJoins = 0x20;
+    static constexpr uint s_kExtraPlaces = 0x40;
+};
+
 /// Writes entries.
 class IndexWriter
 {
@@ -173,7 +188,7 @@ public:
 
     bool AtEnd() const { return m_place >= m_end; }
     /// The kind of the next entry. Not at the end.
-    EntryKind NextKind() const { return static_cast<EntryKind>( m_base[m_place] & s_kKindMask ); }
+    EntryKind NextKind() const { return static_cast<EntryKind>( m_base[m_place] & IndexHeader::s_kKindMask ); }
     /// Where the next entry begins.
     quint32 Place() const { return m_place; }
     /// Goes on at the beginning of another entry.
@@ -182,6 +197,9 @@ public:
     /// Reads the next entry and steps behind it. If a_isBrief is set, the places and the character set of a line are
     /// not read.
     void Next( IndexEntry& a_entry, bool a_isBrief = false );
+
+    /// Reads the next entry, which is a line, and steps behind it.
+    void ReadLine( IndexEntry& a_entry );
 
     /// What Skip() reads of an entry.
     struct Outline
@@ -195,18 +213,79 @@ public:
     };
 
     /// Steps behind the next entry and reads no more than this.
-    Outline Skip();
+    Outline Skip()
+    {
+        const uchar* place = m_base + m_place;
+        const uint header = *place;
+        Outline outline;
+        outline.m_kind = static_cast<EntryKind>( header & IndexHeader::s_kKindMask );
+        if ( outline.m_kind == EntryKind::Line )
+        {
+            const LineLengths lengths = ReadLengths( place );
+            const uint extras = ( header & IndexHeader::s_kHasExtras ) != 0 ? SkipExtras( place ) : 0;
+            outline.m_length = lengths.m_line;
+            if ( ( extras & IndexHeader::s_kExtraPlaces ) == 0 )
+                outline.m_name = { lengths.NameBegin(), lengths.m_name };
+            outline.m_isContinued =
+                ( header & IndexHeader::s_kHasFolds ) != 0 || ( extras & IndexHeader::s_kExtraJoins ) != 0;
+        }
+        else
+        {
+            outline.m_length = ReadNumber( ++place );
+            const quint32 nested = outline.m_kind == EntryKind::Nested ? ReadNumber( place ) : 0;
+            place += nested;
+        }
+        m_place = static_cast<quint32>( place - m_base );
+        return outline;
+    }
+
+    /// What SkipPlain() reads of a line.
+    struct PlainLine
+    {
+        quint32 m_length = 0;
+        ByteRange m_name;
+        /// They follow the name, and the colon follows them.
+        ByteRange m_parameters;
+        bool m_hasFolds = false;
+    };
+
+    /// \return true if the next entry is a line in UTF-8 with a colon, and without an encoding, an oddity, or breaks
+    ///         other than plain folds. Not at the end.
+    bool IsPlain() const
+    {
+        return ( m_base[m_place] &
+                 ( IndexHeader::s_kKindMask | IndexHeader::s_kHasExtras | IndexHeader::s_kHasColon ) ) ==
+               ( static_cast<uint>( EntryKind::Line ) | IndexHeader::s_kHasColon );
+    }
+
+    /// Steps behind the next entry, which is plain.
+    PlainLine SkipPlain()
+    {
+        const uchar* place = m_base + m_place;
+        const bool hasFolds = ( *place & IndexHeader::s_kHasFolds ) != 0;
+        const LineLengths lengths = ReadLengths( place );
+        m_place = static_cast<quint32>( place - m_base );
+        const ByteRange name = { lengths.NameBegin(), lengths.m_name };
+        return { lengths.m_line, name, { name.End(), lengths.m_parameters }, hasFolds };
+    }
 
     /// Finds the value of the next entry, which is a line, without reading the rest of the entry.
     /// \param a_line       the bytes of the line and what follows it.
     /// \param[out] a_value the value, with the line ending.
     /// \return false if there is anything unusual about the line, or if it is continued or not in UTF-8.
-    bool FindValue( const char* a_line, std::string_view& a_value ) const;
+    bool FindValue( const char* a_line, std::string_view& a_value ) const
+    {
+        const uchar* place = m_base + m_place;
+        if ( ( *place & ( IndexHeader::s_kHasFolds | IndexHeader::s_kHasExtras | IndexHeader::s_kHasColon ) ) !=
+             IndexHeader::s_kHasColon )
+            return false;
+        const LineLengths lengths = ReadLengths( place );
+        const quint32 begin = lengths.NameBegin() + lengths.m_name + lengths.m_parameters + 1;
+        a_value = std::string_view( a_line + begin, lengths.m_line - begin );
+        return true;
+    }
 
 private:
-    // Of the header.
-    static constexpr uint s_kKindMask = 0x07;
-
     // The lengths that follow the header of a line.
     struct LineLengths
     {
@@ -217,10 +296,22 @@ private:
 
         quint32 NameBegin() const { return m_group == 0 ? 0 : m_group + 1; }
     };
-    static LineLengths ReadLengths( const uchar*& a_place );
-    static uint SkipExtras( uint a_header, const uchar*& a_place );
+    static LineLengths ReadLengths( const uchar*& a_place )
+    {
+        const uint header = *a_place++;
+        LineLengths lengths;
+        lengths.m_line = ReadNumber( a_place );
+        lengths.m_name = ReadNumber( a_place );
+        if ( ( header & IndexHeader::s_kHasGroup ) != 0 )
+            lengths.m_group = ReadNumber( a_place );
+        if ( ( header & IndexHeader::s_kHasParameters ) != 0 )
+            lengths.m_parameters = ReadNumber( a_place );
+        return lengths;
+    }
+    static uint SkipExtras( const uchar*& a_place );
 
-    void ReadLine( IndexEntry& a_entry, uint a_header );
+    void ReadBrief( IndexEntry& a_entry );
+    void ReadPart( IndexEntry& a_entry );
     void ReadExtras( IndexEntry& a_entry );
     quint32 Number();
 

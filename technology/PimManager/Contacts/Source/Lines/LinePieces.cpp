@@ -4,6 +4,7 @@
 #include "Text/Bytes.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace PimManager::Contacts
 {
@@ -70,26 +71,27 @@ QByteArray Unfolded( std::string_view a_line, const IndexEntry& a_entry, PimCont
                      ByteRange a_range )
 {
     QByteArray text;
-    LinePieces pieces( a_line, a_entry, a_style, a_range );
-    while ( pieces.Next() )
-    {
-        text.append( pieces.LineFeeds(), '\n' );
-        text.append( pieces.Text().data(), static_cast<int>( pieces.Text().size() ) );
-    }
+    AppendUnfolded( LinePieces( a_line, a_entry, a_style, a_range ), a_range.m_length, text );
     return text;
 }
 
-std::string_view WithoutLineEnd( std::string_view a_line )
+// A break has at least as many bytes as line feeds, unless the part ends inside the break.
+void AppendUnfolded( LinePieces a_pieces, quint32 a_length, QByteArray& a_out )
 {
-    if ( !a_line.empty() && a_line.back() == '\n' )
+    constexpr int s_kMostLineFeeds = 3;
+    const auto before = a_out.size();
+    a_out.resize( before + static_cast<int>( a_length ) + s_kMostLineFeeds );
+    char* out = a_out.data() + before;
+    while ( a_pieces.Next() )
     {
-        a_line.remove_suffix( 1 );
-        for ( int i = 0; i < 2 && !a_line.empty() && a_line.back() == '\r'; ++i )
-            a_line.remove_suffix( 1 );
+        for ( int i = 0; i < a_pieces.LineFeeds(); ++i )
+            *out++ = '\n';
+        const std::string_view text = a_pieces.Text();
+        if ( !text.empty() )
+            std::memcpy( out, text.data(), text.size() );
+        out += text.size();
     }
-    else if ( !a_line.empty() && a_line.back() == '\r' )
-        a_line.remove_suffix( 1 );
-    return a_line;
+    a_out.resize( static_cast<int>( out - a_out.constData() ) );
 }
 
 } // namespace PimManager::Contacts

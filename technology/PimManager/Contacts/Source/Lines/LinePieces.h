@@ -64,7 +64,23 @@ private:
 QByteArray Unfolded( std::string_view a_line, const IndexEntry& a_entry, PimContactFoldStyle a_style,
                      ByteRange a_range );
 
+/// Appends the pieces of a part of a line.
+/// \param a_length of the part with its breaks.
+void AppendUnfolded( LinePieces a_pieces, quint32 a_length, QByteArray& a_out );
+
 /// \return the line without its line ending.
-std::string_view WithoutLineEnd( std::string_view a_line );
+inline std::string_view WithoutLineEnd( std::string_view a_line )
+{
+    size_t size = a_line.size();
+    if ( size > 0 && a_line[size - 1] == '\n' )
+    {
+        --size;
+        for ( int i = 0; i < 2 && size > 0 && a_line[size - 1] == '\r'; ++i )
+            --size;
+    }
+    else if ( size > 0 && a_line[size - 1] == '\r' )
+        --size;
+    return std::string_view( a_line.data(), size );
+}
 
 } // namespace PimManager::Contacts

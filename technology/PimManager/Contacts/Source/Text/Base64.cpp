@@ -1,5 +1,6 @@
 #include "Text/Base64.h"
 
+#include "Text/Base64Vectors.h"
 #include "Text/Bytes.h"
 
 #include <QtEndian>
@@ -65,12 +66,13 @@ inline void Write( quint32 a_group, char* a_place )
 }
 
 /// Decodes complete groups up to the first one that has another character.
-/// \return the number of characters decoded. The byte behind the output is overwritten.
-size_t DecodeGroups( std::string_view a_text, char* a_out )
+/// \param a_out advances behind the output. The byte there is overwritten.
+/// \return the end of what was decoded.
+const char* DecodeGroups( const char* a_text, const char* a_end, char*& a_out )
 {
     constexpr size_t s_kRun = 4 * s_kGroup;
-    const char* place = a_text.data();
-    const char* const end = place + a_text.size();
+    const char* place = a_text;
+    const char* const end = a_end;
     for ( ; static_cast<size_t>( end - place ) >= s_kRun; place += s_kRun, a_out += 4 * s_kBytesOfGroup )
     {
         const quint32 first = GroupAt( place );
@@ -90,6 +92,46 @@ size_t DecodeGroups( std::string_view a_text, char* a_out )
         if ( ( group & s_kOther ) != 0 )
             break;
         Write( group, a_out );
+    }
+    return place;
+}
+
+/// Decodes the group that a break divides: a CR LF and the blank behind it, as in a folded line.
+/// \return the end of the group; a_text if there is anything else.
+const char* DecodeDividedGroup( const char* a_text, const char* a_end, char*& a_out )
+{
+    constexpr size_t s_kBreak = 3;
+    if ( static_cast<size_t>( a_end - a_text ) < s_kGroup + s_kBreak )
+        return a_text;
+    size_t before = 0;
+    while ( before < s_kGroup && a_text[before] != '\r' )
+        ++before;
+    const char* const behind = a_text + before + s_kBreak;
+    if ( before == s_kGroup || behind[-2] != '\n' || !IsBlank( behind[-1] ) )
+        return a_text;
+    std::array<char, s_kGroup> characters;
+    for ( size_t i = 0; i < s_kGroup; ++i )
+        characters[i] = i < before ? a_text[i] : a_text[i + s_kBreak];
+    const quint32 group = GroupAt( characters.data() );
+    if ( ( group & s_kOther ) != 0 )
+        return a_text;
+    Write( group, a_out );
+    a_out += s_kBytesOfGroup;
+    return a_text + s_kGroup + s_kBreak;
+}
+
+/// Decodes complete groups and the breaks of folded lines.
+/// \param a_out advances behind the output. Four bytes there are overwritten.
+/// \return the number of characters decoded.
+size_t DecodeLines( std::string_view a_text, char*& a_out )
+{
+    const char* place = a_text.data();
+    const char* const end = place + a_text.size();
+    for ( const char* line = nullptr; line != place; )
+    {
+        const size_t vectors = DecodeBase64Vectors( place, static_cast<size_t>( end - place ), a_out );
+        line = DecodeGroups( place + vectors, end, a_out );
+        place = DecodeDividedGroup( line, end, a_out );
     }
     return static_cast<size_t>( place - a_text.data() );
 }
@@ -118,9 +160,7 @@ bool Base64Decoder::Take( std::string_view a_piece )
     {
         if ( m_held == 0 && !m_isPadded )
         {
-            const size_t decoded = DecodeGroups( a_piece.substr( place ), m_end );
-            m_end += decoded / s_kGroup * s_kBytesOfGroup;
-            place += decoded;
+            place += DecodeLines( a_piece.substr( place ), m_end );
             if ( place == a_piece.size() )
                 break;
         }

@@ -1,20 +1,58 @@
 #include "Text/Bytes.h"
 
+#include "Text/EightBytes.h"
+
 #include <algorithm>
+#include <cstring>
 
 namespace PimManager::Contacts
 {
 
-bool IsSameWord( std::string_view a_first, std::string_view a_second )
+namespace
 {
-    return a_first.size() == a_second.size() &&
-           std::equal( a_first.begin(), a_first.end(), a_second.begin(),
+
+constexpr size_t s_kFour = 4;
+
+using FourBytes = uchar __attribute__( ( vector_size( s_kFour ) ) );
+using FourUnits = ushort __attribute__( ( vector_size( s_kFour * sizeof( ushort ) ) ) );
+using EightBytes = uchar __attribute__( ( vector_size( s_kWord ) ) );
+using EightUnits = ushort __attribute__( ( vector_size( s_kWord * sizeof( ushort ) ) ) );
+
+template <class Bytes, class Units>
+void Widen( const char* a_from, QChar* a_to )
+{
+    Bytes bytes;
+    std::memcpy( &bytes, a_from, sizeof( bytes ) );
+    const Units units = __builtin_convertvector( bytes, Units );
+    std::memcpy( static_cast<void*>( a_to ), &units, sizeof( units ) );
+}
+
+// The last ones may overlap those before them.
+template <class Bytes, class Units>
+void WidenAll( std::string_view a_text, QChar* a_to )
+{
+    for ( size_t place = 0; place + sizeof( Bytes ) < a_text.size(); place += sizeof( Bytes ) )
+        Widen<Bytes, Units>( a_text.data() + place, a_to + place );
+    const size_t last = a_text.size() - sizeof( Bytes );
+    Widen<Bytes, Units>( a_text.data() + last, a_to + last );
+}
+
+} // namespace
+
+bool IsSameText( std::string_view a_first, std::string_view a_second )
+{
+    return std::equal( a_first.begin(), a_first.end(), a_second.begin(),
                        []( char a_left, char a_right ) { return Upper( a_left ) == Upper( a_right ); } );
 }
 
 bool IsName( std::string_view a_text )
 {
     return !a_text.empty() && std::all_of( a_text.begin(), a_text.end(), IsNameByte );
+}
+
+bool AreDigits( std::string_view a_text )
+{
+    return !a_text.empty() && std::all_of( a_text.begin(), a_text.end(), IsDigit );
 }
 
 bool IsBase64( std::string_view a_text )
@@ -64,9 +102,43 @@ QByteArray BytesOf( std::string_view a_text )
     return QByteArray( a_text.data(), static_cast<int>( a_text.size() ) );
 }
 
+// Eight bytes at once; the last eight may overlap those before them.
+bool AreAllAscii( std::string_view a_text )
+{
+    if ( a_text.size() <= s_kWord )
+        return ( FirstEight( a_text ) & s_kHighBits ) == 0;
+    const char* place = a_text.data();
+    const char* const end = place + a_text.size();
+    quint64 all = 0;
+    for ( ; static_cast<size_t>( end - place ) > sizeof( all ); place += sizeof( all ) )
+        all |= WordAt( place );
+    return ( ( all | WordAt( end - sizeof( all ) ) ) & s_kHighBits ) == 0;
+}
+
+// Most texts are short, and QString::fromLatin1() costs three calls.
+QString AsciiString( std::string_view a_text )
+{
+    QString string( static_cast<int>( a_text.size() ), Qt::Uninitialized );
+    QChar* const out = string.data();
+    if ( a_text.size() >= s_kWord )
+        WidenAll<EightBytes, EightUnits>( a_text, out );
+    else if ( a_text.size() >= s_kFour )
+        WidenAll<FourBytes, FourUnits>( a_text, out );
+    else
+        std::transform( a_text.begin(), a_text.end(), out, []( char a_byte ) { return QLatin1Char( a_byte ); } );
+    return string;
+}
+
 // Qt leaves out a byte order mark at the start.
 QString StringOf( std::string_view a_text )
 {
+    if ( a_text.empty() )
+        return QString();
+    if ( AreAllAscii( a_text ) )
+        return AsciiString( a_text );
+    const auto size = static_cast<int>( a_text.size() );
+    if ( a_text.front() != s_kByteOrderMark.front() )
+        return QString::fromUtf8( a_text.data(), size );
     const size_t marks = LengthOfMarks( a_text );
     const std::string_view rest = a_text.substr( marks );
     const QString text = QString::fromUtf8( rest.data(), static_cast<int>( rest.size() ) );

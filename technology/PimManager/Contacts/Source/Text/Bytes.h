@@ -24,8 +24,13 @@ inline bool IsBlank( char a_byte )
     return a_byte == ' ' || a_byte == '\t';
 }
 
+inline bool IsDigit( char a_byte )
+{
+    return a_byte >= '0' && a_byte <= '9';
+}
+
 /// A letter, a digit or "-": what names consist of.
-inline bool IsNameByte( char a_byte )
+constexpr bool IsNameByte( char a_byte )
 {
     return ( a_byte >= 'A' && a_byte <= 'Z' ) || ( a_byte >= 'a' && a_byte <= 'z' ) ||
            ( a_byte >= '0' && a_byte <= '9' ) || a_byte == '-';
@@ -52,14 +57,34 @@ inline char Upper( char a_byte )
     return a_byte >= 'a' && a_byte <= 'z' ? static_cast<char>( a_byte - ( 'a' - 'A' ) ) : a_byte;
 }
 
+inline char Lower( char a_byte )
+{
+    return a_byte >= 'A' && a_byte <= 'Z' ? static_cast<char>( a_byte + ( 'a' - 'A' ) ) : a_byte;
+}
+
+/// \return true for the same word in any letter case of ASCII. Both have the same length.
+bool IsSameText( std::string_view a_first, std::string_view a_second );
+
 /// \return true for the same word in any letter case of ASCII.
-bool IsSameWord( std::string_view a_first, std::string_view a_second );
+inline bool IsSameWord( std::string_view a_first, std::string_view a_second )
+{
+    // Most words differ in their length or their first letter.
+    return a_first.size() == a_second.size() &&
+           ( a_first.empty() ||
+             ( Upper( a_first.front() ) == Upper( a_second.front() ) && IsSameText( a_first, a_second ) ) );
+}
 
 /// \return true if it is not empty and has only name bytes.
 bool IsName( std::string_view a_text );
 
+/// \return true if it is not empty and has only digits.
+bool AreDigits( std::string_view a_text );
+
 /// \return true if it is not empty and has only bytes of BASE64.
 bool IsBase64( std::string_view a_text );
+
+/// \return true if it is empty or has only bytes of ASCII.
+bool AreAllAscii( std::string_view a_text );
 
 /// \return true if it has only blanks and tabs.
 bool AreAllBlank( std::string_view a_text );
@@ -85,6 +110,9 @@ inline std::string_view ViewOf( const QByteArray& a_bytes )
 }
 
 QByteArray BytesOf( std::string_view a_text );
+
+/// \param a_text ASCII.
+QString AsciiString( std::string_view a_text );
 
 /// \param a_text UTF-8. A byte order mark at the start is a character of the text.
 QString StringOf( std::string_view a_text );

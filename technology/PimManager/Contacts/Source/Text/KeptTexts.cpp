@@ -5,6 +5,12 @@
 namespace PimManager::Contacts
 {
 
+bool IsInside( std::string_view a_part, std::string_view a_text )
+{
+    const std::less<> isBefore;
+    return !isBefore( a_part.data(), a_text.data() ) && isBefore( a_part.data(), a_text.data() + a_text.size() );
+}
+
 void KeptTexts::Begin( std::string_view a_text )
 {
     m_text = a_text;
@@ -13,9 +19,7 @@ void KeptTexts::Begin( std::string_view a_text )
 
 std::string_view KeptTexts::Keep( std::string_view a_part )
 {
-    const std::less<> isBefore;
-    const char* const end = m_text.data() + m_text.size();
-    if ( a_part.empty() || ( !isBefore( a_part.data(), m_text.data() ) && isBefore( a_part.data(), end ) ) )
+    if ( a_part.empty() || IsInside( a_part, m_text ) )
         return a_part;
     if ( !m_hasCopies )
     {

@@ -10,6 +10,9 @@
 namespace PimManager::Contacts
 {
 
+/// \return true if a part that is not empty lies in the memory of a text.
+bool IsInside( std::string_view a_part, std::string_view a_text );
+
 /// Keeps parts of one text. A part that lies inside the text is not copied; others are parts from which something was
 /// removed, and they are copied. Keeps its memory.
 class KeptTexts

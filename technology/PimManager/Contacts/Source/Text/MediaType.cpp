@@ -44,7 +44,7 @@ bool Matches( std::string_view a_start, std::string_view a_pattern )
 
 bool IsTokenByte( char a_byte )
 {
-    return IsNameByte( a_byte ) || a_byte == '.' || a_byte == '+';
+    return IsNameByte( a_byte ) || std::string_view( "!#$&^_.+" ).find( a_byte ) != std::string_view::npos;
 }
 
 bool IsToken( std::string_view a_text )
@@ -62,13 +62,17 @@ std::string_view MediaTypeBySignature( std::string_view a_start )
     return found == s_kSignatures.end() ? std::string_view() : found->m_mediaType;
 }
 
+bool IsMediaType( std::string_view a_text )
+{
+    const size_t slash = a_text.find( '/' );
+    return slash != std::string_view::npos && IsToken( a_text.substr( 0, slash ) ) &&
+           IsToken( a_text.substr( slash + 1 ) );
+}
+
 QByteArray MediaTypeNamed( std::string_view a_text )
 {
     const std::string_view type = Trimmed( a_text.substr( 0, a_text.find( ';' ) ) );
-    const size_t slash = type.find( '/' );
-    const bool isType =
-        slash != std::string_view::npos && IsToken( type.substr( 0, slash ) ) && IsToken( type.substr( slash + 1 ) );
-    return isType ? BytesOf( type ).toLower() : QByteArray();
+    return IsMediaType( type ) ? BytesOf( type ).toLower() : QByteArray();
 }
 
 } // namespace PimManager::Contacts

@@ -17,6 +17,9 @@ namespace PimManager::Contacts
 ///         BMP image: the four reserved bytes of its header must be zero.
 std::string_view MediaTypeBySignature( std::string_view a_start );
 
+/// \return true for a media type without parameters, such as `image/svg+xml` (RFC 6838, section 4.2).
+bool IsMediaType( std::string_view a_text );
+
 /// \return a media type in small letters and without parameters; empty if the text is none, as `JPEG` is not.
 QByteArray MediaTypeNamed( std::string_view a_text );
 

@@ -1,6 +1,9 @@
 #include "Text/WhiteSpace.h"
 
 #include "Text/Bytes.h"
+#include "Text/EightBytes.h"
+
+#include <QtGlobal>
 
 #include <algorithm>
 #include <array>
@@ -47,10 +50,41 @@ size_t LengthOfWideSpace( std::string_view a_text )
     return found == s_kWide.end() ? 0 : found->size();
 }
 
-/// \return the end of the words at the start of a text that single blanks divide already.
-size_t EndOfWords( std::string_view a_text )
+/// \return true if eight bytes, the first one lowest, are visible ASCII and single blanks.
+/// \param a_isNextVisible decides whether a blank that is the last of them is a single one.
+bool ArePlainWords( quint64 a_bytes, bool a_isNextVisible )
+{
+    // These have the high bit of each byte of ASCII from a blank on, behind a blank, and of DEL.
+    const quint64 fromBlank = a_bytes + s_kOnes * ( 0x80 - ' ' );
+    const quint64 behindBlank = a_bytes + s_kOnes * ( 0x80 - ' ' - 1 );
+    const quint64 isDelete = a_bytes + s_kOnes;
+    const quint64 blanks = ( fromBlank & ~behindBlank ) & s_kHighBits;
+    const quint64 next = a_isNextVisible ? 0 : s_kHighBits << 56U;
+    const quint64 doubles = blanks & ( blanks >> 8U | next );
+    return ( ( a_bytes | ~fromBlank | isDelete ) & s_kHighBits ) == 0 && doubles == 0;
+}
+
+/// \return the length of the visible ASCII and single blanks at the start of a text: either all of it, or in steps of
+///         eight bytes.
+size_t LengthOfPlainWords( std::string_view a_text )
 {
     size_t place = 0;
+    for ( ; a_text.size() - place > s_kWord; place += s_kWord )
+    {
+        const std::string_view rest( a_text.data() + place, a_text.size() - place );
+        if ( !ArePlainWords( FirstEight( rest ), IsVisibleAscii( rest[s_kWord] ) ) )
+            return place;
+    }
+    // The rest is filled up with letters.
+    const std::string_view rest( a_text.data() + place, a_text.size() - place );
+    return ArePlainWords( FirstEight( rest, 'x' ), false ) ? a_text.size() : place;
+}
+
+/// \return the end of the words at the start of a text that single blanks divide already. No white space is at the end
+///         of the text.
+size_t EndOfWords( std::string_view a_text )
+{
+    size_t place = LengthOfPlainWords( a_text );
     while ( place < a_text.size() )
     {
         const bool isSingleBlank =
@@ -103,6 +137,16 @@ void AppendWords( std::string_view a_text, QByteArray& a_out )
         while ( const size_t length = LengthOfWhiteSpace( rest ) )
             rest.remove_prefix( length );
     }
+}
+
+std::string_view WordsIn( std::string_view a_text, QByteArray& a_buffer )
+{
+    const std::string_view text = WithoutOuterSpace( a_text );
+    if ( EndOfWords( text ) == text.size() )
+        return text;
+    a_buffer.resize( 0 );
+    AppendWords( text, a_buffer );
+    return ViewOf( a_buffer );
 }
 
 } // namespace PimManager::Contacts

@@ -30,4 +30,8 @@ inline std::string_view WithoutOuterSpace( std::string_view a_text )
 /// Appends the words of a text. One blank precedes each word, unless the result is empty before.
 void AppendWords( std::string_view a_text, QByteArray& a_out );
 
+/// \param a_buffer receives the words, unless single blanks divide them in the text already.
+/// \return the words of a text, divided by single blanks.
+std::string_view WordsIn( std::string_view a_text, QByteArray& a_buffer );
+
 } // namespace PimManager::Contacts

@@ -1,10 +1,10 @@
 #include "Values/Base64Value.h"
 
 #include "Text/Base64.h"
+#include "Text/Buffer.h"
 #include "Text/Bytes.h"
 #include "Text/Codec.h"
 #include "Text/EncodedCharset.h"
-#include "Values/Buffer.h"
 
 namespace PimManager::Contacts
 {
@@ -40,10 +40,20 @@ bool ConvertToUtf8( Charset a_charset, QByteArray& a_bytes, QByteArray& a_text )
 
 } // namespace
 
-// Joins the lines while decoding, because a picture has thousands of them.
+// A picture has thousands of lines. Folds are white space, which the decoder ignores; the place of a fault does not
+// count them.
 qint64 DecodeBase64Value( const IndexedLine& a_line, QByteArray& a_bytes )
 {
     const ByteRange value = a_line.ValueRange();
+    const auto before = a_bytes.size();
+    if ( a_line.m_entry.m_joins.m_size == 0 )
+    {
+        Base64Decoder decoder( value.m_length, a_bytes );
+        decoder.Take( value.In( a_line.m_text ) );
+        if ( decoder.Finish() )
+            return decoder.FaultPlace();
+        a_bytes.resize( before );
+    }
     Base64Decoder decoder( value.m_length, a_bytes );
     LinePieces pieces = a_line.Pieces( value );
     bool isSound = true;

@@ -4,6 +4,7 @@
 #include "Text/Base64.h"
 #include "Text/Bytes.h"
 #include "Text/FileSignature.h"
+#include "Text/MediaType.h"
 #include "Text/PercentEncoding.h"
 #include "Values/Base64Value.h"
 #include "Values/ValueDecoder.h"
@@ -66,35 +67,28 @@ void ValueStart::Take( std::string_view a_piece )
     }
 }
 
-/// \return true for the letter, and for all that is left out before it: blanks, backslashes, and breaks between lines.
-bool MayBeLetter( char a_byte, char a_letter )
-{
-    return Upper( a_byte ) == a_letter || IsBlank( a_byte ) || a_byte == '\\' || a_byte == '=' ||
-           IsLineEndByte( a_byte );
-}
-
-// Most values do not begin like this, and then nothing has to be copied.
-bool MayBeDataUri( const IndexedLine& a_line )
-{
-    const std::string_view value = a_line.ValueRange().In( a_line.m_text );
-    return value.size() > 1 && MayBeLetter( value[0], 'D' ) && MayBeLetter( value[1], 'A' );
-}
-
 bool IsDataUri( std::string_view a_text )
 {
     return IsSameWord( a_text.substr( 0, s_kDataScheme.size() ), s_kDataScheme );
 }
 
-bool HasKnownSignature( std::string_view a_base64 )
+/// \return the bytes that the first characters of BASE64 encode; empty if they are too few, or not BASE64.
+QByteArray SignatureOf( std::string_view a_base64 )
 {
     QByteArray start;
     Base64Decoder decoder( a_base64.size(), start );
     decoder.Take( a_base64 );
     if ( !decoder.Finish() || static_cast<size_t>( start.size() ) < s_kSignatureBytes )
-        return false;
+        return QByteArray();
+    return start.left( static_cast<int>( s_kSignatureBytes ) );
+}
+
+bool HasKnownSignature( std::string_view a_base64 )
+{
+    const QByteArray start = SignatureOf( a_base64 );
     const std::string_view bytes = ViewOf( start );
-    return FileKindBySignature( bytes.substr( 0, s_kSignatureBytes ) ) == PimContactFileKind::Image ||
-           StartsWithOneOf( bytes, s_kSounds ) || StartsWithOneOf( bytes, s_kKeys );
+    return !start.isEmpty() && ( FileKindBySignature( bytes ) == PimContactFileKind::Image ||
+                                 StartsWithOneOf( bytes, s_kSounds ) || StartsWithOneOf( bytes, s_kKeys ) );
 }
 
 void DecodeBase64( std::string_view a_text, BinaryData& a_data )
@@ -161,7 +155,7 @@ bool IsBinary( const IndexedLine& a_line, const ValueDecoder& a_decoder, bool a_
 {
     if ( a_line.m_entry.m_encoding == PimContactEncoding::Base64 )
         return !a_decoder.IsBase64Text();
-    if ( !a_isMedia && !MayBeDataUri( a_line ) )
+    if ( !MayBeBinary( a_line, a_isMedia ) )
         return false;
     const ValueStart start( a_line );
     return IsDataUri( start.Text() ) || ( a_isMedia && HasKnownSignature( start.Text() ) );
@@ -178,6 +172,19 @@ bool IsBinary( const IndexedLine& a_line )
     ValueDecoder decoder;
     decoder.DecodeBase64Text( a_line );
     return IsBinary( a_line, decoder );
+}
+
+QByteArray DetectedTypeOf( const IndexedLine& a_line )
+{
+    const ValueStart start( a_line );
+    const QByteArray signature = IsDataUri( start.Text() ) ? QByteArray() : SignatureOf( start.Text() );
+    return signature.isEmpty() ? DecodedBinary( a_line ).DetectedType()
+                               : BytesOf( MediaTypeBySignature( ViewOf( signature ) ) );
+}
+
+QByteArray NamedTypeOf( const IndexedLine& a_line )
+{
+    return IsDataUri( ValueStart( a_line ).Text() ) ? DecodedBinary( a_line ).MediaType() : QByteArray();
 }
 
 PimContactBinary DecodedBinary( const IndexedLine& a_line )

@@ -4,12 +4,15 @@
 #pragma once
 
 #include "Cards/LineView.h"
+#include "Text/Bytes.h"
 
 #include <PimManager/Contacts/PimContactBinary.h>
 
 #include <QByteArray>
 #include <QSharedData>
 #include <QtGlobal>
+
+#include <string_view>
 
 namespace PimManager::Contacts
 {
@@ -47,6 +50,30 @@ bool IsBinary( const IndexedLine& a_line, const ValueDecoder& a_decoder );
 /// The same for a caller who knows the name as well.
 /// \param a_isMedia IsMediaName() of the name of the line.
 bool IsBinary( const IndexedLine& a_line, const ValueDecoder& a_decoder, bool a_isMedia );
+
+/// \return true for the letter, and for all that is left out before it: blanks, backslashes, and breaks between lines.
+inline bool MayBeLetterOfScheme( char a_byte, char a_letter )
+{
+    return Upper( a_byte ) == a_letter || IsBlank( a_byte ) || a_byte == '\\' || a_byte == '=' ||
+           IsLineEndByte( a_byte );
+}
+
+/// A quick look at the first two bytes of a value.
+/// \return false if IsBinary() is false. Most values do not begin like a `data:` URI.
+inline bool MayBeBinary( const IndexedLine& a_line, bool a_isMedia )
+{
+    if ( a_isMedia || a_line.m_entry.m_encoding == PimContactEncoding::Base64 )
+        return true;
+    const std::string_view value = a_line.ValueRange().In( a_line.m_text );
+    return value.size() > 1 && MayBeLetterOfScheme( value[0], 'D' ) && MayBeLetterOfScheme( value[1], 'A' );
+}
+
+/// \return the media type of a value that is binary, by its first bytes; empty if they are not known. No more than the
+///         start is decoded, unless it is a `data:` URI.
+QByteArray DetectedTypeOf( const IndexedLine& a_line );
+
+/// \return the media type that a `data:` URI names, as written; empty for any other value.
+QByteArray NamedTypeOf( const IndexedLine& a_line );
 
 /// Decodes the value of a line. \return a null value if it is not binary.
 PimContactBinary BinaryOf( const IndexedLine& a_line );

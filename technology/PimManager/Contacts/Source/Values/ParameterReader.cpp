@@ -1,8 +1,10 @@
 #include "Values/ParameterReader.h"
 
+#include "Lines/ParameterTable.h"
+#include "Text/Buffer.h"
 #include "Text/Bytes.h"
 #include "Text/Charset.h"
-#include "Values/Buffer.h"
+#include "Values/EncodedLabel.h"
 #include "Values/Findings.h"
 #include "Values/PartReader.h"
 
@@ -21,13 +23,6 @@ constexpr std::string_view s_kLabelParameter = "LABEL";
 
 constexpr std::array s_kPlainEncodings = { "7BIT"sv, "8BIT"sv, "BINARY"sv };
 constexpr std::array s_kValueKinds = { "INLINE"sv, "URL"sv, "CID"sv, "CONTENT-ID"sv };
-// Of the standards, other than PREF, which is a type in versions 2.1 and 3.0.
-constexpr std::array s_kParameters = {
-    "TYPE"sv,     "VALUE"sv,   "ENCODING"sv, "CHARSET"sv,      "LANGUAGE"sv, "CONTEXT"sv,     "ALTID"sv,
-    "PID"sv,      "LABEL"sv,   "GEO"sv,      "TZ"sv,           "SORT-AS"sv,  "MEDIATYPE"sv,   "CALSCALE"sv,
-    "CC"sv,       "INDEX"sv,   "LEVEL"sv,    "AUTHOR"sv,       "CREATED"sv,  "AUTHOR-NAME"sv, "DERIVED"sv,
-    "PHONETIC"sv, "PROP-ID"sv, "SCRIPT"sv,   "SERVICE-TYPE"sv, "USERNAME"sv, "JSPTR"sv,       "JSCOMPS"sv,
-};
 
 template <size_t s_kSize>
 bool IsOneOf( std::string_view a_word, const std::array<std::string_view, s_kSize>& a_words )
@@ -36,18 +31,16 @@ bool IsOneOf( std::string_view a_word, const std::array<std::string_view, s_kSiz
                         [a_word]( std::string_view a_other ) { return IsSameWord( a_word, a_other ); } );
 }
 
+// PREF is a type in versions 2.1 and 3.0.
+bool IsParameter( std::string_view a_name )
+{
+    const StandardParameter parameter = StandardParameterOf( a_name );
+    return parameter != StandardParameter::Other && parameter != StandardParameter::Pref;
+}
+
 bool IsCharset( std::string_view a_word )
 {
     return Charset::Of( a_word ).IsKnown();
-}
-
-std::string_view NameOfBare( std::string_view a_word )
-{
-    if ( EncodingOf( a_word ) != PimContactEncoding::None || IsOneOf( a_word, s_kPlainEncodings ) )
-        return s_kEncodingParameter;
-    if ( IsOneOf( a_word, s_kValueKinds ) )
-        return s_kValueParameter;
-    return IsCharset( a_word ) ? s_kCharsetParameter : s_kTypeParameter;
 }
 
 /// \return the place of the quote that closes the one at the start: a comma or the end follows it.
@@ -118,6 +111,15 @@ void RemoveCarets( std::string_view a_text, QByteArray& a_out )
 
 } // namespace
 
+std::string_view NameOfBare( std::string_view a_word )
+{
+    if ( EncodingOf( a_word ) != PimContactEncoding::None || IsOneOf( a_word, s_kPlainEncodings ) )
+        return s_kEncodingParameter;
+    if ( IsOneOf( a_word, s_kValueKinds ) )
+        return s_kValueParameter;
+    return IsCharset( a_word ) ? s_kCharsetParameter : s_kTypeParameter;
+}
+
 ParameterReader::ParameterReader( std::string_view a_parameters, PimContactVersion a_version ) :
     m_splitter( a_parameters ),
     m_areCaretsText( a_version == PimContactVersion::V21 )
@@ -143,6 +145,15 @@ bool ParameterReader::Next()
 
 void ParameterReader::BeginParameter( std::string_view a_parameter )
 {
+    m_isFirst = true;
+    m_hasElement = true;
+    m_isLabel = IsEncodedLabel( a_parameter );
+    if ( m_isLabel )
+    {
+        m_parameterName = a_parameter.substr( 0, s_kCustomParameter.size() );
+        m_rest = a_parameter;
+        return;
+    }
     const bool isQuoted = !a_parameter.empty() && a_parameter.front() == '"';
     m_isNoQuoteClosed = isQuoted && FindClosingQuote( a_parameter ) == std::string_view::npos;
     const std::string_view parameter = m_isNoQuoteClosed ? WithoutOpenQuotes( a_parameter ) : a_parameter;
@@ -151,24 +162,33 @@ void ParameterReader::BeginParameter( std::string_view a_parameter )
     const bool hasName = equals < parameter.size() && parameter[equals] == '=';
     m_parameterName = hasName ? TrimmedRight( parameter.substr( 0, equals ) ) : std::string_view();
     m_rest = m_parameterName.empty() ? parameter : parameter.substr( equals + 1 );
-    if ( !m_parameterName.empty() && IsWhiteSpace( m_rest ) && !IsOneOf( m_parameterName, s_kParameters ) )
+    if ( !m_parameterName.empty() && IsWhiteSpace( m_rest ) && !IsParameter( m_parameterName ) )
     {
         m_rest = m_parameterName;
         m_parameterName = std::string_view();
     }
-    m_isFirst = true;
     m_isType = m_parameterName.empty() || IsSameWord( m_parameterName, s_kTypeParameter );
-    m_hasElement = true;
 }
 
 /// \return false if the next element is no value.
 bool ParameterReader::TakeValue()
 {
+    if ( m_isLabel )
+        return TakeLabel();
     const std::string_view repeated = m_parameterName.empty() ? s_kTypeParameter : m_parameterName;
     const std::string_view element = WithoutName( TakeElement(), repeated );
     m_name = m_parameterName.empty() ? NameOfBare( element ) : m_parameterName;
     m_value = Decoded( element );
     return !element.empty() || !m_isType;
+}
+
+bool ParameterReader::TakeLabel()
+{
+    m_hasElement = false;
+    DecodeLabel( m_rest, m_text );
+    m_name = m_parameterName;
+    m_value = ViewOf( m_text );
+    return true;
 }
 
 std::string_view ParameterReader::TakeElement()

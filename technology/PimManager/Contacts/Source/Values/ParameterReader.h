@@ -19,6 +19,9 @@ constexpr std::string_view s_kValueParameter = "VALUE";
 constexpr std::string_view s_kEncodingParameter = "ENCODING";
 constexpr std::string_view s_kCharsetParameter = "CHARSET";
 
+/// \return the name of the parameter that a bare word belongs to: `TYPE` for HOME, `ENCODING` for BASE64.
+std::string_view NameOfBare( std::string_view a_word );
+
 /// Reads the values of all parameters one after the other. Each element of a list is a value.
 ///
 /// - A bare word such as `HOME` is a TYPE. Encodings (`QUOTED-PRINTABLE`, `BASE64`, `8BIT` ...) are an ENCODING,
@@ -28,6 +31,8 @@ constexpr std::string_view s_kCharsetParameter = "CHARSET";
 /// - Quotes are removed. A comma in quotes does not delimit, except in TYPE: `TYPE="home,voice"` has two values.
 /// - In versions 3.0 and 4.0, and without a version, `^n`, `^'` and `^^` become a line feed, a quote and a caret
 ///   (RFC 6868). In version 2.1 a caret is text.
+/// - `X-CUSTOM(CHARSET=UTF-8,ENCODING=QUOTED-PRINTABLE,=42=6F)` is an X-CUSTOM with the decoded value; see
+/// EncodedLabel.h.
 /// - In LABEL, the escapes of values are removed as well (RFC 6350, section 6.3.1).
 class ParameterReader
 {
@@ -50,6 +55,7 @@ public:
 private:
     void BeginParameter( std::string_view a_parameter );
     bool TakeValue();
+    bool TakeLabel();
     std::string_view TakeElement();
     bool TakeQuoted();
     std::string_view Decoded( std::string_view a_element );
@@ -60,6 +66,7 @@ private:
     // Of the parameter: its name, empty if it is bare, and the elements that follow.
     std::string_view m_parameterName;
     bool m_isType = false;
+    bool m_isLabel = false;
     bool m_isFirst = false;
     std::string_view m_rest;
     bool m_hasRest = false;

@@ -1,10 +1,11 @@
 #include "Values/PartReader.h"
 
+#include "Text/Buffer.h"
 #include "Text/Bytes.h"
-#include "Values/Buffer.h"
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace PimManager::Contacts
 {
@@ -24,6 +25,32 @@ constexpr std::array<quint8, 256> FindClasses()
 }
 
 constexpr std::array<quint8, 256> s_kClasses = FindClasses();
+
+constexpr quint64 EachByte( char a_byte )
+{
+    return 0x0101010101010101ULL * static_cast<uchar>( a_byte );
+}
+
+// Zero if no byte is.
+constexpr quint64 HasZeroByte( quint64 a_word )
+{
+    return ( a_word - EachByte( 1 ) ) & ~a_word & EachByte( '\x80' );
+}
+
+/// \return the first eight bytes that have a backslash, semicolon or comma, or the last few bytes.
+const char* PassWords( const char* a_place, const char* a_end )
+{
+    quint64 word = 0;
+    for ( ; static_cast<size_t>( a_end - a_place ) >= sizeof( word ); a_place += sizeof( word ) )
+    {
+        std::memcpy( &word, a_place, sizeof( word ) );
+        const quint64 found = HasZeroByte( word ^ EachByte( '\\' ) ) | HasZeroByte( word ^ EachByte( ';' ) ) |
+                              HasZeroByte( word ^ EachByte( ',' ) );
+        if ( found != 0 )
+            break;
+    }
+    return a_place;
+}
 
 } // namespace
 
@@ -45,8 +72,8 @@ inline size_t PartReader::FindByte( size_t a_place ) const
     if ( m_specials == s_kBackslash )
         return std::min( m_text.find( '\\', a_place ), m_text.size() );
     const uint specials = m_specials;
-    const char* place = m_text.data() + a_place;
     const char* const end = m_text.data() + m_text.size();
+    const char* place = PassWords( m_text.data() + a_place, end );
     while ( place < end && ( s_kClasses[static_cast<uchar>( *place )] & specials ) == 0 )
         ++place;
     return static_cast<size_t>( place - m_text.data() );
@@ -70,10 +97,14 @@ inline size_t PartReader::FindSpecial( size_t a_place )
 
 inline void PartReader::EndPart( size_t a_begin, size_t a_end )
 {
-    if ( m_hasEscapes )
-        Append( m_buffer, m_text.substr( m_copied, a_end - m_copied ) );
-    m_part = m_hasEscapes ? ViewOf( m_buffer ) : m_text.substr( a_begin, a_end - a_begin );
-    m_hasEscapes = false;
+    if ( m_end == nullptr )
+    {
+        m_part = m_text.substr( a_begin, a_end - a_begin );
+        return;
+    }
+    CopyUpTo( a_end );
+    m_part = std::string_view( m_buffer.constData(), static_cast<size_t>( m_end - m_buffer.constData() ) );
+    m_end = nullptr;
 }
 
 bool PartReader::Next()
@@ -120,15 +151,23 @@ size_t PartReader::TakeEscape( size_t a_backslash )
 
 void PartReader::Replace( size_t a_backslash, size_t a_length, char a_character )
 {
-    if ( !m_hasEscapes )
+    if ( m_end == nullptr )
     {
-        m_hasEscapes = true;
+        // A part without its escapes is no longer than with them.
+        Resize( m_buffer, static_cast<int>( m_text.size() - m_place ) );
+        m_end = m_buffer.data();
         m_copied = m_place;
-        Empty( m_buffer );
     }
-    Append( m_buffer, m_text.substr( m_copied, a_backslash - m_copied ) );
-    m_buffer.append( a_character );
+    CopyUpTo( a_backslash );
+    *m_end++ = a_character;
     m_copied = a_backslash + a_length;
+}
+
+void PartReader::CopyUpTo( size_t a_place )
+{
+    const size_t size = a_place - m_copied;
+    std::memcpy( m_end, m_text.data() + m_copied, size );
+    m_end += size;
 }
 
 } // namespace PimManager::Contacts

@@ -61,6 +61,7 @@ private:
     bool IsLiteral( size_t a_place );
     size_t TakeEscape( size_t a_backslash );
     void Replace( size_t a_backslash, size_t a_length, char a_character );
+    void CopyUpTo( size_t a_place );
     void EndPart( size_t a_begin, size_t a_end );
 
     std::string_view m_text;
@@ -72,9 +73,9 @@ private:
     Findings& m_findings;
 
     size_t m_place = 0;
-    // What precedes this is in the buffer, if the part has escapes.
+    // If the part has escapes, what precedes this is in the buffer, up to its end.
     size_t m_copied = 0;
-    bool m_hasEscapes = false;
+    char* m_end = nullptr;
     bool m_isAtEnd = false;
     std::string_view m_part;
     char m_delimiter = '\0';

@@ -31,7 +31,7 @@ IndexedLine Indexed( const PimContactLine& a_line )
 Delimiters DelimitersOf( const IndexedLine& a_line )
 {
     QByteArray buffer;
-    return DelimitersOf( a_line.Name( buffer ), a_line.m_card.m_record.Version() );
+    return DelimitersOf( PropertyOf( a_line.Name( buffer ) ), a_line.m_card.m_record.Version() );
 }
 
 QStringList PartsOf( ValueDecoder& a_decoder, Delimiters a_delimiters )

@@ -2,8 +2,8 @@
 
 #include "Cards/LineView.h"
 #include "PimVCardParser.h"
+#include "Text/Buffer.h"
 #include "Text/Bytes.h"
-#include "Values/Buffer.h"
 #include "Values/ComponentGrammar.h"
 #include "Values/ParameterReader.h"
 #include "Values/ValueDecoder.h"

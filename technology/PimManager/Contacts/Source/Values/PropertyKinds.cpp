@@ -1,31 +1,34 @@
 #include "Values/PropertyKinds.h"
 
-#include "Text/Bytes.h"
+#include "Lines/PropertyRules.h"
 
 namespace PimManager::Contacts
 {
 
-Delimiters DelimitersOf( std::string_view a_name, PimContactVersion a_version )
+namespace
 {
-    const bool isVersion21 = a_version == PimContactVersion::V21;
-    const bool isVersion40 = a_version == PimContactVersion::V40;
-    const auto onlyIf = []( bool a_isSo ) { return a_isSo ? Delimiters::Semicolons : Delimiters::None; };
-    const auto is = [a_name]( std::string_view a_word ) { return IsSameWord( a_name, a_word ); };
-    switch ( a_name.size() )
+
+// A card without a version is read as 3.0. Phones write the lists of 3.0 into cards of 2.1.
+const PropertyRule* RuleFor( PropertyId a_property, PimContactVersion a_version )
+{
+    const PropertyRule* const rule = FindRule( a_property, a_version );
+    const bool is30Tried = rule == nullptr && a_version != PimContactVersion::V40;
+    return is30Tried ? FindRule( a_property, PimContactVersion::V30 ) : rule;
+}
+
+} // namespace
+
+Delimiters DelimitersOf( PropertyId a_property, PimContactVersion a_version )
+{
+    const PropertyRule* const rule = RuleFor( a_property, a_version );
+    switch ( rule == nullptr ? ValueShape::Single : rule->m_shape )
     {
-    case 1:
-    case 3:
-        if ( is( "N" ) || is( "ADR" ) )
-            return isVersion21 ? Delimiters::Semicolons : Delimiters::SemicolonsAndCommas;
-        return is( "GEO" ) ? onlyIf( !isVersion21 && !isVersion40 ) : onlyIf( is( "ORG" ) );
-    case 6:
-        return onlyIf( isVersion40 && is( "GENDER" ) );
-    case 8:
-        return is( "NICKNAME" ) ? Delimiters::Commas : Delimiters::None;
-    case 10:
-        return is( "CATEGORIES" ) ? Delimiters::Commas : Delimiters::None;
-    case 12:
-        return onlyIf( isVersion40 && is( "CLIENTPIDMAP" ) );
+    case ValueShape::List:
+        return Delimiters::Commas;
+    case ValueShape::Components:
+        return Delimiters::Semicolons;
+    case ValueShape::ComponentLists:
+        return Delimiters::SemicolonsAndCommas;
     default:
         return Delimiters::None;
     }

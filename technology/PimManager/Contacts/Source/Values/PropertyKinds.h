@@ -3,16 +3,15 @@
 
 #pragma once
 
+#include "Lines/PropertyTable.h"
 #include "Values/PartReader.h"
 
 #include <PimManager/Contacts/PimContactCard.h>
 
-#include <string_view>
-
 namespace PimManager::Contacts
 {
 
-/// Determines what divides the value of a property, by its name in any letter case.
+/// Determines what divides the value of a property.
 ///
 /// | property | 2.1 | 3.0, and without a version | 4.0 |
 /// |---|---|---|---|
@@ -25,6 +24,6 @@ namespace PimManager::Contacts
 ///
 /// The sources are vCard 2.1, section 2; RFC 2426, section 3; and RFC 6350, section 6. Version 2.1 has neither NICKNAME
 /// nor CATEGORIES, but phones write lists into its cards.
-Delimiters DelimitersOf( std::string_view a_name, PimContactVersion a_version );
+Delimiters DelimitersOf( PropertyId a_property, PimContactVersion a_version );
 
 } // namespace PimManager::Contacts

@@ -32,14 +32,20 @@ constexpr std::array<quint16, 256> FindDigits()
 
 constexpr std::array<quint16, 256> s_kDigits = FindDigits();
 
-/// \return the byte that is encoded at a place, or s_kNoDigit.
+/// \return the byte of two digits; s_kNoDigit or more if they are none.
+inline uint DigitsAt( const char* a_place )
+{
+    const uint high = s_kDigits[static_cast<uchar>( a_place[0] )];
+    const uint low = s_kDigits[static_cast<uchar>( a_place[1] )];
+    return high << s_kBitsOfDigit | low;
+}
+
+/// \return the byte that is encoded at a place; s_kNoDigit or more if there is none.
 inline uint EncodedByte( std::string_view a_text, size_t a_place )
 {
     if ( a_text.size() - a_place < s_kLength || a_text[a_place] != '=' )
         return s_kNoDigit;
-    const uint high = s_kDigits[static_cast<uchar>( a_text[a_place + 1] )];
-    const uint low = s_kDigits[static_cast<uchar>( a_text[a_place + 2] )];
-    return high < s_kNoDigit && low < s_kNoDigit ? high << s_kBitsOfDigit | low : s_kNoDigit;
+    return DigitsAt( a_text.data() + a_place + 1 );
 }
 
 /// Decodes the encoded bytes at a place.
@@ -48,13 +54,18 @@ inline uint EncodedByte( std::string_view a_text, size_t a_place )
 char* DecodeRun( std::string_view a_text, size_t& a_place, char* a_out )
 {
     char* out = a_out;
-    for ( uint byte = EncodedByte( a_text, a_place ); byte < s_kNoDigit; byte = EncodedByte( a_text, a_place ) )
+    const char* place = a_text.data() + a_place;
+    const char* const end = a_text.data() + a_text.size();
+    for ( ; static_cast<size_t>( end - place ) >= s_kLength && *place == '='; place += s_kLength )
     {
-        a_place += s_kLength;
+        const uint byte = DigitsAt( place + 1 );
+        if ( byte >= s_kNoDigit )
+            break;
         if ( byte == '\n' && out > a_out && out[-1] == '\r' )
             --out;
         *out++ = static_cast<char>( byte );
     }
+    a_place = static_cast<size_t>( place - a_text.data() );
     return out;
 }
 
@@ -78,7 +89,7 @@ QuotedPrintableFaults DecodeQuotedPrintable( std::string_view a_text, QByteArray
     size_t copied = 0;
     for ( size_t place = a_text.find( '=' ); place != std::string_view::npos; place = a_text.find( '=', place ) )
     {
-        if ( EncodedByte( a_text, place ) == s_kNoDigit )
+        if ( EncodedByte( a_text, place ) >= s_kNoDigit )
         {
             faults.m_first = faults.m_count++ == 0 ? static_cast<quint32>( place ) : faults.m_first;
             ++place;

@@ -1,13 +1,15 @@
 #include "Values/ValueDecoder.h"
 
 #include "Lines/KnownNames.h"
+#include "Text/Buffer.h"
 #include "Text/Bytes.h"
 #include "Text/CharsetChoice.h"
 #include "Text/Codec.h"
 #include "Text/EncodedCharset.h"
 #include "Values/Base64Value.h"
-#include "Values/Buffer.h"
+#include "Values/ParameterMemory.h"
 #include "Values/ParameterReader.h"
+#include "Values/PlainParameters.h"
 
 #include <algorithm>
 
@@ -19,14 +21,12 @@ namespace
 
 constexpr Charset s_kUtf8( Charset::Id::Utf8 );
 
+// The memory that a value needs is a few times its length.
+constexpr size_t s_kLongValue = 2048;
+
 bool IsWide( char a_byte )
 {
     return static_cast<uchar>( a_byte ) >= 0x80;
-}
-
-bool IsAscii( std::string_view a_text )
-{
-    return std::none_of( a_text.begin(), a_text.end(), IsWide );
 }
 
 bool IsSpecial( char a_byte )
@@ -40,11 +40,44 @@ quint32 FindWide( std::string_view a_text, quint32 a_begin, quint32 a_end )
     return static_cast<quint32>( std::find_if( a_text.data() + a_begin, end, IsWide ) - a_text.data() );
 }
 
+/// \return where the value of the first CHARSET is in plain parameters; empty without one.
+ByteRange PlaceOfCharset( std::string_view a_parameters )
+{
+    for ( PlainParameters parameters( a_parameters ); parameters.Next(); )
+    {
+        const std::string_view name = parameters.Name().empty() ? NameOfBare( parameters.Value() ) : parameters.Name();
+        if ( IsSameWord( name, s_kCharsetParameter ) )
+        {
+            const std::string_view value = parameters.Value();
+            return { static_cast<quint32>( value.data() - a_parameters.data() ), static_cast<quint32>( value.size() ) };
+        }
+    }
+    return ByteRange();
+}
+
+/// \return false if the parameters are not plain.
+bool FindPlainCharset( std::string_view a_parameters, std::string_view& a_charset )
+{
+    thread_local ParameterMemory<ByteRange> t_places;
+    const ByteRange* const known = t_places.Find( a_parameters, nullptr );
+    if ( known == nullptr && !PlainParameters::AreIn( a_parameters ) )
+        return false;
+    const ByteRange place = known != nullptr ? *known : PlaceOfCharset( a_parameters );
+    if ( known == nullptr )
+        t_places.Remember( a_parameters, nullptr, place );
+    a_charset = place.In( a_parameters );
+    return true;
+}
+
 // Of the first CHARSET parameter.
 std::string_view NamedCharset( const IndexedLine& a_line, QByteArray& a_buffer )
 {
     QByteArray unfolded;
-    ParameterReader parameters( a_line.Parameters( unfolded ), a_line.m_card.m_record.Version() );
+    const std::string_view written = a_line.Parameters( unfolded );
+    std::string_view charset;
+    if ( unfolded.isEmpty() && ( written.empty() || FindPlainCharset( written, charset ) ) )
+        return charset;
+    ParameterReader parameters( written, a_line.m_card.m_record.Version() );
     Empty( a_buffer );
     bool isFound = false;
     while ( !isFound && parameters.Next() )
@@ -93,6 +126,13 @@ bool IsAssumed( LineCharset a_charset )
 
 void ValueDecoder::Decode( const IndexedLine& a_line )
 {
+    if ( IsPlain( a_line ) )
+    {
+        m_isBase64Text = false;
+        Clear();
+        m_escaped = { a_line.ValueRange().In( a_line.m_text ), &m_literals };
+        return;
+    }
     if ( DecodeBase64Text( a_line ) )
         return;
     Clear();
@@ -112,6 +152,7 @@ bool ValueDecoder::DecodeBase64Text( const IndexedLine& a_line )
     if ( !IsKnownTextName( a_line.Name( buffer ) ) )
         return false;
     Clear();
+    m_isLarge = m_isLarge || a_line.m_text.size() > s_kLongValue;
     const std::string_view named = NamedCharset( a_line, buffer );
     m_isBase64Text = Contacts::DecodeBase64Text( a_line, named, m_plain, m_utf8, m_findings );
     if ( m_isBase64Text )
@@ -137,7 +178,7 @@ std::string_view ValueDecoder::Undeclared( const IndexedLine& a_line )
     m_runs.clear();
     m_literals.clear();
     Unfold( a_line, a_line.ValueRange() );
-    bool isUndeclared = isDefault && !IsAscii( m_escaped.m_text );
+    bool isUndeclared = isDefault && !AreAllAscii( m_escaped.m_text );
     if ( isEncoded )
     {
         Empty( m_plain );
@@ -185,16 +226,11 @@ void ValueDecoder::Unfold( const IndexedLine& a_line, ByteRange a_range )
 {
     m_escaped.m_literals = &m_literals;
     m_escaped.m_text = a_range.In( a_line.m_text );
+    m_isLarge = m_isLarge || a_range.m_length > s_kLongValue;
     if ( !a_line.IsContinued() )
         return;
     Empty( m_unfolded );
-    LinePieces pieces = a_line.Pieces( a_range );
-    while ( pieces.Next() )
-    {
-        for ( int i = 0; i < pieces.LineFeeds(); ++i )
-            m_unfolded.append( '\n' );
-        Append( m_unfolded, pieces.Text() );
-    }
+    AppendUnfolded( a_line.Pieces( a_range ), a_range.m_length, m_unfolded );
     m_escaped.m_text = ViewOf( m_unfolded );
 }
 
@@ -203,7 +239,7 @@ void ValueDecoder::DecodeRaw( const IndexedLine& a_line )
     const std::string_view text = m_escaped.m_text;
     const Charset charset = RawCharset( a_line );
     m_findings.SetCharset( charset );
-    if ( IsAssumed( a_line.m_entry.m_charset ) && !IsAscii( text ) )
+    if ( IsAssumed( a_line.m_entry.m_charset ) && !AreAllAscii( text ) )
     {
         m_findings.Add( PimContactDecodingProblem::AssumedCharset, -1 );
         if ( !IsWhiteSpace( NamedCharset( a_line, m_plain ) ) )

@@ -34,6 +34,14 @@ public:
     /// \param a_line must outlive the texts of the value.
     void Decode( const IndexedLine& a_line );
 
+    /// \return true if the value of a line is text in UTF-8 as it is written, but for its escapes.
+    static bool IsPlain( const IndexedLine& a_line )
+    {
+        return a_line.m_entry.m_encoding == PimContactEncoding::None && !a_line.IsContinued() &&
+               a_line.m_entry.m_charset == LineCharset::Utf8 &&
+               !a_line.m_card.m_record.Has( CardRecord::IsOtherCharset );
+    }
+
     /// Decodes the value of a line like Decode() if the line says BASE64, its property is a known one whose value is
     /// text, and the value is text (see Base64Value.h). This is the only place that decides it.
     /// \return false for any other line, whose value is not decoded then.
@@ -66,6 +74,9 @@ public:
     /// \return a reader of the parts of the value. Only one may be used at a time.
     PartReader Parts( Delimiters a_delimiters ) { return PartReader( m_escaped, a_delimiters, m_part, m_findings ); }
 
+    /// \return true if it keeps much memory.
+    bool IsLarge() const { return m_isLarge; }
+
     /// What was found in the value: by Decode(), and in the parts that were read.
     const Findings& Found() const { return m_findings; }
 
@@ -92,6 +103,8 @@ private:
     // The first run that does not end before the place that NoteLiterals() has reached.
     size_t m_run = 0;
     bool m_isBase64Text = false;
+    // A value was long, and so may be the memory.
+    bool m_isLarge = false;
 };
 
 } // namespace PimManager::Contacts

@@ -10,8 +10,8 @@ namespace PimManager::Contacts
 namespace
 {
 
-constexpr std::array s_kSources = { PropertyName::Fn,  PropertyName::N,     PropertyName::Nickname,
-                                    PropertyName::Org, PropertyName::Email, PropertyName::Tel };
+constexpr std::array s_kSources = { PropertyId::Fn,  PropertyId::N,     PropertyId::Nickname,
+                                    PropertyId::Org, PropertyId::Email, PropertyId::Tel };
 
 } // namespace
 
@@ -34,8 +34,7 @@ TEST( ContactNameTest, OtherPropertiesAreNoNames )
 {
     ContactName name;
     name.Clear();
-    for ( const PropertyName other :
-          { PropertyName::Adr, PropertyName::Version, PropertyName::CallTime, PropertyName::Other } )
+    for ( const PropertyId other : { PropertyId::Adr, PropertyId::Version, PropertyId::CallTime, PropertyId::Other } )
         EXPECT_FALSE( name.Wants( other ) );
 }
 
@@ -43,21 +42,21 @@ TEST( ContactNameTest, EmptyNameIsNotTaken )
 {
     ContactName name;
     name.Clear();
-    name.Take( PropertyName::Tel, { "1" } );
-    name.Take( PropertyName::Fn, { " ", "", "\n" } );
+    name.Take( PropertyId::Tel, { "1" } );
+    name.Take( PropertyId::Fn, { " ", "", "\n" } );
     EXPECT_EQ( name.Text(), "1" );
-    EXPECT_TRUE( name.Wants( PropertyName::Fn ) );
+    EXPECT_TRUE( name.Wants( PropertyId::Fn ) );
 }
 
 TEST( ContactNameTest, PartsBecomeOneLine )
 {
     ContactName name;
     name.Clear();
-    name.Take( PropertyName::N, { "Dr.", "", " Nell  Imogen", "", "\nBrackwater " } );
+    name.Take( PropertyId::N, { "Dr.", "", " Nell  Imogen", "", "\nBrackwater " } );
     EXPECT_EQ( name.Text(), "Dr. Nell Imogen Brackwater" );
     name.Clear();
     EXPECT_EQ( name.Text(), "" );
-    EXPECT_TRUE( name.Wants( PropertyName::Tel ) );
+    EXPECT_TRUE( name.Wants( PropertyId::Tel ) );
 }
 
 } // namespace PimManager::Contacts

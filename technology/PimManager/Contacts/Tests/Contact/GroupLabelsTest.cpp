@@ -17,7 +17,7 @@ std::string LabelIn( const QByteArray& a_lines, const char* a_group )
 {
     const PimContactBook book =
         PimContactBook::FromBytes( "BEGIN:VCARD\r\nVERSION:3.0\r\n" + a_lines + "\r\nEND:VCARD\r\n" );
-    const PimContactCard card = book.At( 0 );
+    const PimContactCard card = book.CardAt( 0 );
     LineCursor cursor( card );
     EXPECT_TRUE( cursor.Next() );
     GroupLabels labels;

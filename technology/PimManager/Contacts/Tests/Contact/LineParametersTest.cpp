@@ -1,5 +1,6 @@
 #include "Contact/LineParameters.h"
 
+#include "Contact/KindWords.h"
 #include "OneLine.h"
 
 #include <gtest/gtest.h>
@@ -65,6 +66,27 @@ constexpr std::array s_kRows = {
     Row{ "TEL;LANGUAGE=:1", "|0|LANGUAGE=" },
 };
 
+struct LabelRow
+{
+    const char* m_line;
+    const char* m_label;
+    const char* m_labelsOfTypes;
+};
+
+constexpr std::array s_kLabels = {
+    LabelRow{ "TEL:1", "", "" },
+    LabelRow{ "TEL;X-CUSTOM=Boat:1", "Boat", "" },
+    LabelRow{ "TEL;X-CUSTOM=\" Boat, big \":1", "Boat, big", "" },
+    LabelRow{ "TEL;X-CUSTOM(CHARSET=UTF-8,ENCODING=QUOTED-PRINTABLE,=42=6F=61=74):1", "Boat", "" },
+    LabelRow{ "TEL;CELL;X-CUSTOM(CHARSET=UTF-8,ENCODING=QUOTED-PRINTABLE,=D0=94=D0=B0,=D1=87):1",
+              "\xD0\x94\xD0\xB0,\xD1\x87", "CELL" },
+    LabelRow{ "TEL;X-CUSTOM=A;X-CUSTOM=B:1", "A", "" },
+    LabelRow{ "TEL;X-Boat:1", "", "Boat" },
+    LabelRow{ "TEL;TYPE=X-Boat:1", "", "Boat" },
+    LabelRow{ "TEL;TYPE=\"X-Boat phone\":1", "", "Boat phone" },
+    LabelRow{ "TEL;TYPE=boat,X-:1", "", "boat,X-" },
+};
+
 } // namespace
 
 TEST( LineParametersTest, ParametersAreRead )
@@ -72,6 +94,21 @@ TEST( LineParametersTest, ParametersAreRead )
     for ( const Row& row : s_kRows )
         EXPECT_EQ( Shown( row.m_line, "3.0" ), row.m_shown ) << row.m_line;
     EXPECT_EQ( Shown( "TEL;X-A=^n:1", "2.1" ), "|0|X-A=^n" );
+}
+
+TEST( LineParametersTest, LabelsAreRead )
+{
+    for ( const LabelRow& row : s_kLabels )
+    {
+        const PimContactLine line = OneLine( row.m_line, "2.1" );
+        LineParameters parameters;
+        parameters.Read( PimContactCardPrivate::LineView::LineOf( line ) );
+        EXPECT_EQ( parameters.CustomLabel(), row.m_label ) << row.m_line;
+        std::string labels;
+        for ( size_t i = 0; i < parameters.Types().Size(); ++i )
+            labels += ( i > 0 ? "," : "" ) + std::string( CustomLabelOf( parameters.Types().Word( i ) ) );
+        EXPECT_EQ( labels, row.m_labelsOfTypes ) << row.m_line;
+    }
 }
 
 TEST( LineParametersTest, OneObjectReadsManyLines )

@@ -70,14 +70,26 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values( HeadRow{ "NoNumbers", "FN:x", s_kNumbers, R"([],"mails":[],)" },
                        HeadRow{ "Numbers", "TEL;TYPE=cell,pref:1\r\nTEL:\r\nitem1.TEL;PREF=2:2\r\nitem1.X-ABLabel:boat",
                                 s_kNumbers,
-                                R"([{"number":"1","types":["CELL"],"preference":1},)"
+                                R"([{"number":"1","types":["CELL"],"kinds":["mobile"],"preference":1},)"
                                 R"({"number":"2","types":[],"label":"boat","preference":2}],)" },
                        HeadRow{ "Base64OfANumber", "TEL;CELL;BASE64:KzEtNTU1", s_kNumbers,
-                                R"([{"number":"+1-555","types":["CELL"]}],)" },
+                                R"([{"number":"+1-555","types":["CELL"],"kinds":["mobile"]}],)" },
                        HeadRow{ "NumberUri", "TEL;VALUE=uri:tel:+1-555;ext=2", s_kNumbers,
-                                R"([{"number":"+1-555;ext=2","types":[]}],)" },
+                                R"([{"number":"+1-555;ext=2","extension":"2","types":[]}],)" },
+                       HeadRow{ "NumberWithContext", "TEL:tel:5;phone-context=x.example", s_kNumbers,
+                                R"([{"number":"5","context":"x.example","types":[]}],)" },
+                       HeadRow{ "NumberWithExtension", "TEL:555 ext. 12", s_kNumbers,
+                                R"([{"number":"555 ext. 12","extension":"12","types":[]}],)" },
+                       HeadRow{ "NumberWithBuiltInLabel", "item1.TEL;WORK:1\r\nitem1.X-ABLabel:_$!<Home>!$_",
+                                s_kNumbers,
+                                R"([{"number":"1","types":["WORK"],"kinds":["home","work"],"label":"Home"}],)" },
+                       HeadRow{ "NumberWithTypeOfTheOwner", "TEL;TYPE=X-Boat;LANGUAGE=de;ALTID=1:1", s_kNumbers,
+                                R"([{"number":"1","types":["X-BOAT"],"label":"Boat","language":"de","altId":"1"}],)" },
+                       HeadRow{ "NumberWithEmptyLabel", "i.TEL;TYPE=X-Boat:1\r\ni.X-ABLabel: ", s_kNumbers,
+                                R"([{"number":"1","types":["X-BOAT"],"label":"Boat"}],)" },
                        HeadRow{ "Mails", "EMAIL;INTERNET;HOME:mailto:a%40b?x=y\r\nEMAIL:\"O\" <o@e.com>", s_kMails,
-                                R"([{"mail":"a@b","types":["HOME"]},{"mail":"o@e.com","types":[]}],)" },
+                                R"([{"mail":"a@b","types":["HOME"],"kinds":["home"]},)"
+                                R"({"mail":"o@e.com","name":"O","types":[]}],)" },
                        HeadRow{ "Organisation", "ORG:\r\nORG: Tide Office ;Charts\r\nORG:x", s_kOrganisation,
                                 R"("Tide Office, Charts",)" },
                        HeadRow{ "NoVersion", "FN:x", s_kVersion, R"("",)" },
@@ -99,8 +111,9 @@ TEST( CardJsonOrderTest, MembersHaveOneOrder )
     EXPECT_EQ( JsonOf( "VERSION:2.1\r\nFN:Nell\r\nTEL;CELL;PREF:555\r\nEMAIL;INTERNET:n@example.com\r\n"
                        "ORG:Tide Office;Charts" ),
                R"({"card":1,"line":1,"whole":true,"version":"2.1","name":"Nell",)"
-               R"("numbers":[{"number":"555","types":["CELL"],"preference":1}],)"
+               R"("numbers":[{"number":"555","types":["CELL"],"kinds":["mobile"],"preference":1}],)"
                R"("mails":[{"mail":"n@example.com","types":[]}],"organisation":"Tide Office, Charts",)"
+               R"("organisations":[{"name":"Tide Office","units":["Charts"]}],)"
                R"("properties":[{"name":"VERSION","types":[],"values":["2.1"]},)"
                R"({"name":"FN","types":[],"values":["Nell"]},)"
                R"({"name":"TEL","types":["CELL"],"preference":1,"values":["555"]},)"
@@ -113,8 +126,8 @@ TEST( CardJsonOrderTest, PlaceIsThatInTheFile )
     const PimContactBook book =
         PimContactBook::FromBytes( "text\r\nBEGIN:VCARD\r\nFN:a\r\nEND:VCARD\r\n\r\nBEGIN:VCARD\r\nFN:b\r\n" );
     ASSERT_EQ( book.Size(), 2 );
-    EXPECT_EQ( Checked( PimContactJson::Of( book.At( 0 ) ) ).find( R"({"card":1,"line":2,"whole":true,)" ), 0U );
-    EXPECT_EQ( Checked( PimContactJson::Of( book.At( 1 ) ) ).find( R"({"card":2,"line":6,"whole":false,)" ), 0U );
+    EXPECT_EQ( Checked( PimContactJson::Of( book.CardAt( 0 ) ) ).find( R"({"card":1,"line":2,"whole":true,)" ), 0U );
+    EXPECT_EQ( Checked( PimContactJson::Of( book.CardAt( 1 ) ) ).find( R"({"card":2,"line":6,"whole":false,)" ), 0U );
 }
 
 TEST( CardJsonOrderTest, CardWithoutLinesHasNoProperties )
@@ -122,7 +135,7 @@ TEST( CardJsonOrderTest, CardWithoutLinesHasNoProperties )
     const std::string json = R"("version":"","name":"","numbers":[],"mails":[],"organisation":"","properties":[]})";
     const PimContactBook book = PimContactBook::FromBytes( "BEGIN:VCARD\r\nEND:VCARD\r\n" );
     ASSERT_EQ( book.Size(), 1 );
-    EXPECT_EQ( Checked( PimContactJson::Of( book.At( 0 ) ) ), R"({"card":1,"line":1,"whole":true,)" + json );
+    EXPECT_EQ( Checked( PimContactJson::Of( book.CardAt( 0 ) ) ), R"({"card":1,"line":1,"whole":true,)" + json );
     EXPECT_EQ( Checked( PimContactJson::Of( PimContactCard() ) ), R"({"card":0,"line":0,"whole":false,)" + json );
 }
 
@@ -162,7 +175,8 @@ TEST( CardJsonNestingTest, NestedCardIsAnObject )
     EXPECT_EQ( JsonOf( "VERSION:2.1\r\nFN:Ada\r\nitem1.AGENT;WORK:\r\nBEGIN:VCARD\r\nVERSION:3.0\r\nFN:Bea\r\n"
                        "TEL:2\r\nEND:VCARD\r\nTEL:1" ),
                R"({"card":1,"line":1,"whole":true,"version":"2.1","name":"Ada","numbers":[{"number":"1","types":[]}],)"
-               R"("mails":[],"organisation":"","properties":[{"name":"VERSION","types":[],"values":["2.1"]},)"
+               R"("mails":[],"organisation":"","relations":[{"text":"Bea","kinds":["agent"]}],)"
+               R"("properties":[{"name":"VERSION","types":[],"values":["2.1"]},)"
                R"({"name":"FN","types":[],"values":["Ada"]},{"name":"AGENT","group":"item1","types":["WORK"],)"
                R"("card":{"line":5,"whole":true,"version":"3.0","name":"Bea","numbers":[{"number":"2","types":[]}],)"
                R"("mails":[],"organisation":"","properties":[{"name":"VERSION","types":[],"values":["3.0"]},)"
@@ -193,7 +207,7 @@ TEST( CardJsonNestingTest, DeepestCardIsWritten )
     options.SetNesting( 0 );
     const PimContactBook book = PimContactBook::FromBytes( "BEGIN:VCARD\r\n" + lines + "\r\nEND:VCARD\r\n", options );
     ASSERT_EQ( book.Size(), 1 );
-    const std::string json = Checked( PimContactJson::Of( book.At( 0 ) ) );
+    const std::string json = Checked( PimContactJson::Of( book.CardAt( 0 ) ) );
     EXPECT_NE( json.find( R"("name":"64")" ), std::string::npos );
 }
 

@@ -24,9 +24,13 @@ std::string HeadOf( HeadCache& a_cache, const PimContactCard& a_card )
     {
         const HeadJson& head = a_cache.Of( cursor.Line() );
         text += std::string( head.All() ) + '|' + std::string( head.TypesOfEntry() ) + '|' +
-                std::string( head.MediaType() ) + '|' + std::string( head.Direction() ) + '|' +
-                std::to_string( static_cast<int>( head.Property() ) ) + ' ' +
-                std::to_string( static_cast<int>( head.ValueDelimiters() ) ) + ( head.IsMedia() ? " media\n" : "\n" );
+                std::string( head.Common() ) + '|' + std::string( head.OwnLabel() ) + '|' +
+                std::string( head.CommonBehindLabel() ) + '|' + std::string( head.MediaType() ) + '|' +
+                std::string( head.Direction() ) + '|' + std::to_string( static_cast<int>( head.Property() ) ) + ' ' +
+                std::to_string( static_cast<int>( head.ValueDelimiters() ) ) + std::to_string( head.Kinds() ) + ' ' +
+                std::to_string( static_cast<int>( head.SetOfKinds() ) ) + ( head.IsMedia() ? " media" : "" ) +
+                ( head.IsDeferred() ? " deferred" : "" ) + ( head.IsUri() ? " uri" : "" ) +
+                ( head.Crop() ? " crop\n" : "\n" );
     }
     return text;
 }
@@ -48,6 +52,12 @@ std::vector<QByteArray> Heads()
                                       "PHOTO;TYPE=image/png",
                                       "PHOTO;MEDIATYPE=image/gif",
                                       "EMAIL;INTERNET;PREF=1",
+                                      "BDAY;VALUE=text",
+                                      "BDAY;VALUE=date",
+                                      "ADR;TYPE=home;LANGUAGE=de",
+                                      "ADR;TYPE=home;LABEL=de",
+                                      "TEL;TYPE=X-Boat;ALTID=1",
+                                      "PHOTO;X-ABCROP-RECTANGLE=ABClipRect_1&0&12&320&320&x",
                                       "NO\r\n TE;A",
                                       "NOTE;\xC3\xA9",
                                       "NOTE;\xE9",
@@ -95,7 +105,9 @@ TEST( HeadJsonTest, PartsOfTheHeadFollowEachOther )
     EXPECT_EQ( head.Name(), R"("name":"EMAIL")" );
     EXPECT_EQ( head.Types(), R"(,"types":["INTERNET","HOME"])" );
     EXPECT_EQ( head.TypesOfEntry(), R"(,"types":["HOME"])" );
-    EXPECT_EQ( head.Preference(), R"(,"preference":2)" );
+    EXPECT_EQ( head.Common(), R"(,"kinds":["home"],"preference":2)" );
+    EXPECT_EQ( head.OwnLabel(), "" );
+    EXPECT_EQ( head.CommonBehindLabel(), R"(,"preference":2)" );
     EXPECT_EQ( head.Rest(), R"(,"preference":2,"parameters":[{"name":"X-A","values":["b"]}])" );
     EXPECT_EQ( head.All(), std::string( head.Name() ) + std::string( head.Types() ) + std::string( head.Rest() ) );
 }

@@ -40,15 +40,30 @@ const std::vector<QByteArray>& Texts()
     return s_kTexts;
 }
 
-QStringList SortedKeys( const QJsonObject& a_object )
-{
-    return a_object.keys();
-}
-
 const QStringList s_kMembers = {
     QStringLiteral( "card" ),       QStringLiteral( "line" ),    QStringLiteral( "mails" ),
     QStringLiteral( "name" ),       QStringLiteral( "numbers" ), QStringLiteral( "organisation" ),
     QStringLiteral( "properties" ), QStringLiteral( "version" ), QStringLiteral( "whole" ) };
+
+// Of the properties below.
+const QStringList s_kMembersOfFields = { QStringLiteral( "addresses" ),  QStringLiteral( "events" ),
+                                         QStringLiteral( "gender" ),     QStringLiteral( "kind" ),
+                                         QStringLiteral( "nameParts" ),  QStringLiteral( "nicknames" ),
+                                         QStringLiteral( "notes" ),      QStringLiteral( "organisations" ),
+                                         QStringLiteral( "photos" ),     QStringLiteral( "relations" ),
+                                         QStringLiteral( "revision" ),   QStringLiteral( "sortName" ),
+                                         QStringLiteral( "messengers" ), QStringLiteral( "uid" ) };
+const QStringList s_kMembersOfEntries = {
+    QStringLiteral( "number" ),    QStringLiteral( "extension" ), QStringLiteral( "context" ),
+    QStringLiteral( "mail" ),      QStringLiteral( "name" ),      QStringLiteral( "types" ),
+    QStringLiteral( "kinds" ),     QStringLiteral( "label" ),     QStringLiteral( "text" ),
+    QStringLiteral( "family" ),    QStringLiteral( "given" ),     QStringLiteral( "additional" ),
+    QStringLiteral( "prefix" ),    QStringLiteral( "suffix" ),    QStringLiteral( "postOfficeBox" ),
+    QStringLiteral( "extended" ),  QStringLiteral( "units" ),     QStringLiteral( "address" ),
+    QStringLiteral( "mediaType" ), QStringLiteral( "size" ),      QStringLiteral( "property" ),
+    QStringLiteral( "damaged" ),   QStringLiteral( "kind" ),      QStringLiteral( "date" ),
+    QStringLiteral( "handle" ),    QStringLiteral( "service" ),   QStringLiteral( "language" ),
+    QStringLiteral( "altId" ),     QStringLiteral( "sortAs" ),    QStringLiteral( "deliveryText" ) };
 
 const QStringList s_kAllowed = {
     QStringLiteral( "name" ),      QStringLiteral( "group" ),      QStringLiteral( "types" ),
@@ -56,10 +71,33 @@ const QStringList s_kAllowed = {
     QStringLiteral( "values" ),    QStringLiteral( "fault" ),      QStringLiteral( "parts" ),
     QStringLiteral( "mediaType" ), QStringLiteral( "size" ),       QStringLiteral( "data" ) };
 
+void ExpectMembersOfEntries( const QJsonValue& a_value, const QByteArray& a_lines )
+{
+    const QJsonArray entries = a_value.isArray() ? a_value.toArray() : QJsonArray{ a_value };
+    for ( const auto& entry : entries )
+    {
+        for ( const QString& key : entry.toObject().keys() )
+            EXPECT_TRUE( s_kMembersOfEntries.contains( key ) ) << a_lines.toStdString() << " has " << key.toStdString();
+    }
+}
+
+void ExpectMembersOfFields( const QJsonObject& a_object, const QByteArray& a_lines )
+{
+    for ( const QString& key : a_object.keys() )
+    {
+        EXPECT_TRUE( s_kMembers.contains( key ) || s_kMembersOfFields.contains( key ) )
+            << a_lines.toStdString() << " has " << key.toStdString();
+        if ( key != QLatin1String( "properties" ) )
+            ExpectMembersOfEntries( a_object.value( key ), a_lines );
+    }
+    for ( const QString& key : s_kMembers )
+        EXPECT_TRUE( a_object.contains( key ) ) << a_lines.toStdString() << " lacks " << key.toStdString();
+}
+
 void ExpectMembers( const QByteArray& a_lines )
 {
     const QJsonObject object = ObjectOf( CardOf( a_lines ) );
-    EXPECT_EQ( SortedKeys( object ), s_kMembers ) << a_lines.toStdString();
+    ExpectMembersOfFields( object, a_lines );
     const QJsonArray properties = object.value( QLatin1String( "properties" ) ).toArray();
     EXPECT_EQ( properties.last().toObject().value( QLatin1String( "name" ) ).toString(), QStringLiteral( "X-LAST" ) )
         << a_lines.toStdString();
@@ -82,6 +120,17 @@ TEST( JsonInjectionTest, MembersAreThoseOfTheFormat )
                                 "EMAIL:%",
                                 "NICKNAME:%,%",
                                 "VERSION:%",
+                                "N;SORT-AS=%:a",
+                                "ADR;LABEL=%:a",
+                                "BDAY:%",
+                                "REV:%",
+                                "UID:%",
+                                "KIND:%",
+                                "GENDER:%",
+                                "IMPP:%",
+                                "RELATED:%",
+                                "TEL;TYPE=X-%:1",
+                                "NOTE;LANGUAGE=%;ALTID=%:a",
                                 "NOTE;X=%:a",
                                 "NOTE;X=\"%\":a",
                                 "NOTE;TYPE=%:a",

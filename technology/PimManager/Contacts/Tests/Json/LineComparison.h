@@ -78,7 +78,7 @@ inline void ExpectSameBook( const QByteArray& a_bytes, const std::string& a_wher
     const PimContactBook book = PimContactBook::FromBytes( a_bytes );
     PimContactJson json;
     QByteArray text;
-    for ( const PimContactCard& card : book )
+    for ( const PimContactCard& card : book.Cards() )
     {
         text.resize( 0 );
         json.Append( card, text );

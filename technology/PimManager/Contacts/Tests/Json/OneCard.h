@@ -22,7 +22,7 @@ inline PimContactCard CardOf( const QByteArray& a_lines )
 {
     const PimContactBook book = PimContactBook::FromBytes( "BEGIN:VCARD\r\n" + a_lines + "\r\nEND:VCARD\r\n" );
     EXPECT_EQ( book.Size(), 1 ) << a_lines.toStdString();
-    return book.IsEmpty() ? PimContactCard() : book.At( 0 );
+    return book.IsEmpty() ? PimContactCard() : book.CardAt( 0 );
 }
 
 /// \return the text; a test fails if it is no JSON.

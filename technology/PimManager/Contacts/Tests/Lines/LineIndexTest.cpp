@@ -214,6 +214,39 @@ TEST( LineIndexTest, EntriesAreReadAsTheyWereWritten )
     EXPECT_TRUE( reader.AtEnd() );
 }
 
+// A line is plain if nothing is lost when no more than the plain part of its entry is read.
+TEST( LineIndexTest, PlainLinesAreReadInPart )
+{
+    IndexWriter writer;
+    const std::vector<EntryRow> rows = Entries();
+    for ( const EntryRow& row : rows )
+        writer.Add( row.m_entry );
+    IndexReader reader = ReaderOf( writer.Bytes() );
+    for ( const EntryRow& row : rows )
+    {
+        SCOPED_TRACE( row.m_name );
+        IndexEntry entry;
+        const quint32 place = reader.Place();
+        const bool isPlain = reader.IsPlain();
+        reader.Next( entry );
+        const quint32 end = reader.Place();
+        IndexEntry plain =
+            PlainLine( entry.m_group.m_length, entry.m_name.m_length, entry.m_parameters.m_length, entry.m_length );
+        plain.m_hasFolds = entry.m_hasFolds;
+        EXPECT_EQ( isPlain, Described( plain ) == Described( entry ) );
+        if ( !isPlain )
+            continue;
+        reader.StepTo( place );
+        const IndexReader::PlainLine line = reader.SkipPlain();
+        EXPECT_EQ( reader.Place(), end );
+        EXPECT_EQ( line.m_length, entry.m_length );
+        EXPECT_EQ( Described( line.m_name ), Described( entry.m_name ) );
+        EXPECT_EQ( Described( line.m_parameters ), Described( entry.m_parameters ) );
+        EXPECT_EQ( line.m_hasFolds, entry.m_hasFolds );
+    }
+    EXPECT_TRUE( reader.AtEnd() );
+}
+
 TEST( LineIndexTest, JoinsAreReadAsTheyWereWritten )
 {
     JoinWriter joins;

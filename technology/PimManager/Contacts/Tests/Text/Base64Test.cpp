@@ -94,6 +94,48 @@ TEST( Base64DecoderTest, EveryByteIsDecodedFromLinesOfAnyLength )
     }
 }
 
+// In one piece, as the lines of a picture are.
+TEST( Base64DecoderTest, FoldsOfAnyLengthAreDecodedOver )
+{
+    const QByteArray expected = ManyBytes();
+    const QByteArray text = expected.toBase64();
+    for ( const char* fold : { "\r\n ", "\r\n\t", "\n ", "\r\n", "\r ", " ", "\r\n  ", "\r\n \r\n " } )
+    {
+        for ( int length = 1; length < 80; ++length )
+        {
+            QByteArray folded;
+            for ( int place = 0; place < text.size(); place += length )
+                folded += text.mid( place, length ) + fold;
+            QByteArray bytes;
+            Base64Decoder decoder( static_cast<size_t>( folded.size() ), bytes );
+            ASSERT_TRUE( decoder.Take( ViewOf( folded ) ) ) << length;
+            ASSERT_TRUE( decoder.Finish() ) << length;
+            ASSERT_EQ( bytes, expected ) << length;
+        }
+    }
+}
+
+TEST( Base64DecoderTest, FaultIsFoundAtEveryPlaceOfFoldedLines )
+{
+    const QByteArray folded = QByteArray( 30, 'Q' ) + "\r\n " + QByteArray( 29, 'Q' ) + "\r\n " + QByteArray( 33, 'Q' );
+    for ( int place = 0; place < folded.size(); ++place )
+    {
+        QByteArray text = folded;
+        text[place] = '*';
+        QByteArray bytes;
+        Base64Decoder decoder( static_cast<size_t>( text.size() ), bytes );
+        EXPECT_FALSE( decoder.Take( ViewOf( text ) ) ) << place;
+        decoder.Finish();
+        EXPECT_EQ( decoder.FaultPlace(), place );
+        int sound = 0;
+        for ( int i = 0; i < place; ++i )
+            sound += text.at( i ) == 'Q' ? 1 : 0;
+        // One character that is left over makes no byte.
+        EXPECT_EQ( bytes.size(), sound * 6 / 8 ) << place;
+        EXPECT_EQ( bytes, QByteArray::fromBase64( QByteArray( sound, 'Q' ) ) ) << place;
+    }
+}
+
 TEST( Base64DecoderTest, OnlyTheAlphabetIsAccepted )
 {
     for ( int byte = 0; byte < 256; ++byte )

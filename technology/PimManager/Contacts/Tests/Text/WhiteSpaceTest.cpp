@@ -56,6 +56,35 @@ TEST( WhiteSpaceTest, IncompleteCharactersAreNoSpaces )
     }
 }
 
+TEST( WhiteSpaceTest, SpaceIsSingleAtEveryPlaceOrIsMended )
+{
+    for ( const char* space : { "  ", "\t", "\n", " \t", "\xC2\xA0", " \xC2\xA0", "\xE3\x80\x80" } )
+    {
+        for ( size_t before = 1; before < 20; ++before )
+        {
+            for ( size_t behind = 1; behind < 20; ++behind )
+            {
+                const std::string first( before, 'a' );
+                const std::string last( behind, 'b' );
+                EXPECT_EQ( Words( first + space + last ), first + ' ' + last ) << space;
+                EXPECT_EQ( Words( first + ' ' + last ), first + ' ' + last );
+            }
+        }
+    }
+}
+
+TEST( WhiteSpaceTest, WordsAreCopiedOnlyIfTheyMustBe )
+{
+    QByteArray buffer = "before";
+    const std::string_view words = "one two\xC3\x84";
+    const std::string_view padded = "\t one two\xC3\x84 \n";
+    EXPECT_EQ( WordsIn( words, buffer ).data(), words.data() );
+    EXPECT_EQ( WordsIn( padded, buffer ), words );
+    EXPECT_EQ( buffer, "before" );
+    EXPECT_EQ( WordsIn( "one \t two\xC3\x84", buffer ), words );
+    EXPECT_EQ( WordsIn( " \n ", buffer ), "" );
+}
+
 TEST( WhiteSpaceTest, OuterSpaceIsRemoved )
 {
     EXPECT_EQ( WithoutOuterSpace( "" ), "" );

@@ -213,12 +213,12 @@ TEST_P( ComponentGrammarTest, OutcomeIsThatOfTheComponent )
     ASSERT_EQ( book.Size(), 1 );
     const ComponentReading reading = ReadByTheComponent( bytes );
     EXPECT_EQ( reading.m_hasErrors, row.m_outcome == Outcome::Refused );
-    const bool isSame = reading.m_text == TextOf( book.At( 0 ) );
+    const bool isSame = reading.m_text == TextOf( book.CardAt( 0 ) );
     if ( row.m_outcome != Outcome::Refused )
     {
         EXPECT_EQ( isSame, row.m_outcome != Outcome::Changed ) << reading.m_text.toStdString();
     }
-    EXPECT_EQ( IsReadByComponent( book.At( 0 ) ), row.m_outcome == Outcome::Read );
+    EXPECT_EQ( IsReadByComponent( book.CardAt( 0 ) ), row.m_outcome == Outcome::Read );
 }
 
 TEST( ComponentGrammarOfNestedCardTest, CardInsideACardIsNotRead )
@@ -226,8 +226,8 @@ TEST( ComponentGrammarOfNestedCardTest, CardInsideACardIsNotRead )
     const PimContactBook book =
         PimContactBook::FromBytes( "BEGIN:VCARD\r\nAGENT:\r\nBEGIN:VCARD\r\nN:a\r\nEND:VCARD\r\nN:b\r\nEND:VCARD\r\n" );
     ASSERT_EQ( book.Size(), 1 );
-    EXPECT_FALSE( IsReadByComponent( book.At( 0 ) ) );
-    EXPECT_TRUE( IsReadByComponent( book.At( 0 ).begin()->NestedCard() ) );
+    EXPECT_FALSE( IsReadByComponent( book.CardAt( 0 ) ) );
+    EXPECT_TRUE( IsReadByComponent( book.CardAt( 0 ).begin()->NestedCard() ) );
 }
 
 TEST( ComponentGrammarOfNestedCardTest, NullCardIsNotRead )

@@ -65,7 +65,7 @@ TEST_P( DefaultCharsetTest, IsUsedForWhatNothingElseDecides )
 {
     const PimContactBook book = PimContactBook::FromBytes( CardOf( GetParam().m_lines ) );
     ASSERT_EQ( book.Size(), 1 );
-    EXPECT_EQ( book.At( 0 ).UsesDefaultCharset(), GetParam().m_isUsed );
+    EXPECT_EQ( book.CardAt( 0 ).UsesDefaultCharset(), GetParam().m_isUsed );
 }
 
 TEST_P( DefaultCharsetTest, IsNotUsedIfItIsUtf8OrUnknown )
@@ -76,7 +76,7 @@ TEST_P( DefaultCharsetTest, IsNotUsedIfItIsUtf8OrUnknown )
         options.SetDefaultCharset( charset );
         const PimContactBook book = PimContactBook::FromBytes( CardOf( GetParam().m_lines ), options );
         ASSERT_EQ( book.Size(), 1 );
-        EXPECT_FALSE( book.At( 0 ).UsesDefaultCharset() ) << charset;
+        EXPECT_FALSE( book.CardAt( 0 ).UsesDefaultCharset() ) << charset;
     }
 }
 

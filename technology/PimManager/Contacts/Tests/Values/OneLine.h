@@ -26,7 +26,7 @@ inline PimContactLine OneLine( const QByteArray& a_lines, const QByteArray& a_ve
     EXPECT_EQ( book.Size(), 1 );
     if ( book.IsEmpty() )
         return PimContactLine();
-    auto line = book.At( 0 ).begin();
+    auto line = book.CardAt( 0 ).begin();
     if ( !a_version.isEmpty() )
         ++line;
     EXPECT_FALSE( line->IsNull() );

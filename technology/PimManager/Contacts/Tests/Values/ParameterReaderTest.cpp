@@ -107,6 +107,30 @@ INSTANTIATE_TEST_SUITE_P(
                                      "LABEL=1 Main St\nTown, X\\\nEnd " } ),
     RowName );
 
+INSTANTIATE_TEST_SUITE_P(
+    Labels, ParameterReaderTest,
+    ::testing::Values(
+        ParameterRow{ "Plain", s_k21, ";X-CUSTOM=Boat", "X-CUSTOM=Boat " },
+        ParameterRow{ "Encoded", s_k21, ";CELL;X-CUSTOM(CHARSET=UTF-8,ENCODING=QUOTED-PRINTABLE,=42=6F=61=74);HOME",
+                      "TYPE=CELL X-CUSTOM=Boat TYPE=HOME " },
+        ParameterRow{ "NameAsWritten", s_k30, ";x-custom(encoding=quoted-printable,charset=utf-8,=D0=94)",
+                      "x-custom=\xD0\x94 " },
+        ParameterRow{ "CommasAndEquals", s_k21, ";X-CUSTOM(ENCODING=QUOTED-PRINTABLE,a, b=3D=,c=)",
+                      "X-CUSTOM=a, b==,c= " },
+        ParameterRow{ "NotEncoded", s_k30, ";X-CUSTOM( Boat^n, old=42 )", "X-CUSTOM=Boat^n, old=42 " },
+        ParameterRow{ "OtherCharset", s_k21, ";X-CUSTOM(CHARSET=ISO-8859-1,ENCODING=QUOTED-PRINTABLE,caf=E9)",
+                      "X-CUSTOM=caf\xC3\xA9 " },
+        ParameterRow{ "BytesOfUtf8", s_k21, ";X-CUSTOM(CHARSET=ISO-8859-1,ENCODING=QUOTED-PRINTABLE,caf\xC3\xA9)",
+                      "X-CUSTOM=caf\xC3\xA9 " },
+        ParameterRow{ "UnknownCharset", s_k21, ";X-CUSTOM(CHARSET=x,ENCODING=QUOTED-PRINTABLE,=C3=A9)",
+                      "X-CUSTOM=\xC3\xA9 " },
+        ParameterRow{ "Malformed", s_k21, ";X-CUSTOM(ENCODING=QUOTED-PRINTABLE,=C3)", "X-CUSTOM=\xEF\xBF\xBD " },
+        ParameterRow{ "Empty", s_k21, ";X-CUSTOM()", "X-CUSTOM= " },
+        ParameterRow{ "OnlyFields", s_k21, ";X-CUSTOM(CHARSET=UTF-8,ENCODING=QUOTED-PRINTABLE,)", "X-CUSTOM= " },
+        ParameterRow{ "NotClosed", s_k21, ";X-CUSTOM(Boat", "TYPE=X-CUSTOM(Boat " },
+        ParameterRow{ "OtherName", s_k21, ";X-CUSTOMS(Boat)", "TYPE=X-CUSTOMS(Boat) " } ),
+    RowName );
+
 TEST_P( ParameterReaderTest, ValuesAreReadByTheirMeaning )
 {
     const ParameterRow& row = GetParam();

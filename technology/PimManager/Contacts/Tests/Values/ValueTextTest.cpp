@@ -159,7 +159,7 @@ TEST( ValueTextOfCardTest, PropertyBehindNestedCardIsDecoded )
                                                            "NOTE:out\\nside\r\nEND:VCARD\r\n" );
     ASSERT_EQ( book.Size(), 1 );
     QStringList texts;
-    for ( const PimContactLine& line : book.At( 0 ) )
+    for ( const PimContactLine& line : book.CardAt( 0 ) )
     {
         texts.append( line.Text() );
         if ( !line.NestedCard().IsNull() )

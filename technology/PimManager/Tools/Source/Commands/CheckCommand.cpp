@@ -17,7 +17,22 @@ std::unique_ptr<BookOutput> MakeOutput( const CommandLine& a_line, OutputDevice&
 {
     if ( a_line.IsSet( s_kExtentsOption ) )
         return std::make_unique<ExtentList>( a_out, a_line.Arguments().size() > 1 );
-    return std::make_unique<CheckReport>( a_out );
+    using Conformance = CheckReport::Conformance;
+    const bool isStandard = a_line.IsSet( s_kStandardOption );
+    return std::make_unique<CheckReport>( a_out, isStandard ? Conformance::Checked : Conformance::Ignored );
+}
+
+/// \return why the options do not go together; empty if they do.
+QString ContradictionIn( const CommandLine& a_line )
+{
+    QStringList ways;
+    for ( const QString& option : { s_kExtentsOption, s_kStandardOption, s_kStrictOption } )
+    {
+        if ( a_line.IsSet( option ) )
+            ways << QStringLiteral( "--" ) + option;
+    }
+    return ways.size() < 2 ? QString()
+                           : ways[0] + QStringLiteral( " and " ) + ways[1] + QStringLiteral( " contradict each other" );
 }
 
 } // namespace
@@ -28,12 +43,12 @@ ExitStatus RunCheck( const CommandLine& a_line, Console& a_console )
     const QString mistake = ReadBookOptions( a_line, options );
     if ( !mistake.isEmpty() )
         return RefuseUsage( a_console, a_line, mistake );
-    const bool isStrict = a_line.IsSet( s_kStrictOption );
-    if ( isStrict && a_line.IsSet( s_kExtentsOption ) )
-        return RefuseUsage( a_console, a_line, QStringLiteral( "--extents and --strict contradict each other" ) );
+    const QString contradiction = ContradictionIn( a_line );
+    if ( !contradiction.isEmpty() )
+        return RefuseUsage( a_console, a_line, contradiction );
     if ( !OutputClaims( a_console, a_line.Arguments() ).ClaimResults() )
         return ExitStatus::Trouble;
-    if ( isStrict )
+    if ( a_line.IsSet( s_kStrictOption ) )
         return StrictCheck( a_console ).Run( a_line.Arguments() );
     // The output receives each finding. None has to be kept.
     options.m_reader.SetDiagnostics( 0 );

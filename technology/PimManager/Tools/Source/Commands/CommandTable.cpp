@@ -71,33 +71,57 @@ CommandInfo Check()
         { Flag( QStringLiteral( "e" ), s_kExtentsOption,
                 QStringLiteral( "Prints what became of each byte instead of the findings: lines of OFFSET LENGTH KIND "
                                 "CARD, from byte 0 to the end of the file." ) ),
+          Flag( QStringLiteral( "S" ), s_kStandardOption,
+                QStringLiteral( "Also reports what does not conform to the standard of each card's version, with the "
+                                "section that says so." ) ),
           Flag( QStringLiteral( "s" ), s_kStrictOption,
                 QStringLiteral( "Reads each file with the strict vCard component, and prints its log and how many "
                                 "cards it returns." ) ) },
         QStringLiteral(
             "\nPrints one line for each finding, FILE:LINE:COLUMN: SEVERITY: TEXT [WORD], and one for each file.\n"
             "Severities: note, delivered as written; repaired, what was meant is delivered; dropped, left out of a\n"
-            "card; refused, a whole card or file left out.\n" ) );
+            "card; refused, a whole card or file left out; invalid, not as the standard demands (--standard). The\n"
+            "exit status is 1 as well if anything is invalid.\n" ) );
 }
 
 CommandInfo Convert()
 {
     const QString file = QStringLiteral( "FILE" );
     return Reading(
-        QStringLiteral( "convert" ), QStringLiteral( "Writes the contacts in another format, and their pictures." ),
+        QStringLiteral( "convert" ),
+        QStringLiteral( "Writes the contacts in another format or version, and their pictures." ),
         { Valued( QStringLiteral( "t" ), s_kToOption, QStringLiteral( "FORMAT" ),
-                  QStringLiteral( "json, one array of all contacts; json-lines, an object a line; or html, a page for "
-                                  "a browser. Without this option the ending of the output decides." ),
+                  QStringLiteral( "2.1, 3.0 or 4.0, a vCard; jcard, vCards in JSON (RFC 7095); csv, a table; json, one "
+                                  "array of all contacts with their decoded properties; json-lines, such an object a "
+                                  "line; or html, a page for a browser. Without this option the ending of the output "
+                                  "decides: .vcf is 3.0." ),
                   FormatNames() ),
           Valued( QStringLiteral( "o" ), s_kOutputOption, file,
                   QStringLiteral( "The output; standard output unless given." ) ),
+          Valued( QStringLiteral( "d" ), s_kSplitOption, QStringLiteral( "DIR" ),
+                  QStringLiteral( "Writes each contact into a file of its own in a folder, as a vCard or jCard; 3.0 "
+                                  "without --to." ) ),
+          Valued( QStringLiteral( "n" ), s_kFilterOption, QStringLiteral( "NAMES" ),
+                  QStringLiteral( "Keeps only these properties of the contacts, such as FN,N,TEL." ) ),
+          Flag( QStringLiteral( "s" ), s_kSortOption,
+                QStringLiteral( "Sorts the contacts by name. All of them are then kept in memory." ) ),
+          Valued(
+              QStringLiteral( "C" ), s_kColumnsOption, QStringLiteral( "NAMES" ),
+              QStringLiteral( "The columns of a csv table in their order, such as name,mobile. An unknown name lists "
+                              "the known ones." ) ),
+          Flag( QStringLiteral( "m" ), s_kMarkOption,
+                QStringLiteral( "Begins a csv table with a byte order mark, so that spreadsheet programs read it as "
+                                "UTF-8." ) ),
           Valued( QStringLiteral( "p" ), s_kPhotosOption, QStringLiteral( "DIR" ),
                   QStringLiteral( "Writes the pictures into a folder." ) ),
           Valued( QStringLiteral( "r" ), s_kRejectsOption, file,
                   QStringLiteral( "Writes what was refused or dropped, as it was found." ) ),
           Flag( QStringLiteral( "f" ), s_kForceOption,
                 QStringLiteral( "Lets the outputs replace files that exist." ) ) },
-        QStringLiteral( "\nAs FILE, - is standard output. A file appears only when it is complete.\n" ) );
+        QStringLiteral(
+            "\nAs FILE, - is standard output. A file appears only when it is complete. Several books are joined.\n"
+            "Contacts are written as they are read, so the size of the books does not matter, unless --sort\n"
+            "is given. What the format cannot say is reported on standard error.\n" ) );
 }
 
 CommandInfo Help()

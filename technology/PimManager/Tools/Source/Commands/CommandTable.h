@@ -60,11 +60,17 @@ inline const QString s_kQuietOption = QStringLiteral( "quiet" );
 inline const QString s_kCharsetOption = QStringLiteral( "charset" );
 inline const QString s_kFullOption = QStringLiteral( "full" );
 inline const QString s_kExtentsOption = QStringLiteral( "extents" );
+inline const QString s_kStandardOption = QStringLiteral( "standard" );
 inline const QString s_kStrictOption = QStringLiteral( "strict" );
 inline const QString s_kToOption = QStringLiteral( "to" );
 inline const QString s_kOutputOption = QStringLiteral( "output" );
 inline const QString s_kPhotosOption = QStringLiteral( "photos" );
 inline const QString s_kRejectsOption = QStringLiteral( "rejects" );
+inline const QString s_kSplitOption = QStringLiteral( "split" );
+inline const QString s_kFilterOption = QStringLiteral( "filter" );
+inline const QString s_kSortOption = QStringLiteral( "sort" );
+inline const QString s_kColumnsOption = QStringLiteral( "columns" );
+inline const QString s_kMarkOption = QStringLiteral( "mark" );
 inline const QString s_kForceOption = QStringLiteral( "force" );
 
 } // namespace PimManager::Tools

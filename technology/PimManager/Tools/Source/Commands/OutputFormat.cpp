@@ -16,15 +16,22 @@ struct FormatWord
 };
 
 constexpr std::array s_kNames = {
+    FormatWord{ "2.1", OutputFormat::V21 },
+    FormatWord{ "3.0", OutputFormat::V30 },
+    FormatWord{ "4.0", OutputFormat::V40 },
+    FormatWord{ "jcard", OutputFormat::JCard },
+    FormatWord{ "csv", OutputFormat::Csv },
     FormatWord{ "json", OutputFormat::Json },
     FormatWord{ "json-lines", OutputFormat::JsonLines },
     FormatWord{ "html", OutputFormat::Html },
 };
 
 constexpr std::array s_kEndings = {
-    FormatWord{ ".json", OutputFormat::Json },        FormatWord{ ".jsonl", OutputFormat::JsonLines },
-    FormatWord{ ".ndjson", OutputFormat::JsonLines }, FormatWord{ ".html", OutputFormat::Html },
-    FormatWord{ ".htm", OutputFormat::Html },
+    FormatWord{ ".vcf", OutputFormat::V30 },         FormatWord{ ".vcard", OutputFormat::V30 },
+    FormatWord{ ".jcard", OutputFormat::JCard },     FormatWord{ ".jcf", OutputFormat::JCard },
+    FormatWord{ ".csv", OutputFormat::Csv },         FormatWord{ ".json", OutputFormat::Json },
+    FormatWord{ ".jsonl", OutputFormat::JsonLines }, FormatWord{ ".ndjson", OutputFormat::JsonLines },
+    FormatWord{ ".html", OutputFormat::Html },       FormatWord{ ".htm", OutputFormat::Html },
 };
 
 template <typename Words, typename Condition>

@@ -3,10 +3,29 @@
 #include "Outputs/ReportText.h"
 #include "Terminal/Wording.h"
 
+#include <QStringList>
+
 namespace PimManager::Tools
 {
 
 using namespace Contacts;
+
+namespace
+{
+
+// A book of usual cards exceeds these two first.
+QString LimitHint( const PimContactReport& a_report )
+{
+    QStringList options;
+    if ( a_report.Findings( PimContactDiagnosticCode::TooManyCards ) > 0 )
+        options << QStringLiteral( "--max-cards" );
+    if ( a_report.Findings( PimContactDiagnosticCode::BookTooLong ) > 0 )
+        options << QStringLiteral( "--max-book-bytes" );
+    const QString hint = options.join( QLatin1String( " and " ) );
+    return hint.isEmpty() ? hint : QStringLiteral( "; set %1, 0 is no limit" ).arg( hint );
+}
+
+} // namespace
 
 BookNotes::BookNotes( Console& a_console ) :
     m_console( a_console )
@@ -27,7 +46,7 @@ void BookNotes::EndBook( const BookInRun& a_book )
         return;
     const bool isBook = report.FileKind() == PimContactFileKind::AddressBook;
     const QString hint = isBook ? QStringLiteral( "; \"pimvcard check\" shows where" ) : QString();
-    m_console.Remark( a_book.m_source + QStringLiteral( ": " ) + losses + hint );
+    m_console.Remark( a_book.m_source + QStringLiteral( ": " ) + losses + LimitHint( report ) + hint );
 }
 
 QString BookNotes::Result() const

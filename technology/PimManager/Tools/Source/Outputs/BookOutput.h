@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "ExitStatus.h"
+
 #include <PimManager/Contacts/PimContactCard.h>
 #include <PimManager/Contacts/PimContactDiagnostic.h>
 #include <PimManager/Contacts/PimContactExtent.h>
@@ -49,6 +51,8 @@ public:
     /// Called only if WantsExtents().
     virtual void TakeExtent( const BookInRun& /*a_book*/, const Contacts::PimContactExtent& /*a_extent*/ ) {}
     virtual void EndBook( const BookInRun& /*a_book*/ ) {}
+    /// Called before End() if none of the files could be opened: a file that exists stays as it is.
+    virtual void Abandon() {}
     /// Called last.
     virtual void End() {}
     /// Called if one of the functions above has thrown an exception: the output may be cut off anywhere.
@@ -59,6 +63,9 @@ public:
 
     /// \return why something is missing, as sentences for the user without a full stop; empty if nothing is.
     virtual QStringList Failures() const { return {}; }
+
+    /// \return AllGiven, or SomeRefused if the output found something in the files that the exit status is to report.
+    virtual ExitStatus Status() const { return ExitStatus::AllGiven; }
 
     /// \return a few words for the totals, such as `2 pictures written`; empty to say nothing.
     virtual QString Result() const { return QString(); }

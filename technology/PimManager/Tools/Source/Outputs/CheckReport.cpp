@@ -10,20 +10,28 @@ namespace PimManager::Tools
 
 using namespace Contacts;
 
-CheckReport::CheckReport( QIODevice& a_device ) :
-    m_device( a_device )
+CheckReport::CheckReport( QIODevice& a_device, Conformance a_conformance ) :
+    m_device( a_device ),
+    m_isStandardChecked( a_conformance == Conformance::Checked )
 {
 }
 
 void CheckReport::BeginBook( const BookInRun& /*a_book*/, const PimContactReader& /*a_reader*/ )
 {
     m_values.Clear();
+    m_standard.Clear();
 }
 
 void CheckReport::TakeCard( const BookInRun& a_book, const PimContactCard& a_card )
 {
-    const QStringList findings = m_values.Of( a_book.m_source, a_card );
-    for ( const QString& finding : findings )
+    Write( m_values.Of( a_book.m_source, a_card ) );
+    if ( m_isStandardChecked )
+        Write( m_standard.Of( a_book.m_source, a_card ) );
+}
+
+void CheckReport::Write( const QStringList& a_findings )
+{
+    for ( const QString& finding : a_findings )
         m_device.write( finding.toUtf8() + '\n' );
 }
 
@@ -34,7 +42,10 @@ void CheckReport::TakeDiagnostic( const BookInRun& a_book, const PimContactDiagn
 
 void CheckReport::EndBook( const BookInRun& a_book )
 {
-    const QString summary = SummaryText( a_book.m_report, a_book.m_isReadToEnd, m_values.Counts() );
+    const QList<FindingCount> invalid = m_standard.Counts();
+    if ( !invalid.isEmpty() )
+        m_status = ExitStatus::SomeRefused;
+    const QString summary = SummaryText( a_book.m_report, a_book.m_isReadToEnd, m_values.Counts() + invalid );
     m_device.write( a_book.m_source.toUtf8() + ": " + summary.toUtf8() + '\n' );
 }
 

@@ -17,13 +17,11 @@ void ContactJson::Begin()
         m_file.Device().write( "[" );
 }
 
-void ContactJson::BeginBook( const BookInRun& a_book, const PimContactReader& /*a_reader*/ )
+void ContactJson::TakeCard( const BookInRun& a_book, const PimContactCard& a_card )
 {
-    m_json.SetFile( a_book.m_source );
-}
-
-void ContactJson::TakeCard( const BookInRun& /*a_book*/, const PimContactCard& a_card )
-{
+    if ( a_book.m_number != m_book )
+        m_json.SetFile( a_book.m_source );
+    m_book = a_book.m_number;
     m_buffer.resize( 0 );
     if ( m_isDocument )
         m_buffer += m_isFirst ? "\n" : ",\n";

@@ -27,9 +27,9 @@ public:
     ContactJson( const QByteArray& a_fileName, OutputClaims& a_claims, Form a_form );
 
     void Begin() override;
-    void BeginBook( const BookInRun& a_book, const Contacts::PimContactReader& a_reader ) override;
     void TakeCard( const BookInRun& a_book, const Contacts::PimContactCard& a_card ) override;
     void End() override;
+    void Abandon() override { m_file.Abandon(); }
     void Fail( const QString& a_reason ) override { m_file.Fail( a_reason ); }
     QStringList Failures() const override;
 
@@ -37,6 +37,8 @@ private:
     OutputFile m_file;
     const bool m_isDocument;
     bool m_isFirst = true;
+    // The number of the file.
+    int m_book = 0;
     Contacts::PimContactJson m_json;
     QByteArray m_buffer;
 };

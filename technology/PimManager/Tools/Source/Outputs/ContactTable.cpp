@@ -29,13 +29,15 @@ QString CellText( const QString& a_text )
     return ToTerminalText( Shortened( a_text.simplified() ) );
 }
 
-QStringList EntryTexts( const QList<PimContactEntry>& a_entries )
+/// \param a_text of a field, such as its number.
+template <class Field>
+QStringList FieldTexts( const PimContactList<Field>& a_fields, QString ( Field::*a_text )() const )
 {
     QStringList texts;
-    for ( const PimContactEntry& entry : a_entries )
+    for ( const Field& field : a_fields )
     {
-        const QString purpose = CellText( entry.Purpose() );
-        texts << ( CellText( entry.Text() ) + QLatin1Char( ' ' ) + purpose ).trimmed();
+        const QString purpose = CellText( field.Purpose() );
+        texts << ( CellText( ( field.*a_text )() ) + QLatin1Char( ' ' ) + purpose ).trimmed();
     }
     return ShortenedList( texts );
 }
@@ -77,8 +79,11 @@ void ContactTable::End()
 
 ContactTable::Row ContactTable::RowOf( const PimContact& a_contact )
 {
-    return { QStringList( CellText( ShownName( a_contact ) ) ), EntryTexts( a_contact.Phones() ),
-             EntryTexts( a_contact.Mails() ), QStringList( CellText( a_contact.Organisation() ) ) };
+    const PimContactList<PimContactOrganisation> organisations = a_contact.Organisations();
+    const QString organisation = organisations.isEmpty() ? QString() : organisations.constFirst().Text();
+    return { QStringList( CellText( ShownName( a_contact ) ) ),
+             FieldTexts( a_contact.Phones(), &PimContactPhone::Text ),
+             FieldTexts( a_contact.Mails(), &PimContactMail::Address ), QStringList( CellText( organisation ) ) };
 }
 
 void ContactTable::WriteWaiting()

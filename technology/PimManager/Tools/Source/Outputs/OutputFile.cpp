@@ -28,6 +28,12 @@ void OutputFile::Fail( const QString& a_reason )
         m_reason = a_reason;
 }
 
+void OutputFile::Abandon()
+{
+    if ( m_file )
+        Fail( QStringLiteral( "no file could be read" ) );
+}
+
 void OutputFile::Close()
 {
     if ( m_file )

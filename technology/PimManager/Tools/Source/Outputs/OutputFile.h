@@ -36,6 +36,9 @@ public:
     /// Declares the output broken: Close() does not publish it. The first reason counts.
     void Fail( const QString& a_reason );
 
+    /// Nothing could be read: a file is not published. What was written to anything else stays written.
+    void Abandon();
+
     /// Sends what is left. A file is published, unless something has failed. Call it once.
     void Close();
 

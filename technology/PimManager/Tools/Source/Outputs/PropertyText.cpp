@@ -54,7 +54,7 @@ bool IsAboutEncoding( const QString& a_parameter )
 }
 
 // The label of a group is the label of its other lines.
-QString LabelOf( const PimContactLine& a_line, const PimContactEntry& a_entry )
+QString LabelOf( const PimContactLine& a_line, const PimContactText& a_entry )
 {
     return a_line.IsNamed( QLatin1String( "X-ABLABEL" ) ) ? QString() : a_entry.Label();
 }
@@ -65,7 +65,7 @@ QString NameOf( const PimContactLine& a_line, bool a_hasLabel )
     return QString::fromUtf8( group.isEmpty() ? a_line.Name() : group + '.' + a_line.Name() );
 }
 
-QStringList ParametersOf( const PimContactLine& a_line, const PimContactEntry& a_entry, TextLength a_length )
+QStringList ParametersOf( const PimContactLine& a_line, const PimContactText& a_entry, TextLength a_length )
 {
     ParameterTexts texts;
     const QList<QPair<QString, QString>> parameters = a_line.NamedParameters();
@@ -76,11 +76,11 @@ QStringList ParametersOf( const PimContactLine& a_line, const PimContactEntry& a
             texts.Add( parameter.first, parameter.second );
     }
     // A type may be the preference as well.
-    const bool isPreferredType = a_entry.Preference() > 0 && !texts.Has( s_kPreference );
+    const bool isPreferredType = a_entry.Preference() && !texts.Has( s_kPreference );
     return isPreferredType ? QStringList( s_kPreference ) + texts.Texts() : texts.Texts();
 }
 
-QString RemarksOf( const PimContactLine& a_line, const PimContactEntry& a_entry, TextLength a_length )
+QString RemarksOf( const PimContactLine& a_line, const PimContactText& a_entry, TextLength a_length )
 {
     const QString label = LabelOf( a_line, a_entry );
     const QStringList types = a_entry.Types();
@@ -109,7 +109,7 @@ QStringList Joined( QStringList a_parts, const QString& a_delimiter, TextLength 
     return text.isEmpty() ? QStringList() : text.split( QLatin1Char( '\n' ) );
 }
 
-QStringList ComponentLines( const PimContactLine& a_line, const PimContactEntry& a_entry, TextLength a_length )
+QStringList ComponentLines( const PimContactLine& a_line, const PimContactText& a_entry, TextLength a_length )
 {
     const QStringList components = a_line.Components();
     const bool isAddress = a_line.IsNamed( QLatin1String( "ADR" ) ) && components.size() <= s_kAddressParts;
@@ -131,7 +131,7 @@ QStringList BinaryLines( const PimContactLine& a_line, TextLength a_length )
     return QStringList( facts.join( s_kComma ) ) + LinesOf( a_line.Text(), a_length );
 }
 
-QStringList ValueLines( const PimContactLine& a_line, const PimContactEntry& a_entry, TextLength a_length )
+QStringList ValueLines( const PimContactLine& a_line, const PimContactText& a_entry, TextLength a_length )
 {
     switch ( a_line.Kind() )
     {
@@ -153,7 +153,7 @@ QStringList ValueLines( const PimContactLine& a_line, const PimContactEntry& a_e
 
 PropertyText PropertyTextOf( const PimContact& a_contact, const PimContactLine& a_line, TextLength a_length )
 {
-    const PimContactEntry entry = a_contact.EntryOf( a_line );
+    const PimContactText entry = a_contact.FieldOf( a_line );
     const bool hasLabel = !LabelOf( a_line, entry ).isEmpty();
     PropertyText text;
     text.m_name = ToTerminalText( Shortened( NameOf( a_line, hasLabel ), a_length ) );

@@ -21,6 +21,7 @@ public:
     void BeginBook( const BookInRun& a_book, const Contacts::PimContactReader& a_reader ) override;
     void TakeExtent( const BookInRun& a_book, const Contacts::PimContactExtent& a_extent ) override;
     void End() override;
+    void Abandon() override { m_file.Abandon(); }
     void Fail( const QString& a_reason ) override { m_file.Fail( a_reason ); }
     bool WantsExtents() const override { return true; }
     QStringList Failures() const override;

@@ -49,20 +49,21 @@ QByteArray LinkOf( const PimContactLine& a_line, const QString& a_text )
 }
 
 // What an entry is for, a text for each thing.
-QStringList UsesOf( const PimContactEntry& a_entry )
+QStringList UsesOf( const PimContactText& a_entry )
 {
     QStringList uses;
     if ( !a_entry.Purpose().isEmpty() )
         uses << a_entry.Purpose();
-    if ( a_entry.Preference() == 1 )
+    const int preference = a_entry.Preference().value_or( 0 );
+    if ( preference == 1 )
         uses << QStringLiteral( "preferred" );
-    else if ( a_entry.Preference() > 1 )
-        uses << QStringLiteral( "preference %1" ).arg( a_entry.Preference() );
+    else if ( preference > 1 )
+        uses << QStringLiteral( "preference %1" ).arg( preference );
     return uses;
 }
 
 // True if the property says nothing else than its purpose and its text.
-bool SaysNothingElse( const PropertyText& a_property, const PimContactLine& a_line, const PimContactEntry& a_entry )
+bool SaysNothingElse( const PropertyText& a_property, const PimContactLine& a_line, const PimContactText& a_entry )
 {
     QStringList lines = a_entry.Text().split( QLatin1Char( '\n' ) );
     for ( QString& line : lines )
@@ -105,7 +106,7 @@ void CardHtml::WriteWork()
     QStringList texts;
     for ( const PimContactLine& line : m_card )
     {
-        const QString text = IsWork( line ) ? m_contact.EntryOf( line ).Text() : QString();
+        const QString text = IsWork( line ) ? m_contact.FieldOf( line ).Text() : QString();
         // A company is often called by its own name.
         if ( !text.isEmpty() && text != m_name )
             texts << text;
@@ -132,7 +133,7 @@ void CardHtml::WriteWays()
 
 void CardHtml::WriteWay( const PimContactLine& a_line )
 {
-    const PimContactEntry entry = m_contact.EntryOf( a_line );
+    const PimContactText entry = m_contact.FieldOf( a_line );
     if ( entry.Text().isEmpty() )
         return;
     const QByteArray link = LinkOf( a_line, entry.Text() );
@@ -147,7 +148,7 @@ void CardHtml::WriteWay( const PimContactLine& a_line )
     m_device.write( "</li>\n" );
 }
 
-void CardHtml::WriteUses( const PimContactEntry& a_entry )
+void CardHtml::WriteUses( const PimContactText& a_entry )
 {
     const QStringList uses = UsesOf( a_entry );
     for ( const QString& use : uses )
@@ -162,7 +163,7 @@ void CardHtml::WriteNotes()
 {
     for ( const PimContactLine& line : m_card )
     {
-        const QString text = IsNote( line ) ? m_contact.EntryOf( line ).Text() : QString();
+        const QString text = IsNote( line ) ? m_contact.FieldOf( line ).Text() : QString();
         if ( text.isEmpty() )
             continue;
         m_device.write( R"(<p class="note" dir="auto">)" );
@@ -237,7 +238,7 @@ void CardHtml::WriteHead( const PropertyText& a_property )
 // True if everything that the property says is outside the list of the rest.
 bool CardHtml::IsShown( const PimContactLine& a_line, const PropertyText& a_property ) const
 {
-    const PimContactEntry entry = m_contact.EntryOf( a_line );
+    const PimContactText entry = m_contact.FieldOf( a_line );
     if ( !a_line.NestedCard().IsNull() )
         return entry.Text().isEmpty();
     if ( entry.Text().isEmpty() || !SaysNothingElse( a_property, a_line, entry ) )

@@ -37,7 +37,7 @@ private:
     void WriteWork();
     void WriteWays();
     void WriteWay( const Contacts::PimContactLine& a_line );
-    void WriteUses( const Contacts::PimContactEntry& a_entry );
+    void WriteUses( const Contacts::PimContactText& a_entry );
     void WriteNotes();
     void WriteExtraPictures();
     void WriteNestedCards();

@@ -27,6 +27,7 @@ public:
     void TakeCard( const BookInRun& a_book, const Contacts::PimContactCard& a_card ) override;
     void EndBook( const BookInRun& a_book ) override;
     void End() override;
+    void Abandon() override { m_file.Abandon(); }
     void Fail( const QString& a_reason ) override { m_file.Fail( a_reason ); }
     QStringList Failures() const override;
 

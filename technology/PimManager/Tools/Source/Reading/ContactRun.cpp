@@ -35,6 +35,9 @@ ExitStatus ContactRun::Run( const QList<QByteArray>& a_fileNames )
         return ReportFailures( ExitStatus::Trouble );
     ForEachOutput( []( BookOutput& a_output ) { a_output.Begin(); } );
     const ExitStatus status = m_run.Read( a_fileNames, *this );
+    const bool isNothingRead = status == ExitStatus::Trouble && m_book.m_number == 0;
+    if ( isNothingRead )
+        ForEachOutput( []( BookOutput& a_output ) { a_output.Abandon(); } );
     ForEachOutput( []( BookOutput& a_output ) { a_output.End(); } );
     const ExitStatus finished = m_run.Finish( ReportFailures( m_console.Close( status ) ) );
     if ( !m_run.IsReaderGone() )
@@ -157,6 +160,7 @@ ExitStatus ContactRun::ReportFailures( ExitStatus a_status )
     ExitStatus status = a_status;
     for ( const std::unique_ptr<BookOutput>& output : m_outputs )
     {
+        status = Worse( status, output->Status() );
         const QStringList failures = output->Failures();
         for ( const QString& failure : failures )
             m_console.Tell( failure );

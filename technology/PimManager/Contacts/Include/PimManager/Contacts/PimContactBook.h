@@ -3,22 +3,28 @@
 ///
 /// \code
 /// const PimContactBook book = PimContactBook::ReadFile( QStringLiteral( "contacts.vcf" ) );
-/// for ( const PimContactCard& card : book )
-///     qInfo() << card.Number() << card.LineCount();
+/// for ( const PimContact& contact : book )
+///     qInfo() << contact.DisplayName() << contact.Phones().Preferred().Number();
 /// if ( !book.Report().IsComplete() )
 ///     qWarning().noquote() << book.Report().Summary();
 /// \endcode
 
 #pragma once
 
+#include <PimManager/Contacts/PimContact.h>
 #include <PimManager/Contacts/PimContactCard.h>
 #include <PimManager/Contacts/PimContactExport.h>
 #include <PimManager/Contacts/PimContactOptions.h>
 #include <PimManager/Contacts/PimContactReport.h>
+#include <PimManager/Contacts/PimContactWriter.h>
 
 #include <QByteArray>
+#include <QList>
 #include <QSharedDataPointer>
 #include <QString>
+#include <QtGlobal>
+
+#include <iterator>
 
 class QIODevice;
 
@@ -27,12 +33,15 @@ namespace PimManager::Contacts
 
 class PimContactBookPrivate;
 
-/// A list of cards and the report on the file that they came from. Implicitly shared; copying is cheap. A book takes at
-/// most three times the bytes of its cards and 250 bytes a card.
+/// The contacts of a file, and the report on it. Implicitly shared; copying is cheap.
+///
+/// A book holds cards. It takes at most three times the bytes of its cards and 250 bytes a card. A contact is made from
+/// its card when it is asked for; to change a contact in the book, edit it and pass it to Replace().
 class PIMCONTACT_EXPORT PimContactBook
 {
 public:
-    using const_iterator = const PimContactCard*;
+    class const_iterator;
+    class CardRange;
 
     /// Creates an empty book.
     PimContactBook();
@@ -59,20 +68,46 @@ public:
     static PimContactBook FromBytes( const QByteArray& a_bytes,
                                      const PimContactOptions& a_options = PimContactOptions() );
 
+    /// Writes all contacts to a device, as PimContactWriter does.
+    /// \param a_device open for writing; remains the caller's.
+    /// \return what the format could not express. Its ErrorText() says whether the device failed.
+    PimContactWriteReport Save( QIODevice& a_device, PimContactFormat a_format = PimContactFormat::V30 ) const;
+
+    /// Writes all contacts to a file. It is replaced when everything was written; if that fails, it stays as it was.
+    /// \param a_name the file name.
+    PimContactWriteReport Save( const QString& a_name, PimContactFormat a_format = PimContactFormat::V30 ) const;
+
     /// The number of cards.
     int Size() const;
     /// True if there are no cards.
     bool IsEmpty() const;
 
     /// \param a_index from 0 to Size() less 1.
-    const PimContactCard& At( int a_index ) const;
+    PimContact At( int a_index ) const;
+    const PimContactCard& CardAt( int a_index ) const;
 
-    /// Valid until the book is changed or destroyed.
+    /// The contacts in the order of the file. Valid until the book is changed or destroyed.
     const_iterator begin() const;
     const_iterator end() const;
 
+    /// The cards in the order of the file. Valid until the book is changed or destroyed, so a temporary book has none.
+    CardRange Cards() const&;
+    CardRange Cards() && = delete;
+
+    /// Finds the members of a group by their UID (RFC 6350, section 6.6.5). `urn:uuid:` before it makes no difference,
+    /// and neither does letter case.
+    /// \return the contacts in the order of the book. Members that are not in the book are left out. Linear in the
+    ///         length of the book.
+    QList<PimContact> MembersOf( const PimContact& a_group ) const;
+
     /// Adds a card at the end. Amortised constant time. A null card is not added.
     void Append( const PimContactCard& a_card );
+    /// Adds the card of a contact at the end. A null contact is not added.
+    void Append( const PimContact& a_contact ) { Append( a_contact.Card() ); }
+
+    /// Replaces a card by that of a contact. A null contact changes nothing.
+    /// \param a_index from 0 to Size() less 1.
+    void Replace( int a_index, const PimContact& a_contact );
 
     /// Removes a card. \param a_index from 0 to Size() less 1.
     void Remove( int a_index );
@@ -89,6 +124,60 @@ public:
 
 private:
     QSharedDataPointer<PimContactBookPrivate> d;
+};
+
+/// Steps over the contacts of a book, and makes each when it is asked for.
+class PIMCONTACT_EXPORT PimContactBook::const_iterator
+{
+public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = PimContact;
+    using difference_type = qptrdiff;
+    using pointer = const PimContact*;
+    using reference = PimContact;
+
+    reference operator*() const { return PimContact( *m_card ); }
+    const_iterator& operator++()
+    {
+        ++m_card;
+        return *this;
+    }
+    const_iterator operator++( int )
+    {
+        const const_iterator before = *this;
+        ++m_card;
+        return before;
+    }
+    bool operator==( const const_iterator& a_other ) const { return m_card == a_other.m_card; }
+    bool operator!=( const const_iterator& a_other ) const { return m_card != a_other.m_card; }
+
+private:
+    friend class PimContactBook; // creates iterators
+    explicit const_iterator( const PimContactCard* a_card ) :
+        m_card( a_card )
+    {
+    }
+
+    const PimContactCard* m_card;
+};
+
+/// The cards of a book.
+class PIMCONTACT_EXPORT PimContactBook::CardRange
+{
+public:
+    const PimContactCard* begin() const { return m_begin; }
+    const PimContactCard* end() const { return m_end; }
+
+private:
+    friend class PimContactBook; // creates ranges
+    CardRange( const PimContactCard* a_begin, const PimContactCard* a_end ) :
+        m_begin( a_begin ),
+        m_end( a_end )
+    {
+    }
+
+    const PimContactCard* m_begin;
+    const PimContactCard* m_end;
 };
 
 } // namespace PimManager::Contacts

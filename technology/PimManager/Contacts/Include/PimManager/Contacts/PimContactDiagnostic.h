@@ -46,6 +46,9 @@ enum class PimContactDiagnosticCode
     HtmlFile,           ///< Note: no card was found, and the file is an HTML page.
     UnknownFile,        ///< Note: no card was found, and the file is not text.
     NoCard,             ///< Note: no card was found in the text.
+    JCard,              ///< Note: the file has jCards (RFC 7095), which were converted. Once a file.
+    JsonSyntax,         ///< Repaired: errors in the JSON; the count is their number in that place. See Offset().
+    JsonPart,           ///< Note: a part of the JSON is no property, and kept as X-JCARD, or no card.
 
     // The card.
     Charset,         ///< Repaired: the card is not in UTF-8; another character set applies.
@@ -101,13 +104,14 @@ public:
     /// The number of the outermost card, from 1; 0 outside cards.
     qint64 Card() const;
 
-    /// The line, from 1. A line ends at CR LF, LF, CR or CR CR LF.
+    /// The line, from 1. A line ends at CR LF, LF, CR or CR CR LF. In a file that was converted, a line of the
+    /// converted text; the same applies to Column() and Offset(). JsonSyntax and JsonPart have places in the JSON.
     qint64 Line() const;
 
-    /// The byte in the line, from 1. In a file that was converted from UTF-16, bytes of the converted text.
+    /// The byte in the line, from 1.
     qint64 Column() const;
 
-    /// The byte in the file, from 0. In a file that was converted from UTF-16, bytes of the converted text.
+    /// The byte in the file, from 0.
     qint64 Offset() const;
 
     /// The number of occurrences, for codes that count; otherwise 1.

@@ -49,7 +49,7 @@ public:
     PimContactExtent& operator=( const PimContactExtent& a_other );
     ~PimContactExtent();
 
-    /// The first byte in the file, from 0. In a file that was converted from UTF-16, bytes of the converted text.
+    /// The first byte in the file, from 0. In a file that was converted, bytes of the converted text.
     qint64 Offset() const;
 
     /// The number of bytes; at least 1.
@@ -61,8 +61,8 @@ public:
     /// The number of the outermost card, from 1; 0 outside cards.
     qint64 Card() const;
 
-    /// The bytes as found; of a file in UTF-16 the converted ones. What is longer than the limit of a card comes in
-    /// several extents of at most that limit or 64 KiB, whichever is larger.
+    /// The bytes as found; of a file that was converted the converted ones. What is longer than the limit of a card
+    /// comes in several extents of at most that limit or 64 KiB, whichever is larger.
     QByteArray Bytes() const;
 
     bool operator==( const PimContactExtent& a_other ) const;

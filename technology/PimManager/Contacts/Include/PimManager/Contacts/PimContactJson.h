@@ -5,7 +5,7 @@
 /// const PimContactBook book = PimContactBook::ReadFile( QStringLiteral( "contacts.vcf" ) );
 /// PimContactJson json;
 /// QByteArray text;
-/// for ( const PimContactCard& each : book )
+/// for ( const PimContactCard& each : book.Cards() )
 /// {
 ///     json.Append( each, text );
 ///     text += '\n';
@@ -28,8 +28,9 @@ namespace PimManager::Contacts
 
 class PimContactJsonPrivate;
 
-/// Writes each card as one JSON object in the format of docs/contact-json.md, with decoded values. Nothing is cut, and
-/// nothing is left out: a value that cannot be decoded is written as text.
+/// Writes each card as one JSON object in the format of docs/contact-json.md, with decoded values: the fields that
+/// PimContact reads, and all properties. Nothing is cut, and nothing is left out: a value that cannot be decoded is
+/// written as text.
 ///
 /// The JSON is valid UTF-8 (RFC 8259) without line breaks and without blanks between its elements. Control characters,
 /// and characters that could drive a terminal or change the direction of writing, are written as `\uXXXX`. Malformed

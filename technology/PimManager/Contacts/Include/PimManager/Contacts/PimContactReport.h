@@ -71,7 +71,7 @@ public:
     ~PimContactReport();
 
     /// The bytes of all extents. After the end of a file that was not stopped, the bytes of the file; of a file in
-    /// UTF-16 those of the converted text.
+    /// UTF-16 or of jCards those of the converted text.
     qint64 Bytes() const;
 
     /// The bytes of all extents of a kind.
@@ -109,7 +109,8 @@ public:
     /// How the character set was decided.
     PimContactEvidence Evidence() const;
 
-    /// True if the file was in UTF-16. The cards and all offsets are those of its text in UTF-8.
+    /// True if the file was in UTF-16 or had jCards (RFC 7095). The cards and all offsets are those of its text in
+    /// UTF-8, with the jCards as vCards of version 4.0.
     bool IsConverted() const;
 
     /// What kind of file was read.

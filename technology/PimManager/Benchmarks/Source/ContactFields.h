@@ -1,0 +1,17 @@
+/// \file
+/// The work of a program that shows everything that it knows of a contact.
+
+#pragma once
+
+#include <QtGlobal>
+
+namespace PimManager::Contacts
+{
+
+class PimContact;
+
+} // namespace PimManager::Contacts
+
+/// Takes every typed field of a contact, with all texts, kinds and bytes.
+/// \return a number that depends on all of them, so that the compiler leaves nothing out.
+qint64 TakeFields( const PimManager::Contacts::PimContact& a_contact );

@@ -1,0 +1,143 @@
+/// \file
+/// What all parts of a contact have in common: where a part is in its card, and what its owner calls it.
+///
+/// \code
+/// const PimContactPhone phone = contact.Phones().Preferred();
+/// qInfo() << phone.Label() << phone.Types() << contact.Line( phone.Id() ).Value();
+/// \endcode
+
+#pragma once
+
+#include <PimManager/Contacts/PimContactExport.h>
+#include <PimManager/Contacts/PimContactLine.h>
+
+#include <QList>
+#include <QPair>
+#include <QSharedDataPointer>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QVector>
+#include <QtCore/qobjectdefs.h>
+
+#include <optional>
+
+namespace PimManager::Contacts
+{
+
+class PimContactFieldPrivate;
+
+/// A part of a contact: a number, a mail address, a date. It is the base of PimContactPhone and others, which add the
+/// typed value. Implicitly shared; const functions may run in several threads at once.
+///
+/// A field that was read holds the memory of its card and stays valid without the contact. A field that a program makes
+/// belongs to no contact until it is passed to a function such as PimContact::AddPhone().
+///
+/// All texts are decoded and otherwise as the card has them: they may be long and may contain any character. Escape
+/// them before you write them to a terminal or into HTML.
+///
+/// QML reads the properties. A property is undefined if the card leaves it open.
+class PIMCONTACT_EXPORT PimContactField
+{
+    Q_GADGET
+    Q_PROPERTY( int id READ Id )
+    Q_PROPERTY( QString label READ Label )
+    Q_PROPERTY( QString purpose READ Purpose )
+    Q_PROPERTY( QStringList types READ Types )
+    Q_PROPERTY( QVariant preference READ PreferenceValue )
+    Q_PROPERTY( QString language READ Language )
+
+public:
+    PimContactField( const PimContactField& a_other );
+    PimContactField( PimContactField&& a_other ) noexcept;
+    ~PimContactField();
+
+    /// \return the id of the line that the field was read from, see PimContact::Line(); 0 for a field that a program
+    ///         made. Edits of the contact do not change the ids of its lines.
+    int Id() const;
+
+    /// \return the ids of all lines that the field was read from: its own, and those of its label, position and other
+    ///         additions. Empty for a field that a program made.
+    QList<int> LineIds() const;
+
+    /// \return what the owner of the address book calls the field: X-ABLabel of the same group, else X-CUSTOM, else the
+    ///         first word of TYPE that is not a standard one. `Home` for `_$!<Home>!$_` and `Boat` for `X-Boat`. Empty
+    ///         without a label.
+    QString Label() const;
+    /// Sets the label. An empty one removes it.
+    void SetLabel( const QString& a_label );
+
+    /// \return the words of TYPE, such as `CELL`, each once. Letters of ASCII are in upper case. PREF is left out, and
+    ///         so is INTERNET of a mail address, because every address has it. PimContactLine::Types() returns them as
+    ///         written.
+    QStringList Types() const;
+
+    /// \return what the field is for, in a few words such as `boat phone` or `cell, work`: the label, or else the types
+    ///         in small letters. Empty if the card does not say it.
+    QString Purpose() const;
+
+    /// \return from 1, the most wanted, to 100: the value of PREF, or 1 if a type is PREF. Open without both.
+    std::optional<int> Preference() const;
+    /// \param a_preference from 1 to 100; other numbers are taken as the nearest of these.
+    void SetPreference( std::optional<int> a_preference );
+
+    /// \return the language of the text (LANGUAGE), such as `de` or `ja-Latn`; empty if it is open.
+    QString Language() const;
+    void SetLanguage( const QString& a_language );
+
+    /// \return the parameters as PimContactLine::NamedParameters() returns them; empty for a field that a program made.
+    QList<QPair<QString, QString>> Parameters() const;
+
+protected:
+    explicit PimContactField( PimContactFieldPrivate* a_private );
+    PimContactField& operator=( const PimContactField& a_other );
+    PimContactField& operator=( PimContactField&& a_other ) noexcept;
+    bool IsEqual( const PimContactField& a_other ) const;
+
+    friend class PimContactFieldPrivate; // creates fields, and opens them
+    QSharedDataPointer<PimContactFieldPrivate> d;
+
+private:
+    QVariant PreferenceValue() const;
+};
+
+/// The fields of one kind, in the order of the card. A QVector with one more function.
+template <class Field>
+class PimContactList : public QVector<Field>
+{
+public:
+    using QVector<Field>::QVector;
+
+    /// \return the most wanted field: that of the lowest Preference(), or else the first one. An empty field if there
+    ///         is none. Linear.
+    Field Preferred() const
+    {
+        const Field* preferred = nullptr;
+        for ( const Field& field : *this )
+        {
+            if ( preferred == nullptr || IsRather( field, *preferred ) )
+                preferred = &field;
+        }
+        return preferred == nullptr ? Field() : *preferred;
+    }
+
+    /// \return the fields for QML.
+    QVariantList Values() const
+    {
+        QVariantList values;
+        values.reserve( this->size() );
+        for ( const Field& field : *this )
+            values.append( QVariant::fromValue( field ) );
+        return values;
+    }
+
+private:
+    static bool IsRather( const Field& a_field, const Field& a_than )
+    {
+        const std::optional<int> preference = a_field.Preference();
+        const std::optional<int> other = a_than.Preference();
+        return preference && ( !other || *preference < *other );
+    }
+};
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,174 @@
+#include "Contact/ContactLines.h"
+
+#include "Contact/Messenger.h"
+#include "Text/Bytes.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace PimManager::Contacts
+{
+
+namespace
+{
+
+using LineView = PimContactCardPrivate::LineView;
+
+// Some programs have a name for each service, such as `X-messaging/xmpp-All`.
+bool IsManyNamed( std::string_view a_name )
+{
+    return a_name.find( '/' ) != std::string_view::npos && IsMessengerName( a_name );
+}
+
+PropertyId PropertyOfLine( const PimContactLine& a_line )
+{
+    QByteArray buffer;
+    return PropertyNamed( LineView::LineOf( a_line ).Name( buffer ) );
+}
+
+} // namespace
+
+PropertyId PropertyNamed( std::string_view a_name )
+{
+    const PropertyId property = PropertyOf( a_name );
+    return property == PropertyId::Other && IsManyNamed( a_name ) ? PropertyId::Messenger : property;
+}
+
+ContactLines::ContactLines( const PimContactCard& a_card ) :
+    m_card( a_card ),
+    m_view( LineView::CardOf( a_card ) )
+{
+    if ( m_view.m_index == nullptr )
+        return;
+    m_lines.resize( m_view.m_record.m_lines );
+    size_t count = 0;
+    quint32 begin = m_view.m_record.m_begin;
+    for ( IndexReader reader = EntriesOf( m_view.m_index, m_view.m_place ); !reader.AtEnd(); )
+    {
+        const LinePlace place = { reader.Place(), begin };
+        const IndexReader::Outline outline = reader.Skip();
+        if ( outline.m_kind == EntryKind::Line )
+        {
+            // An unusual name must be looked for.
+            const std::string_view name = outline.m_name.In( m_view.m_bytes.substr( begin ) );
+            const bool isPlain =
+                !name.empty() && ( !outline.m_isContinued || std::none_of( name.begin(), name.end(), IsLineEndByte ) );
+            const PropertyId property =
+                isPlain ? PropertyNamed( name ) : PropertyOfLine( LineView::LineAt( a_card, place ) );
+            if ( count == m_lines.size() )
+                m_lines.emplace_back();
+            m_lines[count++] = { m_nextId++, 0, place, property };
+            Note( property );
+        }
+        begin += outline.m_length;
+    }
+}
+
+PimContactVersion ContactLines::Version() const
+{
+    return m_card.IsNull() ? PimContactVersion::V30 : m_card.Version();
+}
+
+QByteArray ContactLines::Indentation() const
+{
+    const CardRecord& record = m_view.m_record;
+    if ( !record.Has( CardRecord::IsIndented ) )
+        return QByteArray();
+    const std::string_view text = m_view.m_bytes.substr( record.m_begin, record.m_length );
+    const std::string_view begin = text.substr( LengthOfMarks( text ) );
+    return BytesOf( begin.substr( 0, begin.size() - TrimmedLeft( begin ).size() ) );
+}
+
+size_t ContactLines::Find( int a_id ) const
+{
+    const auto line = std::find_if( m_lines.begin(), m_lines.end(),
+                                    [a_id]( const ContactLine& a_line ) { return a_line.m_id == a_id; } );
+    return static_cast<size_t>( line - m_lines.begin() );
+}
+
+size_t ContactLines::EndOf( PropertyId a_property ) const
+{
+    const auto last =
+        std::find_if( m_lines.rbegin(), m_lines.rend(),
+                      [a_property]( const ContactLine& a_line ) { return a_line.m_property == a_property; } );
+    return last == m_lines.rend() ? m_lines.size() : static_cast<size_t>( m_lines.rend() - last );
+}
+
+int ContactLines::Insert( size_t a_index, const PimContactCard& a_line )
+{
+    const ContactLine line = Added( a_line );
+    m_lines.insert( m_lines.begin() + static_cast<ptrdiff_t>( a_index ), line );
+    Note( line.m_property );
+    return line.m_id;
+}
+
+void ContactLines::Replace( size_t a_index, const PimContactCard& a_line )
+{
+    ContactLine line = Added( a_line );
+    line.m_id = m_lines[a_index].m_id;
+    m_lines[a_index] = line;
+    NoteAll();
+}
+
+void ContactLines::Remove( size_t a_index )
+{
+    m_lines.erase( m_lines.begin() + static_cast<ptrdiff_t>( a_index ) );
+    m_isEdited = true;
+    NoteAll();
+}
+
+void ContactLines::ReplaceAll( PropertyId a_property, size_t a_place, const std::vector<PimContactCard>& a_by )
+{
+    std::vector<ContactLine> lines;
+    lines.reserve( m_lines.size() + a_by.size() );
+    auto by = a_by.begin();
+    size_t place = a_place;
+    for ( const ContactLine& line : m_lines )
+    {
+        if ( line.m_property != a_property )
+        {
+            lines.push_back( line );
+            continue;
+        }
+        m_isEdited = true;
+        if ( by == a_by.end() )
+            continue;
+        lines.push_back( Added( *by++ ) );
+        lines.back().m_id = line.m_id;
+        place = lines.size();
+    }
+    std::vector<ContactLine> more;
+    for ( ; by != a_by.end(); ++by )
+        more.push_back( Added( *by ) );
+    lines.insert( lines.begin() + static_cast<ptrdiff_t>( place ), more.begin(), more.end() );
+    m_lines = std::move( lines );
+    NoteAll();
+}
+
+void ContactLines::MoveTo( const PimContactCard& a_card )
+{
+    ContactLines moved( a_card );
+    for ( size_t i = 0; i < moved.m_lines.size(); ++i )
+        moved.m_lines[i].m_id = m_lines[i].m_id;
+    moved.m_nextId = m_nextId;
+    *this = std::move( moved );
+}
+
+ContactLine ContactLines::Added( const PimContactCard& a_line )
+{
+    m_added.push_back( a_line );
+    m_isEdited = true;
+    PimContactLine line;
+    for ( const PimContactLine& each : a_line )
+        line = each;
+    return { m_nextId++, static_cast<quint32>( m_added.size() ), LineView::PlaceOf( line ), PropertyOfLine( line ) };
+}
+
+void ContactLines::NoteAll()
+{
+    m_properties.reset();
+    for ( const ContactLine& line : m_lines )
+        Note( line.m_property );
+}
+
+} // namespace PimManager::Contacts

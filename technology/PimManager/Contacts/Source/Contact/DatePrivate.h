@@ -1,0 +1,51 @@
+/// \file
+/// What PimContactDate holds, and how the library makes one from a value.
+
+#pragma once
+
+#include "Contact/DateFields.h"
+#include "Contact/DateParser.h"
+
+#include <PimManager/Contacts/PimContactDate.h>
+
+#include <QSharedData>
+#include <QString>
+
+#include <optional>
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// Valid fields, or a text, or neither.
+class PimContactDatePrivate : public QSharedData
+{
+public:
+    explicit PimContactDatePrivate( const DateFields& a_fields ) :
+        m_fields( a_fields )
+    {
+    }
+    explicit PimContactDatePrivate( const QString& a_text ) :
+        m_text( a_text )
+    {
+    }
+
+    /// All null dates share their data.
+    static const PimContactDate& Null();
+
+    /// \param a_text a decoded value in UTF-8.
+    /// \param a_omittedYear the value of X-APPLE-OMIT-YEAR: this year is open.
+    /// \return the date, or the text if it is none; null for white space only.
+    static PimContactDate Read( std::string_view a_text, DateHint a_hint = DateHint::Any,
+                                const std::optional<int>& a_omittedYear = std::nullopt );
+
+    /// \return a null date if the fields are not valid.
+    static PimContactDate Make( const DateFields& a_fields );
+
+    static const DateFields& FieldsOf( const PimContactDate& a_date ) { return a_date.d->m_fields; }
+
+    const DateFields m_fields;
+    const QString m_text;
+};
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,53 @@
+/// \file
+/// Appends an object whose members may all be missing.
+
+#pragma once
+
+#include "Text/JsonText.h"
+
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// An object: a brace, members with commas between them, and a brace at the end of its life.
+class JsonObject
+{
+public:
+    explicit JsonObject( JsonText& a_json ) :
+        m_json( a_json )
+    {
+    }
+    ~JsonObject() { m_json.Raw( m_isEmpty ? "{}" : "}" ); }
+    Q_DISABLE_COPY( JsonObject )
+
+    /// Appends the name of a member, after which its value must be appended.
+    /// \param a_name with quotes and a colon.
+    JsonText& Key( std::string_view a_name )
+    {
+        m_json.Raw( m_isEmpty ? "{" : "," );
+        m_json.Raw( a_name );
+        m_isEmpty = false;
+        return m_json;
+    }
+    /// Appends a member whose value is a text, unless it is empty.
+    void Text( std::string_view a_name, std::string_view a_text )
+    {
+        if ( !a_text.empty() )
+            Key( a_name ).String( a_text );
+    }
+    /// Appends members that have a comma before each of them.
+    void Members( std::string_view a_members )
+    {
+        if ( m_isEmpty && !a_members.empty() )
+            m_json.Raw( "{" );
+        m_json.Raw( m_isEmpty && !a_members.empty() ? a_members.substr( 1 ) : a_members );
+        m_isEmpty = m_isEmpty && a_members.empty();
+    }
+
+private:
+    JsonText& m_json;
+    bool m_isEmpty = true;
+};
+
+} // namespace PimManager::Contacts

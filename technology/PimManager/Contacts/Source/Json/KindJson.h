@@ -1,0 +1,35 @@
+/// \file
+/// What a field is for, in small letters.
+
+#pragma once
+
+#include "Contact/FieldParameters.h"
+#include "Lines/PropertyTable.h"
+#include "Text/JsonText.h"
+
+#include <QtGlobal>
+
+namespace PimManager::Contacts
+{
+
+/// The flags of PimContactKinds.h that a field has.
+enum class KindSet : quint8
+{
+    None,
+    Kinds,
+    Phone,
+    Address,
+    Relation,
+};
+
+/// The flags of a field whose TYPE says what it is for.
+KindSet KindSetOf( PropertyId a_property );
+
+/// \return what reads a word of TYPE.
+FieldParameters::KindsOf WordReaderOf( KindSet a_set );
+
+/// Appends a comma and the member `kinds`; nothing without kinds.
+/// \param a_kinds the value of the flags.
+void WriteKinds( KindSet a_set, quint32 a_kinds, JsonText& a_json );
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,285 @@
+#include "Lines/PropertyTable.h"
+
+#include "Text/Bytes.h"
+#include "Text/EightBytes.h"
+
+#include <algorithm>
+#include <array>
+
+namespace PimManager::Contacts
+{
+
+namespace
+{
+
+struct Row
+{
+    std::string_view m_name;
+    PropertyId m_property;
+};
+
+constexpr std::array s_kRows = {
+    Row{ "ADR", PropertyId::Adr },
+    Row{ "AGENT", PropertyId::Agent },
+    Row{ "ANNIVERSARY", PropertyId::Anniversary },
+    Row{ "BDAY", PropertyId::Bday },
+    Row{ "BEGIN", PropertyId::Begin },
+    Row{ "BIRTHPLACE", PropertyId::BirthPlace },
+    Row{ "CALADRURI", PropertyId::CalAdrUri },
+    Row{ "CALURI", PropertyId::CalUri },
+    Row{ "CATEGORIES", PropertyId::Categories },
+    Row{ "CLASS", PropertyId::Class },
+    Row{ "CLIENTPIDMAP", PropertyId::ClientPidMap },
+    Row{ "CONTACT-URI", PropertyId::ContactUri },
+    Row{ "CREATED", PropertyId::Created },
+    Row{ "DEATHDATE", PropertyId::DeathDate },
+    Row{ "DEATHPLACE", PropertyId::DeathPlace },
+    Row{ "EMAIL", PropertyId::Email },
+    Row{ "END", PropertyId::End },
+    Row{ "EXPERTISE", PropertyId::Expertise },
+    Row{ "FBURL", PropertyId::FbUrl },
+    Row{ "FN", PropertyId::Fn },
+    Row{ "GENDER", PropertyId::Gender },
+    Row{ "GEO", PropertyId::Geo },
+    Row{ "GRAMGENDER", PropertyId::GramGender },
+    Row{ "HOBBY", PropertyId::Hobby },
+    Row{ "IMPP", PropertyId::Messenger },
+    Row{ "INTEREST", PropertyId::Interest },
+    Row{ "JSPROP", PropertyId::JsProp },
+    Row{ "KEY", PropertyId::Key },
+    Row{ "KIND", PropertyId::Kind },
+    Row{ "LABEL", PropertyId::Label },
+    Row{ "LANG", PropertyId::Lang },
+    Row{ "LANGUAGE", PropertyId::Language },
+    Row{ "LOGO", PropertyId::Logo },
+    Row{ "MAILER", PropertyId::Mailer },
+    Row{ "MEMBER", PropertyId::Member },
+    Row{ "N", PropertyId::N },
+    Row{ "NAME", PropertyId::Name },
+    Row{ "NICKNAME", PropertyId::Nickname },
+    Row{ "NOTE", PropertyId::Note },
+    Row{ "ORG", PropertyId::Org },
+    Row{ "ORG-DIRECTORY", PropertyId::OrgDirectory },
+    Row{ "PHOTO", PropertyId::Photo },
+    Row{ "PRODID", PropertyId::ProdId },
+    Row{ "PROFILE", PropertyId::Profile },
+    Row{ "PRONOUNS", PropertyId::Pronouns },
+    Row{ "RELATED", PropertyId::Related },
+    Row{ "REV", PropertyId::Rev },
+    Row{ "ROLE", PropertyId::Role },
+    Row{ "SOCIALPROFILE", PropertyId::SocialProfile },
+    Row{ "SORT-STRING", PropertyId::SortString },
+    Row{ "SOUND", PropertyId::Sound },
+    Row{ "SOURCE", PropertyId::Source },
+    Row{ "TEL", PropertyId::Tel },
+    Row{ "TITLE", PropertyId::Title },
+    Row{ "TZ", PropertyId::Tz },
+    Row{ "UID", PropertyId::Uid },
+    Row{ "URL", PropertyId::Url },
+    Row{ "VERSION", PropertyId::Version },
+    Row{ "X-ABADR", PropertyId::AddressCountry },
+    Row{ "X-ABDATE", PropertyId::GroupDate },
+    Row{ "X-ABLABEL", PropertyId::GroupLabel },
+    Row{ "X-ABRELATEDNAMES", PropertyId::Related },
+    Row{ "X-ADDRESSBOOKSERVER-KIND", PropertyId::Kind },
+    Row{ "X-ADDRESSBOOKSERVER-MEMBER", PropertyId::Member },
+    Row{ "X-AIM", PropertyId::Messenger },
+    Row{ "X-ANDROID-CUSTOM", PropertyId::AndroidCustom },
+    Row{ "X-ANNIVERSARY", PropertyId::Anniversary },
+    Row{ "X-ASSISTANT", PropertyId::Related },
+    Row{ "X-EVOLUTION-AIM", PropertyId::Messenger },
+    Row{ "X-EVOLUTION-ANNIVERSARY", PropertyId::Anniversary },
+    Row{ "X-EVOLUTION-ASSISTANT", PropertyId::Related },
+    Row{ "X-EVOLUTION-GADUGADU", PropertyId::Messenger },
+    Row{ "X-EVOLUTION-GOOGLE-TALK", PropertyId::Messenger },
+    Row{ "X-EVOLUTION-GROUPWISE", PropertyId::Messenger },
+    Row{ "X-EVOLUTION-ICQ", PropertyId::Messenger },
+    Row{ "X-EVOLUTION-JABBER", PropertyId::Messenger },
+    Row{ "X-EVOLUTION-MANAGER", PropertyId::Related },
+    Row{ "X-EVOLUTION-MSN", PropertyId::Messenger },
+    Row{ "X-EVOLUTION-QQ", PropertyId::Messenger },
+    Row{ "X-EVOLUTION-SKYPE", PropertyId::Messenger },
+    Row{ "X-EVOLUTION-SPOUSE", PropertyId::Related },
+    Row{ "X-EVOLUTION-TWITTER", PropertyId::SocialProfile },
+    Row{ "X-EVOLUTION-YAHOO", PropertyId::Messenger },
+    Row{ "X-GADUGADU", PropertyId::Messenger },
+    Row{ "X-GOOGLE-TALK", PropertyId::Messenger },
+    Row{ "X-GROUPWISE", PropertyId::Messenger },
+    Row{ "X-GTALK", PropertyId::Messenger },
+    Row{ "X-ICQ", PropertyId::Messenger },
+    Row{ "X-IRMC-CALL-DATETIME", PropertyId::CallTime },
+    Row{ "X-JABBER", PropertyId::Messenger },
+    Row{ "X-KADDRESSBOOK-X-ANNIVERSARY", PropertyId::Anniversary },
+    Row{ "X-KADDRESSBOOK-X-ASSISTANTSNAME", PropertyId::Related },
+    Row{ "X-KADDRESSBOOK-X-MANAGERSNAME", PropertyId::Related },
+    Row{ "X-KADDRESSBOOK-X-SPOUSESNAME", PropertyId::Related },
+    Row{ "X-MAIDENNAME", PropertyId::MaidenName },
+    Row{ "X-MANAGER", PropertyId::Related },
+    Row{ "X-MS-ANNIVERSARY", PropertyId::Anniversary },
+    Row{ "X-MS-ASSISTANT", PropertyId::Related },
+    Row{ "X-MS-CHILD", PropertyId::Related },
+    Row{ "X-MS-IMADDRESS", PropertyId::Messenger },
+    Row{ "X-MS-MANAGER", PropertyId::Related },
+    Row{ "X-MS-SPOUSE", PropertyId::Related },
+    Row{ "X-MSN", PropertyId::Messenger },
+    Row{ "X-PHONETIC-FIRST-NAME", PropertyId::PhoneticGiven },
+    Row{ "X-PHONETIC-LAST-NAME", PropertyId::PhoneticFamily },
+    Row{ "X-PHONETIC-MIDDLE-NAME", PropertyId::PhoneticMiddle },
+    Row{ "X-QQ", PropertyId::Messenger },
+    Row{ "X-SKYPE", PropertyId::Messenger },
+    Row{ "X-SKYPE-USERNAME", PropertyId::Messenger },
+    Row{ "X-SOCIALPROFILE", PropertyId::SocialProfile },
+    Row{ "X-SPOUSE", PropertyId::Related },
+    Row{ "X-TWITTER", PropertyId::SocialProfile },
+    Row{ "X-YAHOO", PropertyId::Messenger },
+    Row{ "XML", PropertyId::Xml },
+    Row{ "X-TELEGRAM", PropertyId::Messenger },
+    Row{ "X-WHATSAPP", PropertyId::Messenger },
+    Row{ "X-SIGNAL", PropertyId::Messenger },
+    Row{ "X-MATRIX", PropertyId::Messenger },
+    Row{ "X-SIP", PropertyId::Messenger },
+    Row{ "X-KADDRESSBOOK-X-IMADDRESS", PropertyId::Messenger },
+    Row{ "X-GOOGLETALK", PropertyId::Messenger },
+    Row{ "X-DEATHDATE", PropertyId::DeathDate },
+    Row{ "X-FACEBOOK", PropertyId::SocialProfile },
+    Row{ "X-INSTAGRAM", PropertyId::SocialProfile },
+    Row{ "X-LINKEDIN", PropertyId::SocialProfile },
+    Row{ "X-BIRTHPLACE", PropertyId::BirthPlace },
+    Row{ "X-CALADRURI", PropertyId::CalAdrUri },
+    Row{ "X-CALURI", PropertyId::CalUri },
+    Row{ "X-CATEGORIES", PropertyId::Categories },
+    Row{ "X-CLASS", PropertyId::Class },
+    Row{ "X-CLIENTPIDMAP", PropertyId::ClientPidMap },
+    Row{ "X-CONTACT-URI", PropertyId::ContactUri },
+    Row{ "X-CREATED", PropertyId::Created },
+    Row{ "X-DEATHPLACE", PropertyId::DeathPlace },
+    Row{ "X-EXPERTISE", PropertyId::Expertise },
+    Row{ "X-FBURL", PropertyId::FbUrl },
+    Row{ "X-GENDER", PropertyId::Gender },
+    Row{ "X-GRAMGENDER", PropertyId::GramGender },
+    Row{ "X-HOBBY", PropertyId::Hobby },
+    Row{ "X-IMPP", PropertyId::Messenger },
+    Row{ "X-INTEREST", PropertyId::Interest },
+    Row{ "X-JSPROP", PropertyId::JsProp },
+    Row{ "X-LANG", PropertyId::Lang },
+    Row{ "X-LANGUAGE", PropertyId::Language },
+    Row{ "X-MAILER", PropertyId::Mailer },
+    Row{ "X-NAME", PropertyId::Name },
+    Row{ "X-NICKNAME", PropertyId::Nickname },
+    Row{ "X-ORG-DIRECTORY", PropertyId::OrgDirectory },
+    Row{ "X-PRODID", PropertyId::ProdId },
+    Row{ "X-PROFILE", PropertyId::Profile },
+    Row{ "X-PRONOUNS", PropertyId::Pronouns },
+    Row{ "X-SORT-STRING", PropertyId::SortString },
+    Row{ "X-SOURCE", PropertyId::Source },
+    Row{ "X-XML", PropertyId::Xml },
+};
+
+constexpr size_t s_kSlots = 512;
+constexpr quint8 s_kNoRow = 0xFF;
+static_assert( s_kRows.size() < s_kNoRow );
+
+// The first eight bytes of a name in capitals, and its length.
+struct Key
+{
+    quint64 m_bytes = 0;
+    size_t m_length = 0;
+
+    constexpr Key() = default;
+    constexpr explicit Key( std::string_view a_name ) :
+        m_length( a_name.size() )
+    {
+        for ( size_t i = 0; i < a_name.size() && i < sizeof( m_bytes ); ++i )
+            m_bytes |= quint64( static_cast<uchar>( a_name[i] ) ) << ( 8 * i );
+        m_bytes = UpperOfEight( m_bytes );
+    }
+
+    // Names of vendors begin alike, so their lengths matter.
+    constexpr size_t Slot() const
+    {
+        const quint64 mixed = ( m_bytes + m_length * 0x9E3779B97F4A7C15ULL ) * 0xD6E8FEB86659FD93ULL;
+        return static_cast<size_t>( mixed >> 55U );
+    }
+
+    bool IsEqual( const Key& a_other ) const { return m_bytes == a_other.m_bytes && m_length == a_other.m_length; }
+};
+
+constexpr std::array<Key, s_kRows.size()> KeysOfRows()
+{
+    std::array<Key, s_kRows.size()> keys = {};
+    for ( size_t i = 0; i < s_kRows.size(); ++i )
+        keys[i] = Key( s_kRows[i].m_name );
+    return keys;
+}
+
+constexpr std::array<Key, s_kRows.size()> s_kKeys = KeysOfRows();
+
+constexpr std::array<quint8, s_kSlots> FilledSlots()
+{
+    std::array<quint8, s_kSlots> filled = {};
+    for ( quint8& row : filled )
+        row = s_kNoRow;
+    for ( size_t i = 0; i < s_kRows.size(); ++i )
+    {
+        size_t slot = s_kKeys[i].Slot();
+        while ( filled[slot] != s_kNoRow )
+            slot = ( slot + 1 ) % s_kSlots;
+        filled[slot] = static_cast<quint8>( i );
+    }
+    return filled;
+}
+
+constexpr std::array<quint8, s_kSlots> s_kFilledSlots = FilledSlots();
+
+// The same as the constructor, which must work when the program is compiled.
+Key KeyOf( std::string_view a_name )
+{
+    Key key;
+    key.m_length = a_name.size();
+    key.m_bytes = UpperOfEight( FirstEight( a_name ) );
+    return key;
+}
+
+bool IsNameOf( size_t a_row, const Key& a_key, std::string_view a_name )
+{
+    constexpr size_t length = sizeof( a_key.m_bytes );
+    return s_kKeys[a_row].IsEqual( a_key ) &&
+           ( a_name.size() <= length || IsSameWord( s_kRows[a_row].m_name.substr( length ), a_name.substr( length ) ) );
+}
+
+} // namespace
+
+PropertyId PropertyOf( std::string_view a_name )
+{
+    const Key key = KeyOf( a_name );
+    size_t slot = key.Slot();
+    while ( s_kFilledSlots[slot] != s_kNoRow )
+    {
+        const size_t row = s_kFilledSlots[slot];
+        if ( IsNameOf( row, key, a_name ) )
+            return s_kRows[row].m_property;
+        slot = ( slot + 1 ) % s_kSlots;
+    }
+    return PropertyId::Other;
+}
+
+PropertyId StandardPropertyOf( std::string_view a_name )
+{
+    return IsExtensionName( a_name ) ? PropertyId::Other : PropertyOf( a_name );
+}
+
+bool IsExtensionName( std::string_view a_name )
+{
+    return a_name.size() > 2 && Upper( a_name[0] ) == 'X' && a_name[1] == '-';
+}
+
+std::string_view NameOf( PropertyId a_property )
+{
+    const auto* const row = std::find_if( s_kRows.begin(), s_kRows.end(),
+                                          [a_property]( const Row& a_row ) {
+                                              return a_row.m_property == a_property && !IsExtensionName( a_row.m_name );
+                                          } );
+    return row == s_kRows.end() ? std::string_view() : row->m_name;
+}
+
+} // namespace PimManager::Contacts

@@ -1,0 +1,109 @@
+/// \file
+/// The properties of the standards and of vendors.
+
+#pragma once
+
+#include <QtGlobal>
+
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// What a property means. Several names may mean the same: X-ANNIVERSARY is an Anniversary.
+///
+/// The first six are what a contact is called by, the best one first.
+enum class PropertyId : quint8
+{
+    Fn,
+    N,
+    Nickname,
+    Org,
+    Email,
+    Tel,
+
+    Other, ///< a property without a meaning of its own
+
+    Adr,
+    AddressCountry, ///< X-ABADR
+    Agent,
+    AndroidCustom,
+    Anniversary,
+    Bday,
+    Begin,
+    BirthPlace,
+    CalAdrUri,
+    CalUri,
+    CallTime, ///< X-IRMC-CALL-DATETIME
+    Categories,
+    Class,
+    ClientPidMap,
+    ContactUri,
+    Created,
+    DeathDate,
+    DeathPlace,
+    End,
+    Expertise,
+    FbUrl,
+    Gender,
+    Geo,
+    GramGender,
+    GroupDate,  ///< X-ABDATE
+    GroupLabel, ///< X-ABLabel
+    Hobby,
+    Interest,
+    JsProp,
+    Key,
+    Kind,
+    Label,
+    Lang,
+    Language,
+    Logo,
+    Mailer,
+    MaidenName,
+    Member,
+    Messenger, ///< IMPP and what programs write for it
+    Name,
+    Note,
+    OrgDirectory,
+    PhoneticFamily,
+    PhoneticGiven,
+    PhoneticMiddle,
+    Photo,
+    ProdId,
+    Profile,
+    Pronouns,
+    Related, ///< RELATED, and names such as X-SPOUSE
+    Rev,
+    Role,
+    SocialProfile,
+    SortString,
+    Sound,
+    Source,
+    Title,
+    Tz,
+    Uid,
+    Url,
+    Version,
+    Xml,
+};
+
+/// The number of properties.
+constexpr size_t s_kProperties = static_cast<size_t>( PropertyId::Xml ) + 1;
+
+/// Determines the property with a name. Takes constant time.
+/// \param a_name in any letter case.
+PropertyId PropertyOf( std::string_view a_name );
+
+/// Determines the property of a standard with a name. Takes constant time.
+/// \param a_name in any letter case.
+/// \return Other for the names of vendors as well.
+PropertyId StandardPropertyOf( std::string_view a_name );
+
+/// \return true for a name that begins with `X-` in any letter case and is longer.
+bool IsExtensionName( std::string_view a_name );
+
+/// \return the name that a standard gives the property, in capitals; empty for properties of vendors only.
+std::string_view NameOf( PropertyId a_property );
+
+} // namespace PimManager::Contacts

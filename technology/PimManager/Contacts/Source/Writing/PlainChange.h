@@ -1,0 +1,63 @@
+/// \file
+/// The short road to another version.
+
+#pragma once
+
+#include "Cards/LineView.h"
+#include "Contact/ContactLines.h"
+#include "Text/KeptTexts.h"
+#include "Values/Findings.h"
+#include "Writing/HeadMemory.h"
+#include "Writing/PlainChangeRule.h"
+#include "Writing/VCardText.h"
+
+#include <QByteArray>
+
+#include <string_view>
+#include <vector>
+
+namespace PimManager::Contacts
+{
+
+/// Writes lines of one version in another one, without making properties of them: the head as it was written for a line
+/// before, and the value as it is. Writes what PropertyReader, VersionChanges and VCardText together would write, or
+/// leaves the line to them.
+class PlainChange
+{
+public:
+    /// \param a_text must outlive the object.
+    explicit PlainChange( VCardText& a_text ) :
+        m_text( a_text )
+    {
+    }
+
+    void BeginCard( const CardRecord& a_record, VersionStep a_step, const PropertySet& a_properties );
+
+    /// \return false if the lines of a property must take the long road in this card.
+    bool MayTake( PropertyId a_property ) const;
+
+    /// Writes a line of such a property. Its head is known, and its rule allows it.
+    /// \param a_bytes with the line endings.
+    /// \return false if the line must take the long road. Nothing is written then.
+    bool Take( std::string_view a_bytes, const IndexReader::PlainLine& a_line, const HeadMeaning& a_meaning );
+
+private:
+    std::string_view ValueOf( std::string_view a_bytes, const IndexReader::PlainLine& a_line );
+    bool TakeOld( const LineHeadText& a_head, std::string_view a_value, bool a_isPrintable,
+                  const PlainChangeRule& a_rule );
+    bool ReadTexts( std::string_view a_value, const PlainChangeRule& a_rule );
+
+    VCardText& m_text;
+    PimContactFoldStyle m_foldStyle = PimContactFoldStyle::BlankRemoved;
+    bool m_isUsual = false;
+    bool m_hasSortName = false;
+    bool m_hasLabels = false;
+
+    QByteArray m_unfolded;
+    QByteArray m_part;
+    KeptTexts m_kept;
+    Findings m_findings;
+    std::vector<ValueText> m_texts;
+};
+
+} // namespace PimManager::Contacts

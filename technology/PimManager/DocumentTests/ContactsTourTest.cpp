@@ -1,0 +1,111 @@
+// The tour of docs/contacts.md: its examples, compiled as they are, print what the document shows.
+
+#include "ContactExampleSurroundings.h"
+#include "DocumentFile.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+#include <string>
+#include <vector>
+
+using namespace PimManager::vCard::Documents;
+
+// Each source has one function Example().
+namespace Book
+{
+#include "contactsExample1.cpp"
+}
+namespace Names
+{
+#include "contactsExample2.cpp"
+}
+namespace Phones
+{
+#include "contactsExample3.cpp"
+}
+namespace Dates
+{
+#include "contactsExample4.cpp"
+}
+namespace Photo
+{
+#include "contactsExample5.cpp"
+}
+namespace Editing
+{
+#include "contactsExample6.cpp"
+}
+namespace Languages
+{
+#include "contactsExample7.cpp"
+}
+
+// The contact of the examples.
+const PimContact contact =
+    PimContactBook::ReadFile( QStringLiteral( PIMVCARD_PROJECT "/examples/phonebook.vcf" ) ).At( 0 );
+
+namespace
+{
+
+struct Row
+{
+    const char* m_heading;
+    void ( *m_example )();
+};
+
+const std::vector<Row> s_kRows = {
+    { "A book", Book::Example },         { "Names", Names::Example }, { "Phones", Phones::Example },
+    { "Dates", Dates::Example },         { "Photo", Photo::Example }, { "Editing", Editing::Example },
+    { "Languages", Languages::Example },
+};
+
+QString g_printed;
+
+// Qt separates what is printed by blanks, also behind the last word if that is empty.
+void KeepMessage( QtMsgType, const QMessageLogContext&, const QString& a_text )
+{
+    QString line = a_text;
+    while ( line.endsWith( QLatin1Char( ' ' ) ) )
+        line.chop( 1 );
+    g_printed += line + QLatin1Char( '\n' );
+}
+
+std::string PrintedBy( const Row& a_row )
+{
+    g_printed.clear();
+    const QtMessageHandler before = qInstallMessageHandler( KeepMessage );
+    a_row.m_example();
+    qInstallMessageHandler( before );
+    return g_printed.toStdString();
+}
+
+QString Tour()
+{
+    const QString document = DocumentText( QStringLiteral( "docs/contacts.md" ) );
+    return document.section( QStringLiteral( "\n## " ), 1, 1 );
+}
+
+// The first block of text below a heading.
+std::string ShownBelow( const char* a_heading )
+{
+    const QString heading = QStringLiteral( "\n### %1\n" ).arg( QLatin1String( a_heading ) );
+    const QString fence = QStringLiteral( "```" );
+    const QString block = Tour().section( heading, 1 ).section( QStringLiteral( "```text\n" ), 1, 1 );
+    return block.section( fence, 0, 0 ).toStdString();
+}
+
+TEST( ContactsTourTest, ExamplesPrintWhatTheDocumentShows )
+{
+    ASSERT_TRUE( QDir::setCurrent( QStringLiteral( PIMVCARD_PROJECT ) ) );
+    for ( const Row& row : s_kRows )
+        EXPECT_EQ( PrintedBy( row ), ShownBelow( row.m_heading ) ) << row.m_heading;
+}
+
+TEST( ContactsTourTest, EachExampleIsRun )
+{
+    EXPECT_EQ( static_cast<std::size_t>( Tour().count( QStringLiteral( "```cpp\n" ) ) ), s_kRows.size() );
+}
+
+} // namespace

@@ -288,7 +288,7 @@ void PimContactReaderPrivate::TakeCard( PimContactCard a_card )
     m_ledger.Data().m_fileKind = PimContactFileKind::AddressBook;
     if ( m_isPulling )
         m_pulled.push_back( std::move( a_card ) );
-    else if ( m_cardHandler && !m_cardHandler( a_card ) )
+    else if ( m_cardHandler && !m_cardHandler( std::move( a_card ) ) )
         m_ledger.Data().m_isStopped = true;
 }
 

@@ -20,6 +20,14 @@ bool IsManyNamed( std::string_view a_name )
     return a_name.find( '/' ) != std::string_view::npos && IsMessengerName( a_name );
 }
 
+// The name is the beginning of the text.
+PropertyId PropertyNamedAt( std::string_view a_text, size_t a_length )
+{
+    const PropertyId property = PropertyAt( a_text, a_length );
+    return property == PropertyId::Other && IsManyNamed( a_text.substr( 0, a_length ) ) ? PropertyId::Messenger
+                                                                                        : property;
+}
+
 PropertyId PropertyOfLine( const PimContactLine& a_line )
 {
     QByteArray buffer;
@@ -30,8 +38,7 @@ PropertyId PropertyOfLine( const PimContactLine& a_line )
 
 PropertyId PropertyNamed( std::string_view a_name )
 {
-    const PropertyId property = PropertyOf( a_name );
-    return property == PropertyId::Other && IsManyNamed( a_name ) ? PropertyId::Messenger : property;
+    return a_name.empty() ? PropertyId::Other : PropertyNamedAt( a_name, a_name.size() );
 }
 
 ContactLines::ContactLines( const PimContactCard& a_card ) :
@@ -50,11 +57,12 @@ ContactLines::ContactLines( const PimContactCard& a_card ) :
         if ( outline.m_kind == EntryKind::Line )
         {
             // An unusual name must be looked for.
-            const std::string_view name = outline.m_name.In( m_view.m_bytes.substr( begin ) );
+            const std::string_view rest = m_view.m_bytes.substr( begin + outline.m_name.m_begin );
+            const std::string_view name = rest.substr( 0, outline.m_name.m_length );
             const bool isPlain =
                 !name.empty() && ( !outline.m_isContinued || std::none_of( name.begin(), name.end(), IsLineEndByte ) );
             const PropertyId property =
-                isPlain ? PropertyNamed( name ) : PropertyOfLine( LineView::LineAt( a_card, place ) );
+                isPlain ? PropertyNamedAt( rest, name.size() ) : PropertyOfLine( LineView::LineAt( a_card, place ) );
             if ( count == m_lines.size() )
                 m_lines.emplace_back();
             m_lines[count++] = { m_nextId++, 0, place, property };

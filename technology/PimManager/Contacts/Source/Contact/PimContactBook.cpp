@@ -66,9 +66,9 @@ PimContactBook PimContactBook::Read( QIODevice& a_device, const PimContactOption
     std::vector<PimContactCard>& cards = book.d->m_cards;
     PimContactReader reader( a_options );
     reader.SetCardHandler(
-        [&cards]( const PimContactCard& a_card )
+        [&cards]( PimContactCard a_card )
         {
-            cards.push_back( a_card );
+            cards.push_back( std::move( a_card ) );
             return true;
         } );
     PimContactCard card;
@@ -93,11 +93,12 @@ PimContactBook PimContactBook::Read( QIODevice& a_device, const PimContactOption
 PimContactBook PimContactBook::FromBytes( const QByteArray& a_bytes, const PimContactOptions& a_options )
 {
     PimContactBook book;
+    std::vector<PimContactCard>& cards = book.d->m_cards;
     PimContactReader reader( a_options );
     reader.SetCardHandler(
-        [&book]( const PimContactCard& a_card )
+        [&cards]( PimContactCard a_card )
         {
-            book.d->m_cards.push_back( a_card );
+            cards.push_back( std::move( a_card ) );
             return true;
         } );
     reader.Feed( a_bytes );

@@ -232,11 +232,11 @@ constexpr std::array<quint8, s_kSlots> FilledSlots()
 constexpr std::array<quint8, s_kSlots> s_kFilledSlots = FilledSlots();
 
 // The same as the constructor, which must work when the program is compiled.
-Key KeyOf( std::string_view a_name )
+Key KeyOf( std::string_view a_text, size_t a_length )
 {
     Key key;
-    key.m_length = a_name.size();
-    key.m_bytes = UpperOfEight( FirstEight( a_name ) );
+    key.m_length = a_length;
+    key.m_bytes = UpperOfEight( FirstEightOf( a_text, a_length ) );
     return key;
 }
 
@@ -251,12 +251,18 @@ bool IsNameOf( size_t a_row, const Key& a_key, std::string_view a_name )
 
 PropertyId PropertyOf( std::string_view a_name )
 {
-    const Key key = KeyOf( a_name );
+    return a_name.empty() ? PropertyId::Other : PropertyAt( a_name, a_name.size() );
+}
+
+PropertyId PropertyAt( std::string_view a_text, size_t a_length )
+{
+    const std::string_view name = a_text.substr( 0, a_length );
+    const Key key = KeyOf( a_text, a_length );
     size_t slot = key.Slot();
     while ( s_kFilledSlots[slot] != s_kNoRow )
     {
         const size_t row = s_kFilledSlots[slot];
-        if ( IsNameOf( row, key, a_name ) )
+        if ( IsNameOf( row, key, name ) )
             return s_kRows[row].m_property;
         slot = ( slot + 1 ) % s_kSlots;
     }

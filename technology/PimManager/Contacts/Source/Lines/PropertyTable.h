@@ -95,6 +95,10 @@ constexpr size_t s_kProperties = static_cast<size_t>( PropertyId::Xml ) + 1;
 /// \param a_name in any letter case.
 PropertyId PropertyOf( std::string_view a_name );
 
+/// The same for a name that is the beginning of a text. It takes less time if the text goes on.
+/// \param a_length the length of the name, from 1.
+PropertyId PropertyAt( std::string_view a_text, size_t a_length );
+
 /// Determines the property of a standard with a name. Takes constant time.
 /// \param a_name in any letter case.
 /// \return Other for the names of vendors as well.

@@ -47,7 +47,17 @@ inline quint64 FirstEight( std::string_view a_text )
     return a_text.empty() ? 0 : static_cast<uchar>( a_text.front() );
 }
 
-/// The same, but behind a shorter text, the bytes are those of a filler.
+/// The same for the first a_length bytes of a text, without a branch for each length where the text is long enough.
+/// \param a_length from 1 to the length of the text.
+inline quint64 FirstEightOf( std::string_view a_text, size_t a_length )
+{
+    if ( a_text.size() < s_kWord )
+        return FirstEight( a_text.substr( 0, a_length ) );
+    const size_t missing = s_kWord - std::min( a_length, s_kWord );
+    return WordAt( a_text.data() ) & ( ~quint64( 0 ) >> ( 8 * missing ) );
+}
+
+/// The same as FirstEight(), but behind a shorter text, the bytes are those of a filler.
 inline quint64 FirstEight( std::string_view a_text, char a_filler )
 {
     const quint64 missing = a_text.size() < s_kWord ? ~quint64( 0 ) << ( 8 * a_text.size() ) : 0;

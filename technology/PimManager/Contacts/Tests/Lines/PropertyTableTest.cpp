@@ -60,6 +60,14 @@ TEST_P( PropertyTableTest, NameIsFoundInAnyLetterCase )
     EXPECT_EQ( PropertyOf( GetParam().m_name ), GetParam().m_property );
 }
 
+TEST_P( PropertyTableTest, NameIsFoundAtTheBeginningOfALongerText )
+{
+    const std::string name = GetParam().m_name;
+    if ( name.empty() )
+        return;
+    EXPECT_EQ( PropertyAt( name + ";TYPE=home:text", name.size() ), GetParam().m_property );
+}
+
 INSTANTIATE_TEST_SUITE_P( Rows, PropertyTableTest, testing::ValuesIn( s_kRows ) );
 
 TEST( PropertyTableTest, NamesOfVendorsAreNotOfAStandard )

@@ -32,6 +32,19 @@ TEST( EightBytesTest, FillerFollowsAShorterText )
     }
 }
 
+TEST( EightBytesTest, FirstBytesOfALongerTextAreThoseOfItsBeginning )
+{
+    const std::string text = "\x81mail:\xFFxyz\x7F";
+    for ( size_t size = 1; size <= text.size(); ++size )
+    {
+        // The text ends where its memory does.
+        const std::string longer = text.substr( 0, size );
+        for ( size_t length = 1; length <= size; ++length )
+            EXPECT_EQ( FirstEightOf( longer, length ), FirstEight( longer.substr( 0, length ) ) )
+                << length << " of " << size;
+    }
+}
+
 TEST( EightBytesTest, OnlyLettersOfAsciiChangeTheirCase )
 {
     for ( int byte = 0; byte < 256; ++byte )

@@ -58,8 +58,8 @@ enum class PimContactNext
 class PIMCONTACT_EXPORT PimContactReader
 {
 public:
-    /// Receives a card. \return false to stop: no further card comes, and the rest of the file is not read.
-    using CardHandler = std::function<bool( const PimContactCard& a_card )>;
+    /// Receives a card, which it may keep. \return false to stop: no further card comes, and the rest of the file is not read.
+    using CardHandler = std::function<bool( PimContactCard a_card )>;
     /// Receives each finding, including those beyond the limit of the report.
     using DiagnosticHandler = std::function<void( const PimContactDiagnostic& a_diagnostic )>;
     /// Receives each extent. Extents of a card come before the card.

@@ -1,7 +1,6 @@
-# pimvcard_add_test(NAME [LIBRARIES ...] [SOURCES ...] [SLOW ...]): an executable NAME from NAME.cpp, each of its cases a
-# ctest test. Cases that fit one of the patterns after SLOW repeat the same work over many texts; they have the label slow
-# and stand in the file NAME.slow next to the executable. With PIMVCARD_WHOLE_TEST_PROGRAMS, for builds in which starting
-# a program takes long, the cases are one test, and the slow ones another.
+# pimvcard_add_test(NAME [LIBRARIES ...] [SOURCES ...] [SLOW ...]): an executable NAME from NAME.cpp, which is one ctest
+# test. Cases that fit one of the patterns after SLOW repeat the same work over many texts; they are a test of their own,
+# NAME.Slow, which has the label slow, and the patterns stand in the file NAME.slow next to the executable.
 function(pimvcard_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 test "" "" "LIBRARIES;SOURCES;SLOW")
   add_executable(${name} ${name}.cpp ${test_SOURCES})
@@ -13,19 +12,11 @@ function(pimvcard_add_test name)
   endif()
   list(JOIN test_SLOW ":" slow)
   file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/${name}.slow "${slow}")
-  if(PIMVCARD_WHOLE_TEST_PROGRAMS)
-    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1 --gtest_filter=-${slow})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 900)
-    if(slow)
-      add_test(NAME ${name}.Slow COMMAND ${name} --gtest_brief=1 --gtest_filter=${slow})
-      set_tests_properties(${name}.Slow PROPERTIES LABELS slow TIMEOUT 1800 COST 100)
-    endif()
-    return()
-  endif()
-  gtest_discover_tests(${name} TEST_FILTER "-${slow}" NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+  add_test(NAME ${name} COMMAND ${name} --gtest_brief=1 --gtest_filter=-${slow})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 900)
   if(slow)
-    gtest_discover_tests(${name} TEST_FILTER "${slow}" NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
-                         PROPERTIES LABELS slow TIMEOUT 300)
+    add_test(NAME ${name}.Slow COMMAND ${name} --gtest_brief=1 --gtest_filter=${slow})
+    set_tests_properties(${name}.Slow PROPERTIES LABELS slow TIMEOUT 1800 COST 100)
   endif()
 endfunction()
 

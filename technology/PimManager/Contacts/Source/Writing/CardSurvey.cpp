@@ -70,7 +70,7 @@ bool CardSurvey::HasCleanText( std::string_view a_bytes, const IndexReader::Plai
     const std::string_view value = a_bytes.substr( a_line.m_parameters.End() + 1 );
     // It may be a URI.
     const bool isOddMail = a_meaning.m_property == PropertyId::Email && has( value, ':' );
-    return !isOddMail && !( false ) &&
+    return !isOddMail && !( a_meaning.m_hasEscapedSemicolons && has( value, ';' ) ) &&
            !( m_bytes.m_hasBackslash && value.find( "\\:" ) != std::string_view::npos );
 }
 

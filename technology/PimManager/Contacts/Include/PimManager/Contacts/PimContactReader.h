@@ -58,7 +58,8 @@ enum class PimContactNext
 class PIMCONTACT_EXPORT PimContactReader
 {
 public:
-    /// Receives a card, which it may keep. \return false to stop: no further card comes, and the rest of the file is not read.
+    /// Receives a card, which it may keep.
+    /// \return false to stop: no further card comes, and the rest of the file is not read.
     using CardHandler = std::function<bool( PimContactCard a_card )>;
     /// Receives each finding, including those beyond the limit of the report.
     using DiagnosticHandler = std::function<void( const PimContactDiagnostic& a_diagnostic )>;

@@ -27,7 +27,7 @@ EXTRA_OECMAKE = " \
 PACKAGECONFIG ??= "tools"
 PACKAGECONFIG[tools] = "-DPIMVCARD_BUILD_TOOLS=ON,-DPIMVCARD_BUILD_TOOLS=OFF"
 
-# Contacts decodes East Asian character sets with these modules, see docs/target.md. It works without them.
+# Contacts decodes East Asian character sets with these modules, see docs/embedded.md. It works without them.
 RRECOMMENDS:${PN}:append:libc-glibc = " \
     glibc-gconv-big5hkscs \
     glibc-gconv-cp932 \

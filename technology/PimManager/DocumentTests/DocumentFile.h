@@ -11,7 +11,7 @@
 namespace PimManager::vCard::Documents
 {
 
-/// \param a_name the path of a file from the root of the project, such as `docs/limits.md`.
+/// \param a_name the path of a file from the root of the project, such as `docs/embedded.md`.
 /// \return its text, which is UTF-8; the test fails when it cannot be read.
 QString DocumentText( const QString& a_name );
 

@@ -57,7 +57,7 @@ public:
     /// \param a_bytes          the text; may have any bytes.
     /// \param[out] a_malformed if given, receives the number of bytes that belong to no character.
     /// \return the text.
-    /// \note   East Asian character sets need modules of the system's iconv(), see docs/target.md. Without them, all
+    /// \note   East Asian character sets need modules of the system's iconv(), see docs/embedded.md. Without them, all
     ///         bytes beyond ASCII count as malformed.
     QString Decode( const QByteArray& a_bytes, qint64* a_malformed = nullptr ) const;
 

@@ -1,6 +1,8 @@
 # Words for what a header does not describe because every reader knows it: copies, comparisons, the setter below a getter,
 # iterators, and functions that follow one that describes them all. They go on the same line, so that line numbers stay. A
 # line below a comment remains as it is.
+# Links between documents are not links of these pages.
+s/\[([^]]*)\]\([^)]*\.md[^)]*\)/\1/g
 $!N
 # Not for readers, and taken for a function.
 s/\nQ_DECLARE_TYPEINFO\([^\n]*/\n/

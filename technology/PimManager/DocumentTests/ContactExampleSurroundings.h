@@ -16,6 +16,7 @@
 
 #include <PimVCard.h>
 
+#include <QBuffer>
 #include <QByteArray>
 #include <QDebug>
 #include <QSaveFile>

@@ -1,4 +1,4 @@
-// docs/contacts.md: its words, severities and limits are those of the code.
+// The words and severities of docs/vcard-support.md and the limits of docs/developing-an-app.md are those of the code.
 
 #include "DocumentFile.h"
 
@@ -22,9 +22,16 @@ namespace
 
 using Words = std::vector<std::string>;
 
-std::vector<TableRow> Rows( const QStringList& a_headings )
+std::vector<TableRow> SupportRows( const QStringList& a_headings )
 {
-    return TableRows( DocumentText( QStringLiteral( "docs/contacts.md" ) ), a_headings );
+    return TableRows( DocumentText( QStringLiteral( "docs/vcard-support.md" ) ), a_headings );
+}
+
+std::vector<TableRow> LimitRows()
+{
+    return TableRows( DocumentText( QStringLiteral( "docs/developing-an-app.md" ) ),
+                      { QStringLiteral( "limit" ), QStringLiteral( "function" ), QStringLiteral( "default" ),
+                        QStringLiteral( "beyond it" ) } );
 }
 
 std::string Word( const QString& a_cell )
@@ -51,7 +58,7 @@ TEST( ContactsDocumentTest, DiagnosticsAreThoseOfTheCode )
 {
     Words documented;
     for ( const TableRow& row :
-          Rows( { QStringLiteral( "word" ), QStringLiteral( "severity" ), QStringLiteral( "meaning" ) } ) )
+          SupportRows( { QStringLiteral( "word" ), QStringLiteral( "severity" ), QStringLiteral( "meaning" ) } ) )
     {
         documented.push_back( Word( row.m_cells[0] ) + " " + row.m_cells[1].toStdString() );
         EXPECT_FALSE( row.m_cells[2].isEmpty() ) << "line " << row.m_line;
@@ -68,7 +75,7 @@ TEST( ContactsDocumentTest, DiagnosticsAreThoseOfTheCode )
 TEST( ContactsDocumentTest, ExtentsAreThoseOfTheCode )
 {
     Words documented;
-    for ( const TableRow& row : Rows( { QStringLiteral( "extent" ), QStringLiteral( "bytes" ) } ) )
+    for ( const TableRow& row : SupportRows( { QStringLiteral( "extent" ), QStringLiteral( "bytes" ) } ) )
         documented.push_back( Word( row.m_cells[0] ) );
     Words expected;
     for ( int i = 0; i < s_kPimContactExtentKinds; ++i )
@@ -79,8 +86,7 @@ TEST( ContactsDocumentTest, ExtentsAreThoseOfTheCode )
 TEST( ContactsDocumentTest, DefaultLimitsAreThoseOfTheCode )
 {
     std::map<std::string, qint64> documented;
-    for ( const TableRow& row : Rows( { QStringLiteral( "limit" ), QStringLiteral( "function" ),
-                                        QStringLiteral( "default" ), QStringLiteral( "beyond it" ) } ) )
+    for ( const TableRow& row : LimitRows() )
         documented[Word( row.m_cells[1] )] = Figure( row.m_cells[2] );
     const PimContactOptions options;
     const std::map<std::string, qint64> expected = {

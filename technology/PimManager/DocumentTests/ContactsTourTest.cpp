@@ -1,4 +1,4 @@
-// The tour of docs/contacts.md: its examples, compiled as they are, print what the document shows.
+// The tour of docs/developing-an-app.md: its examples, compiled as they are, print what the document shows.
 
 #include "ContactExampleSurroundings.h"
 #include "DocumentFile.h"
@@ -15,31 +15,39 @@ using namespace PimManager::vCard::Documents;
 // Each source has one function Example().
 namespace Book
 {
-#include "contactsExample1.cpp"
+#include "developing-an-appExample1.cpp"
 }
 namespace Names
 {
-#include "contactsExample2.cpp"
+#include "developing-an-appExample2.cpp"
 }
 namespace Phones
 {
-#include "contactsExample3.cpp"
+#include "developing-an-appExample3.cpp"
 }
 namespace Dates
 {
-#include "contactsExample4.cpp"
+#include "developing-an-appExample4.cpp"
 }
 namespace Photo
 {
-#include "contactsExample5.cpp"
+#include "developing-an-appExample5.cpp"
 }
 namespace Editing
 {
-#include "contactsExample6.cpp"
+#include "developing-an-appExample6.cpp"
+}
+namespace Saving
+{
+#include "developing-an-appExample7.cpp"
+}
+namespace Faults
+{
+#include "developing-an-appExample8.cpp"
 }
 namespace Languages
 {
-#include "contactsExample7.cpp"
+#include "developing-an-appExample9.cpp"
 }
 
 // The contact of the examples.
@@ -56,9 +64,9 @@ struct Row
 };
 
 const std::vector<Row> s_kRows = {
-    { "A book", Book::Example },         { "Names", Names::Example }, { "Phones", Phones::Example },
-    { "Dates", Dates::Example },         { "Photo", Photo::Example }, { "Editing", Editing::Example },
-    { "Languages", Languages::Example },
+    { "A book", Book::Example },   { "Names", Names::Example },   { "Phones", Phones::Example },
+    { "Dates", Dates::Example },   { "Photo", Photo::Example },   { "Editing", Editing::Example },
+    { "Saving", Saving::Example }, { "Faults", Faults::Example }, { "Languages", Languages::Example },
 };
 
 QString g_printed;
@@ -83,7 +91,7 @@ std::string PrintedBy( const Row& a_row )
 
 QString Tour()
 {
-    const QString document = DocumentText( QStringLiteral( "docs/contacts.md" ) );
+    const QString document = DocumentText( QStringLiteral( "docs/developing-an-app.md" ) );
     return document.section( QStringLiteral( "\n## " ), 1, 1 );
 }
 

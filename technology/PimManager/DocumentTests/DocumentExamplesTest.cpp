@@ -7,7 +7,10 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 
 #include <vector>
@@ -132,6 +135,19 @@ QString Packed( const QString& a_json )
     return packed;
 }
 
+// The names of the members of the objects that a schema defines.
+QSet<QString> MembersIn( const QString& a_schema )
+{
+    const QJsonObject schema = QJsonDocument::fromJson( a_schema.toUtf8() ).object();
+    QSet<QString> members;
+    for ( const QJsonValue& definition : schema.value( QStringLiteral( "$defs" ) ).toObject() )
+    {
+        for ( const QString& name : definition.toObject().value( QStringLiteral( "properties" ) ).toObject().keys() )
+            members.insert( name );
+    }
+    return members;
+}
+
 TEST( DocumentExamplesTest, CommandsOfDocumentsRun )
 {
     int commands = 0;
@@ -172,12 +188,13 @@ TEST( DocumentExamplesTest, ReadmeShowsWhatItsProgramPrints )
     EXPECT_EQ( shown.toStdString(), run.m_out.toStdString() );
 }
 
-TEST( DocumentExamplesTest, ReadmeShowsWhatCommandsPrint )
+TEST( DocumentExamplesTest, PagesShowWhatCommandsPrint )
 {
     static const QRegularExpression s_kIndentation( QStringLiteral( "^    " ), QRegularExpression::MultilineOption );
     const ExampleFolder folder;
-    const QStringList shown = AllMatches( DocumentText( QStringLiteral( "README.md" ) ),
-                                          QStringLiteral( "^    \\$ (.*\\n(?:    [^$].*\\n)+)" ) );
+    const QStringList shown =
+        AllMatches( DocumentText( QStringLiteral( "README.md" ) ) + DocumentText( QStringLiteral( "docs/program.md" ) ),
+                    QStringLiteral( "^    \\$ (.*\\n(?:    [^$].*\\n)+)" ) );
     EXPECT_EQ( shown.size(), 3 );
     for ( const QString& each : shown )
     {
@@ -187,15 +204,44 @@ TEST( DocumentExamplesTest, ReadmeShowsWhatCommandsPrint )
     }
 }
 
-TEST( DocumentExamplesTest, JsonDocumentShowsHowTheFirstContactBegins )
+TEST( DocumentExamplesTest, ProgramPageShowsHowTheFirstContactBegins )
 {
-    const QString document = DocumentText( QStringLiteral( "docs/contact-json.md" ) );
+    const QString document = DocumentText( QStringLiteral( "docs/program.md" ) );
     const QString shown = AllMatches( document, Fenced( "json" ) ).value( 0 );
     const ExampleFolder folder;
     const ShellRun run = folder.Run(
         QStringLiteral( "pimvcard convert --to json-lines examples/messy-phonebook.vcf 2>errors | head -1" ) );
     EXPECT_GT( shown.size(), 100 );
     EXPECT_TRUE( Packed( run.m_out ).startsWith( Packed( shown ) ) ) << run.m_out.toStdString();
+}
+
+TEST( DocumentExamplesTest, ProgramPageHasTheMembersOfTheSchema )
+{
+    const QSet<QString> members = MembersIn( DocumentText( QStringLiteral( "docs/contact.schema.json" ) ) );
+    EXPECT_GT( members.size(), 100 );
+    const QString page = DocumentText( QStringLiteral( "docs/program.md" ) );
+    for ( const QString& member : members )
+        EXPECT_TRUE( page.contains( QLatin1Char( '`' ) + member + QLatin1Char( '`' ) ) ) << member.toStdString();
+
+    const QString heading = QStringLiteral( "member" );
+    const QString value = QStringLiteral( "value" );
+    std::vector<TableRow> rows = TableRows( page, { heading, value } );
+    const std::vector<TableRow> ofProperties = TableRows( page, { heading, QStringLiteral( "when" ), value } );
+    rows.insert( rows.end(), ofProperties.begin(), ofProperties.end() );
+    for ( const TableRow& row : rows )
+    {
+        for ( const QString& member : AllMatches( row.m_cells.first(), QStringLiteral( "`([^`]*)`" ) ) )
+            EXPECT_TRUE( members.contains( member ) ) << "line " << row.m_line << ": " << member.toStdString();
+    }
+}
+
+TEST( DocumentExamplesTest, ScriptOfTheProgramPageGivesEveryContact )
+{
+    const QStringList scripts = ScriptsIn( DocumentText( QStringLiteral( "docs/program.md" ) ) );
+    ASSERT_EQ( scripts.size(), 1 );
+    const ExampleFolder folder;
+    const ShellRun run = folder.Run( scripts[0] + QStringLiteral( "\nwc -l < contacts.jsonl" ) );
+    EXPECT_EQ( run.m_out.toStdString(), "2\n" ) << run.m_err.toStdString();
 }
 
 TEST( DocumentExamplesTest, ScriptsOfTheScaleDocumentGiveEveryContact )

@@ -20,7 +20,7 @@ struct VersionCell
 {
     /// The name in the version; empty if the property keeps its name.
     std::string_view m_name;
-    /// What is kept, for docs/conversion.md; empty for everything.
+    /// What is kept, for docs/vcard-support.md; empty for everything.
     std::string_view m_kept;
 };
 
@@ -43,7 +43,7 @@ const VersionRow& VersionRowOf( PropertyId a_property );
 /// \return the name that a property has in a version. Names that are not in the row, such as those of vendors, stay.
 std::string_view NameIn( std::string_view a_name, PropertyId a_property, PimContactVersion a_version );
 
-/// \return the rows as a table in Markdown, as docs/conversion.md has it.
+/// \return the rows as a table in Markdown, as docs/vcard-support.md has it.
 QByteArray VersionTableText();
 
 } // namespace PimManager::Contacts

@@ -1,4 +1,4 @@
-// The members of a property, each rule of docs/contact-json.md a row.
+// The members of a property, each rule of docs/program.md a row.
 
 #include "OneCard.h"
 

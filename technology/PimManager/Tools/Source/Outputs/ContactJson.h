@@ -13,7 +13,7 @@
 namespace PimManager::Tools
 {
 
-/// Writes each contact as an object on a line of its own, in the format of docs/contact-json.md.
+/// Writes each contact as an object on a line of its own, in the format of docs/program.md.
 class ContactJson : public BookOutput
 {
 public:

@@ -28,7 +28,7 @@ namespace PimManager::Contacts
 
 class PimContactJsonPrivate;
 
-/// Writes each card as one JSON object in the format of docs/contact-json.md, with decoded values: the fields that
+/// Writes each card as one JSON object in the format of docs/program.md, with decoded values: the fields that
 /// PimContact reads, and all properties. Nothing is cut, and nothing is left out: a value that cannot be decoded is
 /// written as text.
 ///

@@ -27,7 +27,7 @@ class PimContactOptionsPrivate;
 ///
 /// Exceeding a limit costs the line or the card that exceeds it. A diagnostic reports it, and the rest of the file is
 /// read. A limit of 0 or less means "no limit", except that a card never has more than 1 GiB and cards never nest
-/// deeper than 64. The defaults suit a desktop; docs/contacts.md lists values for devices with little memory.
+/// deeper than 64. The defaults suit a desktop; docs/embedded.md lists values for devices with little memory.
 class PIMCONTACT_EXPORT PimContactOptions
 {
 public:

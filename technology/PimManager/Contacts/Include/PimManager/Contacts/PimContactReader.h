@@ -40,7 +40,7 @@ enum class PimContactNext
 };
 
 /// Reads address books as they are found: vCard 2.1, 3.0 and 4.0, in any encoding and with any line endings, clean or
-/// damaged. docs/contacts.md lists the rules.
+/// damaged. docs/vcard-support.md lists the rules.
 ///
 /// **Push or pull.** Feed() and Finish() take pieces of any size and call the handlers. Next() reads a device and
 /// returns one card at a time. Both give the same cards, diagnostics and extents, however the text is cut into pieces.

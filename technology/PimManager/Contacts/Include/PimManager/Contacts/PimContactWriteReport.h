@@ -22,7 +22,7 @@ namespace PimManager::Contacts
 class PimContactWriteNotePrivate;
 class PimContactWriteReportPrivate;
 
-/// What happened to a part of a contact. The table in docs/conversion.md says when.
+/// What happened to a part of a contact. The tables in docs/vcard-support.md say when.
 enum class PimContactWriteCode
 {
     NameAdded,        ///< the format needs an FN or N, and the card has none: one was added

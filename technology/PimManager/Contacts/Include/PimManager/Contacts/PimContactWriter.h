@@ -61,7 +61,7 @@ enum class PimContactFormat
 /// PimContactCard::Bytes() has them.
 ///
 /// **What the version does not have** is written in another form where programs have one, such as `X-ANNIVERSARY` for
-/// ANNIVERSARY, and Report() says so. The table in docs/conversion.md lists every property with what each version
+/// ANNIVERSARY, and Report() says so. The table in docs/vcard-support.md lists every property with what each version
 /// keeps. Line breaks of all kinds become line feeds, and control characters other than tabs are left out, so that no
 /// value ends its line or its card.
 ///

@@ -139,11 +139,13 @@ QString Packed( const QString& a_json )
 QSet<QString> MembersIn( const QString& a_schema )
 {
     const QJsonObject schema = QJsonDocument::fromJson( a_schema.toUtf8() ).object();
+    const QJsonObject definitions = schema.value( QStringLiteral( "$defs" ) ).toObject();
     QSet<QString> members;
-    for ( const QJsonValue& definition : schema.value( QStringLiteral( "$defs" ) ).toObject() )
+    for ( const QString& name : definitions.keys() )
     {
-        for ( const QString& name : definition.toObject().value( QStringLiteral( "properties" ) ).toObject().keys() )
-            members.insert( name );
+        const QJsonObject definition = definitions.value( name ).toObject();
+        for ( const QString& member : definition.value( QStringLiteral( "properties" ) ).toObject().keys() )
+            members.insert( member );
     }
     return members;
 }

@@ -37,7 +37,6 @@ public:
         Write( "book.vcf", s_kBook );
         for ( const char* const name : { "other.vcf", "books/ada.vcf", "books/of a phone/bo.vcf" } )
             Write( name, s_kWholeBook );
-        Write( "names.txt", "book.vcf\nbooks/of a phone/bo.vcf\n" );
     }
 
     QString Path( const char* a_name ) const { return m_folder.filePath( QString::fromLatin1( a_name ) ); }
@@ -244,23 +243,6 @@ TEST( DocumentExamplesTest, ScriptOfTheProgramPageGivesEveryContact )
     const ExampleFolder folder;
     const ShellRun run = folder.Run( scripts[0] + QStringLiteral( "\nwc -l < contacts.jsonl" ) );
     EXPECT_EQ( run.m_out.toStdString(), "2\n" ) << run.m_err.toStdString();
-}
-
-TEST( DocumentExamplesTest, ScriptsOfTheScaleDocumentGiveEveryContact )
-{
-    const QStringList scripts = ScriptsIn( DocumentText( QStringLiteral( "docs/scale.md" ) ) );
-    ASSERT_EQ( scripts.size(), 2 );
-    const QString countLines = QStringLiteral( "\nwc -l < contacts.jsonl" );
-    const ExampleFolder folder;
-    const ShellRun parallel = folder.Run( scripts[0] + countLines );
-    EXPECT_EQ( parallel.m_out.toStdString(), "2\n" ) << parallel.m_err.toStdString();
-
-    const ShellRun step = folder.Run( QStringLiteral( "set -e\n" ) + scripts[1] + countLines );
-    EXPECT_EQ( step.m_status, 0 ) << step.m_err.toStdString();
-    EXPECT_EQ( step.m_out.toStdString(), "3\n" ) << step.m_err.toStdString();
-
-    folder.Write( "names.txt", "book.vcf\nmissing.vcf\n" );
-    EXPECT_NE( folder.Run( QStringLiteral( "./convert-step < names.txt" ) ).m_status, 0 );
 }
 
 } // namespace

@@ -43,7 +43,11 @@ import subprocess
 import sys
 import tempfile
 
-from distributed import Client, KilledWorker, LocalCluster, as_completed
+try:
+    from distributed import Client, KilledWorker, LocalCluster, as_completed
+except ImportError:
+    print("scale_out.py: Dask's distributed scheduler is missing; Debian has it in python3-distributed", file=sys.stderr)
+    sys.exit(2)
 
 ACCOUNT = "account.json"
 STAGING = ".unfinished"

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Text/Charset.h"
+#include "Text/DecodedText.h"
 
 #include <QByteArray>
 
@@ -12,17 +13,6 @@
 
 namespace PimManager::Contacts
 {
-
-struct DecodeResult
-{
-    /// The number of malformed bytes. Each became one U+FFFD.
-    qint64 m_malformed = 0;
-    /// The place of the first malformed byte, if there is one.
-    quint32 m_firstMalformed = 0;
-    /// The text has characters that this system cannot decode, as a module of iconv() is missing. Their bytes count as
-    /// malformed.
-    bool m_isUnavailable = false;
-};
 
 /// Decodes a text to UTF-8.
 ///

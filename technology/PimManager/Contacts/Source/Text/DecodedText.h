@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include "Text/Codec.h"
-
 #include <QByteArray>
 
 #include <string_view>
@@ -12,6 +10,18 @@
 
 namespace PimManager::Contacts
 {
+
+/// What became of a text.
+struct DecodeResult
+{
+    /// The number of malformed bytes. Each became one U+FFFD.
+    qint64 m_malformed = 0;
+    /// The place of the first malformed byte, if there is one.
+    quint32 m_firstMalformed = 0;
+    /// The text has characters that this system cannot decode, as a module of iconv() is missing. Their bytes count as
+    /// malformed.
+    bool m_isUnavailable = false;
+};
 
 /// The text that DecodeTo() appends to, the places of its characters, and what was malformed. A place is that of the
 /// first byte of a character in the encoded text.

@@ -1,10 +1,11 @@
 #include "Values/EncodedLabel.h"
 
+#include "Lines/LineHead.h"
 #include "Text/Buffer.h"
 #include "Text/Bytes.h"
 #include "Text/Codec.h"
 #include "Text/WhiteSpace.h"
-#include "Values/ParameterReader.h"
+#include "Values/ParameterNames.h"
 #include "Values/QuotedPrintable.h"
 
 #include <algorithm>

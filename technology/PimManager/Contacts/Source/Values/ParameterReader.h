@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Lines/LineHead.h"
+#include "Values/ParameterNames.h"
 
 #include <PimManager/Contacts/PimContactCard.h>
 
@@ -13,11 +14,6 @@
 
 namespace PimManager::Contacts
 {
-
-constexpr std::string_view s_kTypeParameter = "TYPE";
-constexpr std::string_view s_kValueParameter = "VALUE";
-constexpr std::string_view s_kEncodingParameter = "ENCODING";
-constexpr std::string_view s_kCharsetParameter = "CHARSET";
 
 /// \return the name of the parameter that a bare word belongs to: `TYPE` for HOME, `ENCODING` for BASE64.
 std::string_view NameOfBare( std::string_view a_word );

@@ -2,6 +2,7 @@
 
 #include "PimVCard.h"
 #include "PimVCardVocabulary.h"
+#include "Strict/PlainText.h"
 
 #include <QRegularExpression>
 #include <QRegularExpressionMatch>
@@ -14,16 +15,6 @@ using namespace vCard;
 
 namespace
 {
-
-bool IsBlank( char a_byte )
-{
-    return a_byte == ' ' || a_byte == '\t';
-}
-
-bool IsSameWord( const QString& a_first, const QString& a_second )
-{
-    return a_first.compare( a_second, Qt::CaseInsensitive ) == 0;
-}
 
 // The quick look that almost every line of an address book fails.
 bool EndsInVCard( const QByteArray& a_line )

@@ -2,6 +2,7 @@
 
 #include "PimVCard.h"
 #include "PimVCardVocabulary.h"
+#include "Strict/PlainText.h"
 
 #include <QStringList>
 
@@ -12,11 +13,6 @@ using namespace vCard;
 
 namespace
 {
-
-bool IsSameWord( const QString& a_first, const QString& a_second )
-{
-    return a_first.compare( a_second, Qt::CaseInsensitive ) == 0;
-}
 
 // From "family;given;additional;prefixes;suffixes" to the order in which a name is spoken.
 QStringList InSpokenOrder( const QStringList& a_parts )

@@ -1,5 +1,7 @@
 #include "Strict/ContentLineReader.h"
 
+#include "Strict/PlainText.h"
+
 #include <QRegularExpression>
 #include <QRegularExpressionMatch>
 #include <QString>
@@ -23,11 +25,6 @@ int ByteOrderMarkLength( const QByteArray& a_bytes )
             return static_cast<int>( qstrlen( mark ) );
     }
     return 0;
-}
-
-bool IsBlank( char a_byte )
-{
-    return a_byte == ' ' || a_byte == '\t';
 }
 
 bool IsLineBreak( char a_byte )

@@ -80,7 +80,7 @@ TEST( CommandOutputTest, BrokenPipeDoesNotKeepFilesFromBeingWritten )
     const ProgramRun run = ProgramCall( { "convert", "-t", "html", "-o", page, large } ).WithBrokenPipe().Run();
     EXPECT_EQ( run.m_status, 0 );
     EXPECT_NE( run.m_err.find( "3000 contacts" ), std::string::npos ) << run.m_err;
-    EXPECT_EQ( FileContent( page ).count( "<article" ), 3000 );
+    EXPECT_EQ( FileContent( page ).count( "<details class=\"contact\"" ), 3000 );
 }
 
 TEST( CommandOutputTest, FullDiskIsReportedWithStatusTwo )

@@ -133,9 +133,11 @@ TEST( ConvertPageTest, EveryContactHasItsAnchor )
     const ProgramRun run = RunPimvcard( { "convert", "--to", "html", first, second } );
     EXPECT_EQ( run.m_status, 0 ) << run.m_err;
     const QByteArray page = QByteArray::fromStdString( run.m_out );
-    EXPECT_EQ( page.count( "<article" ), 3 );
+    EXPECT_EQ( page.count( "<details class=\"contact\"" ), 3 );
     for ( const char* anchor : { "c1-1", "c1-2", "c2-1" } )
-        EXPECT_EQ( page.count( QByteArray( "<article class=\"contact\" id=\"" ) + anchor + "\">" ), 1 ) << anchor;
+        EXPECT_EQ( page.count( QByteArray( "<div class=\"about\" id=\"" ) + anchor + "\">" ), 1 ) << anchor;
+    EXPECT_EQ( page.count( "<p class=\"source\">" ), 3 );
+    EXPECT_FALSE( Page( CleanCard() ).contains( "<p class=\"source\">" ) );
 }
 
 TEST( ConvertPageTest, ReportIsOnThePage )
@@ -152,14 +154,14 @@ TEST( ConvertPageTest, ReportIsOnThePage )
     EXPECT_TRUE( page.contains(
         "<li id=\"d1-2\"><span class=\"place\">9:1</span><span class=\"word dropped\">dropped</span>" ) );
     EXPECT_TRUE( page.contains( "<a class=\"part\" href=\"#d1-2\">" ) );
-    EXPECT_TRUE( page.contains( "<article class=\"contact\" id=\"c1-2\">" ) );
+    EXPECT_TRUE( page.contains( "<div class=\"about\" id=\"c1-2\">" ) );
     EXPECT_EQ( page.count( "class=\"part\"" ), 1 );
 }
 
 TEST( ConvertPageTest, FileWithoutCardsIsReported )
 {
     const QByteArray page = Page( "%PDF-1.4\n" );
-    EXPECT_FALSE( page.contains( "<article" ) );
+    EXPECT_FALSE( page.contains( "<details class=\"contact\"" ) );
     EXPECT_TRUE( page.contains( "</bdi>: is a PDF document. <a href=\"#account\">" ) );
     EXPECT_TRUE(
         page.contains( "<dt>File</dt><dd>is a PDF document</dd>\n<dt>Bytes</dt><dd>9 bytes: 9 refused</dd>" ) );
@@ -181,5 +183,57 @@ TEST( ConvertPageTest, FindingsBeyondTheLimitAreCounted )
     const QByteArray page = Page( PartCard().repeated( 1234 ) );
     EXPECT_EQ( page.count( "<span class=\"said\">" ), 1000 );
     EXPECT_TRUE( page.contains( "<p class=\"none\">234 more are not listed.</p>" ) );
-    EXPECT_EQ( page.count( "<article" ), 1234 );
+    EXPECT_EQ( page.count( "<details class=\"contact\"" ), 1234 );
+}
+
+TEST( ConvertPageTest, ContactsAreInTheOrderOfTheirNames )
+{
+    QByteArray book;
+    for ( const char* name : { "112;;;;", "Zimmer;Otto;;;", "\xC3\x85sberg;Nell;;;", "Brackwater;Nell;;;",
+                               "Asberg;Zoe;;;", "\xD0\x90\xD0\xBD\xD0\xBD\xD0\xB0;;;;", "brackwater;ada;;;" } )
+        book += CardText( QByteArray( "VERSION:3.0\r\nN:" ) + name + "\r\n" );
+    const QByteArray page = Page( book );
+    QByteArrayList names;
+    for ( qsizetype at = page.indexOf( "<h3 dir" ); at >= 0;
+          at = page.indexOf( "<h3 dir", static_cast<int>( at ) + 1 ) )
+        names << Between( page.mid( static_cast<int>( at ) ), ">", "<" );
+    EXPECT_EQ( names.join( '|' ).toStdString(),
+               "Nell \xC3\x85sberg|Zoe Asberg|ada brackwater|Nell Brackwater|Otto Zimmer|"
+               "\xD0\x90\xD0\xBD\xD0\xBD\xD0\xB0|112" );
+    EXPECT_EQ( Between( page, "aria-label=\"Letters\">", "</nav>" ).toStdString(),
+               "<a href=\"#s1\">A</a><a href=\"#s2\">B</a><a href=\"#s3\">Z</a><a href=\"#s4\">\xD0\x90</a>"
+               "<a href=\"#s5\">#</a>" );
+    for ( const char* section :
+          { "<h2>A</h2><span class=\"number\">2</span></summary>\n<div class=\"list\" id=\"s1\">",
+            "<h2>#</h2><span class=\"number\">1</span></summary>\n<div class=\"list\" id=\"s5\">" } )
+        EXPECT_TRUE( page.contains( section ) ) << section;
+}
+
+TEST( ConvertPageTest, TheMoreContactsTheLessIsOpen )
+{
+    struct Row
+    {
+        int m_contacts;
+        int m_openLetters;
+        int m_openContacts;
+    };
+    for ( const Row& row : { Row{ 12, 1, 12 }, Row{ 13, 1, 0 }, Row{ 200, 1, 0 }, Row{ 201, 0, 0 } } )
+    {
+        const QByteArray page = Page( CleanCard().repeated( row.m_contacts ) );
+        EXPECT_EQ( page.count( "<details class=\"contact\"" ), row.m_contacts );
+        EXPECT_EQ( page.count( "<details class=\"letter\" open=\"\">" ), row.m_openLetters ) << row.m_contacts;
+        EXPECT_EQ( page.count( "<details class=\"contact\" open=\"\">" ), row.m_openContacts ) << row.m_contacts;
+    }
+}
+
+TEST( ConvertPageTest, PageIsNotWrittenIfTheTemporaryFileFails )
+{
+    const Folder folder;
+    const QByteArray book =
+        folder.Write( "book.vcf", CardText( "FN:x\r\nNOTE:" + QByteArray( 100000, 'x' ) + "\r\n" ) );
+    const ProgramRun run =
+        ProgramCall( { "convert", "--to", "html", "-o", "/dev/null", book } ).WithFileSizeLimit( 50000 ).Run();
+    EXPECT_EQ( run.m_status, 2 );
+    EXPECT_NE( run.m_err.find( "/dev/null: cannot be written: temporary file: File too large" ), std::string::npos )
+        << run.m_err;
 }

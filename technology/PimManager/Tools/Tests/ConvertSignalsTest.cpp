@@ -167,7 +167,7 @@ TEST_F( ConvertSignalsTest, FirstCtrlCKeepsWhatWasRead )
     EXPECT_EQ( program.Finish(), 130 );
     EXPECT_EQ( NamesIn( folder.Path( "" ) ), "page\n" );
     EXPECT_TRUE( FileContent( page ).endsWith( "</html>\n" ) );
-    EXPECT_EQ( FileContent( page ).count( "<article" ), 1 );
+    EXPECT_EQ( FileContent( page ).count( "<details class=\"contact\"" ), 1 );
 }
 
 TEST_F( ConvertSignalsTest, PicturesThatAreCompleteStay )

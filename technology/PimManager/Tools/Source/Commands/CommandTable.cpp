@@ -121,7 +121,7 @@ CommandInfo Convert()
         QStringLiteral(
             "\nAs FILE, - is standard output. A file appears only when it is complete. Several books are joined.\n"
             "Contacts are written as they are read, so the size of the books does not matter, unless --sort\n"
-            "is given. What the format cannot say is reported on standard error.\n" ) );
+            "is given. A page is sorted by name. What the format cannot say is reported on standard error.\n" ) );
 }
 
 CommandInfo Help()

@@ -2,13 +2,16 @@
 
 #include "Outputs/Pictures.h"
 #include "Outputs/PropertyText.h"
+#include "Page/ContactFacts.h"
+#include "Page/FieldWords.h"
 #include "Page/HtmlText.h"
-#include "Terminal/TerminalText.h"
+#include "Page/PropertyLabels.h"
 #include "Terminal/Wording.h"
 
 #include <QIODevice>
 
 #include <algorithm>
+#include <utility>
 
 namespace PimManager::Tools
 {
@@ -24,52 +27,54 @@ bool IsOneOf( const PimContactLine& a_line, std::initializer_list<const char*> a
                         [&a_line]( const char* a_name ) { return a_line.IsNamed( QLatin1String( a_name ) ); } );
 }
 
-bool IsWork( const PimContactLine& a_line )
+// How the card is written, not what it says.
+bool IsKnownVersion( const PimContactLine& a_line )
 {
-    return IsOneOf( a_line, { "TITLE", "ORG" } );
+    const QString version = a_line.Text().trimmed();
+    return a_line.IsNamed( QLatin1String( "VERSION" ) ) &&
+           ( version == QLatin1String( "2.1" ) || version == QLatin1String( "3.0" ) ||
+             version == QLatin1String( "4.0" ) );
 }
 
-bool IsWay( const PimContactLine& a_line )
+// A phone keeps the kind of such a line in its first part, and numbers in others.
+QString CodesOf( const PimContactLine& a_line )
 {
-    return IsOneOf( a_line, { "TEL", "EMAIL", "ADR", "URL" } );
+    QStringList parts = a_line.Components();
+    const auto isCode = []( const QString& a_part ) { return a_part.size() <= 2; };
+    QString codes = parts.takeFirst();
+    for ( const QString& part : std::as_const( parts ) )
+        codes += isCode( part ) ? QLatin1Char( ' ' ) + part : QString();
+    return codes;
 }
 
-bool IsNote( const PimContactLine& a_line )
+// The language, and parameters that are not shown with every line, such as "Sort as: Wrenfield".
+QStringList RemarksOf( const PimContactLine& a_line )
 {
-    return IsOneOf( a_line, { "NOTE" } );
+    QStringList remarks;
+    const QList<QPair<QString, QString>> parameters = a_line.NamedParameters();
+    for ( const QPair<QString, QString>& parameter : parameters )
+    {
+        if ( parameter.first == QLatin1String( "LANGUAGE" ) )
+            remarks << LanguageWords( parameter.second );
+        else if ( ToldTexts::IsShownOnItsOwn( parameter.first ) )
+            remarks << QStringLiteral( "%1: %2" ).arg( ReadableName( parameter.first ), parameter.second );
+    }
+    return remarks;
 }
 
-QByteArray LinkOf( const PimContactLine& a_line, const QString& a_text )
+QString RestText( const PimContact& a_contact, const PimContactLine& a_line )
 {
-    if ( IsOneOf( a_line, { "TEL" } ) )
-        return TelephoneLink( a_text );
-    if ( IsOneOf( a_line, { "EMAIL" } ) )
-        return MailLink( a_text );
-    return IsOneOf( a_line, { "URL" } ) ? WebLink( a_text ) : QByteArray();
+    if ( IsOneOf( a_line, { "REV", "CREATED", "X-IRMC-CALL-DATETIME" } ) )
+        return DateWords( PimContactDate::FromText( a_line.Text() ) );
+    return PropertyTextOf( a_contact, a_line, TextLength::Full ).m_lines.join( QLatin1Char( '\n' ) );
 }
 
-// What an entry is for, a text for each thing.
-QStringList UsesOf( const PimContactText& a_entry )
+QString AddressText( const PimContactAddress& a_address )
 {
-    QStringList uses;
-    if ( !a_entry.Purpose().isEmpty() )
-        uses << a_entry.Purpose();
-    const int preference = a_entry.Preference().value_or( 0 );
-    if ( preference == 1 )
-        uses << QStringLiteral( "preferred" );
-    else if ( preference > 1 )
-        uses << QStringLiteral( "preference %1" ).arg( preference );
-    return uses;
-}
-
-// True if the property says nothing else than its purpose and its text.
-bool SaysNothingElse( const PropertyText& a_property, const PimContactLine& a_line, const PimContactText& a_entry )
-{
-    QStringList lines = a_entry.Text().split( QLatin1Char( '\n' ) );
-    for ( QString& line : lines )
-        line = ToTerminalText( line );
-    return a_property.m_name == QString::fromLatin1( a_line.Name() ) &&
-           a_property.m_remarks == ToTerminalText( a_entry.Purpose() ) && a_property.m_lines == lines;
+    const QString text = a_address.Text();
+    // The name of a country says more than its code.
+    const bool isOpen = a_address.Country().isEmpty() && !a_address.CountryCode().isEmpty();
+    return isOpen ? text + QLatin1Char( '\n' ) + a_address.CountryCode() : text;
 }
 
 } // namespace
@@ -77,186 +82,284 @@ bool SaysNothingElse( const PropertyText& a_property, const PimContactLine& a_li
 CardHtml::CardHtml( QIODevice& a_device, const PimContact& a_contact, const PimContactLine& a_face ) :
     m_device( a_device ),
     m_contact( a_contact ),
-    m_card( a_contact.Card() ),
     m_face( a_face ),
     m_name( a_contact.DisplayName() )
 {
+    ReadLines();
 }
 
-void CardHtml::Write( const QByteArray& a_heading )
+void CardHtml::ReadLines()
 {
-    WriteName( a_heading );
+    const QList<int> ids = m_contact.LineIds();
+    auto id = ids.begin();
+    const PimContactCard card = m_contact.Card();
+    for ( const PimContactLine& line : card )
+    {
+        m_lines.append( { *id, line } );
+        ReadLine( *id++, line );
+    }
+}
+
+void CardHtml::ReadLine( int a_id, const PimContactLine& a_line )
+{
+    if ( !a_line.NestedCard().IsNull() )
+        m_nested.insert( a_id );
+    if ( IsOneOf( a_line, { "FN", "N", "SORT-STRING" } ) )
+        m_told.Tell( a_id, m_name );
+    if ( IsKnownVersion( a_line ) )
+        m_told.TellValue( a_id );
+    if ( a_line.IsNamed( QLatin1String( "X-ANDROID-CUSTOM" ) ) )
+        m_told.Tell( a_id, CodesOf( a_line ) );
+}
+
+void CardHtml::WriteHead( const QByteArray& a_heading )
+{
+    m_device.write( '<' + a_heading + R"( dir="auto">)" );
+    WriteHtmlText( m_device, ShownName( m_contact ) );
+    m_device.write( "</" + a_heading + ">\n" );
     WriteWork();
+}
+
+void CardHtml::WriteWork()
+{
+    m_device.write( R"(<span class="work">)" );
+    const PimContactList<PimContactText> titles = m_contact.Titles();
+    for ( const PimContactText& title : titles )
+        WriteWorkOf( title, title.Text() );
+    const PimContactList<PimContactText> roles = m_contact.Roles();
+    for ( const PimContactText& role : roles )
+        WriteWorkOf( role, role.Text() );
+    const PimContactList<PimContactOrganisation> organisations = m_contact.Organisations();
+    for ( const PimContactOrganisation& organisation : organisations )
+        WriteWorkOf( organisation, organisation.Text() );
+    m_device.write( "</span>\n" );
+}
+
+void CardHtml::WriteWorkOf( const PimContactField& a_field, const QString& a_text )
+{
+    m_told.Tell( a_field, a_text );
+    const QStringList uses = UsesOf( a_field );
+    // A company is often called by its own name.
+    if ( a_text == m_name && uses.isEmpty() )
+        return;
+    m_device.write( "<span class=\"job\"><bdi>" );
+    WriteHtmlText( m_device, a_text );
+    m_device.write( "</bdi>" );
+    WriteUses( uses );
+    m_device.write( "</span>" );
+}
+
+void CardHtml::WriteBody()
+{
     WriteWays();
+    WriteFacts();
     WriteNotes();
     WriteExtraPictures();
     WriteNestedCards();
     WriteRest();
 }
 
-void CardHtml::WriteName( const QByteArray& a_heading )
-{
-    m_device.write( '<' + a_heading + R"( dir="auto">)" );
-    WriteHtmlText( m_device, ShownName( m_contact ) );
-    m_device.write( "</" + a_heading + ">\n" );
-}
-
-void CardHtml::WriteWork()
-{
-    QStringList texts;
-    for ( const PimContactLine& line : m_card )
-    {
-        const QString text = IsWork( line ) ? m_contact.FieldOf( line ).Text() : QString();
-        // A company is often called by its own name.
-        if ( !text.isEmpty() && text != m_name )
-            texts << text;
-    }
-    if ( texts.isEmpty() )
-        return;
-    m_device.write( R"(<p class="work" dir="auto">)" );
-    WriteHtmlText( m_device, texts.join( QStringLiteral( u" \u00B7 " ) ) );
-    m_device.write( "</p>\n" );
-}
-
 void CardHtml::WriteWays()
 {
-    if ( std::none_of( m_card.begin(), m_card.end(), IsWay ) )
-        return;
-    m_device.write( "<ul class=\"ways\">\n" );
-    for ( const PimContactLine& line : m_card )
-    {
-        if ( IsWay( line ) )
-            WriteWay( line );
-    }
+    m_device.write( "<ul class=\"ways\">" );
+    const PimContactList<PimContactPhone> phones = m_contact.Phones();
+    for ( const PimContactPhone& phone : phones )
+        WriteWay( phone, { phone.Text(), TelephoneLink( phone.Number() ), QStringList(), QString() } );
+    const PimContactList<PimContactMail> mails = m_contact.Mails();
+    for ( const PimContactMail& mail : mails )
+        WriteWay( mail, { mail.Address(), MailLink( mail.Address() ), QStringList( mail.Name() ), QString() } );
+    WriteMessengers();
+    WriteAddresses();
+    const PimContactList<PimContactText> urls = m_contact.Urls();
+    for ( const PimContactText& url : urls )
+        WriteWay( url, { url.Text(), WebLink( url.Text() ), QStringList(), QString() } );
     m_device.write( "</ul>\n" );
 }
 
-void CardHtml::WriteWay( const PimContactLine& a_line )
+void CardHtml::WriteMessengers()
 {
-    const PimContactText entry = m_contact.FieldOf( a_line );
-    if ( entry.Text().isEmpty() )
-        return;
-    const QByteArray link = LinkOf( a_line, entry.Text() );
-    const QByteArray tag = link.isEmpty() ? "span" : "a";
-    m_device.write( "<li><" + tag + R"( class="text" dir="auto")" );
-    if ( !link.isEmpty() )
-        m_device.write( R"( rel="noreferrer noopener" href=")" + link + "\"" );
-    m_device.write( ">" );
-    WriteHtmlText( m_device, entry.Text() );
-    m_device.write( "</" + tag + ">" );
-    WriteUses( entry );
-    m_device.write( "</li>\n" );
+    const PimContactList<PimContactMessenger> messengers = m_contact.Messengers();
+    for ( const PimContactMessenger& messenger : messengers )
+    {
+        const QString address = messenger.Address();
+        const QString text = messenger.Handle().isEmpty() ? address : messenger.Handle();
+        const QByteArray link = WebLink( address );
+        // A link leads to the address. Any other one is read if it is a scheme and the text.
+        const bool isSaid = !link.isEmpty() || address.section( QLatin1Char( ':' ), 1 ) == text;
+        WriteWay( messenger, { text, link, QStringList( messenger.Service() ), isSaid ? address : QString() } );
+    }
 }
 
-void CardHtml::WriteUses( const PimContactText& a_entry )
+void CardHtml::WriteAddresses()
 {
-    const QStringList uses = UsesOf( a_entry );
-    for ( const QString& use : uses )
+    const PimContactList<PimContactAddress> addresses = m_contact.Addresses();
+    for ( const PimContactAddress& address : addresses )
+        WriteWay( address, { AddressText( address ), QByteArray(), QStringList(), address.CountryCode() } );
+}
+
+void CardHtml::WriteWay( const PimContactField& a_field, const Way& a_way )
+{
+    const QByteArray tag = a_way.m_link.isEmpty() ? "span" : "a";
+    m_device.write( "<li><" + tag + R"( class="text" dir="auto")" );
+    if ( !a_way.m_link.isEmpty() )
+        m_device.write( R"( rel="noreferrer noopener" href=")" + a_way.m_link + "\"" );
+    m_device.write( ">" );
+    WriteHtmlText( m_device, a_way.m_text );
+    m_device.write( "</" + tag + ">" );
+    WriteUses( a_way.m_uses );
+    WriteUsesOf( a_field );
+    m_device.write( "</li>\n" );
+    m_told.Tell( a_field, a_way.m_text + QLatin1Char( ' ' ) + a_way.m_uses.join( QLatin1Char( ' ' ) ) +
+                              QLatin1Char( ' ' ) + a_way.m_alsoSaid );
+}
+
+// A line can hold several fields, and says only once what they are for.
+void CardHtml::WriteUsesOf( const PimContactField& a_field )
+{
+    if ( a_field.Id() != m_lastWithUses )
+        WriteUses( UsesOf( a_field ) );
+    m_lastWithUses = a_field.Id();
+}
+
+void CardHtml::WriteUses( const QStringList& a_uses )
+{
+    for ( const QString& use : a_uses )
     {
+        if ( use.isEmpty() )
+            continue;
         m_device.write( R"( <span class="kind" dir="auto">)" );
         WriteHtmlText( m_device, use );
         m_device.write( "</span>" );
     }
 }
 
+void CardHtml::WriteFacts()
+{
+    const std::vector<ContactFact> facts = FactsOf( m_contact );
+    m_device.write( "<dl class=\"facts\">" );
+    for ( const ContactFact& fact : facts )
+    {
+        // A nested card is written as a card.
+        if ( !m_nested.contains( fact.m_field.Id() ) )
+            WriteFact( fact );
+    }
+    m_device.write( "</dl>\n" );
+}
+
+void CardHtml::WriteFact( const ContactFact& a_fact )
+{
+    WriteRow( a_fact.m_label, a_fact.m_text, a_fact.m_uses );
+    m_told.Tell( a_fact.m_field, a_fact.m_text + QLatin1Char( ' ' ) + a_fact.m_alsoSaid );
+    if ( !a_fact.m_isWhole )
+        return;
+    const QList<int> ids = a_fact.m_field.LineIds();
+    for ( const int id : ids )
+        m_told.TellValue( id );
+}
+
+void CardHtml::WriteRow( const QString& a_label, const QString& a_text, const QStringList& a_uses )
+{
+    m_device.write( "<dt><bdi>" );
+    WriteHtmlText( m_device, a_label );
+    m_device.write( R"(</bdi></dt><dd><span class="text" dir="auto">)" );
+    WriteHtmlText( m_device, a_text );
+    m_device.write( "</span>" );
+    WriteUses( a_uses );
+    m_device.write( "</dd>\n" );
+}
+
 void CardHtml::WriteNotes()
 {
-    for ( const PimContactLine& line : m_card )
+    const PimContactList<PimContactText> notes = m_contact.Notes();
+    for ( const PimContactText& note : notes )
     {
-        const QString text = IsNote( line ) ? m_contact.FieldOf( line ).Text() : QString();
-        if ( text.isEmpty() )
-            continue;
-        m_device.write( R"(<p class="note" dir="auto">)" );
-        WriteHtmlText( m_device, text );
+        m_device.write( R"(<p class="note"><span class="text" dir="auto">)" );
+        WriteHtmlText( m_device, note.Text() );
+        m_device.write( "</span>" );
+        WriteUses( UsesOf( note ) );
         m_device.write( "</p>\n" );
+        m_told.Tell( note, note.Text() );
     }
 }
 
 void CardHtml::WriteExtraPictures()
 {
-    for ( const PimContactLine& line : m_card )
+    for ( const Line& line : std::as_const( m_lines ) )
     {
-        const bool isFace = !m_face.IsNull() && line.OffsetInCard() == m_face.OffsetInCard();
-        if ( IsPicture( line ) && !isFace )
-            WritePicture( m_device, line, "extra" );
+        const bool isFace = !m_face.IsNull() && line.m_line.OffsetInCard() == m_face.OffsetInCard();
+        if ( isFace || ( IsPicture( line.m_line ) &&
+                         WritePicture( m_device, line.m_line, "extra", "A picture that this browser cannot show" ) ) )
+            m_told.TellValue( line.m_id );
     }
 }
 
 void CardHtml::WriteNestedCards()
 {
-    for ( const PimContactLine& line : m_card )
+    for ( const Line& line : std::as_const( m_lines ) )
     {
-        const PimContactCard nested = line.NestedCard();
-        if ( !nested.IsNull() )
-            WriteNestedCard( line, nested );
+        if ( m_nested.contains( line.m_id ) )
+            WriteNestedCard( line );
     }
 }
 
 // The reader limits how deeply cards nest.
-void CardHtml::WriteNestedCard( const PimContactLine& a_line, const PimContactCard& a_card )
+void CardHtml::WriteNestedCard( const Line& a_line )
 {
-    m_device.write( "<section class=\"nested\">\n<p class=\"work\"><bdi>" );
-    WriteHead( PropertyTextOf( m_contact, a_line, TextLength::Full ) );
-    m_device.write( "</bdi></p>\n" );
-    CardHtml( m_device, PimContact( a_card ), PimContactLine() ).Write( "h4" );
+    const PimContact contact( a_line.m_line.NestedCard() );
+    m_device.write( "<section class=\"nested\"" + DirectionOf( contact ) + ">\n<p class=\"role\"><bdi>" );
+    WriteHtmlText( m_device, PropertyLabel( a_line.m_line ) );
+    m_device.write( "</bdi>" );
+    WriteUses( UsesOf( m_contact.FieldOf( a_line.m_line ) ) );
+    m_device.write( "</p>\n" );
+    CardHtml card( m_device, contact, PimContactLine() );
+    card.WriteHead( "h4" );
+    card.WriteBody();
     m_device.write( "</section>\n" );
+    if ( a_line.m_line.Text().trimmed().isEmpty() )
+        m_told.TellValue( a_line.m_id );
 }
 
 void CardHtml::WriteRest()
 {
     bool isBegun = false;
-    for ( const PimContactLine& line : m_card )
+    for ( const Line& line : std::as_const( m_lines ) )
     {
-        const PropertyText property = PropertyTextOf( m_contact, line, TextLength::Full );
-        if ( IsShown( line, property ) )
+        if ( m_told.IsTold( line.m_line, line.m_id ) )
             continue;
         if ( !isBegun )
-            m_device.write( "<details><summary>More</summary>\n<dl>\n" );
+            m_device.write( "<details class=\"rest\"><summary>More</summary>\n<dl>\n" );
         isBegun = true;
-        WriteRestOf( property );
+        WriteRestOf( line.m_line );
     }
     if ( isBegun )
         m_device.write( "</dl></details>\n" );
 }
 
-void CardHtml::WriteRestOf( const PropertyText& a_property )
+void CardHtml::WriteRestOf( const PimContactLine& a_line )
 {
-    m_device.write( "<dt><bdi>" );
-    WriteHead( a_property );
-    m_device.write( R"(</bdi></dt><dd class="text" dir="auto">)" );
-    WriteHtmlText( m_device, a_property.m_lines.join( QLatin1Char( '\n' ) ) );
-    m_device.write( "</dd>\n" );
+    PimContactText field = m_contact.FieldOf( a_line );
+    // A label is not its own label.
+    if ( a_line.IsNamed( QLatin1String( "X-ABLABEL" ) ) )
+        field.SetLabel( QString() );
+    WriteRow( PropertyLabel( a_line ), RestText( m_contact, a_line ), UsesOf( field ) + RemarksOf( a_line ) );
 }
 
-void CardHtml::WriteHead( const PropertyText& a_property )
+QByteArray DirectionOf( const PimContact& a_contact )
 {
-    WriteHtmlText( m_device, a_property.m_name );
-    if ( !a_property.m_remarks.isEmpty() )
-        WriteHtmlText( m_device, QLatin1Char( ' ' ) + a_property.m_remarks );
+    return a_contact.DisplayName().isRightToLeft() ? R"( dir="rtl")" : "";
 }
 
-// True if everything that the property says is outside the list of the rest.
-bool CardHtml::IsShown( const PimContactLine& a_line, const PropertyText& a_property ) const
-{
-    const PimContactText entry = m_contact.FieldOf( a_line );
-    if ( !a_line.NestedCard().IsNull() )
-        return entry.Text().isEmpty();
-    if ( entry.Text().isEmpty() || !SaysNothingElse( a_property, a_line, entry ) )
-        return false;
-    const bool isName = IsOneOf( a_line, { "FN" } ) && entry.Text() == m_name;
-    return IsWay( a_line ) || ( entry.Purpose().isEmpty() && ( isName || IsWork( a_line ) || IsNote( a_line ) ) );
-}
-
-bool WritePicture( QIODevice& a_device, const PimContactLine& a_line, const QByteArray& a_class )
+bool WritePicture( QIODevice& a_device, const PimContactLine& a_line, const QByteArray& a_class,
+                   const QByteArray& a_text )
 {
     const PimContactBinary picture = a_line.Binary();
     const QByteArray mediaType = RasterTypeOf( picture );
     if ( mediaType.isEmpty() )
         return false;
-    a_device.write( "<img class=\"" + a_class + R"(" alt="" loading="lazy" decoding="async" src="data:)" + mediaType +
-                    ";base64," );
+    a_device.write( "<span class=\"" + a_class + "\"><img alt=\"" + a_text +
+                    R"(" loading="lazy" decoding="async" src="data:)" + mediaType + ";base64," );
     a_device.write( picture.Bytes().toBase64() );
-    a_device.write( "\">" );
+    a_device.write( "\"></span>" );
     return true;
 }
 

@@ -5,8 +5,6 @@
 #include "Page/HtmlText.h"
 #include "Terminal/ShortText.h"
 
-#include <PimManager/Contacts/PimContact.h>
-
 #include <QIODevice>
 
 namespace PimManager::Tools
@@ -49,7 +47,7 @@ PimContactLine WriteFacePicture( QIODevice& a_device, const PimContactCard& a_ca
 {
     for ( const PimContactLine& line : a_card )
     {
-        if ( IsPicture( line ) && WritePicture( a_device, line, "photo" ) )
+        if ( IsPicture( line ) && WritePicture( a_device, line, "photo", "Picture" ) )
             return line;
     }
     return PimContactLine();
@@ -58,10 +56,10 @@ PimContactLine WriteFacePicture( QIODevice& a_device, const PimContactCard& a_ca
 PimContactLine WriteFace( QIODevice& a_device, const PimContact& a_contact )
 {
     const QString name = a_contact.DisplayName();
-    a_device.write( "<div class=\"" + FaceClass( name ) + R"(" aria-hidden="true">)" );
+    a_device.write( "<span class=\"" + FaceClass( name ) + R"(" aria-hidden="true">)" );
     WriteHtmlText( a_device, InitialsOf( name ) );
     PimContactLine picture = WriteFacePicture( a_device, a_contact.Card() );
-    a_device.write( "</div>\n" );
+    a_device.write( "</span>\n" );
     return picture;
 }
 
@@ -72,16 +70,16 @@ QByteArray CardAnchor( int a_book, qint64 a_card )
     return QByteArray::number( a_book ) + '-' + QByteArray::number( a_card );
 }
 
-void WriteContact( QIODevice& a_device, const PimContactCard& a_card, const QByteArray& a_anchor )
+void WriteContact( QIODevice& a_device, const PimContact& a_contact, const QByteArray& a_anchor )
 {
-    const PimContact contact( a_card );
-    a_device.write( R"(<article class="contact" id="c)" + a_anchor + "\">\n" );
-    const PimContactLine face = WriteFace( a_device, contact );
-    a_device.write( "<div class=\"about\">\n" );
-    CardHtml( a_device, contact, face ).Write( "h3" );
-    if ( !a_card.IsWhole() )
+    a_device.write( "<summary>" );
+    CardHtml card( a_device, a_contact, WriteFace( a_device, a_contact ) );
+    a_device.write( "<span class=\"head\">" );
+    card.WriteHead( "h3" );
+    a_device.write( "</span></summary>\n<div class=\"about\" id=\"c" + a_anchor + "\">\n" );
+    card.WriteBody();
+    if ( !a_contact.Card().IsWhole() )
         a_device.write( R"(<a class="part" href="#d)" + a_anchor + "\">Something of this contact is missing</a>\n" );
-    a_device.write( "</div>\n</article>\n" );
 }
 
 } // namespace PimManager::Tools

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <PimManager/Contacts/PimContactCard.h>
+#include <PimManager/Contacts/PimContact.h>
 
 #include <QByteArray>
 
@@ -18,9 +18,10 @@ namespace PimManager::Tools
 /// \param a_card from 1.
 QByteArray CardAnchor( int a_book, qint64 a_card );
 
-/// Writes one contact: the picture, and what CardHtml writes.
+/// Writes one contact: a line with the picture and the name, and an element with everything else. The element is not
+/// closed.
 /// \param a_device must be open.
 /// \param a_anchor that of the card.
-void WriteContact( QIODevice& a_device, const Contacts::PimContactCard& a_card, const QByteArray& a_anchor );
+void WriteContact( QIODevice& a_device, const Contacts::PimContact& a_contact, const QByteArray& a_anchor );
 
 } // namespace PimManager::Tools

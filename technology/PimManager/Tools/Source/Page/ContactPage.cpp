@@ -1,9 +1,11 @@
 #include "Page/ContactPage.h"
 
 #include "Page/AccountHtml.h"
+#include "Page/CardHtml.h"
 #include "Page/ContactHtml.h"
-#include "Page/HtmlText.h"
+#include "Page/NameOrder.h"
 #include "Page/PageDesign.h"
+#include "Page/SectionHtml.h"
 
 namespace PimManager::Tools
 {
@@ -15,35 +17,34 @@ ContactPage::ContactPage( const QByteArray& a_fileName, OutputClaims& a_claims )
 {
 }
 
-void ContactPage::Begin()
-{
-    m_file.Device().write( PageHead() );
-}
-
-void ContactPage::BeginBook( const BookInRun& a_book, const PimContactReader& /*a_reader*/ )
-{
-    m_file.Device().write( "<section class=\"listed\">\n<h2><bdi>" + ToHtmlText( a_book.m_source ).toUtf8() +
-                           "</bdi></h2>\n<div class=\"list\">\n" );
-}
-
 void ContactPage::TakeCard( const BookInRun& a_book, const PimContactCard& a_card )
 {
-    WriteContact( m_file.Device(), a_card, CardAnchor( a_book.m_number, a_card.Number() ) );
-}
-
-void ContactPage::EndBook( const BookInRun& a_book )
-{
-    m_file.Device().write( "</div>\n</section>\n" );
-    m_books << a_book;
+    const PimContact contact( a_card );
+    WriteContact( m_pieces.Device(), contact, CardAnchor( a_book.m_number, a_card.Number() ) );
+    m_pieces.Add( PlaceOf( contact.SortName() ), DirectionOf( contact ), a_book.m_source );
 }
 
 void ContactPage::End()
 {
-    m_file.Device().write( "</main>\n" );
-    WriteVerdict( m_file.Device(), m_books );
-    WriteAccounts( m_file.Device(), m_books );
-    m_file.Device().write( PageTail() );
+    const QString failure = m_pieces.Failure();
+    if ( !failure.isEmpty() )
+        m_file.Fail( failure );
+    else
+        WritePage( m_file.Device() );
     m_file.Close();
+}
+
+void ContactPage::WritePage( QIODevice& a_device )
+{
+    const std::vector<PageSection> sections = SectionsOf( m_pieces.Sort() );
+    a_device.write( PageHead() );
+    WriteLetters( a_device, sections );
+    a_device.write( PageMiddle() );
+    WriteVerdict( a_device, m_books );
+    WriteSections( a_device, sections, m_pieces, m_books.size() > 1 );
+    a_device.write( "</main>\n" );
+    WriteAccounts( a_device, m_books );
+    a_device.write( PageTail() );
 }
 
 QStringList ContactPage::Failures() const

@@ -8,9 +8,12 @@
 namespace PimManager::Tools
 {
 
-/// \return the page up to the first book: head, style and search. The page allows nothing but its own style, its own
+/// \return the page up to the letters: head, style and search. The page allows nothing but its own style, its own
 ///         script and pictures that stand in it, both named by their hashes.
 QByteArray PageHead();
+
+/// \return what is between the letters and the contacts.
+QByteArray PageMiddle();
 
 /// \return the script and the end of the page.
 QByteArray PageTail();

@@ -229,6 +229,8 @@ TEST( CardHtmlTest, WhatIsNotShownElsewhereIsInTheList )
         { "VERSION:4.0\r\nADR:;;3 Steps;;;;;;Loft\r\n", "3 Steps; ; ; ; ; ; Loft" },
         { "VERSION:2.1\r\nADR;HOME:;;3 Ferry Steps;;;;\r\nLABEL;HOME:Ferry Steps\r\n",
           ">Address</bdi></dt><dd><span class=\"text\" dir=\"auto\">3 Ferry Steps</span>" },
+        { "X-ANDROID-CUSTOM:vnd.example/tide;12;;;\r\n",
+          ">Android custom</bdi></dt><dd><span class=\"text\" dir=\"auto\">vnd.example/tide;12;;;</span></dd>" },
         { "a.X-ABLabel:boat\r\n", ">Label</bdi></dt><dd><span class=\"text\" dir=\"auto\">boat</span></dd>" },
         { "VERSION:4.0\r\nFN;ALTID=1:Nell\r\nFN;ALTID=1;LANGUAGE=el:Nelly\r\n", "Nelly</span> <span class=\"kind\"" },
         { "PHOTO;ENCODING=b:%\r\n", ">Picture</bdi></dt><dd><span class=\"text\" dir=\"auto\">0 bytes, damaged at "

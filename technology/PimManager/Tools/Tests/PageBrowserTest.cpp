@@ -266,6 +266,8 @@ TEST( PageBrowserTest, FindingOpensItsContactWithoutScripts )
         QStringLiteral( "Array.from(document.querySelectorAll('.contact[open] h3')).map(h => h.textContent).join()" ),
         "Tobias" );
     EXPECT_GT( page.Number( QStringLiteral( "document.querySelector('.contact[open] .about').offsetHeight" ) ), 0 );
+    EXPECT_EQ( page.Text( QStringLiteral( "getComputedStyle(document.querySelector('.contact[open]')).outlineStyle" ) ),
+               "solid" );
 }
 
 TEST( PageBrowserTest, PictureThatDoesNotDecodeShowsTheInitials )

@@ -108,8 +108,6 @@ void CardHtml::ReadLine( int a_id, const PimContactLine& a_line )
         m_told.Tell( a_id, m_name );
     if ( IsKnownVersion( a_line ) )
         m_told.TellValue( a_id );
-    if ( a_line.IsNamed( QLatin1String( "X-ANDROID-CUSTOM" ) ) )
-        m_told.Tell( a_id, CodesOf( a_line ) );
 }
 
 void CardHtml::WriteHead( const QByteArray& a_heading )
@@ -324,6 +322,8 @@ void CardHtml::WriteRest()
     bool isBegun = false;
     for ( const Line& line : std::as_const( m_lines ) )
     {
+        if ( m_told.IsMentioned( line.m_id ) && line.m_line.IsNamed( QLatin1String( "X-ANDROID-CUSTOM" ) ) )
+            m_told.Tell( line.m_id, CodesOf( line.m_line ) );
         if ( m_told.IsTold( line.m_line, line.m_id ) )
             continue;
         if ( !isBegun )

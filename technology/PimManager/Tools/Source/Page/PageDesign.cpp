@@ -52,7 +52,9 @@ summary { cursor: pointer }
   align-items: start; padding: .5rem 0 1rem }
 .contact { background: var(--card); border: 1px solid var(--line); border-radius: .7rem; content-visibility: auto;
   contain-intrinsic-size: auto 3.6rem }
-.contact:has(:target), .contact > summary { min-height: 3.5rem; padding: .4rem .8rem }
+.findings li:target { outline: 2px solid var(--link) }
+.contact:has(:target) { outline: 2px solid var(--link) }
+.contact > summary { min-height: 3.5rem; padding: .4rem .8rem }
 .face { position: relative; flex: none; width: 2.6rem; height: 2.6rem; border-radius: 50%; overflow: hidden;
   display: grid; place-items: center; font-weight: 600; color: #fff; background: #4a5568 }
 /* A picture that does not decode is a few pixels high, so it moves less and stays out of sight. */

@@ -30,6 +30,9 @@ public:
     /// The value of a line is shown in other words, such as a date or a picture. Its parameters may not be.
     void TellValue( int a_id ) { m_values.insert( a_id ); }
 
+    /// \return true if something was said of a line.
+    bool IsMentioned( int a_id ) const { return m_texts.contains( a_id ); }
+
     /// \return true if nothing is left to say of a line. Linear in what the line says and what was told of it.
     bool IsTold( const Contacts::PimContactLine& a_line, int a_id ) const;
 

@@ -50,7 +50,8 @@ TEST( FieldWordsTest, LanguagesHaveNames )
     };
     for ( const Row& row : { Row{ "de", "German" }, Row{ "DE", "German" }, Row{ "de-CH", "German (Switzerland)" },
                              Row{ "ja-Latn", "Japanese (ja-Latn)" }, Row{ "de-CH-1996", "German (de-CH-1996)" },
-                             Row{ "xx", "xx" }, Row{ "tlh", "tlh" }, Row{ "<b>", "<b>" }, Row{ "", "" } } )
+                             Row{ "de-XX", "German (de-XX)" }, Row{ "xx", "xx" }, Row{ "tlh", "tlh" },
+                             Row{ "<b>", "<b>" }, Row{ "", "" } } )
         EXPECT_EQ( Utf8( LanguageWords( QString::fromLatin1( row.m_code ) ) ), row.m_words ) << row.m_code;
 }
 

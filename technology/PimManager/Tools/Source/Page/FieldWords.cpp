@@ -27,7 +27,7 @@ constexpr std::array s_kTypes = {
     TypeAndWords{ "TTY", "text phone" },
 };
 
-// The language that QLocale knows for a code that it does not.
+// A code that is not known is read as C.
 bool IsKnown( const QLocale& a_locale )
 {
     return a_locale.language() != QLocale::C;
@@ -125,14 +125,13 @@ QString LanguageWords( const QString& a_code )
     const QLocale locale( a_code );
     if ( !IsKnown( locale ) )
         return a_code;
-    const QString language = QLocale::languageToString( locale.language() );
-    if ( !a_code.contains( QLatin1Char( '-' ) ) )
-        return language;
-    const QString country = QLocale::countryToString( locale.country() );
+    const QString rest = a_code.section( QLatin1Char( '-' ), 1 );
+    if ( rest.isEmpty() )
+        return QLocale::languageToString( locale.language() );
     // Scripts and variants have no name here.
-    const bool isCountry = a_code.section( QLatin1Char( '-' ), 1 ).size() == 2;
-    return isCountry ? QStringLiteral( "%1 (%2)" ).arg( language, country )
-                     : QStringLiteral( "%1 (%2)" ).arg( language, a_code );
+    const bool isCountry = locale.name().endsWith( QLatin1Char( '_' ) + rest.toUpper() );
+    const QString place = isCountry ? QLocale::countryToString( locale.country() ) : a_code;
+    return QStringLiteral( "%1 (%2)" ).arg( QLocale::languageToString( locale.language() ), place );
 }
 
 QString DateWords( const PimContactDate& a_date )

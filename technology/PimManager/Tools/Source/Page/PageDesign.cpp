@@ -81,8 +81,8 @@ h3, h4 { margin: 0; font-size: 1.02rem; line-height: 1.3 }
 .text { white-space: pre-line }
 .kind { padding: .05rem .45rem; border-radius: 1rem; background: var(--page); color: var(--soft);
   font-size: .8rem; unicode-bidi: isolate }
-.note, .nested { margin-top: .5rem; padding-inline-start: .7rem; border-inline-start: 3px solid var(--line) }
-.note, .source { font-size: .92rem }
+.about :is(.note, .nested) { margin-top: .5rem; padding-inline-start: .7rem; border-inline-start: 3px solid var(--line) }
+.about :is(.note, .source) { font-size: .92rem }
 .source { color: var(--soft) }
 .extra img { display: block; max-width: 100%; max-height: 10rem; margin-top: .5rem; border-radius: .4rem }
 .part { display: inline-block; margin-top: .3rem; color: var(--fair); font-size: .85rem }

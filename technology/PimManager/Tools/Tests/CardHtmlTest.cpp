@@ -32,7 +32,7 @@ QByteArray Html( const QByteArray& a_lines )
 // What a browser makes of the HTML. Each element must be closed, but for pictures, which have no end tag.
 struct Parsed
 {
-    explicit Parsed( QByteArray a_html );
+    explicit Parsed( const QByteArray& a_html );
 
     QString m_text;
     // Their names, each once, in order.
@@ -40,7 +40,7 @@ struct Parsed
     std::set<std::string> m_attributes;
 };
 
-Parsed::Parsed( QByteArray a_html )
+Parsed::Parsed( const QByteArray& a_html )
 {
     static const QRegularExpression s_kPicture( QStringLiteral( "(<img [^>]*)>" ) );
     const QString html = QString::fromUtf8( a_html ).replace( s_kPicture, QStringLiteral( "\\1/>" ) );
@@ -221,6 +221,9 @@ TEST( CardHtmlTest, WhatIsNotShownElsewhereIsInTheList )
         { "UID:u1\r\n", ">Identifier</bdi></dt><dd><span class=\"text\" dir=\"auto\">u1</span></dd>" },
         { "REV:20240304T102200Z\r\n",
           ">Last changed</bdi></dt><dd><span class=\"text\" dir=\"auto\">4 March 2024, 10:22 UTC</span></dd>" },
+        { "X-IRMC-CALL-DATETIME;DIALED:20240311T084512Z\r\n",
+          "11 March 2024, 8:45:12 UTC</span> <span class=\"kind\"" },
+        { "BDAY;X-P=about:1985-02-03\r\n", "3 February 1985</span> <span class=\"kind\" dir=\"auto\">P: about</span>" },
         { "X-OPENING-HOURS:Tu-Su\r\n", ">Opening hours</bdi></dt><dd><span class=\"text\" dir=\"auto\">Tu-Su</span>" },
         { "TEL;X-HOURS=noon:5\r\n",
           ">Phone</bdi></dt><dd><span class=\"text\" dir=\"auto\">5</span> <span class=\"kind\" dir=\"auto\">Hours: "

@@ -30,10 +30,10 @@ bool IsOneOf( const PimContactLine& a_line, std::initializer_list<const char*> a
 // How the card is written, not what it says.
 bool IsKnownVersion( const PimContactLine& a_line )
 {
+    if ( !a_line.IsNamed( QLatin1String( "VERSION" ) ) )
+        return false;
     const QString version = a_line.Text().trimmed();
-    return a_line.IsNamed( QLatin1String( "VERSION" ) ) &&
-           ( version == QLatin1String( "2.1" ) || version == QLatin1String( "3.0" ) ||
-             version == QLatin1String( "4.0" ) );
+    return version == QLatin1String( "2.1" ) || version == QLatin1String( "3.0" ) || version == QLatin1String( "4.0" );
 }
 
 // A phone keeps the kind of such a line in its first part, and numbers in others.
@@ -64,7 +64,7 @@ QStringList RemarksOf( const PimContactLine& a_line )
 
 QString RestText( const PimContact& a_contact, const PimContactLine& a_line )
 {
-    if ( IsOneOf( a_line, { "REV", "CREATED", "X-IRMC-CALL-DATETIME" } ) )
+    if ( IsOneOf( a_line, { "REV", "CREATED", "BDAY", "ANNIVERSARY", "DEATHDATE", "X-IRMC-CALL-DATETIME" } ) )
         return DateWords( PimContactDate::FromText( a_line.Text() ) );
     return PropertyTextOf( a_contact, a_line, TextLength::Full ).m_lines.join( QLatin1Char( '\n' ) );
 }

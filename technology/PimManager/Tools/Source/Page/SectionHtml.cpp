@@ -71,7 +71,7 @@ void WriteLetters( QIODevice& a_device, const std::vector<PageSection>& a_sectio
 {
     if ( a_sections.empty() )
         return;
-    a_device.write( "<nav class=\"letters\" aria-label=\"Letters\">" );
+    a_device.write( R"(<nav class="letters" aria-label="Letters">)" );
     int number = 0;
     for ( const PageSection& section : a_sections )
         a_device.write( "<a href=\"#s" + QByteArray::number( ++number ) + "\">" +

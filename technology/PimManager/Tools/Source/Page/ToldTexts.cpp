@@ -54,7 +54,7 @@ bool AreIn( const QSet<QString>& a_words, const QSet<QString>& a_others )
 // A scheme says what the name of the property says as well.
 QString ValueOf( const PimContactLine& a_line )
 {
-    const QString text = a_line.Text();
+    QString text = a_line.Text();
     for ( const char* scheme : { "tel:", "mailto:" } )
     {
         if ( text.startsWith( QLatin1String( scheme ), Qt::CaseInsensitive ) )

@@ -68,7 +68,7 @@ TEST( FieldWordsTest, NamesOfPropertiesAreReadable )
             Row{ "X-", "X" }, Row{ "MEMBER", "Member" } } )
     {
         const PimContactBook book = PimContactBook::FromBytes( CardText( row.m_line + QByteArray( ":x\r\n" ) ) );
-        const PimContactCard card = book.CardAt( 0 );
+        const PimContactCard& card = book.CardAt( 0 );
         ASSERT_EQ( card.LineCount(), 1 ) << row.m_line;
         EXPECT_EQ( Utf8( PropertyLabel( *card.begin() ) ), row.m_label ) << row.m_line;
     }

@@ -12,7 +12,7 @@ inherit externalsrc
 EXTERNALSRC = "${@os.path.realpath(os.path.join(os.path.dirname(d.getVar('FILE')), '..', '..'))}"
 EXTERNALSRC_BUILD = "${WORKDIR}/build"
 
-inherit cmake cmake_qt5 ptest
+inherit cmake cmake_qt5 pkgconfig ptest
 
 DEPENDS = "qtbase"
 
@@ -25,7 +25,7 @@ EXTRA_OECMAKE = " \
 "
 
 PACKAGECONFIG ??= "tools"
-PACKAGECONFIG[tools] = "-DPIMVCARD_BUILD_TOOLS=ON,-DPIMVCARD_BUILD_TOOLS=OFF"
+PACKAGECONFIG[tools] = "-DPIMVCARD_BUILD_TOOLS=ON,-DPIMVCARD_BUILD_TOOLS=OFF,utf8proc"
 
 # Contacts decodes East Asian character sets with these modules, see docs/embedded.md. It works without them.
 RRECOMMENDS:${PN}:append:libc-glibc = " \

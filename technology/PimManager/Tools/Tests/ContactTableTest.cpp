@@ -59,8 +59,8 @@ TEST( ContactTableTest, NothingIsWrittenWithoutContacts )
 TEST( ContactTableTest, NarrowTerminalWrapsCells )
 {
     EXPECT_EQ( Utf8( Table( { s_kNell }, 56 ) ), "NAME          NUMBER        MAIL           ORGANISATION\n"
-                                                 "Nell          +1-555-0101   nell@example.  Tide Office,\n"
-                                                 "Brackwater    cell, voice   com            Charts\n"
+                                                 "Nell          +1-555-0101   nell           Tide Office,\n"
+                                                 "Brackwater    cell, voice   @example.com   Charts\n"
                                                  "              +1-555-0102\n"
                                                  "              boat phone\n" );
 }

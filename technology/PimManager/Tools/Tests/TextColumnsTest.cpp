@@ -10,25 +10,63 @@ TEST( TextColumnsTest, CharactersTakeNoneOneOrTwoColumns )
 {
     struct Row
     {
+        const char* m_name;
         const char* m_text;
         int m_columns;
     };
     const std::vector<Row> rows = {
-        { "", 0 },
-        { "Nell", 4 },
-        { "é", 1 },
-        { "e\xCC\x81", 1 }, // a combining accent
-        { "月見里", 6 },
-        { "ｆｕ", 4 }, // full width
-        { "가나", 4 },
-        { "ﾊﾙｶ", 3 },              // half width
-        { "\xF0\x9F\x94\xAD", 2 }, // a telescope
-        { "\xE2\x80\x8Dx", 1 },    // a joiner
-        { "ليلى", 4 },
-        { "\xF0\xA0\x80\x80", 2 }, // beyond the first plane
+        { "nothing", "", 0 },
+        { "ASCII", "Nell", 4 },
+        { "accent", "é", 1 },
+        { "combining accent", "e\u0301", 1 },
+        { "several marks", "q\u0323\u0307\u0301x", 2 },
+        { "Han", "月見里", 6 },
+        { "full width", "ｆｕ", 4 },
+        { "half width", "ﾊﾙｶ", 3 },
+        { "Hangul", "가나", 4 },
+        { "Hangul of jamos", "\u1100\u1161\u11A8\u1102\u1161", 4 },
+        { "Arabic", "ليلى", 4 },
+        { "Hebrew with points", "ש\u05C1ל\u05D5\u05B9ם", 4 },
+        { "Hindi", "तारा मेघवन", 7 },
+        { "Thai", "น้ำ", 2 },
+        { "beyond the first plane", "\U00020000", 2 },
+        { "joiner alone", "\u200Dx", 1 },
+        { "isolates", "\u2068ab\u2069", 2 },
+        { "picture", "🔭", 2 },
+        { "picture by selector", "❤\uFE0F", 2 },
+        { "the same without selector", "❤", 1 },
+        { "letter with selector", "a\uFE0F", 1 },
+        { "skin tone", "👍🏽", 2 },
+        { "skin tone of a narrow picture", "☝🏽", 2 },
+        { "family", "👩\u200D👩\u200D👧\u200D👦", 2 },
+        { "heart in a family", "👩\u200D❤\uFE0F\u200D👨", 2 },
+        { "rainbow flag", "🏳\uFE0F\u200D🌈", 2 },
+        { "flag", "🇸🇪", 2 },
+        { "two flags", "🇸🇪🇩🇪", 4 },
+        { "flag and a half", "🇸🇪🇩", 3 },
+        { "key", "1\uFE0F\u20E3", 2 },
+        { "name with pictures", "Bo 👩🏽\u200D🚀🇩🇪", 7 },
     };
     for ( const Row& row : rows )
-        EXPECT_EQ( ColumnsOf( QString::fromUtf8( row.m_text ) ), row.m_columns ) << row.m_text;
+        EXPECT_EQ( ColumnsOf( QString::fromUtf8( row.m_text ) ), row.m_columns ) << row.m_name << ": " << row.m_text;
+}
+
+TEST( TextColumnsTest, CutTextEndsInAnEllipsis )
+{
+    struct Row
+    {
+        const char* m_text;
+        int m_columns;
+        const char* m_cut;
+    };
+    const std::vector<Row> rows = {
+        { "", 1, "" },          { "abcd", 4, "abcd" },     { "abcde", 4, "abc…" },
+        { "abcde", 1, "…" },    { "月見里", 6, "月見里" }, { "月見里", 5, "月見…" },
+        { "月見里", 4, "月…" }, { "a🇸🇪🇩🇪", 4, "a🇸🇪…" },
+    };
+    for ( const Row& row : rows )
+        EXPECT_EQ( Utf8( Cut( QString::fromUtf8( row.m_text ), row.m_columns ) ), row.m_cut )
+            << row.m_text << row.m_columns;
 }
 
 TEST( TextColumnsTest, PaddingFillsColumnsAndCutsNothing )
@@ -38,7 +76,7 @@ TEST( TextColumnsTest, PaddingFillsColumnsAndCutsNothing )
     EXPECT_EQ( Utf8( Padded( QStringLiteral( "abcde" ), 4 ) ), "abcde" );
 }
 
-TEST( TextColumnsTest, LinesBreakAtBlanksElseBetweenCharacters )
+TEST( TextColumnsTest, LinesBreakAtBlanksSlashesAndAtsElseBetweenCharacters )
 {
     struct Row
     {
@@ -63,6 +101,9 @@ TEST( TextColumnsTest, LinesBreakAtBlanksElseBetweenCharacters )
           2,
           "e\xCC\x81"
           "e\xCC\x81|e\xCC\x81" },
+        { "nell.brackwater@example.com", 16, "nell.brackwater|@example.com" },
+        { "https://example.com/book", 20, "https://example.com/|book" },
+        { "👩\u200D👩\u200D👧👩\u200D👩\u200D👧", 3, "👩\u200D👩\u200D👧|👩\u200D👩\u200D👧" },
     };
     for ( const Row& row : rows )
     {
@@ -82,4 +123,40 @@ TEST( TextColumnsTest, WrappedTextLosesOnlyTheBlanksAtBreaks )
         for ( const QString& line : lines )
             EXPECT_LE( ColumnsOf( line.trimmed() ), columns ) << Utf8( line );
     }
+}
+
+TEST( TextColumnsTest, WhatIsKeptIsBrokenOnlyIfItIsWiderThanALine )
+{
+    struct Row
+    {
+        const char* m_text;
+        qsizetype m_kept;
+        int m_columns;
+        const char* m_lines;
+        int m_widest;
+    };
+    const std::vector<Row> rows = {
+        { "+1 555 0100 cell", 11, 13, "+1 555 0100|cell", 11 },
+        { "+1 555 0100 cell", 0, 13, "+1 555 0100|cell", 4 },
+        { "+1 555 0100 at home", 11, 18, "+1 555 0100 at|home", 11 },
+        { "+1 555 0100 cell", 11, 8, "+1 555|0100|cell", 11 },
+        { "5550100 cell", 7, 5, "55501|00|cell", 7 },
+        { "5550100", 7, 10, "5550100", 7 },
+        { "", 0, 5, "", 0 },
+    };
+    for ( const Row& row : rows )
+    {
+        const QString text = QString::fromUtf8( row.m_text );
+        EXPECT_EQ( Utf8( Wrapped( text, row.m_columns, row.m_kept ).join( QLatin1Char( '|' ) ) ), row.m_lines )
+            << row.m_text << row.m_columns;
+        EXPECT_EQ( WidestPart( text, row.m_kept ), row.m_widest ) << row.m_text << row.m_kept;
+    }
+}
+
+TEST( TextColumnsTest, LongWordsAreWrapped )
+{
+    constexpr int s_kLetters = 1'000'000;
+    EXPECT_EQ( Wrapped( QString( s_kLetters, QLatin1Char( 'x' ) ), 20 ).size(), s_kLetters / 20 );
+    const QString marks = QLatin1Char( 'e' ) + QString( s_kLetters, QChar( 0x301 ) );
+    EXPECT_EQ( Wrapped( marks, 20 ), QStringList( marks ) );
 }

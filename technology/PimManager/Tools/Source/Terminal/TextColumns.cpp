@@ -1,9 +1,8 @@
 #include "Terminal/TextColumns.h"
 
-#include "Terminal/CodePoints.h"
+#include "Terminal/Clusters.h"
 
 #include <algorithm>
-#include <array>
 
 namespace PimManager::Tools
 {
@@ -11,57 +10,87 @@ namespace PimManager::Tools
 namespace
 {
 
-struct Range
-{
-    uint m_first;
-    uint m_last;
-};
+const QChar s_kBlank = QLatin1Char( ' ' );
 
-// Blocks of Unicode whose characters are wide (East Asian Width W and F), in order.
-constexpr std::array<Range, 14> s_kWide = {
-    Range{ 0x1100, 0x115F },   Range{ 0x2E80, 0x303E },  Range{ 0x3041, 0x33FF }, Range{ 0x3400, 0x4DBF },
-    Range{ 0x4E00, 0x9FFF },   Range{ 0xA000, 0xA4CF },  Range{ 0xA960, 0xA97F }, Range{ 0xAC00, 0xD7A3 },
-    Range{ 0xF900, 0xFAFF },   Range{ 0xFE30, 0xFE6F },  Range{ 0xFF00, 0xFF60 }, Range{ 0xFFE0, 0xFFE6 },
-    Range{ 0x1F300, 0x1FAFF }, Range{ 0x20000, 0x3FFFD } };
-
-bool IsWide( uint a_codePoint )
+bool IsBreak( QChar a_before, QChar a_behind )
 {
-    const auto* const range =
-        std::find_if( s_kWide.begin(), s_kWide.end(),
-                      [a_codePoint]( const Range& a_range ) { return a_codePoint <= a_range.m_last; } );
-    return range != s_kWide.end() && a_codePoint >= range->m_first;
+    return a_before == s_kBlank || a_before == QLatin1Char( '/' ) || a_behind == QLatin1Char( '@' );
 }
 
-int ColumnsOf( uint a_codePoint )
+// The length of the part before the next place where a text may be broken.
+qsizetype PartLength( QStringView a_text, qsizetype a_kept )
 {
-    switch ( QChar::category( a_codePoint ) )
-    {
-    case QChar::Mark_NonSpacing:
-    case QChar::Mark_Enclosing:
-    case QChar::Other_Format:
-        return 0;
-    default:
-        return IsWide( a_codePoint ) ? 2 : 1;
-    }
+    qsizetype length = std::max<qsizetype>( a_kept, 1 );
+    while ( length < a_text.size() && !IsBreak( a_text[length - 1], a_text[length] ) )
+        ++length;
+    return std::min( length, a_text.size() );
 }
 
-// Where a line that starts with the text ends: behind its last blank that fits, else where the columns do.
-qsizetype LineLength( QStringView a_text, int a_columns )
+QStringView WithoutLastBlank( QStringView a_text )
 {
-    int columns = 0;
+    return a_text.endsWith( s_kBlank ) ? a_text.chopped( 1 ) : a_text;
+}
+
+// As many clusters as fit, and at least one.
+qsizetype FittingLength( QStringView a_text, int a_columns )
+{
     qsizetype length = 0;
-    qsizetype behindBlank = 0;
+    int columns = 0;
     while ( length < a_text.size() )
     {
-        const uint codePoint = FirstCodePoint( a_text.mid( length ) );
-        columns += ColumnsOf( codePoint );
-        if ( columns > a_columns && codePoint != ' ' )
-            return behindBlank > 0 ? behindBlank : length;
-        length += UnitsOf( codePoint );
-        if ( codePoint == ' ' )
-            behindBlank = length;
-        if ( columns > a_columns )
-            return length;
+        const Cluster cluster = FirstCluster( a_text.mid( length ) );
+        columns += cluster.m_columns;
+        if ( columns > a_columns && length > 0 )
+            break;
+        length += cluster.m_text.size();
+    }
+    return length;
+}
+
+/// The places where a line may end, from the start of a text to the end of the line.
+class LineBreaks
+{
+public:
+    LineBreaks( QStringView a_text, qsizetype a_kept ) :
+        m_text( a_text ),
+        m_kept( a_kept )
+    {
+    }
+
+    void Visit( qsizetype a_place )
+    {
+        if ( a_place > 0 && IsBreak( m_text[a_place - 1], m_text[a_place] ) )
+            ( a_place < m_kept ? m_lastInKept : m_last ) = a_place;
+    }
+
+    // The best place; a_otherwise if there is none.
+    qsizetype Best( qsizetype a_otherwise ) const
+    {
+        if ( m_last > 0 )
+            return m_last;
+        return m_lastInKept > 0 ? m_lastInKept : a_otherwise;
+    }
+
+private:
+    const QStringView m_text;
+    const qsizetype m_kept;
+    qsizetype m_last = 0;
+    qsizetype m_lastInKept = 0;
+};
+
+// Where a line that starts with the text ends.
+qsizetype LineLength( QStringView a_text, int a_columns, qsizetype a_kept )
+{
+    LineBreaks breaks( a_text, a_kept );
+    qsizetype length = 0;
+    for ( int columns = 0; columns <= a_columns && length < a_text.size(); )
+    {
+        breaks.Visit( length );
+        const Cluster cluster = FirstCluster( a_text.mid( length ) );
+        columns += cluster.m_columns;
+        if ( columns > a_columns && cluster.m_text.front() != s_kBlank )
+            return breaks.Best( std::max( length, qsizetype( 1 ) ) );
+        length += cluster.m_text.size();
     }
     return length;
 }
@@ -71,30 +100,56 @@ qsizetype LineLength( QStringView a_text, int a_columns )
 int ColumnsOf( QStringView a_text )
 {
     int columns = 0;
-    ForEachCodePoint( a_text, [&columns]( uint a_codePoint, QStringView /*a_units*/ )
-                      { columns += ColumnsOf( a_codePoint ); } );
+    while ( !a_text.isEmpty() )
+    {
+        const Cluster cluster = FirstCluster( a_text );
+        columns += cluster.m_columns;
+        a_text = a_text.mid( cluster.m_text.size() );
+    }
     return columns;
 }
 
 QString Padded( const QString& a_text, int a_columns )
 {
-    return a_text + QString( std::max( 0, a_columns - ColumnsOf( a_text ) ), QLatin1Char( ' ' ) );
+    return a_text + QString( std::max( 0, a_columns - ColumnsOf( a_text ) ), s_kBlank );
 }
 
-QStringList Wrapped( const QString& a_text, int a_columns )
+QString Cut( const QString& a_text, int a_columns )
+{
+    if ( ColumnsOf( a_text ) <= a_columns )
+        return a_text;
+    const qsizetype length = a_columns > 1 ? FittingLength( a_text, a_columns - 1 ) : 0;
+    return a_text.left( static_cast<int>( length ) ) + QChar( 0x2026 );
+}
+
+QStringList Wrapped( const QString& a_text, int a_columns, qsizetype a_kept )
 {
     QStringList lines;
     QStringView rest = a_text;
+    qsizetype kept = a_kept;
     do
     {
-        const qsizetype length = LineLength( rest, a_columns );
-        QString line = rest.left( length ).toString();
-        if ( length < rest.size() && line.endsWith( QLatin1Char( ' ' ) ) )
-            line.chop( 1 );
-        lines << line;
+        const qsizetype length = LineLength( rest, a_columns, kept );
+        const QStringView line = rest.left( length );
+        lines << ( length < rest.size() ? WithoutLastBlank( line ) : line ).toString();
         rest = rest.mid( length );
+        kept -= length;
     } while ( !rest.isEmpty() );
     return lines;
+}
+
+int WidestPart( const QString& a_text, qsizetype a_kept )
+{
+    int widest = 0;
+    qsizetype kept = a_kept;
+    for ( QStringView rest = a_text; !rest.isEmpty(); )
+    {
+        const QStringView part = rest.left( PartLength( rest, kept ) );
+        widest = std::max( widest, ColumnsOf( WithoutLastBlank( part ) ) );
+        rest = rest.mid( part.size() );
+        kept -= part.size();
+    }
+    return widest;
 }
 
 } // namespace PimManager::Tools

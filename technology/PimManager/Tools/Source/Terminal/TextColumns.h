@@ -10,17 +10,27 @@
 namespace PimManager::Tools
 {
 
-/// \return the columns that terminals give to a text without control characters: two for wide East Asian characters and
-///         for pictures, none for marks and joiners, one for all others. Right for nearly all text; there is no rule
-///         that all terminals share.
+/// \return the columns that a terminal gives to a text without control characters, see Cluster. There is no rule that
+///         all terminals share.
 int ColumnsOf( QStringView a_text );
 
 /// \return the text with blanks behind it, up to so many columns; a wider text as it is.
 QString Padded( const QString& a_text, int a_columns );
 
-/// \return the text in lines of at most so many columns, broken at blanks where there are any, else between characters.
-///         At least one line; no character is cut in two or lost but the blank that a line is broken at.
+/// \return a text that fits into so many columns as it is; of a wider one as much as fits with `…` behind it.
+/// \param a_columns at least 1.
+QString Cut( const QString& a_text, int a_columns );
+
+/// \return the text in lines of at most so many columns. It is broken behind a blank or a slash or before an `@` where
+///         there are any, else between characters. At least one line; no character is cut in two or lost but the blank
+///         that a line is broken at.
 /// \param a_columns at least 2.
-QStringList Wrapped( const QString& a_text, int a_columns );
+/// \param a_kept    so much at the start of the text is broken only if it is wider than a line, such as a number with
+///                  blanks.
+QStringList Wrapped( const QString& a_text, int a_columns, qsizetype a_kept = 0 );
+
+/// \return the columns of the widest part of a text that Wrapped() breaks only if it is wider than a line.
+/// \param a_kept as for Wrapped().
+int WidestPart( const QString& a_text, qsizetype a_kept = 0 );
 
 } // namespace PimManager::Tools

@@ -69,6 +69,6 @@ int main( int argc, char* argv[] )
 
     OutputDevice out( STDOUT_FILENO );
     OutputDevice err( STDERR_FILENO );
-    Console console( out, err );
+    Console console( out, err, ScreenOf( STDOUT_FILENO ), ScreenOf( STDERR_FILENO ) );
     return static_cast<int>( Run( arguments, console ) );
 }

@@ -1,5 +1,6 @@
 #include "Outputs/ContactText.h"
 
+#include "Terminal/TextColumns.h"
 #include "TestBooks.h"
 #include "ToolsTestText.h"
 
@@ -21,7 +22,7 @@ std::string Shown( const QByteArray& a_book, ContactText::Length a_length = s_kS
 {
     QBuffer buffer;
     buffer.open( QIODevice::WriteOnly );
-    ContactText output( buffer, a_length, a_columns );
+    ContactText output( buffer, a_length, Screen{ a_columns } );
     BookInRun run;
     run.m_source = QStringLiteral( "book.vcf" );
     const PimContactBook book = PimContactBook::FromBytes( a_book );
@@ -141,6 +142,57 @@ TEST( ContactTextTest, ValuesAreWrappedIntoTheTerminal )
         "    NOTE  Rings back after the last\n"
         "          ferry.\n"
         "          Never before nine.\n" );
+}
+
+TEST( ContactTextTest, NarrowTerminalHasRoomForValues )
+{
+    EXPECT_EQ(
+        Shown( CardText( "VERSION:3.0\r\nFN:Otmar von Huegelstein zu Maulwurfsburg\r\nTEL;TYPE=HOME:+1-555-0170\r\n"
+                         "TEL;TYPE=WORK;X-A=something;X-B=something:+1-555-0171\r\n"
+                         "EMAIL:otmar.huegelstein@example.com\r\n" ),
+               s_kShort, 40 ),
+        "1. Otmar von Huegelstein zu\n"
+        "   Maulwurfsburg (book.vcf)\n"
+        "\n"
+        "    VERSION        3.0\n"
+        "    FN             Otmar von Huegelstein\n"
+        "                   zu Maulwurfsburg\n"
+        "    TEL      home  +1-555-0170\n"
+        "    TEL      work [X-A=something;\n"
+        "      X-B=something]\n"
+        "                   +1-555-0171\n"
+        "    EMAIL          otmar.huegelstein\n"
+        "                   @example.com\n" );
+}
+
+TEST( ContactTextTest, NoLineIsWiderThanTheTerminal )
+{
+    const QByteArray wide = "FN:" + QByteArray( "Lanthornia " ).repeated( 30 ) + "\r\nX-" + QByteArray( 100, 'X' ) +
+                            ";X-A=" + QByteArray( 100, 'a' ) +
+                            ":1\r\nNOTE;LANGUAGE=de:👩🏽\u200D🚀🇩🇪 月見里 ليلى " +
+                            QByteArray( 300, 'x' ) + "\r\n";
+    QByteArray card = CardText( wide );
+    for ( int depth = 0; depth < 7; ++depth )
+        card = CardText( wide + "AGENT:\r\n" + card );
+    for ( int columns = 20; columns <= 200; ++columns )
+    {
+        const QStringList lines =
+            QString::fromStdString( Shown( card, s_kFull, columns ) ).split( QLatin1Char( '\n' ) );
+        EXPECT_GT( lines.size(), 30 );
+        for ( const QString& line : lines )
+            EXPECT_LE( ColumnsOf( line ), columns ) << Utf8( line );
+    }
+}
+
+TEST( ContactTextTest, TextFromRightToLeftIsIsolatedOnATerminal )
+{
+    const QByteArray card = CardText( "FN:ליאור\r\ni.X-ABLabel:סירה\r\ni.TEL:1\r\n" );
+    EXPECT_EQ( Shown( card, s_kShort, 80 ), "1. \u2068ליאור\u2069 (book.vcf)\n"
+                                            "\n"
+                                            "    FN                 \u2068ליאור\u2069\n"
+                                            "    i.X-ABLabel        \u2068סירה\u2069\n"
+                                            "    TEL          \u2068סירה\u2069  1\n" );
+    EXPECT_EQ( Shown( card ).find( "\u2068" ), std::string::npos );
 }
 
 TEST( ContactTextTest, NestedCardIsIndentedBelowItsLine )

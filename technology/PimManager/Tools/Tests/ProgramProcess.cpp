@@ -52,14 +52,15 @@ std::array<int, 2> NewPipe()
     return ends;
 }
 
-pid_t StartProgram( const QList<QByteArray>& a_arguments, int a_in, int a_out, int a_err )
+pid_t StartProgram( const QList<QByteArray>& a_arguments, int a_in, int a_out, int a_err,
+                    const QList<QByteArray>& a_variables )
 {
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init( &actions );
     posix_spawn_file_actions_adddup2( &actions, a_in, STDIN_FILENO );
     posix_spawn_file_actions_adddup2( &actions, a_out, STDOUT_FILENO );
     posix_spawn_file_actions_adddup2( &actions, a_err, STDERR_FILENO );
-    QList<QByteArray> words = ProgramCommand() + a_arguments;
+    QList<QByteArray> words = QList<QByteArray>{ "env" } + a_variables + ProgramCommand() + a_arguments;
     std::vector<char*> pointers;
     for ( QByteArray& word : words )
         pointers.push_back( word.data() );

@@ -16,7 +16,9 @@ namespace PimManager::Tools
 std::array<int, 2> NewPipe();
 
 /// Starts the program with these standard descriptors. No signal is ignored or blocked.
-pid_t StartProgram( const QList<QByteArray>& a_arguments, int a_in, int a_out, int a_err );
+/// \param a_variables of the environment, as `NAME=value`, besides those of the test.
+pid_t StartProgram( const QList<QByteArray>& a_arguments, int a_in, int a_out, int a_err,
+                    const QList<QByteArray>& a_variables = {} );
 
 /// Waits for the end of a process. \return its status; minus the number of a signal.
 int WaitFor( pid_t a_child );

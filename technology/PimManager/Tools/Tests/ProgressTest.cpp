@@ -14,21 +14,21 @@ namespace
 {
 
 // Takes what is written to it, and gives it away once.
-class Screen
+class Sink
 {
 public:
-    Screen()
+    Sink()
     {
         EXPECT_EQ( pipe2( m_ends.data(), O_CLOEXEC | O_NONBLOCK ), 0 );
         m_device = std::make_unique<OutputDevice>( m_ends[1] );
     }
-    ~Screen()
+    ~Sink()
     {
         m_device.reset();
         close( m_ends[0] );
         close( m_ends[1] );
     }
-    Q_DISABLE_COPY( Screen )
+    Q_DISABLE_COPY( Sink )
 
     OutputDevice* Device() { return m_device.get(); }
 
@@ -63,19 +63,48 @@ TEST( ProgressTest, StateIsToldWithShareAndTime )
         { { 2000, 0, 0, 500'000 }, "0 KB, 0 cards" },
     };
     for ( const Row& row : rows )
-        EXPECT_EQ( Utf8( ProgressText( row.m_state ) ), row.m_text );
+        EXPECT_EQ( Utf8( ProgressText( row.m_state, 100 ) ), row.m_text );
+}
+
+TEST( ProgressTest, LineIsCutToTheTerminal )
+{
+    struct Row
+    {
+        int m_columns;
+        const char* m_known;
+        const char* m_unknown;
+    };
+    const std::vector<Row> rows = {
+        { 52, "25 %, 25 MB of 100 MB, 1234567 cards, about 7 s left", "25 MB, 1234567 cards" },
+        { 40, "25 %, 25 MB of 100 MB, about 7 s left", "25 MB, 1234567 cards" },
+        { 30, "25 %, about 7 s left", "25 MB, 1234567 cards" },
+        { 19, "25 %", "25 MB" },
+        { 3, "25…", "25…" },
+        { 0, "…", "…" },
+    };
+    for ( const Row& row : rows )
+    {
+        EXPECT_EQ( Utf8( ProgressText( { 2000, 1'234'567, 25'000'000, 100'000'000 }, row.m_columns ) ), row.m_known )
+            << row.m_columns;
+        EXPECT_EQ( Utf8( ProgressText( { 2000, 1'234'567, 25'000'000, 0 }, row.m_columns ) ), row.m_unknown )
+            << row.m_columns;
+    }
+    Sink screen;
+    Progress progress( screen.Device() );
+    EXPECT_TRUE( progress.Show( { 2000, 1'234'567, 25'000'000, 100'000'000 }, 52 ) );
+    EXPECT_EQ( screen.Taken(), "25 %, 25 MB of 100 MB, about 7 s left" ) << "the last column is not left empty";
 }
 
 TEST( ProgressTest, LineComesAfterASecondAndIsRewrittenInPlace )
 {
-    Screen screen;
+    Sink screen;
     Progress progress( screen.Device() );
-    EXPECT_FALSE( progress.Show( { 999, 1, 1000, 0 } ) );
+    EXPECT_FALSE( progress.Show( { 999, 1, 1000, 0 }, 80 ) );
     EXPECT_EQ( screen.Taken(), "" );
-    EXPECT_TRUE( progress.Show( { 1000, 1, 1000, 0 } ) );
+    EXPECT_TRUE( progress.Show( { 1000, 1, 1000, 0 }, 80 ) );
     EXPECT_EQ( screen.Taken(), "1 KB, 1 card" );
-    EXPECT_FALSE( progress.Show( { 1199, 2, 2000, 0 } ) );
-    EXPECT_TRUE( progress.Show( { 1200, 2, 2000, 0 } ) );
+    EXPECT_FALSE( progress.Show( { 1199, 2, 2000, 0 }, 80 ) );
+    EXPECT_TRUE( progress.Show( { 1200, 2, 2000, 0 }, 80 ) );
     EXPECT_EQ( screen.Taken(), "\r\x1B[K2 KB, 2 cards" );
     progress.Hide();
     EXPECT_EQ( screen.Taken(), "\r\x1B[K" );
@@ -85,10 +114,10 @@ TEST( ProgressTest, LineComesAfterASecondAndIsRewrittenInPlace )
 
 TEST( ProgressTest, LineIsGoneAtTheEnd )
 {
-    Screen screen;
+    Sink screen;
     {
         Progress progress( screen.Device() );
-        progress.Show( { 5000, 1, 1000, 0 } );
+        progress.Show( { 5000, 1, 1000, 0 }, 80 );
         screen.Taken();
     }
     EXPECT_EQ( screen.Taken(), "\r\x1B[K" );
@@ -97,6 +126,6 @@ TEST( ProgressTest, LineIsGoneAtTheEnd )
 TEST( ProgressTest, NothingIsShownWithoutATerminal )
 {
     Progress progress( nullptr );
-    EXPECT_FALSE( progress.Show( { 1'000'000, 1, 1, 1 } ) );
+    EXPECT_FALSE( progress.Show( { 1'000'000, 1, 1, 1 }, 80 ) );
     progress.Hide();
 }

@@ -50,7 +50,8 @@ bool Take( int a_descriptor, std::string& a_text )
 
 } // namespace
 
-TerminalRun::TerminalRun( const QList<QByteArray>& a_arguments, Watched a_watched, int a_columns ) :
+TerminalRun::TerminalRun( const QList<QByteArray>& a_arguments, Watched a_watched, int a_columns,
+                          const QList<QByteArray>& a_variables ) :
     m_terminal( posix_openpt( O_RDWR | O_NOCTTY | O_CLOEXEC ) )
 {
     const int terminal = OpenTerminal( m_terminal, a_columns );
@@ -58,7 +59,9 @@ TerminalRun::TerminalRun( const QList<QByteArray>& a_arguments, Watched a_watche
     const std::array<int, 2> output = NewPipe();
     m_input = input[1];
     m_output = output[0];
-    m_child = StartProgram( a_arguments, input[0], a_watched == Watched::Both ? terminal : output[1], terminal );
+    const QList<QByteArray> variables = QList<QByteArray>{ "TERM=xterm", "NO_COLOR=1", "COLUMNS=" } + a_variables;
+    m_child =
+        StartProgram( a_arguments, input[0], a_watched == Watched::Both ? terminal : output[1], terminal, variables );
     for ( const int descriptor : { terminal, input[0], output[1] } )
         close( descriptor );
 }

@@ -23,7 +23,9 @@ public:
     };
 
     /// Starts the program.
-    TerminalRun( const QList<QByteArray>& a_arguments, Watched a_watched, int a_columns = 80 );
+    /// \param a_variables of the environment, instead of TERM=xterm, NO_COLOR=1 and an empty COLUMNS.
+    TerminalRun( const QList<QByteArray>& a_arguments, Watched a_watched, int a_columns = 80,
+                 const QList<QByteArray>& a_variables = {} );
     ~TerminalRun();
     Q_DISABLE_COPY( TerminalRun )
 

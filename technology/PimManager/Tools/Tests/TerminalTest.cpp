@@ -34,6 +34,62 @@ TEST( TerminalTest, TableFitsTheTerminal )
     }
 }
 
+TEST( TerminalTest, ExamplesFitTheTerminal )
+{
+    const QByteArray folder = PIMVCARD_EXAMPLES;
+    for ( const char* command : { "list", "show" } )
+    {
+        for ( const int columns : { 40, 80 } )
+        {
+            TerminalRun run( { command, "--quiet", folder + "/messy-phonebook.vcf", folder + "/phonebook.vcf" },
+                             TerminalRun::Watched::Both, columns );
+            EXPECT_EQ( run.Finish(), 1 );
+            EXPECT_NE( run.Screen().find( "+1-555-0101" ), std::string::npos );
+            const QStringList lines = QString::fromStdString( run.Screen() ).split( QLatin1Char( '\n' ) );
+            for ( const QString& line : lines )
+                EXPECT_LE( ColumnsOf( line ), columns ) << command << ": " << Utf8( line );
+        }
+    }
+}
+
+TEST( TerminalTest, UsersVariablesCount )
+{
+    struct Row
+    {
+        const char* m_name;
+        QList<QByteArray> m_variables;
+        bool m_isColoured;
+    };
+    const std::vector<Row> rows = {
+        { "colour", { "NO_COLOR=" }, true },
+        { "no colour", { "NO_COLOR=1" }, false },
+        { "dumb", { "NO_COLOR=", "TERM=dumb" }, false },
+        { "unknown", { "NO_COLOR=", "TERM=" }, false },
+    };
+    for ( const Row& row : rows )
+    {
+        TerminalRun run( { "list", "--quiet", "-" }, TerminalRun::Watched::Both, 80, row.m_variables );
+        run.Feed( CleanCard() );
+        EXPECT_EQ( run.Finish(), 0 ) << row.m_name;
+        EXPECT_EQ( run.Screen(), std::string( row.m_isColoured ? "\x1B[1m" : "" ) +
+                                     "NAME  NUMBER         MAIL  ORGANISATION" + ( row.m_isColoured ? "\x1B[0m" : "" ) +
+                                     "\nNell  555-0100 cell\n" )
+            << row.m_name;
+    }
+    TerminalRun narrow( { "list", "--quiet", "-" }, TerminalRun::Watched::Both, 80, { "COLUMNS=30" } );
+    narrow.Feed( CleanCard() );
+    EXPECT_EQ( narrow.Finish(), 0 );
+    EXPECT_EQ( narrow.Screen().find( "NAME  NUMBER, MAIL,\n" ), 0U ) << narrow.Screen();
+}
+
+TEST( TerminalTest, PipeGetsNoColours )
+{
+    TerminalRun run( { "list", "--quiet", "-" }, TerminalRun::Watched::ErrorsOnly, 80, { "NO_COLOR=" } );
+    run.Feed( CleanCard() );
+    EXPECT_EQ( run.Finish(), 0 );
+    EXPECT_EQ( run.Pipe(), "NAME  NUMBER         MAIL  ORGANISATION\nNell  555-0100 cell\n" );
+}
+
 TEST( TerminalTest, PipeGetsLinesThatAreNotWrapped )
 {
     TerminalRun run( { "list", "-" }, TerminalRun::Watched::ErrorsOnly, 40 );

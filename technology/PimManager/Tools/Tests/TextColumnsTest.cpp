@@ -76,7 +76,7 @@ TEST( TextColumnsTest, PaddingFillsColumnsAndCutsNothing )
     EXPECT_EQ( Utf8( Padded( QStringLiteral( "abcde" ), 4 ) ), "abcde" );
 }
 
-TEST( TextColumnsTest, LinesBreakAtBlanksSlashesAndAtsElseBetweenCharacters )
+TEST( TextColumnsTest, LinesBreakAtBlanksAndPunctuationElseBetweenCharacters )
 {
     struct Row
     {
@@ -103,6 +103,7 @@ TEST( TextColumnsTest, LinesBreakAtBlanksSlashesAndAtsElseBetweenCharacters )
           "e\xCC\x81|e\xCC\x81" },
         { "nell.brackwater@example.com", 16, "nell.brackwater|@example.com" },
         { "https://example.com/book", 20, "https://example.com/|book" },
+        { "--max-cards --max-book-bytes", 20, "--max-cards|--max-book-bytes" },
         { "👩\u200D👩\u200D👧👩\u200D👩\u200D👧", 3, "👩\u200D👩\u200D👧|👩\u200D👩\u200D👧" },
     };
     for ( const Row& row : rows )
@@ -125,32 +126,28 @@ TEST( TextColumnsTest, WrappedTextLosesOnlyTheBlanksAtBreaks )
     }
 }
 
-TEST( TextColumnsTest, WhatIsKeptIsBrokenOnlyIfItIsWiderThanALine )
+TEST( TextColumnsTest, WidestPartIsWhatIsBrokenOnlyBetweenCharacters )
 {
     struct Row
     {
         const char* m_text;
-        qsizetype m_kept;
         int m_columns;
-        const char* m_lines;
-        int m_widest;
     };
-    const std::vector<Row> rows = {
-        { "+1 555 0100 cell", 11, 13, "+1 555 0100|cell", 11 },
-        { "+1 555 0100 cell", 0, 13, "+1 555 0100|cell", 4 },
-        { "+1 555 0100 at home", 11, 18, "+1 555 0100 at|home", 11 },
-        { "+1 555 0100 cell", 11, 8, "+1 555|0100|cell", 11 },
-        { "5550100 cell", 7, 5, "55501|00|cell", 7 },
-        { "5550100", 7, 10, "5550100", 7 },
-        { "", 0, 5, "", 0 },
-    };
+    const std::vector<Row> rows = { { "", 0 },
+                                    { "Nell", 4 },
+                                    { "Nell Brackwater", 10 },
+                                    { "nell@example.com work", 12 },
+                                    { "+1-555-0100 cell", 11 },
+                                    { "messy-book.vcf", 14 },
+                                    { "月見里 はる", 6 } };
     for ( const Row& row : rows )
-    {
-        const QString text = QString::fromUtf8( row.m_text );
-        EXPECT_EQ( Utf8( Wrapped( text, row.m_columns, row.m_kept ).join( QLatin1Char( '|' ) ) ), row.m_lines )
-            << row.m_text << row.m_columns;
-        EXPECT_EQ( WidestPart( text, row.m_kept ), row.m_widest ) << row.m_text << row.m_kept;
-    }
+        EXPECT_EQ( WidestPart( QString::fromUtf8( row.m_text ) ), row.m_columns ) << row.m_text;
+}
+
+TEST( TextColumnsTest, IsolatesEndWithTheLine )
+{
+    EXPECT_EQ( Utf8( Wrapped( QString::fromUtf8( "x \u2068ליאור בן\u2069 y" ), 8 ).join( QLatin1Char( '|' ) ) ),
+               "x \u2068ליאור\u2069|\u2068בן\u2069 y" );
 }
 
 TEST( TextColumnsTest, LongWordsAreWrapped )

@@ -2,9 +2,6 @@
 
 #include "Commands/ReadingCommand.h"
 #include "Outputs/ContactText.h"
-#include "Terminal/TerminalSize.h"
-
-#include <unistd.h>
 
 namespace PimManager::Tools
 {
@@ -13,7 +10,7 @@ ExitStatus RunShow( const CommandLine& a_line, Console& a_console )
 {
     const auto length = a_line.IsSet( s_kFullOption ) ? ContactText::Length::Full : ContactText::Length::Short;
     return PrintBooks( a_line, a_console,
-                       std::make_unique<ContactText>( a_console.Out(), length, TerminalColumns( STDOUT_FILENO ) ) );
+                       std::make_unique<ContactText>( a_console.Out(), length, a_console.OutScreen() ) );
 }
 
 } // namespace PimManager::Tools

@@ -2,13 +2,7 @@
 
 #include "Terminal/ShortText.h"
 #include "Terminal/TerminalText.h"
-#include "Terminal/TextColumns.h"
 #include "Terminal/Wording.h"
-
-#include <QIODevice>
-
-#include <algorithm>
-#include <numeric>
 
 namespace PimManager::Tools
 {
@@ -18,145 +12,81 @@ using namespace Contacts;
 namespace
 {
 
-constexpr size_t s_kWaiting = 200;
-constexpr int s_kGap = 2;
-constexpr int s_kNarrowest = 8;
-// Without a terminal one long cell does not push all others to the right.
-constexpr int s_kWidest = 48;
-
-QString CellText( const QString& a_text )
+QString WithoutFolder( const QByteArray& a_fileName )
 {
-    return ToTerminalText( Shortened( a_text.simplified() ) );
+    const auto slash = a_fileName.lastIndexOf( '/' );
+    return slash < 0 ? SourceName( a_fileName ) : ToShownFileName( a_fileName.mid( slash + 1 ) );
 }
 
-/// \param a_text of a field, such as its number.
-template <class Field>
-QStringList FieldTexts( const PimContactList<Field>& a_fields, QString ( Field::*a_text )() const )
+// The names of several files, without their folders if they differ all the same.
+QMap<QString, QString> BookNames( const QList<QByteArray>& a_fileNames )
 {
-    QStringList texts;
-    for ( const Field& field : a_fields )
+    QMap<QString, QString> whole;
+    QMap<QString, QString> bySource;
+    QMap<QString, QString> byName;
+    for ( const QByteArray& fileName : a_fileNames )
     {
-        const QString purpose = CellText( field.Purpose() );
-        texts << ( CellText( ( field.*a_text )() ) + QLatin1Char( ' ' ) + purpose ).trimmed();
+        const QString source = SourceName( fileName );
+        const QString name = WithoutFolder( fileName );
+        whole.insert( source, source );
+        bySource.insert( source, name );
+        byName.insert( name, source );
     }
-    return ShortenedList( texts );
+    if ( whole.size() < 2 )
+        return {};
+    return byName.size() == bySource.size() ? bySource : whole;
 }
 
-QStringList WrappedLines( const QStringList& a_lines, int a_columns )
+std::vector<TextTable::Column> Columns( bool a_areBooksNamed )
 {
-    QStringList wrapped;
-    for ( const QString& line : a_lines )
-        wrapped << Wrapped( line, a_columns );
-    return wrapped;
+    using Kept = TextTable::Kept;
+    std::vector<TextTable::Column> columns = { { QStringLiteral( "NAME" ), Kept::Words, 14 },
+                                               { QStringLiteral( "NUMBER" ), Kept::Entries, 24 },
+                                               { QStringLiteral( "MAIL" ), Kept::Words, 16 },
+                                               { QStringLiteral( "ORGANISATION" ), Kept::Words, 16 } };
+    if ( a_areBooksNamed )
+        columns.push_back( { QStringLiteral( "BOOK" ), Kept::Words, 20, true } );
+    return columns;
 }
 
 } // namespace
 
-ContactTable::ContactTable( QIODevice& a_device, int a_columns ) :
-    m_device( a_device ),
-    m_columns( a_columns )
+ContactTable::ContactTable( QIODevice& a_device, const Screen& a_screen, const QList<QByteArray>& a_books ) :
+    m_screen( a_screen ),
+    m_books( BookNames( a_books ) ),
+    m_table( a_device, a_screen, Columns( !m_books.isEmpty() ) )
 {
 }
 
-void ContactTable::TakeCard( const BookInRun& /*a_book*/, const PimContactCard& a_card )
+void ContactTable::TakeCard( const BookInRun& a_book, const PimContactCard& a_card )
 {
-    const Row row = RowOf( PimContact( a_card ) );
-    if ( !m_isWaiting )
-    {
-        WriteRow( row );
-        return;
-    }
-    m_waiting.push_back( row );
-    if ( m_waiting.size() == s_kWaiting )
-        WriteWaiting();
+    const PimContact contact( a_card );
+    TextTable::Row row = { { CellText( ShownName( contact ) ) },
+                           FieldCell( contact.Phones(), &PimContactPhone::Text ),
+                           FieldCell( contact.Mails(), &PimContactMail::Address ),
+                           {} };
+    const PimContactList<PimContactOrganisation> organisations = contact.Organisations();
+    if ( !organisations.isEmpty() )
+        row.back() << CellText( organisations.constFirst().Text() );
+    if ( !m_books.isEmpty() )
+        row.push_back( { m_screen.Isolated( m_books.value( a_book.m_source ) ) } );
+    m_table.Add( row );
 }
 
-void ContactTable::End()
+QString ContactTable::CellText( const QString& a_text ) const
 {
-    if ( m_isWaiting && !m_waiting.empty() )
-        WriteWaiting();
+    return m_screen.Isolated( ToTerminalText( Shortened( a_text.simplified() ) ) );
 }
 
-ContactTable::Row ContactTable::RowOf( const PimContact& a_contact )
+/// \param a_text of a field, such as its number.
+template <class Field>
+TextTable::Cell ContactTable::FieldCell( const PimContactList<Field>& a_fields,
+                                         QString ( Field::*a_text )() const ) const
 {
-    const PimContactList<PimContactOrganisation> organisations = a_contact.Organisations();
-    const QString organisation = organisations.isEmpty() ? QString() : organisations.constFirst().Text();
-    return { QStringList( CellText( ShownName( a_contact ) ) ),
-             FieldTexts( a_contact.Phones(), &PimContactPhone::Text ),
-             FieldTexts( a_contact.Mails(), &PimContactMail::Address ), QStringList( CellText( organisation ) ) };
-}
-
-void ContactTable::WriteWaiting()
-{
-    m_isWaiting = false;
-    m_waiting.insert( m_waiting.begin(),
-                      Row{ QStringList( QStringLiteral( "NAME" ) ), QStringList( QStringLiteral( "NUMBER" ) ),
-                           QStringList( QStringLiteral( "MAIL" ) ), QStringList( QStringLiteral( "ORGANISATION" ) ) } );
-    FindWidths();
-    for ( const Row& row : m_waiting )
-        WriteRow( row );
-    m_waiting.clear();
-    m_waiting.shrink_to_fit();
-}
-
-void ContactTable::FindWidths()
-{
-    for ( const Row& row : m_waiting )
-    {
-        for ( size_t column = 0; column < s_kColumns; ++column )
-        {
-            for ( const QString& line : row.at( column ) )
-                m_widths.at( column ) = std::max( m_widths.at( column ), ColumnsOf( line ) );
-        }
-    }
-    if ( m_columns > 0 )
-        NarrowWidths();
-    else
-        for ( int& width : m_widths )
-            width = std::min( width, s_kWidest );
-}
-
-// Takes from the widest column until the line fits.
-void ContactTable::NarrowWidths()
-{
-    const int available = m_columns - s_kGap * static_cast<int>( s_kColumns - 1 );
-    int sum = std::accumulate( m_widths.begin(), m_widths.end(), 0 );
-    for ( ; sum > available; --sum )
-    {
-        int& widest = *std::max_element( m_widths.begin(), m_widths.end() );
-        if ( widest <= s_kNarrowest )
-            return;
-        --widest;
-    }
-}
-
-void ContactTable::WriteRow( const Row& a_row )
-{
-    Row row = a_row;
-    int lines = 1;
-    for ( size_t column = 0; column < s_kColumns; ++column )
-    {
-        if ( m_columns > 0 )
-            row.at( column ) = WrappedLines( row.at( column ), m_widths.at( column ) );
-        lines = std::max( lines, static_cast<int>( row.at( column ).size() ) );
-    }
-    for ( int line = 0; line < lines; ++line )
-        WriteLine( { row[0].value( line ), row[1].value( line ), row[2].value( line ), row[3].value( line ) } );
-}
-
-void ContactTable::WriteLine( const std::array<QString, s_kColumns>& a_cells )
-{
-    QString line;
-    QString blanks;
-    for ( size_t column = 0; column < s_kColumns; ++column )
-    {
-        const QString& cell = a_cells.at( column );
-        if ( !cell.isEmpty() )
-            line += blanks + cell;
-        blanks = cell.isEmpty() ? blanks : QString();
-        blanks += QString( std::max( 0, m_widths.at( column ) - ColumnsOf( cell ) ) + s_kGap, QLatin1Char( ' ' ) );
-    }
-    m_device.write( line.toUtf8() + '\n' );
+    QStringList texts;
+    for ( const Field& field : a_fields )
+        texts << ( CellText( ( field.*a_text )() ) + QLatin1Char( ' ' ) + CellText( field.Purpose() ) ).trimmed();
+    return ShortenedList( texts );
 }
 
 } // namespace PimManager::Tools

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Outputs/BookOutput.h"
+#include "Terminal/Screen.h"
 #include "Terminal/ShortText.h"
 
 #include <PimManager/Contacts/PimContact.h>
@@ -35,15 +36,14 @@ struct PropertyText;
 ///         PHOTO    jpeg        image/jpeg, 2451 bytes
 ///
 /// A name with remarks that is too wide for its columns is on a line of its own. The properties of a nested card are
-/// indented below its line. Linear in the length of the card.
+/// indented below its line. On a terminal, everything is wrapped into its width. Linear in the length of the card.
 class ContactText : public BookOutput
 {
 public:
     using Length = TextLength;
 
-    /// \param a_device  must be open and exist as long as the output.
-    /// \param a_columns the width of the terminal, into which values are wrapped; 0 to wrap nothing.
-    ContactText( QIODevice& a_device, Length a_length, int a_columns );
+    /// \param a_device must be open and exist as long as the output.
+    ContactText( QIODevice& a_device, Length a_length, const Screen& a_screen );
 
     void TakeCard( const BookInRun& a_book, const Contacts::PimContactCard& a_card ) override;
 
@@ -55,14 +55,17 @@ private:
         int m_value = 0;
     };
 
+    void WriteHeading( const QString& a_number, const QString& a_text );
     void WriteProperties( const Contacts::PimContact& a_contact, int a_depth );
+    Columns ColumnsOf( const std::vector<PropertyText>& a_texts, int a_depth ) const;
     void WriteProperty( const PropertyText& a_text, const Columns& a_columns );
+    void WriteHead( const QString& a_text, int a_indent );
     QStringList Wrap( const QStringList& a_lines, int a_column ) const;
     void WriteLine( const QString& a_text );
 
     QIODevice& m_device;
     const Length m_length;
-    const int m_columns;
+    const Screen m_screen;
     bool m_isFirst = true;
 };
 

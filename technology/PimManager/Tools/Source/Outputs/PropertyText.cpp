@@ -151,31 +151,34 @@ QStringList ValueLines( const PimContactLine& a_line, const PimContactText& a_en
 
 } // namespace
 
-PropertyText PropertyTextOf( const PimContact& a_contact, const PimContactLine& a_line, TextLength a_length )
+PropertyText PropertyTextOf( const PimContact& a_contact, const PimContactLine& a_line, TextLength a_length,
+                             const Screen& a_screen )
 {
+    const auto shown = [&a_screen]( const QString& a_text ) { return a_screen.Isolated( ToTerminalText( a_text ) ); };
     const PimContactText entry = a_contact.FieldOf( a_line );
     const bool hasLabel = !LabelOf( a_line, entry ).isEmpty();
     PropertyText text;
-    text.m_name = ToTerminalText( Shortened( NameOf( a_line, hasLabel ), a_length ) );
-    text.m_remarks = ToTerminalText( RemarksOf( a_line, entry, a_length ) );
+    text.m_name = shown( Shortened( NameOf( a_line, hasLabel ), a_length ) );
+    text.m_remarks = shown( RemarksOf( a_line, entry, a_length ) );
     text.m_lines = ValueLines( a_line, entry, a_length );
     for ( QString& line : text.m_lines )
-        line = ToTerminalText( line );
+        line = shown( line );
     const PimContactCard nested = a_line.NestedCard();
     if ( !nested.IsNull() )
-        text.m_lines << ContactHeading( PimContact( nested ), QString() );
+        text.m_lines << ContactHeading( PimContact( nested ), QString(), a_screen );
     return text;
 }
 
-QString ContactHeading( const PimContact& a_contact, const QString& a_source )
+QString ContactHeading( const PimContact& a_contact, const QString& a_source, const Screen& a_screen )
 {
     QStringList remarks;
     if ( !a_source.isEmpty() )
-        remarks << a_source;
+        remarks << a_screen.Isolated( a_source );
     if ( !a_contact.Card().IsWhole() )
         remarks << QStringLiteral( "in part" );
-    const QString heading = ToTerminalText( Shortened( ShownName( a_contact ) ) );
-    return remarks.isEmpty() ? heading : QStringLiteral( "%1 (%2)" ).arg( heading, remarks.join( s_kComma ) );
+    const QString heading = a_screen.Isolated( ToTerminalText( Shortened( ShownName( a_contact ) ) ) );
+    return remarks.isEmpty() ? heading
+                             : heading + QStringLiteral( " (" ) + remarks.join( s_kComma ) + QLatin1Char( ')' );
 }
 
 } // namespace PimManager::Tools

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Terminal/Screen.h"
 #include "Terminal/ShortText.h"
 
 #include <PimManager/Contacts/PimContact.h>
@@ -14,7 +15,7 @@
 namespace PimManager::Tools
 {
 
-/// All that a line of a card says, decoded and safe for a terminal.
+/// All that a line of a card says, decoded and safe for a terminal. Its parts are isolated from each other, see Screen.
 struct PropertyText
 {
     /// The name as written, such as `TEL`. The group precedes it, as in `item1.TEL`, unless the label of the group is
@@ -35,11 +36,14 @@ struct PropertyText
 
 /// \param a_contact has the line.
 /// \param a_length  if it is Short, long texts and lists are cut, and the parameters ENCODING and CHARSET are left out.
+/// \param a_screen  what the text is shown on.
 PropertyText PropertyTextOf( const Contacts::PimContact& a_contact, const Contacts::PimContactLine& a_line,
-                             TextLength a_length );
+                             TextLength a_length, const Screen& a_screen = Screen() );
 
 /// \return what to call a contact, in a line that is cut; `(no name)` without a name. Says so if the card is not whole.
 /// \param a_source where the card is from, safe for a terminal; may be empty.
-QString ContactHeading( const Contacts::PimContact& a_contact, const QString& a_source );
+/// \param a_screen what the heading is shown on.
+QString ContactHeading( const Contacts::PimContact& a_contact, const QString& a_source,
+                        const Screen& a_screen = Screen() );
 
 } // namespace PimManager::Tools

@@ -16,8 +16,8 @@ namespace
 
 OutputDevice* ProgressTerminal( Console& a_console )
 {
-    const bool isWatched =
-        a_console.AreRemarksWanted() && ::isatty( STDOUT_FILENO ) != 0 && ::isatty( STDERR_FILENO ) != 0;
+    const bool isWatched = a_console.AreRemarksWanted() && a_console.OutScreen().IsTerminal() &&
+                           a_console.ErrScreen().IsTerminal() && CanRewriteLines();
     return isWatched ? &a_console.Err() : nullptr;
 }
 
@@ -119,8 +119,8 @@ ExitStatus BookRun::RefuseFile( const QString& a_source, const QString& a_reason
 void BookRun::ShowProgress( const InputDevice& a_input )
 {
     // Results that wait are above the line.
-    const bool isShown =
-        m_progress.Show( { m_timer.elapsed(), m_cards, m_bytesBefore + a_input.BytesRead(), m_allBytes } );
+    const ProgressState state = { m_timer.elapsed(), m_cards, m_bytesBefore + a_input.BytesRead(), m_allBytes };
+    const bool isShown = m_progress.Show( state, ScreenOf( STDERR_FILENO ).m_columns );
     if ( isShown )
         m_console.Out().Flush();
 }

@@ -5,9 +5,11 @@
 namespace PimManager::Tools
 {
 
-Console::Console( OutputDevice& a_out, OutputDevice& a_err ) :
+Console::Console( OutputDevice& a_out, OutputDevice& a_err, const Screen& a_outScreen, const Screen& a_errScreen ) :
     m_out( a_out ),
-    m_err( a_err )
+    m_err( a_err ),
+    m_outScreen( a_outScreen ),
+    m_errScreen( a_errScreen )
 {
 }
 

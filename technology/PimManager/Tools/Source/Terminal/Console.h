@@ -5,6 +5,7 @@
 
 #include "ExitStatus.h"
 #include "Outputs/OutputDevice.h"
+#include "Terminal/Screen.h"
 
 #include <QString>
 
@@ -17,10 +18,14 @@ class Console
 public:
     /// \param a_out where results go; must outlive the console.
     /// \param a_err where messages go; must outlive the console.
-    Console( OutputDevice& a_out, OutputDevice& a_err );
+    /// \param a_outScreen what a_out is shown on.
+    /// \param a_errScreen what a_err is shown on.
+    Console( OutputDevice& a_out, OutputDevice& a_err, const Screen& a_outScreen = {}, const Screen& a_errScreen = {} );
 
     OutputDevice& Out() { return m_out; }
     OutputDevice& Err() { return m_err; }
+    const Screen& OutScreen() const { return m_outScreen; }
+    const Screen& ErrScreen() const { return m_errScreen; }
 
     /// Writes one message after all results so far, as `pimvcard: ` and the text. Safe for a terminal if the text is.
     void Tell( const QString& a_text );
@@ -49,6 +54,8 @@ public:
 private:
     OutputDevice& m_out;
     OutputDevice& m_err;
+    const Screen m_outScreen;
+    const Screen m_errScreen;
     bool m_areRemarksWanted = true;
 };
 

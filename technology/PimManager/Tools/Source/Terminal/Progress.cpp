@@ -1,7 +1,11 @@
 #include "Terminal/Progress.h"
 
 #include "Outputs/OutputDevice.h"
+#include "Terminal/TextColumns.h"
 #include "Terminal/Wording.h"
+
+#include <QList>
+#include <QStringList>
 
 #include <algorithm>
 
@@ -34,20 +38,35 @@ QString TimeText( qint64 a_milliseconds )
     return QStringLiteral( "%1 s" ).arg( a_milliseconds / s_kSecond + 1 );
 }
 
+// The parts in a line. Those at a_places are removed, one after the other, until it fits.
+QString Fitting( QStringList a_parts, const QList<int>& a_places, int a_columns )
+{
+    QString text = a_parts.join( QStringLiteral( ", " ) );
+    for ( const int place : a_places )
+    {
+        if ( ColumnsOf( text ) <= a_columns )
+            break;
+        a_parts.removeAt( place );
+        text = a_parts.join( QStringLiteral( ", " ) );
+    }
+    return Cut( text, std::max( a_columns, 1 ) );
+}
+
 } // namespace
 
-QString ProgressText( const ProgressState& a_state )
+QString ProgressText( const ProgressState& a_state, int a_columns )
 {
     const QString cards = Counted( a_state.m_cards, QStringLiteral( "card" ), QStringLiteral( "cards" ) );
     // A file may grow while it is read.
     const qint64 bytes = a_state.m_allBytes > 0 ? std::min( a_state.m_bytes, a_state.m_allBytes ) : a_state.m_bytes;
     if ( a_state.m_allBytes <= 0 || bytes <= 0 )
-        return SizeText( bytes ) + QStringLiteral( ", " ) + cards;
+        return Fitting( { SizeText( bytes ), cards }, { 1 }, a_columns );
     const double share = double( bytes ) / double( a_state.m_allBytes );
     const double left = double( a_state.m_milliseconds ) * ( 1 - share ) / share;
-    return QStringLiteral( "%1 %, %2 of %3, %4, about %5 left" )
-        .arg( int( 100 * share ) )
-        .arg( SizeText( bytes ), SizeText( a_state.m_allBytes ), cards, TimeText( qint64( left ) ) );
+    const QStringList parts = { QStringLiteral( "%1 %" ).arg( int( 100 * share ) ),
+                                SizeText( bytes ) + QStringLiteral( " of " ) + SizeText( a_state.m_allBytes ), cards,
+                                QStringLiteral( "about %1 left" ).arg( TimeText( qint64( left ) ) ) };
+    return Fitting( parts, { 2, 1, 1 }, a_columns );
 }
 
 Progress::Progress( OutputDevice* a_terminal ) :
@@ -60,13 +79,13 @@ Progress::~Progress()
     Hide();
 }
 
-bool Progress::Show( const ProgressState& a_state )
+bool Progress::Show( const ProgressState& a_state, int a_columns )
 {
     if ( m_terminal == nullptr || a_state.m_milliseconds < m_next )
         return false;
     m_next = a_state.m_milliseconds + s_kPeriod;
     Hide();
-    m_terminal->write( ProgressText( a_state ).toUtf8() );
+    m_terminal->write( ProgressText( a_state, a_columns - 1 ).toUtf8() );
     m_terminal->Flush();
     m_isShown = true;
     return true;

@@ -21,9 +21,11 @@ struct ProgressState
     qint64 m_allBytes = 0;
 };
 
+/// \param a_columns the most columns that the text may have.
 /// \return the state in a line, such as `45 %, 12 MB of 27 MB, 3456 cards, about 8 s left`; without a share and a time
-///         when it is not known how many bytes there are.
-QString ProgressText( const ProgressState& a_state );
+///         when it is not known how many bytes there are. Where that is too wide, the number of cards is left out, then
+///         the bytes, then the time.
+QString ProgressText( const ProgressState& a_state, int a_columns );
 
 /// Keeps one line with the state of the work at the bottom of a terminal.
 class Progress
@@ -36,8 +38,10 @@ public:
     ~Progress();
     Q_DISABLE_COPY( Progress )
 
-    /// Shows the state when the work has taken a second, and from then on five times a second. \return true if it did.
-    bool Show( const ProgressState& a_state );
+    /// Shows the state when the work has taken a second, and from then on five times a second.
+    /// \param a_columns the present width of the terminal. The last column stays empty.
+    /// \return true if it did.
+    bool Show( const ProgressState& a_state, int a_columns );
 
     /// Takes the line away until the next Show().
     void Hide();

@@ -10,7 +10,9 @@ namespace PimManager::Tools
 namespace
 {
 
-const QChar s_kBlank = QLatin1Char( ' ' );
+constexpr QChar s_kBlank = QLatin1Char( ' ' );
+constexpr QChar s_kFirstStrongIsolate = QChar( 0x2068 );
+constexpr QChar s_kPopIsolate = QChar( 0x2069 );
 
 bool IsBreak( QChar a_before, QChar a_behind )
 {
@@ -18,12 +20,12 @@ bool IsBreak( QChar a_before, QChar a_behind )
 }
 
 // The length of the part before the next place where a text may be broken.
-qsizetype PartLength( QStringView a_text, qsizetype a_kept )
+qsizetype PartLength( QStringView a_text )
 {
-    qsizetype length = std::max<qsizetype>( a_kept, 1 );
+    qsizetype length = 1;
     while ( length < a_text.size() && !IsBreak( a_text[length - 1], a_text[length] ) )
         ++length;
-    return std::min( length, a_text.size() );
+    return length;
 }
 
 QStringView WithoutLastBlank( QStringView a_text )
@@ -47,52 +49,36 @@ qsizetype FittingLength( QStringView a_text, int a_columns )
     return length;
 }
 
-/// The places where a line may end, from the start of a text to the end of the line.
-class LineBreaks
+// Where a line that starts with the text ends: at its last break that fits, else where the columns do.
+qsizetype LineLength( QStringView a_text, int a_columns )
 {
-public:
-    LineBreaks( QStringView a_text, qsizetype a_kept ) :
-        m_text( a_text ),
-        m_kept( a_kept )
-    {
-    }
-
-    void Visit( qsizetype a_place )
-    {
-        if ( a_place > 0 && IsBreak( m_text[a_place - 1], m_text[a_place] ) )
-            ( a_place < m_kept ? m_lastInKept : m_last ) = a_place;
-    }
-
-    // The best place; a_otherwise if there is none.
-    qsizetype Best( qsizetype a_otherwise ) const
-    {
-        if ( m_last > 0 )
-            return m_last;
-        return m_lastInKept > 0 ? m_lastInKept : a_otherwise;
-    }
-
-private:
-    const QStringView m_text;
-    const qsizetype m_kept;
-    qsizetype m_last = 0;
-    qsizetype m_lastInKept = 0;
-};
-
-// Where a line that starts with the text ends.
-qsizetype LineLength( QStringView a_text, int a_columns, qsizetype a_kept )
-{
-    LineBreaks breaks( a_text, a_kept );
     qsizetype length = 0;
+    qsizetype lastBreak = 0;
     for ( int columns = 0; columns <= a_columns && length < a_text.size(); )
     {
-        breaks.Visit( length );
+        if ( length > 0 && IsBreak( a_text[length - 1], a_text[length] ) )
+            lastBreak = length;
         const Cluster cluster = FirstCluster( a_text.mid( length ) );
         columns += cluster.m_columns;
         if ( columns > a_columns && cluster.m_text.front() != s_kBlank )
-            return breaks.Best( std::max( length, qsizetype( 1 ) ) );
+            return lastBreak > 0 ? lastBreak : length;
         length += cluster.m_text.size();
     }
     return length;
+}
+
+// Isolates do not nest, because only Screen::Isolated() makes them.
+void EndIsolatesWithLines( QStringList& a_lines )
+{
+    bool isOpen = false;
+    for ( QString& line : a_lines )
+    {
+        if ( isOpen )
+            line.prepend( s_kFirstStrongIsolate );
+        isOpen = line.lastIndexOf( s_kFirstStrongIsolate ) > line.lastIndexOf( s_kPopIsolate );
+        if ( isOpen )
+            line.append( s_kPopIsolate );
+    }
 }
 
 } // namespace
@@ -122,32 +108,29 @@ QString Cut( const QString& a_text, int a_columns )
     return a_text.left( static_cast<int>( length ) ) + QChar( 0x2026 );
 }
 
-QStringList Wrapped( const QString& a_text, int a_columns, qsizetype a_kept )
+QStringList Wrapped( const QString& a_text, int a_columns )
 {
     QStringList lines;
     QStringView rest = a_text;
-    qsizetype kept = a_kept;
     do
     {
-        const qsizetype length = LineLength( rest, a_columns, kept );
+        const qsizetype length = LineLength( rest, a_columns );
         const QStringView line = rest.left( length );
         lines << ( length < rest.size() ? WithoutLastBlank( line ) : line ).toString();
         rest = rest.mid( length );
-        kept -= length;
     } while ( !rest.isEmpty() );
+    EndIsolatesWithLines( lines );
     return lines;
 }
 
-int WidestPart( const QString& a_text, qsizetype a_kept )
+int WidestPart( const QString& a_text )
 {
     int widest = 0;
-    qsizetype kept = a_kept;
     for ( QStringView rest = a_text; !rest.isEmpty(); )
     {
-        const QStringView part = rest.left( PartLength( rest, kept ) );
+        const QStringView part = rest.left( PartLength( rest ) );
         widest = std::max( widest, ColumnsOf( WithoutLastBlank( part ) ) );
         rest = rest.mid( part.size() );
-        kept -= part.size();
     }
     return widest;
 }

@@ -23,14 +23,11 @@ QString Cut( const QString& a_text, int a_columns );
 
 /// \return the text in lines of at most so many columns. It is broken behind a blank or a slash or before an `@` where
 ///         there are any, else between characters. At least one line; no character is cut in two or lost but the blank
-///         that a line is broken at.
+///         that a line is broken at. Isolates, see Screen, end with a line and begin again on the next one.
 /// \param a_columns at least 2.
-/// \param a_kept    so much at the start of the text is broken only if it is wider than a line, such as a number with
-///                  blanks.
-QStringList Wrapped( const QString& a_text, int a_columns, qsizetype a_kept = 0 );
+QStringList Wrapped( const QString& a_text, int a_columns );
 
-/// \return the columns of the widest part of a text that Wrapped() breaks only if it is wider than a line.
-/// \param a_kept as for Wrapped().
-int WidestPart( const QString& a_text, qsizetype a_kept = 0 );
+/// \return the columns of the widest part of a text that Wrapped() breaks only between characters.
+int WidestPart( const QString& a_text );
 
 } // namespace PimManager::Tools

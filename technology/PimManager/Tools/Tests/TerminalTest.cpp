@@ -27,10 +27,7 @@ TEST( TerminalTest, TableFitsTheTerminal )
         const QStringList lines = QString::fromStdString( run.Screen() ).split( QLatin1Char( '\n' ) );
         EXPECT_GT( lines.size(), 3 );
         for ( const QString& line : lines )
-        {
-            const bool isMessage = line.startsWith( QLatin1String( "pimvcard: " ) );
-            EXPECT_TRUE( isMessage || ColumnsOf( line ) <= columns ) << columns << ": " << Utf8( line );
-        }
+            EXPECT_LE( ColumnsOf( line ), columns ) << Utf8( line );
     }
 }
 
@@ -80,6 +77,33 @@ TEST( TerminalTest, UsersVariablesCount )
     narrow.Feed( CleanCard() );
     EXPECT_EQ( narrow.Finish(), 0 );
     EXPECT_EQ( narrow.Screen().find( "NAME  NUMBER, MAIL,\n" ), 0U ) << narrow.Screen();
+}
+
+TEST( TerminalTest, MessagesAreWrappedAndMarked )
+{
+    TerminalRun plain( { "missing" }, TerminalRun::Watched::ErrorsOnly, 40 );
+    EXPECT_EQ( plain.Finish(), 2 );
+    EXPECT_EQ( plain.Screen().find( "pimvcard: missing is neither a command\n  nor a file" ), 0U ) << plain.Screen();
+    TerminalRun coloured( { "list", "missing.vcf" }, TerminalRun::Watched::ErrorsOnly, 80, { "NO_COLOR=" } );
+    EXPECT_EQ( coloured.Finish(), 2 );
+    EXPECT_EQ( coloured.Screen().find( "\x1B[31mpimvcard:\x1B[0m missing.vcf: No such file" ), 0U )
+        << coloured.Screen();
+}
+
+TEST( TerminalTest, SeveritiesAreMarked )
+{
+    TerminalRun run( { "check", "-" }, TerminalRun::Watched::Both, 200, { "NO_COLOR=" } );
+    run.Feed( PartCard().chopped( 2 ) );
+    EXPECT_EQ( run.Finish(), 1 );
+    EXPECT_NE( run.Screen().find( "standard input:4:1: \x1B[31mdropped\x1B[0m: " ), std::string::npos ) << run.Screen();
+    EXPECT_NE( run.Screen().find( ": \x1B[33mrepaired\x1B[0m: " ), std::string::npos ) << run.Screen();
+}
+
+TEST( TerminalTest, FileNameFromRightToLeftIsIsolated )
+{
+    TerminalRun run( { "check", "ספר.vcf" }, TerminalRun::Watched::Both );
+    EXPECT_EQ( run.Finish(), 2 );
+    EXPECT_EQ( run.Screen().find( "pimvcard: \u2068ספר.vcf\u2069: No such file" ), 0U ) << run.Screen();
 }
 
 TEST( TerminalTest, PipeGetsNoColours )

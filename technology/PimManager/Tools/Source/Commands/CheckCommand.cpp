@@ -13,13 +13,14 @@ namespace PimManager::Tools
 namespace
 {
 
-std::unique_ptr<BookOutput> MakeOutput( const CommandLine& a_line, OutputDevice& a_out )
+std::unique_ptr<BookOutput> MakeOutput( const CommandLine& a_line, Console& a_console )
 {
     if ( a_line.IsSet( s_kExtentsOption ) )
-        return std::make_unique<ExtentList>( a_out, a_line.Arguments().size() > 1 );
+        return std::make_unique<ExtentList>( a_console.Out(), a_line.Arguments().size() > 1 );
     using Conformance = CheckReport::Conformance;
     const bool isStandard = a_line.IsSet( s_kStandardOption );
-    return std::make_unique<CheckReport>( a_out, isStandard ? Conformance::Checked : Conformance::Ignored );
+    return std::make_unique<CheckReport>( a_console.Out(), isStandard ? Conformance::Checked : Conformance::Ignored,
+                                          a_console.OutScreen() );
 }
 
 /// \return why the options do not go together; empty if they do.
@@ -53,7 +54,7 @@ ExitStatus RunCheck( const CommandLine& a_line, Console& a_console )
     // The output receives each finding. None has to be kept.
     options.m_reader.SetDiagnostics( 0 );
     ContactRun::Outputs outputs;
-    outputs.push_back( MakeOutput( a_line, a_console.Out() ) );
+    outputs.push_back( MakeOutput( a_line, a_console ) );
     return ContactRun( a_console, options, std::move( outputs ), BookRun::WithoutReader::Stop )
         .Run( a_line.Arguments() );
 }

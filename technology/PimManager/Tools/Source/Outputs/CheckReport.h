@@ -6,6 +6,7 @@
 #include "Outputs/BookOutput.h"
 #include "Outputs/StandardFindings.h"
 #include "Outputs/ValueFindings.h"
+#include "Terminal/Screen.h"
 
 class QIODevice;
 
@@ -29,7 +30,7 @@ public:
     };
 
     /// \param a_device must be open and outlive the report.
-    CheckReport( QIODevice& a_device, Conformance a_conformance );
+    CheckReport( QIODevice& a_device, Conformance a_conformance, const Screen& a_screen );
 
     void BeginBook( const BookInRun& a_book, const Contacts::PimContactReader& a_reader ) override;
     void TakeCard( const BookInRun& a_book, const Contacts::PimContactCard& a_card ) override;
@@ -39,8 +40,12 @@ public:
 
 private:
     void Write( const QStringList& a_findings );
+    QString Painted( const QString& a_finding ) const;
 
     QIODevice& m_device;
+    const Screen m_screen;
+    // The name of the file, as it is shown.
+    QString m_source;
     const bool m_isStandardChecked;
     ValueFindings m_values;
     StandardFindings m_standard;

@@ -112,7 +112,7 @@ QString BookRun::ReadInput( InputDevice& a_input, BookTask& a_task )
 ExitStatus BookRun::RefuseFile( const QString& a_source, const QString& a_reason )
 {
     m_progress.Hide();
-    m_console.Tell( a_source + QStringLiteral( ": " ) + a_reason );
+    m_console.Tell( m_console.ErrScreen().Isolated( a_source ) + QStringLiteral( ": " ) + a_reason );
     return ExitStatus::Trouble;
 }
 

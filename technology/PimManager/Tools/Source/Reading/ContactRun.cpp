@@ -118,7 +118,7 @@ ExitStatus ContactRun::EndBook()
 
 void ContactRun::ReportCharset()
 {
-    const QString note = m_charset ? m_charset->Note( m_book.m_source ) : QString();
+    const QString note = m_charset ? m_charset->Note( m_console.ErrScreen().Isolated( m_book.m_source ) ) : QString();
     m_charset.reset();
     if ( !note.isEmpty() && m_console.IsOpen() )
         m_console.Remark( note );

@@ -33,7 +33,7 @@ void StrictCheck::ReadBook( InputDevice& a_input )
     Book book = Tools::ReadBook( a_input );
     if ( !book.m_refusal.isEmpty() )
     {
-        m_console.Tell( m_source + QStringLiteral( ": " ) + book.m_refusal );
+        m_console.Tell( m_console.ErrScreen().Isolated( m_source ) + QStringLiteral( ": " ) + book.m_refusal );
         m_status = ExitStatus::Trouble;
     }
     else if ( a_input.Error() == 0 && !m_run.IsOver() )
@@ -64,7 +64,8 @@ ExitStatus StrictCheck::EndBook()
 
 void StrictCheck::Write( const QString& a_text )
 {
-    m_console.Out().write( ( m_source + QStringLiteral( ": " ) + a_text + QLatin1Char( '\n' ) ).toUtf8() );
+    const QString source = m_console.OutScreen().Isolated( m_source );
+    m_console.Out().write( ( source + QStringLiteral( ": " ) + a_text + QLatin1Char( '\n' ) ).toUtf8() );
 }
 
 } // namespace PimManager::Tools

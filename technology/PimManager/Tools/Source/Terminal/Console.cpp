@@ -1,5 +1,8 @@
 #include "Terminal/Console.h"
 
+#include "Terminal/TextColumns.h"
+
+#include <algorithm>
 #include <cerrno>
 
 namespace PimManager::Tools
@@ -13,17 +16,24 @@ Console::Console( OutputDevice& a_out, OutputDevice& a_err, const Screen& a_outS
 {
 }
 
-void Console::Tell( const QString& a_text )
-{
-    m_out.Flush();
-    m_err.write( QStringLiteral( "pimvcard: %1\n" ).arg( a_text ).toUtf8() );
-    m_err.Flush();
-}
-
 void Console::Remark( const QString& a_text )
 {
     if ( m_areRemarksWanted )
-        Tell( a_text );
+        Write( a_text, Ink::Heading );
+}
+
+void Console::Write( const QString& a_text, Ink a_ink )
+{
+    constexpr int s_kIndent = 2;
+    constexpr int s_kNarrowest = 20;
+    const QString start = QStringLiteral( "pimvcard:" );
+    QString text = start + QLatin1Char( ' ' ) + a_text;
+    if ( m_errScreen.IsTerminal() )
+        text = Wrapped( text, std::max( m_errScreen.m_columns - s_kIndent, s_kNarrowest ) )
+                   .join( QLatin1Char( '\n' ) + QString( s_kIndent, QLatin1Char( ' ' ) ) );
+    m_out.Flush();
+    m_err.write( ( m_errScreen.Painted( start, a_ink ) + text.mid( start.size() ) + QLatin1Char( '\n' ) ).toUtf8() );
+    m_err.Flush();
 }
 
 ExitStatus Console::Show( const QString& a_text )

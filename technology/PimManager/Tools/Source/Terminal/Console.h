@@ -27,8 +27,9 @@ public:
     const Screen& OutScreen() const { return m_outScreen; }
     const Screen& ErrScreen() const { return m_errScreen; }
 
-    /// Writes one message after all results so far, as `pimvcard: ` and the text. Safe for a terminal if the text is.
-    void Tell( const QString& a_text );
+    /// Writes one message after all results so far, as `pimvcard: ` and the text, wrapped into a terminal. Safe for a
+    /// terminal if the text is.
+    void Tell( const QString& a_text ) { Write( a_text, Ink::Error ); }
 
     /// The same for something that is no error. Nothing is written if remarks are not wanted.
     void Remark( const QString& a_text );
@@ -52,6 +53,8 @@ public:
     ExitStatus Close( ExitStatus a_status );
 
 private:
+    void Write( const QString& a_text, Ink a_ink );
+
     OutputDevice& m_out;
     OutputDevice& m_err;
     const Screen m_outScreen;

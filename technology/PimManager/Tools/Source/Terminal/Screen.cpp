@@ -35,8 +35,6 @@ QString Start( Ink a_ink )
     {
     case Ink::Heading:
         return QStringLiteral( "\x1B[1m" );
-    case Ink::Good:
-        return QStringLiteral( "\x1B[32m" );
     case Ink::Warning:
         return QStringLiteral( "\x1B[33m" );
     case Ink::Error:

@@ -12,7 +12,6 @@ namespace PimManager::Tools
 enum class Ink
 {
     Heading,
-    Good,
     Warning,
     Error
 };

@@ -92,7 +92,8 @@ ExitStatus RunCommand( const CommandLine& a_line, Console& a_console )
     if ( reading == s_kReadings.end() )
         return RunHelp( a_line, a_console );
     if ( a_line.Arguments().isEmpty() )
-        return RefuseUsage( a_console, a_line, QStringLiteral( "no file to " ) + a_line.Command().m_name );
+        return RefuseUsage( a_console, a_line,
+                            QStringLiteral( "no file to %1; - is standard input" ).arg( a_line.Command().m_name ) );
     return reading->m_run( a_line, a_console );
 }
 
@@ -103,7 +104,8 @@ ExitStatus RunNothing( const CommandLine& a_line, Console& a_console )
         return a_console.Show( OverviewText() );
     if ( a_line.IsSet( s_kVersionOption ) )
         return a_console.Show( VersionText() );
-    return a_console.Refuse( QStringLiteral( "no command and no file" ), s_kProgram );
+    return a_console.Refuse( QStringLiteral( "no command and no file; \"pimvcard BOOK\" lists an address book" ),
+                             s_kProgram );
 }
 
 } // namespace

@@ -39,7 +39,7 @@ ExitStatus Run( const QList<QByteArray>& a_arguments, Console& a_console )
     }
     catch ( const std::bad_alloc& )
     {
-        a_console.Tell( QStringLiteral( "needs more memory than there is" ) );
+        a_console.Tell( QStringLiteral( "there is not enough memory" ) );
         return ExitStatus::Trouble;
     }
 }

@@ -99,31 +99,32 @@ TEST( BookAccountTest, NoteTellsWhatDidNotCome )
     };
     const std::vector<Row> rows = {
         { "", "is empty" },
-        { "\r\n", "holds no vCard" },
-        { "Dear Nell,\n", "holds no vCard" },
+        { "\r\n", "contains no vCard" },
+        { "Dear Nell,\n", "contains no vCard" },
         { s_kGood + s_kBroken, "1 of 2 cards refused" },
-        { s_kWithoutEnd + s_kGood,
-          "1 of 2 cards refused\n"
-          "card 1 (Tobias) swallowed another card: a BEGIN:VCARD line is inside it, so an END:VCARD line seems to "
-          "be missing" },
+        { s_kWithoutEnd + s_kGood, "1 of 2 cards refused\n"
+                                   "card 1 (Tobias) contains another card: there is a BEGIN:VCARD line in it, so its "
+                                   "END:VCARD line is probably missing" },
         { "BEGIN:VCARD\nEND:VCARD\n",
           "1 of 1 cards refused\n"
-          "2 of 2 lines end in a bare LF; the strict reader needs CR LF and loses cards without it" },
+          "2 of 2 lines end in a bare LF; the strict reader needs CR LF, which \"pimvcard convert\" writes" },
         { "BEGIN:VCARD\rX_Y:z\rEND:VCARD\r",
           "1 of 1 cards refused\n"
-          "3 of 3 lines end in a bare CR; the strict reader needs CR LF and loses cards without it" },
+          "3 of 3 lines end in a bare CR; the strict reader needs CR LF, which \"pimvcard convert\" writes" },
         { s_kGood + "BEGIN:VCARD\r\nEND:VCARD",
           "1 of 2 cards refused\n"
           "the last line has no line ending; the strict reader needs CR LF there, too" },
         { QByteArray( "BEGIN:VCARD\nEND:VCARD\n" ) + '\0',
           "1 of 1 cards refused\n"
-          "byte 23 is NUL and nothing after it is read; text in UTF-16 looks like this\n"
-          "2 of 2 lines end in a bare LF; the strict reader needs CR LF and loses cards without it" },
+          "byte 23 is NUL and nothing after it is read; if the text is UTF-16, \"pimvcard convert\" reads it\n"
+          "2 of 2 lines end in a bare LF; the strict reader needs CR LF, which \"pimvcard convert\" writes" },
         { "\r\n" + s_kGood, "1 refused, cards or text that belongs to no card" },
-        { s_kGood + '\0' + s_kGood, "1 of 2 cards refused\n"
-                                    "byte 34 is NUL and nothing after it is read; text in UTF-16 looks like this" },
-        { Utf16( s_kGood ), "1 of 1 cards refused\n"
-                            "byte 4 is NUL and nothing after it is read; text in UTF-16 looks like this" },
+        { s_kGood + '\0' + s_kGood,
+          "1 of 2 cards refused\n"
+          "byte 34 is NUL and nothing after it is read; if the text is UTF-16, \"pimvcard convert\" reads it" },
+        { Utf16( s_kGood ),
+          "1 of 1 cards refused\n"
+          "byte 4 is NUL and nothing after it is read; if the text is UTF-16, \"pimvcard convert\" reads it" },
     };
     for ( const Row& row : rows )
         EXPECT_EQ( Notes( row.m_text ), row.m_notes );

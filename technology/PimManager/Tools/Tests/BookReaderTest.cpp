@@ -90,7 +90,7 @@ TEST( BookReaderTest, InputOverTheLimitIsRefused )
 {
     const QTemporaryDir folder;
     const QByteArray file = WriteFile( folder, "123456" );
-    const char* const reason = "is too large: more than 5 bytes cannot be read at once";
+    const char* const reason = "is too large: more than 5 bytes cannot be read at once; leave out --strict";
     EXPECT_EQ( Utf8( Read( file, 5 ).m_refusal ), reason );
     EXPECT_EQ( Utf8( Read( FilledPipe( "123456" ).Name(), 5 ).m_refusal ), reason );
     EXPECT_EQ( Read( file, 6 ).m_bytes.toStdString(), "123456" );
@@ -102,7 +102,8 @@ TEST( BookReaderTest, FileOverTheLargestBookIsRefusedUnread )
     const QTemporaryDir folder;
     const QByteArray file = WriteFile( folder, QByteArray() );
     ASSERT_EQ( truncate( file.constData(), s_kLargestBook + 1 ), 0 );
-    const char* const reason = sizeof( void* ) < 8 ? "is too large: more than 100000000 bytes cannot be read at once"
-                                                   : "is too large: more than 700000000 bytes cannot be read at once";
+    const char* const reason =
+        sizeof( void* ) < 8 ? "is too large: more than 100000000 bytes cannot be read at once; leave out --strict"
+                            : "is too large: more than 700000000 bytes cannot be read at once; leave out --strict";
     EXPECT_EQ( Utf8( Read( file ).m_refusal ), reason );
 }

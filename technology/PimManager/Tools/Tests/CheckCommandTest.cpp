@@ -169,7 +169,7 @@ TEST( CheckCommandTest, WrongUsageIsReportedWithStatusTwo )
         const char* m_message;
     };
     const std::vector<Row> rows = {
-        { {}, "no file to check" },
+        { {}, "no file to check; - is standard input" },
         { { "-", "--max-cards", "12x" }, "--max-cards: \"12x\" is not a number such as 500, 64K, 16M or 1G" },
         { { "-", "--max-cards" }, "Missing value after '--max-cards'." },
         { { "-", "--extents=yes" }, "Unexpected value after '--extents'." },
@@ -255,7 +255,7 @@ TEST( CheckCommandTest, UnknownCharsetListsThoseThatAreKnown )
     const ProgramRun run = RunPimvcard( { "check", "--charset", "koi8-x\x1B", "-" } );
     EXPECT_EQ( run.m_status, 2 );
     EXPECT_EQ( run.m_out, "" );
-    EXPECT_EQ( run.m_err.find( "pimvcard: unknown character set: koi8-x\\x1b; known are UTF-8, " ), 0U ) << run.m_err;
+    EXPECT_EQ( run.m_err.find( "pimvcard: unknown character set: koi8-x\\x1b; use one of UTF-8, " ), 0U ) << run.m_err;
     for ( const char* name : { ", windows-1252", ", Shift_JIS", ", KOI8-R" } )
         EXPECT_NE( run.m_err.find( name ), std::string::npos ) << name << run.m_err;
 }
@@ -271,4 +271,38 @@ TEST( CheckCommandTest, HelpShowsTheDefaultsOfTheReader )
                 .arg( options.Nesting() ),
             QStringLiteral( "with its continuation lines; no limit unless given." ) } )
         EXPECT_TRUE( help.contains( text ) ) << Utf8( text ) << "\n" << Utf8( help );
+}
+
+TEST( CheckCommandTest, FindingsSayWhatToDo )
+{
+    const QByteArray cards = CleanCard() + CleanCard();
+    struct Row
+    {
+        QList<QByteArray> m_options;
+        QByteArray m_book;
+        const char* m_finding;
+    };
+    const std::vector<Row> rows = {
+        { { "--max-card-bytes", "10" }, cards, "more bytes than the limit; raise --max-card-bytes [card-too-long]" },
+        { { "--max-line-bytes", "10" }, cards, "longer than the limit; raise --max-line-bytes [line-too-long]" },
+        { { "--max-card-lines", "1" },
+          cards,
+          "more lines than the limit; raise --max-card-lines [card-of-many-lines]" },
+        { { "--max-cards", "1" }, cards, "one more than the limit; raise --max-cards [too-many-cards]" },
+        { { "--max-book-bytes", "70" }, cards, "more bytes than the limit; raise --max-book-bytes [book-too-long]" },
+        { { "--max-nesting", "1" },
+          CardText( "FN:x\r\nAGENT:\r\n" + CardText( "FN:y\r\nAGENT:\r\n" + CardText( "FN:z\r\n" ) ) ),
+          "beyond the limit; raise --max-nesting [nesting-too-deep]" },
+        { {}, CardText( "VERSION:3.0\r\nFN:J\xF6rg\r\n" ), "another character set applies, see --charset [charset]" },
+        { {}, "PK\x03\x04....", "archive; unpack it first [compressed-file]" },
+        { {}, "%PDF-1.4\n", "PDF document; export the contacts as vCard [document-file]" },
+        { {}, PngPicture(), "image; export the contacts as vCard [image-file]" },
+    };
+    for ( const Row& row : rows )
+    {
+        const ProgramRun run = ProgramCall( QList<QByteArray>{ "check" } + row.m_options + QList<QByteArray>{ "-" } )
+                                   .WithInput( row.m_book )
+                                   .Run();
+        EXPECT_NE( run.m_out.find( row.m_finding ), std::string::npos ) << row.m_finding << '\n' << run.m_out;
+    }
 }

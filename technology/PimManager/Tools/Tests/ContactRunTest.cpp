@@ -51,6 +51,6 @@ TEST( ContactRunTest, OutputThatRunsOutOfMemoryIsNotPublishedAndOthersAre )
     EXPECT_EQ( FileContent( rejects ), "\x01\x02 %%%\r\n" );
     EXPECT_EQ( NamesIn( folder.Path( "" ) ), "book\nmessages\npage\nrejects\n" );
     EXPECT_EQ( FileContent( folder.Path( "messages" ) ).toStdString(),
-               "pimvcard: " + book.toStdString() + ": needs more memory than there is\npimvcard: " +
-                   page.toStdString() + ": cannot be written: it needs more memory than there is\n" );
+               "pimvcard: " + book.toStdString() + ": there is not enough memory\npimvcard: " + page.toStdString() +
+                   ": cannot be written: there is not enough memory\n" );
 }

@@ -14,24 +14,28 @@ TEST( ConvertCommandTest, WrongUsageIsReportedWithStatusTwo )
         const char* m_message;
     };
     const std::vector<Row> rows = {
-        { {}, "no file to convert" },
-        { { "x.vcf" }, "no format; --to takes 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html" },
-        { { "-o", "x", "x.vcf" }, "no format; --to takes 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html" },
+        { {}, "no file to convert; - is standard input" },
+        { { "x.vcf" }, "no output format; choose one with --to: 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html" },
+        { { "-o", "x", "x.vcf" },
+          "no output format; choose one with --to: 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html" },
         { { "-o", "x", "--photos", "p", "x.vcf" },
-          "no format; --to takes 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html" },
+          "no output format; choose one with --to: 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html" },
         { { "-t", "htm", "x.vcf" },
-          "unknown format: htm; the formats are 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html. Did you mean "
+          "unknown format: htm; use one of 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html. Did you mean "
           "\"html\"?" },
         { { "-t", "\x1B", "x.vcf" },
-          "unknown format: \\x1b; the formats are 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html." },
+          "unknown format: \\x1b; use one of 2.1, 3.0, 4.0, jcard, csv, json, json-lines, html." },
         { { "x.vcf", "--photos" }, "Missing value after '--photos'." },
-        { { "--split", "d", "-o", "x.vcf", "x.vcf" }, "--split and --output exclude each other" },
-        { { "--split", "d", "-t", "csv", "x.vcf" }, "--split needs the format 2.1, 3.0, 4.0 or jcard" },
-        { { "--sort", "-t", "html", "x.vcf" }, "--sort does not apply to a page or to pictures" },
-        { { "--mark", "-t", "3.0", "x.vcf" }, "--columns and --mark need the format csv" },
-        { { "--columns", "name", "-t", "json", "x.vcf" }, "--columns and --mark need the format csv" },
-        { { "--filter", "FN,,TEL", "-t", "3.0", "x.vcf" }, "no name of a property: \"\"" },
-        { { "--filter", "FN:TEL", "-t", "3.0", "x.vcf" }, "no name of a property: FN:TEL" },
+        { { "--split", "d", "-o", "x.vcf", "x.vcf" },
+          "--split and --output cannot be combined; leave one of them out" },
+        { { "--split", "d", "-t", "csv", "x.vcf" }, "--split needs vCards; choose 2.1, 3.0, 4.0 or jcard with --to" },
+        { { "--sort", "-t", "html", "x.vcf" }, "--sort does not apply to a page or to pictures; leave it out" },
+        { { "--mark", "-t", "3.0", "x.vcf" }, "--columns and --mark are for tables; add --to csv" },
+        { { "--columns", "name", "-t", "json", "x.vcf" }, "--columns and --mark are for tables; add --to csv" },
+        { { "--filter", "FN,,TEL", "-t", "3.0", "x.vcf" },
+          "not a property name: \"\"; --filter takes names such as FN,N,TEL" },
+        { { "--filter", "FN:TEL", "-t", "3.0", "x.vcf" },
+          "not a property name: FN:TEL; --filter takes names such as FN,N,TEL" },
     };
     for ( const Row& row : rows )
     {

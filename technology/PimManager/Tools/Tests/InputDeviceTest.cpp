@@ -36,8 +36,9 @@ TEST( InputDeviceTest, FailuresAreToldInWords )
         QByteArray m_name;
         const char* m_reason;
     };
-    for ( const Row& row : { Row{ folder.Path( "missing" ), "No such file or directory" },
-                             Row{ folder.Path( "" ), "is a folder" }, Row{ "", "No such file or directory" } } )
+    for ( const Row& row :
+          { Row{ folder.Path( "missing" ), "No such file or directory" },
+            Row{ folder.Path( "" ), "is a folder; name the files in it" }, Row{ "", "No such file or directory" } } )
     {
         const InputDevice input( row.m_name );
         EXPECT_FALSE( input.isOpen() );

@@ -57,7 +57,8 @@ TEST( ListCommandTest, EachFileGivesItsStatusAndItsNotes )
         { CleanCard().chopped( 2 ), 0, "", "1 file, 1 contact, 0 cards refused, 0 lines dropped" },
         { CleanCard() + PartCard(), 1, ": 1 line dropped; \"pimvcard check\" shows where\n",
           "1 file, 2 contacts (1 in part), 0 cards refused, 1 line dropped" },
-        { "no card at all\r\n", 1, ": holds no vCard\n", "1 file, 0 contacts, 0 cards refused, 0 lines dropped" },
+        { "no card at all\r\n", 1, ": contains no vCard; export the contacts as vCard\n",
+          "1 file, 0 contacts, 0 cards refused, 0 lines dropped" },
     };
     int number = 0;
     for ( const Row& row : rows )
@@ -67,6 +68,26 @@ TEST( ListCommandTest, EachFileGivesItsStatusAndItsNotes )
         EXPECT_EQ( run.m_status, row.m_status ) << number << run.m_err;
         EXPECT_EQ( Notes( run ), *row.m_note == '\0' ? "" : "pimvcard: " + file.toStdString() + row.m_note ) << number;
         EXPECT_EQ( Totals( run ), std::string( "pimvcard: " ) + row.m_totals ) << number;
+    }
+}
+
+TEST( ListCommandTest, NoteOnAFileWithoutCardsSaysWhatToDo )
+{
+    struct Row
+    {
+        QByteArray m_content;
+        const char* m_note;
+    };
+    const std::vector<Row> rows = {
+        { "PK\x03\x04....", "is a gzip or zip archive; unpack it first" },
+        { "%PDF-1.4\n", "is a PDF document; export the contacts as vCard" },
+        { "<html></html>\n", "is an HTML page; export the contacts as vCard" },
+        { "hello\n", "contains no vCard; export the contacts as vCard" },
+    };
+    for ( const Row& row : rows )
+    {
+        const ProgramRun run = ProgramCall( { "list", "-" } ).WithInput( row.m_content ).Run();
+        EXPECT_EQ( Notes( run ), std::string( "pimvcard: standard input: " ) + row.m_note + "\n" );
     }
 }
 
@@ -209,7 +230,7 @@ TEST( ListCommandTest, WrongUsageIsReportedWithStatusTwo )
         const char* m_message;
     };
     const std::vector<Row> rows = {
-        { { "list" }, "pimvcard: no file to list\n" },
+        { { "list" }, "pimvcard: no file to list; - is standard input\n" },
         { { "list", "--frob", "x" }, "pimvcard: Unknown option 'frob'.\n" },
         { { "list", "--charst", "x" }, "pimvcard: Unknown option 'charst'. Did you mean \"--charset\"?\n" },
         { { "list", "x", "--charset" }, "pimvcard: Missing value after '--charset'.\n" },

@@ -129,7 +129,8 @@ TEST( OutputFilesTest, InputIsNoOutput )
             const QByteArray path = folder.Path( name );
             const ProgramRun run = RunPimvcard( { "convert", "-t", "html", "--force", option, path, book } );
             EXPECT_EQ( run.m_status, 2 ) << option << name;
-            EXPECT_EQ( run.m_err, CannotBeWritten( path, "it is one of the files to read" ) ) << option;
+            EXPECT_EQ( run.m_err, CannotBeWritten( path, "it is one of the files to read; choose another name" ) )
+                << option;
             EXPECT_EQ( FileContent( book ), PartCard() ) << option << name;
         }
     }
@@ -144,7 +145,9 @@ TEST( OutputFilesTest, InputIsNotStandardOutput )
     {
         const ProgramRun run = ProgramCall( { command, book } ).WithOutputTo( book ).Run();
         EXPECT_EQ( run.m_status, 2 ) << command;
-        EXPECT_EQ( run.m_err, CannotBeWritten( "standard output", "it is one of the files to read" ) ) << command;
+        EXPECT_EQ( run.m_err,
+                   CannotBeWritten( "standard output", "it is one of the files to read; choose another name" ) )
+            << command;
         EXPECT_EQ( FileContent( book ), PartCard() ) << command;
     }
 }
@@ -175,7 +178,7 @@ TEST( OutputFilesTest, TwoOutputsToOneFileAreRefused )
         const ProgramRun run = RejectsTo( row.m_rejects, { "--force", "-t", "html", "-o", row.m_html } ).Run();
         EXPECT_EQ( run.m_status, 2 ) << row.m_html.constData();
         EXPECT_EQ( run.m_out, "" ) << row.m_html.constData();
-        EXPECT_EQ( run.m_err, CannotBeWritten( row.m_html, "another output is written there" ) );
+        EXPECT_EQ( run.m_err, CannotBeWritten( row.m_html, "another output goes there; choose another name" ) );
         EXPECT_EQ( FileContent( file ).toStdString(), "old" ) << row.m_html.constData();
         EXPECT_EQ( NamesIn( folder.Path( "" ) ), "dangling\nfile\nhardlink\nsymlink\n" ) << row.m_html.constData();
     }
@@ -215,7 +218,8 @@ TEST( OutputFilesTest, StandardOutputHasRoomForOneOutput )
             ProgramCall( { "convert", "-t", form, "--rejects", "-", "-" } ).WithInput( CleanCard() ).Run();
         EXPECT_EQ( run.m_status, 2 ) << form;
         EXPECT_EQ( run.m_out, "" ) << form;
-        EXPECT_EQ( run.m_err, CannotBeWritten( "standard output", "another output is written there" ) ) << form;
+        EXPECT_EQ( run.m_err, CannotBeWritten( "standard output", "another output goes there; choose another name" ) )
+            << form;
     }
 }
 

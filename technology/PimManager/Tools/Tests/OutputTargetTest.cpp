@@ -98,10 +98,10 @@ TEST( OutputTargetTest, UnusableNameHasAReason )
     };
     const std::vector<Row> rows = {
         { "", "No such file or directory" },
-        { names.Path( "" ), "it is a folder" },
-        { names.Path( "sub" ), "it is a folder" },
-        { names.Path( "to-folder" ), "it is a folder" },
-        { ".", "it is a folder" },
+        { names.Path( "" ), "it is a folder; name a file in it" },
+        { names.Path( "sub" ), "it is a folder; name a file in it" },
+        { names.Path( "to-folder" ), "it is a folder; name a file in it" },
+        { ".", "it is a folder; name a file in it" },
         { names.Path( "missing/" ), "No such file or directory" },
         { names.Path( "missing/file" ), "No such file or directory" },
         { names.Path( "file/x" ), "Not a directory" },

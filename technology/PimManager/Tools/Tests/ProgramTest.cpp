@@ -58,8 +58,8 @@ TEST( ProgramTest, WrongUsageIsReportedWithStatusTwo )
         const char* m_hint;
     };
     const std::vector<Row> rows = {
-        { {}, "pimvcard: no command and no file\n", programHint },
-        { { "--quiet" }, "pimvcard: no command and no file\n", programHint },
+        { {}, "pimvcard: no command and no file; \"pimvcard BOOK\" lists an address book\n", programHint },
+        { { "--quiet" }, "pimvcard: no command and no file; \"pimvcard BOOK\" lists an address book\n", programHint },
         { { "--full" }, "pimvcard: Unknown option 'full'.\n", programHint },
         { { "--charset" }, "pimvcard: Missing value after '--charset'.\n", programHint },
         { { "-q", "-c" }, "pimvcard: Missing value after '-c'.\n", programHint },
@@ -70,13 +70,19 @@ TEST( ProgramTest, WrongUsageIsReportedWithStatusTwo )
         { { "help", "lsit" }, "pimvcard: lsit is neither a command nor a file. Did you mean \"list\"?\n", programHint },
         { { "" }, "pimvcard: \"\" is neither a command nor a file.\n", programHint },
         { { "\x1B[2J\xFF" }, "pimvcard: \\x1b[2J\xEF\xBF\xBD is neither a command nor a file.\n", programHint },
-        { { "check" }, "pimvcard: no file to check\n", checkHint },
-        { { "check", "--extents" }, "pimvcard: no file to check\n", checkHint },
+        { { "check" }, "pimvcard: no file to check; - is standard input\n", checkHint },
+        { { "check", "--extents" }, "pimvcard: no file to check; - is standard input\n", checkHint },
         { { "check", "--frob", "x" }, "pimvcard: Unknown option 'frob'.\n", checkHint },
         { { "check", "--extents=yes", "x" }, "pimvcard: Unexpected value after '--extents'.\n", checkHint },
-        { { "check", "-es", "x" }, "pimvcard: --extents and --strict contradict each other\n", checkHint },
-        { { "check", "-eS", "x" }, "pimvcard: --extents and --standard contradict each other\n", checkHint },
-        { { "check", "-sS", "x" }, "pimvcard: --standard and --strict contradict each other\n", checkHint },
+        { { "check", "-es", "x" },
+          "pimvcard: --extents and --strict cannot be combined; run check once for each\n",
+          checkHint },
+        { { "check", "-eS", "x" },
+          "pimvcard: --extents and --standard cannot be combined; run check once for each\n",
+          checkHint },
+        { { "check", "-sS", "x" },
+          "pimvcard: --standard and --strict cannot be combined; run check once for each\n",
+          checkHint },
     };
     for ( const Row& row : rows )
     {

@@ -47,19 +47,19 @@ TEST( StrictCheckTest, EachFileHasItsStatusAndItsReasons )
         { s_kGood + s_kGood, 0, "the strict reader returns 2 cards\n" },
         { "", 0, "the strict reader returns 0 cards\nis empty\n" },
         { s_kGood + s_kBroken + s_kGood, 1, "the strict reader returns 2 cards\n1 of 3 cards refused\n" },
-        { "\r\n", 1, "the strict reader returns 0 cards\nholds no vCard\n" },
+        { "\r\n", 1, "the strict reader returns 0 cards\ncontains no vCard\n" },
         { "BEGIN:VCARD\r\nFN:Tobias\r\n" + s_kGood, 1,
-          "the strict reader returns 1 card\n1 of 2 cards refused\ncard 1 (Tobias) swallowed another card: a "
-          "BEGIN:VCARD line is inside it, so an END:VCARD line seems to be missing\n" },
+          "the strict reader returns 1 card\n1 of 2 cards refused\ncard 1 (Tobias) contains another card: there is a "
+          "BEGIN:VCARD line in it, so its END:VCARD line is probably missing\n" },
         { "BEGIN:VCARD\nEND:VCARD\n", 1,
           "the strict reader returns 0 cards\n1 of 1 cards refused\n2 of 2 lines end in a bare LF; the strict reader "
-          "needs CR LF and loses cards without it\n" },
+          "needs CR LF, which \"pimvcard convert\" writes\n" },
         { "BEGIN:VCARD\r\nEND:VCARD", 1,
           "the strict reader returns 0 cards\n1 of 1 cards refused\nthe last line has no line ending; the strict "
           "reader needs CR LF there, too\n" },
         { s_kGood + "X:" + '\0' + "\r\n" + s_kGood, 1,
-          "the strict reader returns 1 card\n1 of 2 cards refused\nbyte 60 is NUL and nothing after it is read; text "
-          "in UTF-16 looks like this\n" },
+          "the strict reader returns 1 card\n1 of 2 cards refused\nbyte 60 is NUL and nothing after it is read; if the "
+          "text is UTF-16, \"pimvcard convert\" reads it\n" },
     };
     int number = 0;
     for ( const Row& row : rows )
@@ -110,7 +110,7 @@ TEST( StrictCheckTest, HugeFileIsRefusedBeforeItIsReadAndOthersAreRead )
     const ProgramRun run = Check( { huge, book } );
     EXPECT_EQ( run.m_status, 2 );
     EXPECT_EQ( run.m_err, "pimvcard: " + huge.toStdString() + ": is too large: more than " + std::to_string( largest ) +
-                              " bytes cannot be read at once\n" );
+                              " bytes cannot be read at once; leave out --strict\n" );
     EXPECT_EQ( LinesOn( huge, run ), "" );
     EXPECT_EQ( LinesOn( book, run ), "the strict reader returns 1 card\n" );
 }
@@ -124,9 +124,9 @@ TEST( StrictCheckTest, FileThatCannotBeReadIsReported )
         QByteArray m_name;
         const char* m_reason;
     };
-    for ( const Row& row :
-          { Row{ folder.Path( "missing.vcf" ), "No such file or directory" }, Row{ folder.Path( "" ), "is a folder" },
-            Row{ book + "/x", "Not a directory" }, Row{ "/proc/self/mem", "Input/output error" } } )
+    for ( const Row& row : { Row{ folder.Path( "missing.vcf" ), "No such file or directory" },
+                             Row{ folder.Path( "" ), "is a folder; name the files in it" },
+                             Row{ book + "/x", "Not a directory" }, Row{ "/proc/self/mem", "Input/output error" } } )
     {
         const ProgramRun run = Check( { row.m_name, book } );
         EXPECT_EQ( run.m_status, 2 ) << row.m_reason;

@@ -38,6 +38,6 @@ TEST( StrictMemoryTest, FileThatNeedsTooMuchMemoryIsReportedAndOthersAreRead )
     const ScarceMemory scarce( 150000000 );
     const ProgramRun run = RunPimvcard( { "check", "--strict", huge, book } );
     EXPECT_EQ( run.m_status, 2 );
-    EXPECT_EQ( run.m_err, "pimvcard: " + huge.toStdString() + ": needs more memory than there is\n" );
+    EXPECT_EQ( run.m_err, "pimvcard: " + huge.toStdString() + ": there is not enough memory\n" );
     EXPECT_NE( run.m_out.find( "/book: the strict reader returns 1 card\n" ), std::string::npos ) << run.m_out;
 }

@@ -135,7 +135,7 @@ TEST( TerminalTest, CtrlCEndsInOrderWithWhatWasRead )
     EXPECT_NE( run.Pipe().find( "\"name\":\"Tobias\"" ), std::string::npos ) << run.Pipe();
     EXPECT_EQ( run.Pipe().find( "Barnaby" ), std::string::npos ) << run.Pipe();
     EXPECT_EQ( run.Pipe().substr( run.Pipe().size() - 4 ), "}\n]\n" );
-    EXPECT_NE( run.Screen().find( "pimvcard: interrupted; this is what was read until then\npimvcard: 1 file, " ),
+    EXPECT_NE( run.Screen().find( "pimvcard: interrupted; the output has what was read before\npimvcard: 1 file, " ),
                std::string::npos )
         << run.Screen();
     EXPECT_EQ( FileContent( rejects ), "\x01\x02 %%%\r\n" );
@@ -153,7 +153,7 @@ TEST( TerminalTest, CtrlCEndsACheckBehindTheLastWholeCard )
                          "1 × not-a-property; not read to its end\n" ),
         std::string::npos )
         << run.Pipe();
-    EXPECT_EQ( run.Screen(), "pimvcard: interrupted; this is what was read until then\n" );
+    EXPECT_EQ( run.Screen(), "pimvcard: interrupted; the output has what was read before\n" );
 }
 
 TEST( TerminalTest, FilesBehindTheInterruptedOneAreNotRead )

@@ -41,12 +41,12 @@ TEST( ValueFindingsTest, EachProblemIsAFindingAtItsLine )
         { "FN;CHARSET=x-none:J\xF6rg",
           "x:3:1: repaired: the line names an unknown character set and was read as windows-1252 [unknown-charset]" },
         { "FN;CHARSET=Shift_JIS:\x83\x5C\x83",
-          "x:3:1: note: bytes that are no characters of Shift_JIS (1 in all) [malformed-text]" },
+          "x:3:1: note: bytes that are not valid in Shift_JIS (1 in all) [malformed-text]" },
         { "FN;QUOTED-PRINTABLE:1=2=x=3D",
-          "x:3:1: note: \"=\" without two hexadecimal digits behind it (2 in all) [malformed-quoted-printable]" },
+          "x:3:1: note: \"=\" is not followed by two hexadecimal digits (2 in all) [malformed-quoted-printable]" },
         { "FN:\\\"a\\\"", "x:3:1: note: a backslash before a quote was removed (2 in all) [escaped-quote]" },
         { "PHOTO;ENCODING=b:/9j/4AA*",
-          "x:3:1: note: the bytes of the value cannot be decoded from character 8 on [malformed-binary]" },
+          "x:3:1: note: the value cannot be decoded from character 8 on [malformed-binary]" },
         { "FN:a\\qb", "" },
     };
     for ( const Row& row : rows )

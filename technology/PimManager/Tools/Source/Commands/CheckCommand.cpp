@@ -33,7 +33,8 @@ QString ContradictionIn( const CommandLine& a_line )
             ways << QStringLiteral( "--" ) + option;
     }
     return ways.size() < 2 ? QString()
-                           : ways[0] + QStringLiteral( " and " ) + ways[1] + QStringLiteral( " contradict each other" );
+                           : ways[0] + QStringLiteral( " and " ) + ways[1] +
+                                 QStringLiteral( " cannot be combined; run check once for each" );
 }
 
 } // namespace

@@ -43,7 +43,7 @@ struct Request
 
 QString UnknownFormat( const QByteArray& a_name )
 {
-    return QStringLiteral( "unknown format: %1; the formats are %2.%3" )
+    return QStringLiteral( "unknown format: %1; use one of %2.%3" )
         .arg( ToShownFileName( a_name ), FormatNames().join( QStringLiteral( ", " ) ),
               SuggestionFor( QString::fromUtf8( a_name ), FormatNames() ) );
 }
@@ -67,7 +67,8 @@ QString ReadFormat( const CommandLine& a_line, Request& a_request )
         return QString();
     if ( isNamed )
         return UnknownFormat( name );
-    return QStringLiteral( "no format; --to takes %1" ).arg( FormatNames().join( QStringLiteral( ", " ) ) );
+    return QStringLiteral( "no output format; choose one with --to: %1" )
+        .arg( FormatNames().join( QStringLiteral( ", " ) ) );
 }
 
 // The names between the commas.
@@ -96,7 +97,8 @@ QString ReadFilter( const CommandLine& a_line, Request& a_request )
     const QList<QByteArray> names = NamesIn( a_line.Value( s_kFilterOption ) );
     const auto wrong = std::find_if_not( names.begin(), names.end(), IsPropertyName );
     if ( wrong != names.end() )
-        return QStringLiteral( "no name of a property: %1" ).arg( ToShownFileName( *wrong ) );
+        return QStringLiteral( "not a property name: %1; --filter takes names such as FN,N,TEL" )
+            .arg( ToShownFileName( *wrong ) );
     a_request.m_options.m_reader.SetNames( names );
     return QString();
 }
@@ -112,7 +114,7 @@ QString ReadColumns( const CommandLine& a_line, Request& a_request )
     {
         const CsvColumn* const column = FindCsvColumn( name );
         if ( column == nullptr )
-            return QStringLiteral( "unknown column: %1; the columns are %2.%3" )
+            return QStringLiteral( "unknown column: %1; use one of %2.%3" )
                 .arg( ToShownFileName( name ), CsvColumnNames().join( QStringLiteral( ", " ) ),
                       SuggestionFor( QString::fromUtf8( name ), CsvColumnNames() ) );
         a_request.m_columns.push_back( column );
@@ -131,14 +133,14 @@ QString CheckRequest( const CommandLine& a_line, const Request& a_request )
 {
     const std::optional<OutputFormat> format = a_request.m_format;
     if ( a_request.m_isSplit && a_line.IsSet( s_kOutputOption ) )
-        return QStringLiteral( "--split and --output exclude each other" );
+        return QStringLiteral( "--split and --output cannot be combined; leave one of them out" );
     if ( a_request.m_isSplit && !IsCards( *format ) )
-        return QStringLiteral( "--split needs the format 2.1, 3.0, 4.0 or jcard" );
+        return QStringLiteral( "--split needs vCards; choose 2.1, 3.0, 4.0 or jcard with --to" );
     if ( a_request.m_isSorted && ( !format || *format == OutputFormat::Html ) )
-        return QStringLiteral( "--sort does not apply to a page or to pictures" );
+        return QStringLiteral( "--sort does not apply to a page or to pictures; leave it out" );
     const bool isTable = format == OutputFormat::Csv;
     if ( !isTable && ( a_line.IsSet( s_kColumnsOption ) || a_line.IsSet( s_kMarkOption ) ) )
-        return QStringLiteral( "--columns and --mark need the format csv" );
+        return QStringLiteral( "--columns and --mark are for tables; add --to csv" );
     return QString();
 }
 

@@ -22,7 +22,7 @@ namespace
 QString UnknownCharset( const QByteArray& a_name )
 {
     const QStringList names = CharsetNames();
-    return QStringLiteral( "unknown character set: %1; known are %2.%3" )
+    return QStringLiteral( "unknown character set: %1; use one of %2.%3" )
         .arg( ToShownFileName( a_name ), names.join( QStringLiteral( ", " ) ),
               SuggestionFor( QString::fromUtf8( a_name ), names ) );
 }

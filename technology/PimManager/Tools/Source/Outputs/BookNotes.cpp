@@ -1,5 +1,6 @@
 #include "Outputs/BookNotes.h"
 
+#include "Outputs/DiagnosticText.h"
 #include "Outputs/ReportText.h"
 #include "Terminal/Wording.h"
 
@@ -13,16 +14,31 @@ using namespace Contacts;
 namespace
 {
 
-// A book of usual cards exceeds these two first.
 QString LimitHint( const PimContactReport& a_report )
 {
     QStringList options;
-    if ( a_report.Findings( PimContactDiagnosticCode::TooManyCards ) > 0 )
-        options << QStringLiteral( "--max-cards" );
-    if ( a_report.Findings( PimContactDiagnosticCode::BookTooLong ) > 0 )
-        options << QStringLiteral( "--max-book-bytes" );
+    for ( int number = 0; number < s_kPimContactDiagnosticCodes; ++number )
+    {
+        const auto code = static_cast<PimContactDiagnosticCode>( number );
+        if ( a_report.Findings( code ) > 0 )
+            options << LimitOptionOf( code );
+    }
+    options.removeAll( QString() );
     const QString hint = options.join( QLatin1String( " and " ) );
-    return hint.isEmpty() ? hint : QStringLiteral( "; set %1, 0 is no limit" ).arg( hint );
+    return hint.isEmpty() ? hint : QStringLiteral( "; raise %1 (0 is no limit)" ).arg( hint );
+}
+
+QString NextStep( PimContactFileKind a_kind )
+{
+    switch ( a_kind )
+    {
+    case PimContactFileKind::AddressBook:
+        return QStringLiteral( "; \"pimvcard check\" shows where" );
+    case PimContactFileKind::Compressed:
+        return QStringLiteral( "; unpack it first" );
+    default:
+        return QStringLiteral( "; export the contacts as vCard" );
+    }
 }
 
 } // namespace
@@ -44,9 +60,8 @@ void BookNotes::EndBook( const BookInRun& a_book )
     m_console.Out().Flush();
     if ( losses.isEmpty() || !m_console.IsOpen() )
         return;
-    const bool isBook = report.FileKind() == PimContactFileKind::AddressBook;
-    const QString hint = isBook ? QStringLiteral( "; \"pimvcard check\" shows where" ) : QString();
-    m_console.Remark( a_book.m_source + QStringLiteral( ": " ) + losses + LimitHint( report ) + hint );
+    const QString source = m_console.ErrScreen().Isolated( a_book.m_source );
+    m_console.Remark( source + QStringLiteral( ": " ) + losses + LimitHint( report ) + NextStep( report.FileKind() ) );
 }
 
 QString BookNotes::Result() const

@@ -121,7 +121,8 @@ void CsvLosses::Remark( Console& a_console ) const
     if ( rest > 0 )
         texts << QStringLiteral( "%1 others" ).arg( rest );
     if ( !texts.isEmpty() )
-        a_console.Remark( QStringLiteral( "no column for " ) + texts.join( QLatin1String( ", " ) ) );
+        a_console.Remark(
+            QStringLiteral( "no column for %1; --to json has them" ).arg( texts.join( QLatin1String( ", " ) ) ) );
 }
 
 QString CsvLosses::Result() const

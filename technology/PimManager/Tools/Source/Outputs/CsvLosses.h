@@ -21,7 +21,7 @@ class CsvLosses
 public:
     void Add( const Contacts::PimContact& a_contact );
 
-    /// Writes a remark such as `no column for 12 × PHOTO, 3 × GEO`, unless there is nothing to say.
+    /// Writes a remark such as `no column for 12 × PHOTO, 3 × GEO; --to json has them`, unless there is nothing to say.
     void Remark( Console& a_console ) const;
 
     /// \return a few words for the totals, such as ` (15 properties left out)`; empty if there are none.

@@ -15,4 +15,7 @@ namespace PimManager::Tools
 ///         `book.vcf:12:7: repaired: the last line has no line ending [last-line-end]`.
 QString DiagnosticText( const QString& a_source, const Contacts::PimContactDiagnostic& a_diagnostic );
 
+/// \return the option that sets the limit which a finding is about, such as `--max-cards`; empty for other findings.
+QString LimitOptionOf( Contacts::PimContactDiagnosticCode a_code );
+
 } // namespace PimManager::Tools

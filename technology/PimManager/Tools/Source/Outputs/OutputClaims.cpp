@@ -32,11 +32,11 @@ QString OutputClaims::Claim( const OutputTarget& a_target )
     for ( const FileIdentity& identity : a_target.Identities() )
     {
         if ( m_inputs.count( identity ) > 0 )
-            return QStringLiteral( "it is one of the files to read" );
+            return QStringLiteral( "it is one of the files to read; choose another name" );
         isNew = m_outputs.insert( identity ).second && isNew;
     }
     if ( !isNew )
-        return QStringLiteral( "another output is written there" );
+        return QStringLiteral( "another output goes there; choose another name" );
     const bool isStandardOutput = a_target.GetKind() == OutputTarget::Kind::StandardOutput;
     m_hasStandardOutput = m_hasStandardOutput || isStandardOutput;
     m_hasFiles = m_hasFiles || !isStandardOutput;

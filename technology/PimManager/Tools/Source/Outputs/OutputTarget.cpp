@@ -101,7 +101,7 @@ void OutputTarget::TakeDescriptor( int a_number )
 void OutputTarget::TakeFile( const struct stat& a_status )
 {
     if ( S_ISDIR( a_status.st_mode ) )
-        return Refuse( QStringLiteral( "it is a folder" ) );
+        return Refuse( QStringLiteral( "it is a folder; name a file in it" ) );
     if ( S_ISBLK( a_status.st_mode ) )
         return Refuse( QStringLiteral( "it is a block device" ) );
     if ( S_ISREG( a_status.st_mode ) )

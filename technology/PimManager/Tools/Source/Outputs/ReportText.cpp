@@ -108,7 +108,7 @@ QString Lines( qint64 a_count )
 QString WithoutCardText( PimContactFileKind a_kind )
 {
     const bool isKnown = a_kind != PimContactFileKind::Text && a_kind != PimContactFileKind::Unknown;
-    return isKnown ? KindText( a_kind ) : QStringLiteral( "holds no vCard" );
+    return isKnown ? KindText( a_kind ) : QStringLiteral( "contains no vCard" );
 }
 
 QStringList SummaryFacts( const PimContactReport& a_report, const QList<FindingCount>& a_values )

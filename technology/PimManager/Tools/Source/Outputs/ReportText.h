@@ -45,8 +45,8 @@ QString SummaryText( const Contacts::PimContactReport& a_report, bool a_isReadTo
 
 /// \param a_isReadToEnd false if the reading was interrupted or failed.
 /// \return what is missing, such as `1 card refused, 2 lines dropped`. Of a file that is not empty and has no card:
-///         `holds no vCard`, or what it is, such as `is a PDF document`. Empty if nothing is missing; then StatusOf()
-///         is AllGiven.
+///         `contains no vCard`, or what it is, such as `is a PDF document`. Empty if nothing is missing; then
+///         StatusOf() is AllGiven.
 QString LossesText( const Contacts::PimContactReport& a_report, bool a_isReadToEnd );
 
 /// \param a_isReadToEnd false if the reading was interrupted or failed.

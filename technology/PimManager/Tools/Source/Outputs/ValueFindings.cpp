@@ -32,14 +32,15 @@ constexpr std::array s_kFindings = {
     Finding{ Problem::AssumedCharset, PimContactSeverity::Repaired, "assumed-charset",
              "the line names no character set and was read as %1" },
     Finding{ Problem::MalformedText, PimContactSeverity::Note, "malformed-text",
-             "bytes that are no characters of %1 (%2 in all)" },
-    Finding{ Problem::MissingCodec, PimContactSeverity::Note, "missing-codec", "this system cannot decode %1" },
+             "bytes that are not valid in %1 (%2 in all)" },
+    Finding{ Problem::MissingCodec, PimContactSeverity::Note, "missing-codec",
+             "this system cannot decode %1; install its iconv module" },
     Finding{ Problem::MalformedQuotedPrintable, PimContactSeverity::Note, "malformed-quoted-printable",
-             "\"=\" without two hexadecimal digits behind it (%2 in all)" },
+             "\"=\" is not followed by two hexadecimal digits (%2 in all)" },
     Finding{ Problem::EscapedQuote, PimContactSeverity::Note, "escaped-quote",
              "a backslash before a quote was removed (%2 in all)" },
     Finding{ Problem::MalformedBinary, PimContactSeverity::Note, "malformed-binary",
-             "the bytes of the value cannot be decoded from character %3 on" },
+             "the value cannot be decoded from character %3 on" },
 };
 
 // An unknown name says more than that another character set was used.

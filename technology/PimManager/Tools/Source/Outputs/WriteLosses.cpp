@@ -45,7 +45,7 @@ void WriteLosses::Remark( Console& a_console ) const
     for ( const QString& text : m_first )
         a_console.Remark( text );
     if ( m_notes > m_first.size() )
-        a_console.Remark( QStringLiteral( "%1 more of these" ).arg( m_notes - m_first.size() ) );
+        a_console.Remark( QStringLiteral( "%1 more; the totals count them" ).arg( m_notes - m_first.size() ) );
 }
 
 QString WriteLosses::Result() const

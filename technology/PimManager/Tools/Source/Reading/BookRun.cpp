@@ -67,7 +67,7 @@ ExitStatus BookRun::Finish( ExitStatus a_status )
 {
     if ( !Interrupt::IsRequested() )
         return a_status;
-    m_console.Tell( QStringLiteral( "interrupted; this is what was read until then" ) );
+    m_console.Tell( QStringLiteral( "interrupted; the output has what was read before" ) );
     return ExitStatus::Interrupted;
 }
 
@@ -104,7 +104,7 @@ QString BookRun::ReadInput( InputDevice& a_input, BookTask& a_task )
     }
     catch ( const std::bad_alloc& )
     {
-        return QStringLiteral( "needs more memory than there is" );
+        return QStringLiteral( "there is not enough memory" );
     }
     return a_input.Error() != 0 ? a_input.Reason() : QString();
 }

@@ -135,7 +135,7 @@ void ContactRun::ForEachOutput( Call a_call )
         }
         catch ( const std::bad_alloc& )
         {
-            output->Fail( QStringLiteral( "it needs more memory than there is" ) );
+            output->Fail( QStringLiteral( "there is not enough memory" ) );
             throw;
         }
     }

@@ -46,7 +46,7 @@ InputDevice::~InputDevice()
 
 QString InputDevice::Reason() const
 {
-    return m_error == EISDIR ? QStringLiteral( "is a folder" ) : qt_error_string( m_error );
+    return m_error == EISDIR ? QStringLiteral( "is a folder; name the files in it" ) : qt_error_string( m_error );
 }
 
 // As the system's read, without its interruptions but for ours.

@@ -34,7 +34,7 @@ void NoteMissingCards( const BookAccount& a_account, QStringList& a_notes )
 {
     const qint64 refused = a_account.Refused();
     if ( !a_account.HoldsVCards() )
-        a_notes << QStringLiteral( "holds no vCard" );
+        a_notes << QStringLiteral( "contains no vCard" );
     else if ( a_account.m_cards + refused <= a_account.m_beginLines )
         a_notes << QStringLiteral( "%1 of %2 cards refused" ).arg( refused ).arg( a_account.m_beginLines );
     else
@@ -45,13 +45,14 @@ void NoteSwallowers( const BookAccount& a_account, QStringList& a_notes )
 {
     const QStringList named = ShortenedList( a_account.m_swallowers );
     for ( const QString& card : named )
-        a_notes << card + QStringLiteral( " swallowed another card: a BEGIN:VCARD line is inside it, so an "
-                                          "END:VCARD line seems to be missing" );
+        a_notes << card + QStringLiteral( " contains another card: there is a BEGIN:VCARD line in it, so its END:VCARD "
+                                          "line is probably missing" );
 }
 
 QString LineEndNote( qint64 a_count, qint64 a_all, const QString& a_kind )
 {
-    return QStringLiteral( "%1 of %2 lines end in a bare %3; the strict reader needs CR LF and loses cards without it" )
+    return QStringLiteral(
+               "%1 of %2 lines end in a bare %3; the strict reader needs CR LF, which \"pimvcard convert\" writes" )
         .arg( a_count )
         .arg( a_all )
         .arg( a_kind );
@@ -118,8 +119,10 @@ QStringList NotesOn( const BookAccount& a_account )
     NoteMissingCards( a_account, notes );
     NoteSwallowers( a_account, notes );
     if ( a_account.m_nulPosition >= 0 )
-        notes << QStringLiteral( "byte %1 is NUL and nothing after it is read; text in UTF-16 looks like this" )
-                     .arg( a_account.m_nulPosition + 1 );
+        notes
+            << QStringLiteral(
+                   "byte %1 is NUL and nothing after it is read; if the text is UTF-16, \"pimvcard convert\" reads it" )
+                   .arg( a_account.m_nulPosition + 1 );
     if ( a_account.HoldsVCards() )
         NoteLineEnds( a_account, notes );
     return notes;

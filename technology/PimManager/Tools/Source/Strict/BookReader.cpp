@@ -14,7 +14,9 @@ constexpr qint64 s_kBlock = 1 << 18;
 
 Book TooLarge( qint64 a_limit )
 {
-    return { {}, QStringLiteral( "is too large: more than %1 bytes cannot be read at once" ).arg( a_limit ) };
+    return { {},
+             QStringLiteral( "is too large: more than %1 bytes cannot be read at once; leave out --strict" )
+                 .arg( a_limit ) };
 }
 
 } // namespace

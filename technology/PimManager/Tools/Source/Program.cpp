@@ -81,7 +81,7 @@ bool IsUnknownCommand( const QByteArray& a_word )
 ExitStatus RunCommand( const CommandLine& a_line, Console& a_console )
 {
     if ( a_line.IsSet( s_kHelpOption ) )
-        return a_console.Show( a_line.HelpText() );
+        return a_console.Show( CommandText( a_line.Command(), a_console.OutScreen() ) );
     if ( a_line.IsSet( s_kVersionOption ) )
         return a_console.Show( VersionText() );
     a_console.SetRemarksWanted( !a_line.IsSet( s_kQuietOption ) );
@@ -101,7 +101,7 @@ ExitStatus RunCommand( const CommandLine& a_line, Console& a_console )
 ExitStatus RunNothing( const CommandLine& a_line, Console& a_console )
 {
     if ( a_line.IsSet( s_kHelpOption ) )
-        return a_console.Show( OverviewText() );
+        return a_console.Show( OverviewText( a_console.OutScreen() ) );
     if ( a_line.IsSet( s_kVersionOption ) )
         return a_console.Show( VersionText() );
     return a_console.Refuse( QStringLiteral( "no command and no file; \"pimvcard BOOK\" lists an address book" ),

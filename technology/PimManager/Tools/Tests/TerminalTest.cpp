@@ -4,6 +4,7 @@
 #include "Terminal/TextColumns.h"
 #include "TestBooks.h"
 
+#include <algorithm>
 #include <csignal>
 
 using namespace PimManager::Tools;
@@ -77,6 +78,22 @@ TEST( TerminalTest, UsersVariablesCount )
     narrow.Feed( CleanCard() );
     EXPECT_EQ( narrow.Finish(), 0 );
     EXPECT_EQ( narrow.Screen().find( "NAME  NUMBER, MAIL,\n" ), 0U ) << narrow.Screen();
+}
+
+TEST( TerminalTest, HelpFitsTheTerminal )
+{
+    for ( const char* command : { "list", "show", "check", "convert", "help" } )
+    {
+        for ( const int columns : { 40, 79, 100, 200 } )
+        {
+            TerminalRun run( { "help", command }, TerminalRun::Watched::Both, columns );
+            EXPECT_EQ( run.Finish(), 0 );
+            const QStringList lines = QString::fromStdString( run.Screen() ).split( QLatin1Char( '\n' ) );
+            EXPECT_GT( lines.size(), 8 ) << command;
+            for ( const QString& line : lines )
+                EXPECT_LE( ColumnsOf( line ), std::min( columns, 100 ) ) << command << ": " << Utf8( line );
+        }
+    }
 }
 
 TEST( TerminalTest, MessagesAreWrappedAndMarked )

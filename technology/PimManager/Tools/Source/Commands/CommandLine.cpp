@@ -8,26 +8,11 @@
 namespace PimManager::Tools
 {
 
-namespace
-{
-
-// `BOOK` for `BOOK...`, and `COMMAND` for `[COMMAND]`.
-QString ArgumentName( const CommandInfo& a_command )
-{
-    QString name = a_command.m_arguments;
-    return name.remove( QLatin1Char( '.' ) ).remove( QLatin1Char( '[' ) ).remove( QLatin1Char( ']' ) );
-}
-
-} // namespace
-
 CommandLine::CommandLine( const CommandInfo& a_command ) :
     m_command( a_command )
 {
-    m_parser.setApplicationDescription( a_command.m_summary );
     AddOptions( a_command.m_options );
     AddOptions( CommonOptions() );
-    m_parser.addPositionalArgument( ArgumentName( a_command ), a_command.m_argumentsHelp,
-                                    a_command.m_name + QLatin1Char( ' ' ) + a_command.m_arguments );
 }
 
 void CommandLine::AddOptions( const std::vector<OptionInfo>& a_options )
@@ -37,7 +22,7 @@ void CommandLine::AddOptions( const std::vector<OptionInfo>& a_options )
         QStringList names( option.m_name );
         if ( !option.m_letter.isEmpty() )
             names.prepend( option.m_letter );
-        m_parser.addOption( QCommandLineOption( names, option.m_help, option.m_argument ) );
+        m_parser.addOption( QCommandLineOption( names, QString(), option.m_argument ) );
         m_options << QStringLiteral( "--" ) + option.m_name;
     }
 }
@@ -75,11 +60,6 @@ QList<QByteArray> CommandLine::Arguments() const
     for ( const QString& text : texts )
         arguments.append( text.toLatin1() );
     return arguments;
-}
-
-QString CommandLine::HelpText() const
-{
-    return m_parser.helpText() + m_command.m_helpTail;
 }
 
 } // namespace PimManager::Tools

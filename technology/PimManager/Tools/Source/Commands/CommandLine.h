@@ -40,9 +40,6 @@ public:
     /// \return the arguments that are no options, byte for byte.
     QList<QByteArray> Arguments() const;
 
-    /// \return usage and options. Needs a QCoreApplication, whose first argument is the name of the program.
-    QString HelpText() const;
-
 private:
     void AddOptions( const std::vector<OptionInfo>& a_options );
 

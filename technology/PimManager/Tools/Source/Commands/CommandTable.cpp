@@ -26,7 +26,7 @@ OptionInfo Valued( const QString& a_letter, const QString& a_name, const QString
 
 // A command that reads address books. Its own options precede those that all of them have.
 CommandInfo Reading( const QString& a_name, const QString& a_summary, const std::vector<OptionInfo>& a_options,
-                     const QString& a_remarks )
+                     const QStringList& a_remarks )
 {
     CommandInfo command;
     command.m_name = a_name;
@@ -43,25 +43,27 @@ CommandInfo Reading( const QString& a_name, const QString& a_summary, const std:
     command.m_options.insert( command.m_options.end(), limits.begin(), limits.end() );
     command.m_helpTail =
         a_remarks +
-        QStringLiteral( "\nA NUMBER may end in K, M or G for 1024, 1024 K or 1024 M. 0 means no limit. A line beyond\n"
-                        "its limit is dropped, a card beyond one is refused, and the rest of the file is read.\n"
-                        "\nExit status: 0 everything is delivered whole or repaired, 1 something is dropped or\n"
-                        "refused or a file holds no vCard, 2 wrong usage, or a file that cannot be read or written,\n"
-                        "130 interrupted.\n" );
+        QStringList{
+            QStringLiteral( "A NUMBER may end in K, M or G for 1024, 1024 K or 1024 M. 0 means no limit. A line "
+                            "beyond its limit is dropped, a card beyond one is refused, and the rest of the "
+                            "file is read." ),
+            QStringLiteral( "Exit status: 0 everything is delivered whole or repaired, 1 something is dropped "
+                            "or refused or a file contains no vCard, 2 wrong usage, or a file that cannot be "
+                            "read or written, 130 interrupted." ) };
     return command;
 }
 
 CommandInfo List()
 {
     return Reading( QStringLiteral( "list" ), QStringLiteral( "Prints a table of the contacts." ), {},
-                    QStringLiteral( "\n\"pimvcard BOOK...\" does the same.\n" ) );
+                    { QStringLiteral( "\"pimvcard BOOK...\" does the same." ) } );
 }
 
 CommandInfo Show()
 {
     return Reading( QStringLiteral( "show" ), QStringLiteral( "Prints everything that the cards hold, for reading." ),
                     { Flag( QStringLiteral( "F" ), s_kFullOption, QStringLiteral( "Prints long values whole." ) ) },
-                    QString() );
+                    {} );
 }
 
 CommandInfo Check()
@@ -77,11 +79,12 @@ CommandInfo Check()
           Flag( QStringLiteral( "s" ), s_kStrictOption,
                 QStringLiteral( "Reads each file with the strict vCard component, and prints its log and how many "
                                 "cards it returns." ) ) },
-        QStringLiteral(
-            "\nPrints one line for each finding, FILE:LINE:COLUMN: SEVERITY: TEXT [WORD], and one for each file.\n"
-            "Severities: note, delivered as written; repaired, what was meant is delivered; dropped, left out of a\n"
-            "card; refused, a whole card or file left out; invalid, not as the standard demands (--standard). The\n"
-            "exit status is 1 as well if anything is invalid.\n" ) );
+        { QStringLiteral( "Prints one line for each finding, FILE:LINE:COLUMN: SEVERITY: TEXT [WORD], and one for each "
+                          "file." ),
+          QStringLiteral(
+              "Severities: note, delivered as written; repaired, what was meant is delivered; dropped, left "
+              "out of a card; refused, a whole card or file left out; invalid, not as the standard demands "
+              "(--standard). The exit status is 1 as well if anything is invalid." ) } );
 }
 
 CommandInfo Convert()
@@ -118,10 +121,9 @@ CommandInfo Convert()
                   QStringLiteral( "Writes what was refused or dropped, as it was found." ) ),
           Flag( QStringLiteral( "f" ), s_kForceOption,
                 QStringLiteral( "Lets the outputs replace files that exist." ) ) },
-        QStringLiteral(
-            "\nAs FILE, - is standard output. A file appears only when it is complete. Several books are joined.\n"
-            "Contacts are written as they are read, so the size of the books does not matter, unless --sort\n"
-            "is given. A page is sorted by name. What the format cannot say is reported on standard error.\n" ) );
+        { QStringLiteral( "As FILE, - is standard output. A file appears only when it is complete. Several books are "
+                          "joined. Contacts are written as they are read, so the size of the books does not matter, "
+                          "unless --sort is given. What the format cannot say is reported on standard error." ) } );
 }
 
 CommandInfo Help()

@@ -35,8 +35,8 @@ struct CommandInfo
     QString m_arguments;
     /// Without those of CommonOptions().
     std::vector<OptionInfo> m_options;
-    /// What help says below the options.
-    QString m_helpTail;
+    /// What help says below the options, in paragraphs.
+    QStringList m_helpTail;
     /// What help says about the arguments.
     QString m_argumentsHelp;
 };

@@ -1,5 +1,6 @@
 #include "Commands/HelpCommand.h"
 
+#include "Commands/HelpText.h"
 #include "Commands/Suggestion.h"
 #include "Terminal/TerminalText.h"
 
@@ -9,37 +10,72 @@ namespace PimManager::Tools
 namespace
 {
 
-constexpr int s_kWidth = 17;
+using Rows = QList<HelpText::Row>;
 
-QString Row( const QString& a_name, const QString& a_text )
+void AddOptions( const std::vector<OptionInfo>& a_options, Rows& a_rows )
 {
-    return QStringLiteral( "  " ) + a_name.leftJustified( s_kWidth ) + a_text + QLatin1Char( '\n' );
+    for ( const OptionInfo& option : a_options )
+    {
+        QString name = option.m_letter.isEmpty() ? QString() : QStringLiteral( "-%1, " ).arg( option.m_letter );
+        name += QStringLiteral( "--" ) + option.m_name;
+        if ( !option.m_argument.isEmpty() )
+            name += QStringLiteral( " <%1>" ).arg( option.m_argument );
+        a_rows << HelpText::Row{ name, option.m_help };
+    }
+}
+
+// `BOOK` for `BOOK...`, and `COMMAND` for `[COMMAND]`.
+QString ArgumentName( const CommandInfo& a_command )
+{
+    QString name = a_command.m_arguments;
+    return name.remove( QLatin1Char( '.' ) ).remove( QLatin1Char( '[' ) ).remove( QLatin1Char( ']' ) );
 }
 
 } // namespace
 
-QString OverviewText()
+QString OverviewText( const Screen& a_screen )
 {
-    QString text = QStringLiteral( "Usage: pimvcard [COMMAND] [options] BOOK...\n"
-                                   "Reads the address books that phones and mail programs write (vCard).\n"
-                                   "\nCommands:\n" );
+    HelpText text( a_screen );
+    text.AddText( QStringLiteral( "Usage: pimvcard [COMMAND] [options] BOOK...\n"
+                                  "Reads the address books that phones and mail programs write (vCard).\n"
+                                  "\nCommands:" ) );
+    Rows commands;
     for ( const CommandInfo& command : Commands() )
-        text += Row( command.m_name, command.m_summary );
-    text += QStringLiteral( "\nWithout a command, the contacts are listed. As BOOK, - is standard input.\n"
-                            "\nOptions of all commands:\n" );
-    for ( const OptionInfo& option : CommonOptions() )
-        text += Row( QStringLiteral( "-%1, --%2" ).arg( option.m_letter, option.m_name ), option.m_help );
-    return text + QStringLiteral( "\n\"pimvcard help COMMAND\" shows the options of a command.\n" );
+        commands << HelpText::Row{ command.m_name, command.m_summary };
+    text.AddRows( commands );
+    text.AddText( QStringLiteral( "\nWithout a command, the contacts are listed. As BOOK, - is standard input.\n"
+                                  "\nOptions of all commands:" ) );
+    Rows options;
+    AddOptions( CommonOptions(), options );
+    text.AddRows( options );
+    text.AddText( QStringLiteral( "\n\"pimvcard help COMMAND\" shows the options of a command." ) );
+    return text.Text();
+}
+
+QString CommandText( const CommandInfo& a_command, const Screen& a_screen )
+{
+    HelpText text( a_screen );
+    text.AddText( QStringLiteral( "Usage: pimvcard [options] %1 %2\n%3\n\nOptions:" )
+                      .arg( a_command.m_name, a_command.m_arguments, a_command.m_summary ) );
+    Rows options;
+    AddOptions( a_command.m_options, options );
+    AddOptions( CommonOptions(), options );
+    text.AddRows( options );
+    text.AddText( QStringLiteral( "\nArguments:" ) );
+    text.AddRows( { { ArgumentName( a_command ), a_command.m_argumentsHelp } } );
+    for ( const QString& paragraph : a_command.m_helpTail )
+        text.AddText( QLatin1Char( '\n' ) + paragraph );
+    return text.Text();
 }
 
 ExitStatus RunHelp( const CommandLine& a_line, Console& a_console )
 {
     const QList<QByteArray> words = a_line.Arguments();
     if ( words.isEmpty() )
-        return a_console.Show( OverviewText() );
+        return a_console.Show( OverviewText( a_console.OutScreen() ) );
     const CommandInfo* const command = FindCommand( words.first() );
     return command == nullptr ? RefuseCommand( words.first(), a_console )
-                              : a_console.Show( CommandLine( *command ).HelpText() );
+                              : a_console.Show( CommandText( *command, a_console.OutScreen() ) );
 }
 
 ExitStatus RefuseCommand( const QByteArray& a_word, Console& a_console )

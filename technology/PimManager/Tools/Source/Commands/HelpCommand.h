@@ -14,7 +14,10 @@ namespace PimManager::Tools
 {
 
 /// \return what `pimvcard --help` shows: all commands, and the options that all of them have.
-QString OverviewText();
+QString OverviewText( const Screen& a_screen );
+
+/// \return the usage, the options and the arguments of a command.
+QString CommandText( const CommandInfo& a_command, const Screen& a_screen );
 
 /// Explains the command that the user named, or all of them.
 ExitStatus RunHelp( const CommandLine& a_line, Console& a_console );

@@ -35,14 +35,14 @@ TEST( TerminalTest, TableFitsTheTerminal )
 TEST( TerminalTest, ExamplesFitTheTerminal )
 {
     const QByteArray folder = PIMVCARD_EXAMPLES;
-    for ( const char* command : { "list", "show" } )
+    for ( const char* command : { "list", "show", "check" } )
     {
         for ( const int columns : { 40, 80 } )
         {
             TerminalRun run( { command, "--quiet", folder + "/messy-phonebook.vcf", folder + "/phonebook.vcf" },
                              TerminalRun::Watched::Both, columns );
             EXPECT_EQ( run.Finish(), 1 );
-            EXPECT_NE( run.Screen().find( "+1-555-0101" ), std::string::npos );
+            EXPECT_GT( run.Screen().size(), 1000U ) << command;
             const QStringList lines = QString::fromStdString( run.Screen() ).split( QLatin1Char( '\n' ) );
             for ( const QString& line : lines )
                 EXPECT_LE( ColumnsOf( line ), columns ) << command << ": " << Utf8( line );

@@ -13,6 +13,8 @@ using namespace Contacts;
 namespace
 {
 
+constexpr int s_kIndent = 4;
+
 Ink InkOf( const QString& a_severity )
 {
     if ( a_severity == NameOf( PimContactSeverity::Refused ) || a_severity == NameOf( PimContactSeverity::Dropped ) )
@@ -54,25 +56,29 @@ void CheckReport::EndBook( const BookInRun& a_book )
     if ( !invalid.isEmpty() )
         m_status = ExitStatus::SomeRefused;
     const QString summary = SummaryText( a_book.m_report, a_book.m_isReadToEnd, m_values.Counts() + invalid );
-    m_device.write( ( m_source + QStringLiteral( ": " ) + summary + QLatin1Char( '\n' ) ).toUtf8() );
+    const QString text = m_screen.Wrapped( m_source + QStringLiteral( ": " ) + summary, s_kIndent );
+    m_device.write( text.toUtf8() + '\n' );
 }
 
 void CheckReport::Write( const QStringList& a_findings )
 {
     for ( const QString& finding : a_findings )
-        m_device.write( Painted( finding ).toUtf8() + '\n' );
+        m_device.write( Shown( finding ).toUtf8() + '\n' );
 }
 
 // The severity is between the first two colons with a blank behind the name.
-QString CheckReport::Painted( const QString& a_finding ) const
+QString CheckReport::Shown( const QString& a_finding ) const
 {
-    if ( !m_screen.m_isColoured )
+    if ( !m_screen.IsTerminal() )
         return a_finding;
     const QString colon = QStringLiteral( ": " );
     const auto start = a_finding.indexOf( colon, m_source.size() ) + colon.size();
-    const auto end = a_finding.indexOf( colon, start );
-    const QString severity = a_finding.mid( start, end - start );
-    return a_finding.left( start ) + m_screen.Painted( severity, InkOf( severity ) ) + a_finding.mid( end );
+    const QString severity = a_finding.mid( start, a_finding.indexOf( colon, start ) - start );
+    const QString text = m_screen.Wrapped( a_finding, s_kIndent );
+    const auto place = text.indexOf( severity + QLatin1Char( ':' ), m_source.size() );
+    return place < 0 ? text
+                     : text.left( place ) + m_screen.Painted( severity, InkOf( severity ) ) +
+                           text.mid( place + severity.size() );
 }
 
 } // namespace PimManager::Tools

@@ -14,8 +14,8 @@ namespace PimManager::Tools
 {
 
 /// Writes one line for each finding as soon as it is made, in the form that compilers use, and a summary after each
-/// file. What is wrong with the values of a card follows everything else about the card, and what does not conform to
-/// its standard comes last.
+/// file. On a terminal, lines are wrapped and severities have colours. What is wrong with the values of a card follows
+/// everything else about the card, and what does not conform to its standard comes last.
 ///
 ///     book.vcf:12:7: repaired: the last line has no line ending [last-line-end]
 ///     book.vcf: 3 cards: 3 whole; CR LF line endings; UTF-8 (valid); version 3.0; 1 × last-line-end
@@ -40,7 +40,7 @@ public:
 
 private:
     void Write( const QStringList& a_findings );
-    QString Painted( const QString& a_finding ) const;
+    QString Shown( const QString& a_finding ) const;
 
     QIODevice& m_device;
     const Screen m_screen;

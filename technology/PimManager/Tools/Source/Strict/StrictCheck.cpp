@@ -64,8 +64,11 @@ ExitStatus StrictCheck::EndBook()
 
 void StrictCheck::Write( const QString& a_text )
 {
-    const QString source = m_console.OutScreen().Isolated( m_source );
-    m_console.Out().write( ( source + QStringLiteral( ": " ) + a_text + QLatin1Char( '\n' ) ).toUtf8() );
+    constexpr int s_kIndent = 4;
+    const Screen& screen = m_console.OutScreen();
+    const QString source = screen.Isolated( m_source );
+    const QString text = screen.Wrapped( source + QStringLiteral( ": " ) + a_text, s_kIndent );
+    m_console.Out().write( text.toUtf8() + '\n' );
 }
 
 } // namespace PimManager::Tools

@@ -1,8 +1,5 @@
 #include "Terminal/Console.h"
 
-#include "Terminal/TextColumns.h"
-
-#include <algorithm>
 #include <cerrno>
 
 namespace PimManager::Tools
@@ -25,12 +22,8 @@ void Console::Remark( const QString& a_text )
 void Console::Write( const QString& a_text, Ink a_ink )
 {
     constexpr int s_kIndent = 2;
-    constexpr int s_kNarrowest = 20;
     const QString start = QStringLiteral( "pimvcard:" );
-    QString text = start + QLatin1Char( ' ' ) + a_text;
-    if ( m_errScreen.IsTerminal() )
-        text = Wrapped( text, std::max( m_errScreen.m_columns - s_kIndent, s_kNarrowest ) )
-                   .join( QLatin1Char( '\n' ) + QString( s_kIndent, QLatin1Char( ' ' ) ) );
+    const QString text = m_errScreen.Wrapped( start + QLatin1Char( ' ' ) + a_text, s_kIndent );
     m_out.Flush();
     m_err.write( ( m_errScreen.Painted( start, a_ink ) + text.mid( start.size() ) + QLatin1Char( '\n' ) ).toUtf8() );
     m_err.Flush();

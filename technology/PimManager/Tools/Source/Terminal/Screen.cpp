@@ -1,9 +1,11 @@
 #include "Terminal/Screen.h"
 
 #include "Terminal/CodePoints.h"
+#include "Terminal/TextColumns.h"
 
 #include <QByteArray>
 
+#include <algorithm>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -17,7 +19,7 @@ constexpr QChar s_kFirstStrongIsolate = QChar( 0x2068 );
 constexpr QChar s_kPopIsolate = QChar( 0x2069 );
 
 // The number in COLUMNS, what the terminal reports, or what is usual.
-int ColumnsOf( int a_descriptor )
+int WidthOf( int a_descriptor )
 {
     constexpr int s_kUsual = 80;
     constexpr int s_kMost = 10000;
@@ -65,6 +67,15 @@ QString Screen::Painted( const QString& a_text, Ink a_ink ) const
     return Start( a_ink ) + a_text + QStringLiteral( "\x1B[0m" );
 }
 
+QString Screen::Wrapped( const QString& a_text, int a_indent ) const
+{
+    constexpr int s_kNarrowest = 16;
+    if ( !IsTerminal() )
+        return a_text;
+    return Tools::Wrapped( a_text, std::max( m_columns - a_indent, s_kNarrowest ) )
+        .join( QLatin1Char( '\n' ) + QString( a_indent, QLatin1Char( ' ' ) ) );
+}
+
 QString Screen::Isolated( const QString& a_text ) const
 {
     if ( !IsTerminal() || !IsFromRightToLeft( a_text ) )
@@ -76,7 +87,7 @@ Screen ScreenOf( int a_descriptor )
 {
     if ( ::isatty( a_descriptor ) == 0 )
         return {};
-    return { ColumnsOf( a_descriptor ), CanRewriteLines() && qgetenv( "NO_COLOR" ).isEmpty() };
+    return { WidthOf( a_descriptor ), CanRewriteLines() && qgetenv( "NO_COLOR" ).isEmpty() };
 }
 
 bool CanRewriteLines()

@@ -30,6 +30,10 @@ struct Screen
     /// \return the text in the colour of its ink.
     QString Painted( const QString& a_text, Ink a_ink ) const;
 
+    /// \return the text in lines that fit, all but the first one indented by so many columns; without a terminal as it
+    /// is.
+    QString Wrapped( const QString& a_text, int a_indent ) const;
+
     /// Keeps text that is written from right to left from reordering what is next to it on the line.
     /// \param a_text safe for a terminal.
     /// \return such a text between U+2068 and U+2069; any other text as it is.

@@ -5,6 +5,7 @@
 #include <QIODevice>
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 #include <utility>
 
@@ -147,8 +148,8 @@ void TextTable::FindWidths( const std::vector<Need>& a_needs )
 std::vector<int> TextTable::LeastOf( const std::vector<Need>& a_needs )
 {
     std::vector<int> least;
-    for ( const Need& need : a_needs )
-        least.push_back( need.m_least );
+    std::transform( a_needs.begin(), a_needs.end(), std::back_inserter( least ),
+                    []( const Need& a_need ) { return a_need.m_least; } );
     return least;
 }
 

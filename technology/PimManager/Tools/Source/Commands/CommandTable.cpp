@@ -123,7 +123,8 @@ CommandInfo Convert()
                 QStringLiteral( "Lets the outputs replace files that exist." ) ) },
         { QStringLiteral( "As FILE, - is standard output. A file appears only when it is complete. Several books are "
                           "joined. Contacts are written as they are read, so the size of the books does not matter, "
-                          "unless --sort is given. What the format cannot say is reported on standard error." ) } );
+                          "unless --sort is given. A page is sorted by name. What the format cannot say is reported on "
+                          "standard error." ) } );
 }
 
 CommandInfo Help()

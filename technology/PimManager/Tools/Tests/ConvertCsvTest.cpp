@@ -43,15 +43,18 @@ TEST( ConvertCsvTest, PropertiesWithoutAColumnAreReported )
 {
     const QByteArray first =
         CardText( "VERSION:3.0\r\nFN:Nell\r\nGEO:1;2\r\nX-JABBER:nell@example.com\r\n" + PhotoLine( PngPicture() ) );
-    const QByteArray second = CardText( "VERSION:3.0\r\nfn:Mara\r\nphoto;value=uri:http://example.com/\r\n"
-                                        "item1.TEL:1\r\nitem1.X-ABLabel:boat\r\nX-ANNIVERSARY:2009-08-08\r\n" );
+    const QByteArray second =
+        CardText( "VERSION:3.0\r\nfn:Mara\r\nphoto;value=uri:http://example.com/\r\n"
+                  "item1.TEL:1\r\nitem1.X-ABLabel:boat\r\nX-ANNIVERSARY:2009-08-08\r\nDEATHDATE:2020-01-02\r\n" );
     const ProgramRun run =
         ProgramCall( { "convert", "-t", "csv", "-C", "name", "-" } ).WithInput( first + second ).Run();
     EXPECT_EQ( run.m_status, 0 );
     EXPECT_EQ( run.m_out, "name\r\nNell\r\nMara\r\n" );
-    EXPECT_EQ( run.m_err.find( "pimvcard: no column for 2 × PHOTO, 1 × GEO, 1 × X-ABLABEL; --to json has them\n" ), 0U )
+    EXPECT_EQ( run.m_err.find(
+                   "pimvcard: no column for 2 × PHOTO, 1 × DEATHDATE, 1 × GEO, 1 × X-ABLABEL; --to json has them\n" ),
+               0U )
         << run.m_err;
-    EXPECT_NE( run.LastMessage().find( "2 rows of 1 column written (4 properties left out), " ), std::string::npos )
+    EXPECT_NE( run.LastMessage().find( "2 rows of 1 column written (5 properties left out), " ), std::string::npos )
         << run.m_err;
 }
 

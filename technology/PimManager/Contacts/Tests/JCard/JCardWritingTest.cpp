@@ -94,6 +94,7 @@ TEST( JCardWritingTest, PropertiesAreWrittenByTheirTypes )
         { "item1.EMAIL;TYPE=home:m@example.com",
           R"(["email",{"group":"item1","type":"home"},"text","m@example.com"])" },
         { "TEL;TYPE=a;PREF=2;TYPE=b:1", R"(["tel",{"pref":"2","type":["a","b"]},"text","1"])" },
+        { "TEL;X-C=1;X-C=2;X-C=3;X-B=1:1", R"(["tel",{"x-c":["1","2","3"],"x-b":"1"},"text","1"])" },
         { "TEL;X-Q=\"a;b^n^'c^'\":1", R"(["tel",{"x-q":"a;b\n\"c\""},"text","1"])" },
         { "PHOTO:data:image/gif;base64,R0lGODlh", R"(["photo",{},"uri","data:image/gif;base64,R0lGODlh"])" },
         { "PHOTO:mara.jpg", R"(["photo",{},"text","mara.jpg"])" },
@@ -112,6 +113,19 @@ TEST( JCardWritingTest, PropertiesAreWrittenByTheirTypes )
     };
     for ( const LineRow& row : rows )
         EXPECT_EQ( JsonOf( row.m_line ), QByteArray( row.m_json ) ) << row.m_line;
+}
+
+TEST( JCardWritingTest, ChangedLineBreakInAParameterIsReported )
+{
+    const PimContactBook book =
+        BookOf( "TEL;X-CUSTOM(CHARSET=UTF-8,ENCODING=QUOTED-PRINTABLE,=41=0D=42):1\r\nTEL;X-CUSTOM=a:2", "2.1" );
+    QBuffer buffer;
+    buffer.open( QIODevice::WriteOnly );
+    const QList<PimContactWriteNote> notes = book.Save( buffer, PimContactFormat::JCard ).Notes();
+    EXPECT_TRUE( buffer.data().contains( R"({"x-custom":"A\nB"})" ) ) << buffer.data().toStdString();
+    ASSERT_EQ( notes.size(), 1 );
+    EXPECT_EQ( notes.first().Code(), PimContactWriteCode::ParameterDropped );
+    EXPECT_EQ( notes.first().Detail(), QStringLiteral( "X-CUSTOM" ) );
 }
 
 TEST( JCardWritingTest, WhatWasWrittenIsReadAsTheSameLine )

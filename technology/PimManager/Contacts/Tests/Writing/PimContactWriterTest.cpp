@@ -298,6 +298,11 @@ const std::vector<ConversionRow> s_kRows = {
     { "EmptyGroup", "3.0", s_k30, ".TEL:1\n", "TEL:1\n" },
     { "MailUriTo30", "4.0", s_k30, "EMAIL:mailto:ada%40example.org\n", "EMAIL:ada@example.org\n" },
     { "MailUriIn30", "3.0", s_k30, "EMAIL;TYPE=home:mailto:ada@example.org\n", "EMAIL;TYPE=home:ada@example.org\n" },
+    // The second line has the head of the first one, which is remembered.
+    { "MailUriBehindMailTo40", "3.0", s_k40, "EMAIL:mara@example.org\nEMAIL:mailto:ada@example.org\n",
+      "EMAIL:mara@example.org\nEMAIL:ada@example.org\n" },
+    { "MailUriBehindMailTo21", "3.0", s_k21, "EMAIL:mara@example.org\nEMAIL:mailto:ada@example.org\n",
+      "EMAIL:mara@example.org\nEMAIL:ada@example.org\n" },
     { "MailUriIn40", "4.0", s_k40, "EMAIL:MailTo:ada@example.org?subject=x\n", "EMAIL:ada@example.org\n" },
     { "LabelTo40", "3.0", s_k40, "ADR;TYPE=home:;;Mill Lane 12;;;;\nLABEL;TYPE=home:Mill Lane 12\\nCorvalia\n",
       "ADR;TYPE=home;LABEL=\"Mill Lane 12^nCorvalia\":;;Mill Lane 12;;;;\n" },

@@ -1,6 +1,6 @@
 /// \file
-/// The mark of what the shared libraries show. Sources are compiled with -fvisibility=hidden, so a class or function
-/// without the mark is private to its library, and programs cannot come to depend on it.
+/// Marks what the shared libraries export. Sources are compiled with -fvisibility=hidden, so a class or function
+/// without the mark is private to its library, and programs cannot depend on it.
 ///
 /// \code
 /// class PIMVCARD_EXPORT PimVCardShown
@@ -9,10 +9,10 @@
 /// PIMVCARD_EXPORT void Show( const PimVCardShown& a_shown );
 /// \endcode
 ///
-/// The mark is the same for who builds a library and for who uses it, and for static libraries, so nothing has to be
+/// The mark is the same in a library and in the programs that use it, and also for static libraries. Nothing has to be
 /// defined before the headers are included.
 
 #pragma once
 
-/// Stands before the name of a class and before the return type of a function.
+/// Place it before the name of a class, or before the return type of a function.
 #define PIMVCARD_EXPORT __attribute__( ( visibility( "default" ) ) )

@@ -1,24 +1,23 @@
 /// \file
 /// Every word, delimiter, token pattern, operation label and error message of the vCard component.
 ///
-/// The preparation of the text, the scanner and the parser take these texts from here. The lines that show state on
-/// Qt's debug log (the scanner's status, a printed property, the time that a parse took) are written where they are
-/// sent, and so are the characters that no constant names: the backslash, the tab, and the ranges of the token
-/// patterns.
+/// The preparation of the text, the scanner and the parser use these texts. Two kinds of text are written where they
+/// are used: the lines that show state on Qt's debug log (the status of the scanner, a printed property, the parse
+/// time), and the characters that no constant names (the backslash, the tab, and the ranges of the token patterns).
 ///
-/// Each constant is defined once for the whole program, and once more in each shared library that hides its own. It is
-/// built before `main` runs. Within a translation unit that includes this header, the constants are built in the order
-/// below and before any static object that follows, so such objects may use them:
+/// Each constant is defined once in the whole program, and once more in each shared library that hides its own. It is
+/// constructed before `main` runs. Within a translation unit that includes this header, the constants are constructed
+/// in the order below and before any static object that follows, so such objects may use them:
 ///
 /// \code
 /// static const QString s_kBeginLine = s_kBegin + s_kColon + s_kVCard; // "BEGIN:VCARD"
 /// \endcode
 ///
-/// No constant allocates memory: each refers to text in the read-only data of the binary. None may be modified, so all
-/// of them can be read from any thread once `main` has begun.
+/// No constant allocates memory: each refers to text in the read-only data of the binary. The constants must not be
+/// modified, so any thread may read them once `main` has begun.
 ///
-/// Patterns are plain texts in PCRE2 syntax. Where one becomes an expression it has no pattern options, but for
-/// `s_kBeginVCardPattern`, which is searched ignoring letter case.
+/// Patterns are plain texts in PCRE2 syntax. They are compiled without pattern options, except for
+/// `s_kBeginVCardPattern`, which ignores letter case.
 
 #pragma once
 
@@ -48,7 +47,7 @@ inline const QString s_kB = QStringLiteral( "b" );
 inline const QString s_kUri = QStringLiteral( "URI" );
 inline const QString s_kUrl = QStringLiteral( "URL" );
 inline const QString s_kQuotedPrintable = QStringLiteral( "QUOTED-PRINTABLE" );
-/// A spelling found in the wild. The parser does not take it for an encoding.
+/// A spelling found in real files. The parser does not recognise it as an encoding.
 inline const QString s_kQuotedPrintableNoDash = QStringLiteral( "QUOTEDPRINTABLE" );
 inline const QString s_kPostal = QStringLiteral( "POSTAL" );
 inline const QString s_kHome = QStringLiteral( "HOME" );
@@ -72,19 +71,19 @@ inline const QString s_kComma = QStringLiteral( "," );
 inline const QString s_kCrlf = QStringLiteral( "\r\n" );
 inline const QString s_kCr = QStringLiteral( "\r" );
 inline const QString s_kLf = QStringLiteral( "\n" );
-/// What an encoded line break before a soft line break becomes.
+/// Replaces an encoded line break before a soft line break.
 inline const QString s_kSpace = QStringLiteral( " " );
 
-// Patterns over values, groups and the whole text.
+// Patterns for values, groups and the whole text.
 
-/// A value piece that ends in a QUOTED-PRINTABLE soft line break.
+/// A part of a value that ends with a QUOTED-PRINTABLE soft line break.
 inline const QString s_kTrailingEqualsPattern = QStringLiteral( R"(=\z)" );
 /// A group prefix with its separator.
 inline const QString s_kTrailingDotPattern = QStringLiteral( R"(\.\z)" );
 inline const QString s_kTrailingCommasPattern = QStringLiteral( R"(,+\z)" );
 /// An encoded CR LF, a soft line break and the blanks that indent the next line.
 inline const QString s_kQpSoftBreakPattern = QStringLiteral( R"(=0D=0A=\R[ \t]*)" );
-/// A fold: a line break and the white space after it, unless a soft line break's "=" stands before.
+/// A fold: a line break and the white space after it, unless the "=" of a soft line break precedes it.
 inline const QString s_kUnfoldPattern = QStringLiteral( R"((?<!=)\R[ \t]+)" );
 /// A BEGIN line. The blanks are a space and a real tab character.
 inline const QString s_kBeginVCardPattern = QStringLiteral( "BEGIN[ \t]*:[ \t]*VCARD" );
@@ -105,13 +104,13 @@ inline const QString s_kCrlfPattern = QStringLiteral( R"(\A\R\z)" );
 inline const QString s_kNamePattern = QStringLiteral( R"(\A[a-zA-Z0-9\-]+\z)" );
 /// One character between the quotes of a parameter value. The upper bound is deliberate.
 inline const QString s_kQSafeCharPattern = QStringLiteral( R"(\A[ \t\x21\x23-\x7E\x{80}-\x{10FBFF}]\z)" );
-/// One value character, or one escape pair. The upper bound and the loose anchors are deliberate: for the one or two
-/// characters that the scanner tests they change nothing.
+/// One value character, or one escape pair. The upper bound and the loose anchors are deliberate. They make no
+/// difference for the one or two characters that the scanner tests.
 inline const QString s_kValueCharPattern =
     QStringLiteral( R"(\A[ \t\n\x21-\x3A\x3C-\x5B\x5D-\x7E\x{80}-\x{10FBFF}]|(\x5C\x5C)|(\x5C,)|(\x5C;)|(\x5C:)\z)" );
 inline const QString s_kBase64CharPattern = QStringLiteral( R"(\A[a-zA-Z0-9+/=]\z)" );
 
-// Labels of the parse operations, as error reports show them.
+// Labels of the parse operations, as shown in error reports.
 
 inline const QString s_kParseVCardsLabel = QStringLiteral( "ParseVCards()" );
 inline const QString s_kParseVCardLabel = QStringLiteral( "ParseVCard()" );

@@ -1,7 +1,7 @@
 /// \file
-/// The fixture under the cases of the self-check: the parser of the case and the checkers of what it gives.
+/// The fixture of the self-check cases. It has the parser of the case and functions that check its results.
 ///
-/// A case makes a parser over its own text, drives one parse operation and checks the result:
+/// A case creates a parser for its own text, calls one parse operation and checks the result:
 ///
 /// \code
 /// TEST_F( PimVCardParserTest, OneLine )
@@ -14,14 +14,14 @@
 /// }
 /// \endcode
 ///
-/// **Ownership.** The fixture deletes the parser after the case, also when the case has failed. What an operation
-/// returned belongs to the case, which deletes it at its end; a fatal failure of the case itself leaves it undeleted.
+/// **Ownership.** The fixture deletes the parser after the case, even if the case failed. The case owns what an
+/// operation returned and deletes it at its end. A fatal failure of the case itself leaves it undeleted.
 ///
-/// **Failures.** The checkers record fatal failures with the place in this header. A fatal failure ends the checker,
-/// and the case goes on with its next statement.
+/// **Failures.** The check functions record fatal failures with the line in this header. A fatal failure ends the check
+/// function, and the case continues with its next statement.
 ///
-/// **Texts.** Expected texts are NUL-terminated and in the local 8-bit encoding, into which the parsed texts are turned
-/// before the two are compared byte by byte. ASCII texts compare alike under every locale.
+/// **Texts.** Expected texts are NUL-terminated and in the local 8-bit encoding. The parsed texts are converted to this
+/// encoding, and the two are compared byte by byte. ASCII texts compare alike in every locale.
 
 #pragma once
 
@@ -36,60 +36,59 @@
 namespace PimManager::vCard
 {
 
-/// The fixture base. It has no data of its own: all but SetUp() and TearDown() is static, so that functions beside the
-/// cases can use the checkers too. The helpers that drive the parser need `sm_parser` to be set.
+/// The fixture base. It has no data of its own. Everything except SetUp() and TearDown() is static, so that functions
+/// outside the cases can use the check functions too. The helpers that call the parser need `sm_parser` to be set.
 class PimVCardParserTestBase : public testing::Test
 {
 public:
-    /// The parser of the running case: null until the case sets it, with `new`; owned by the fixture from then on.
+    /// The parser of the running case. Null until the case sets it, with `new`. The fixture then owns it.
     static inline PimVCardParser* sm_parser = nullptr;
 
-    /// \return the prepared text, in UTF-8: the text that the parser was given, up to its first NUL byte, without the
+    /// \return the prepared text in UTF-8: the text that the parser was given, up to its first NUL byte, without the
     ///         byte order mark at its start, with folded lines and encoded line breaks joined, and with U+FFFD for
-    ///         bytes that are not UTF-8. It is the same before and after any parse operation.
+    ///         bytes that are not UTF-8. No parse operation changes it.
     static QByteArray GetParserData();
 
-    /// Drives ParseGroup().
-    /// \param[in,out] a_vCardBoundary the caller sets it to false; true afterwards for a BEGIN or END line.
-    /// \return the groups without the last dot; empty when there is none, and on failure.
+    /// Calls ParseGroup().
+    /// \param[in,out] a_vCardBoundary the caller sets it to false. Afterwards it is true for a BEGIN or END line.
+    /// \return the groups without the last dot. Empty if there is none, and on failure.
     static QString GetParsedGroup( bool& a_vCardBoundary );
 
-    /// Drives ParseParameter() as for a line other than BEGIN and END.
-    /// \return a new parameter, owned by the caller; null at the end of the parameters and on failure.
+    /// Calls ParseParameter() as for a line other than BEGIN and END.
+    /// \return a new parameter, owned by the caller. Null at the end of the parameters and on failure.
     static PimVCardParameter* GetParsedParameter();
 
-    /// Drives ParseParameters() as for a line other than BEGIN and END.
-    /// \return a new list of new parameters, both owned by the caller; null on failure.
+    /// Calls ParseParameters() as for a line other than BEGIN and END.
+    /// \return a new list of new parameters. The caller owns the list and the parameters. Null on failure.
     static QList<PimVCardParameter*>* GetParsedParameters();
 
-    /// Drives ParseProperty().
-    /// \return a new property, owned by the caller; null on failure.
+    /// Calls ParseProperty().
+    /// \return a new property, owned by the caller. Null on failure.
     static PimVCardProperty* GetParsedProperty();
 
-    /// Drives ParseVCard().
-    /// \return a new card, owned by the caller; null on failure.
+    /// Calls ParseVCard().
+    /// \return a new card, owned by the caller. Null on failure.
     static PimVCard* GetParsedVCard();
 
-    /// Drives ParseStart() once and checks that it says what is expected.
+    /// Calls ParseStart() once and checks that it returns what is expected.
     static void TestParseStart( bool a_expected );
 
-    /// Drives ParseEnd() once and checks that it says what is expected.
-    /// \param a_property stays the caller's; may be null.
+    /// Calls ParseEnd() once and checks that it returns what is expected.
+    /// \param a_property the property. The caller keeps ownership. May be null.
     static void TestParseEnd( PimVCardProperty* a_property, bool a_expected );
 
-    /// Compares a property with what is expected of it: group, name, parameters, values, in this order. The first
-    /// difference is the only one told. A property without a list of parameters or values counts as one with an empty
-    /// list. Needs no parser.
+    /// Compares the group, name, parameters and values of a property with the expected ones, in this order. Only the
+    /// first difference is reported. A missing list of parameters or values counts as an empty list. Needs no parser.
     ///
-    /// \param a_property    stays the caller's; null is a failure.
-    /// \param a_group       the group; "" for none. Not null, like every text here.
+    /// \param a_property    the property. The caller keeps ownership. Null is a failure.
+    /// \param a_group       the group; "" for none. None of the texts here may be null.
     /// \param a_name        the property name.
     /// \param a_paramCount  the number of parameters.
     /// \param a_paramNames  a name for each parameter, in the order of the line; "" for a bare parameter.
-    /// \param a_paramValues a value for each parameter; a quoted value with its quotes.
+    /// \param a_paramValues a value for each parameter. A quoted value includes its quotes.
     /// \param a_valueCount  the number of values.
     /// \param a_valueValues the values, in the order of the line; "" for an empty one.
-    /// \note  Counts that are not those of the expected lists are a failure of the case; nothing is compared then.
+    /// \note  If a count differs from the length of its expected list, the case fails and nothing is compared.
     static void TestProperty( PimVCardProperty* a_property, const char* a_group, const char* a_name, int a_paramCount,
                               const QList<const char*>& a_paramNames, const QList<const char*>& a_paramValues,
                               int a_valueCount, const QList<const char*>& a_valueValues );
@@ -167,7 +166,7 @@ inline void PimVCardParserTestBase::TestParseEnd( PimVCardProperty* a_property, 
     }
 }
 
-// One function on purpose: a fatal failure ends only the function that it stands in.
+// One function on purpose: a fatal failure ends only the function that contains it.
 inline void PimVCardParserTestBase::TestProperty( PimVCardProperty* a_property, const char* a_group, const char* a_name,
                                                   int a_paramCount, const QList<const char*>& a_paramNames,
                                                   const QList<const char*>& a_paramValues, int a_valueCount,

@@ -31,7 +31,7 @@ const char* Find( char a_byte, const char* a_begin, const char* a_end )
     return found != nullptr ? static_cast<const char*>( found ) : a_end;
 }
 
-// UTF-16 units of the characters that begin here.
+// The number of UTF-16 units of the characters that begin here.
 int CountUnits( const char* a_begin, const char* a_end )
 {
     int units = 0;
@@ -40,7 +40,7 @@ int CountUnits( const char* a_begin, const char* a_end )
     return units;
 }
 
-// The end of a character that began before reads as one unit a byte.
+// The rest of a character that began earlier is read as one unit per byte.
 int CountStrayUnits( const char* a_begin, const char* a_end )
 {
     return static_cast<int>( std::find_if_not( a_begin, a_end, IsContinuation ) - a_begin );
@@ -52,7 +52,7 @@ bool HasWord( const char* a_place, const char* a_end, const PimVCardWord& a_word
            qstrnicmp( a_place, a_word.Bytes(), static_cast<uint>( a_word.Length() ) ) == 0;
 }
 
-// Where the BEGIN stands that the colon belongs to; null if it belongs to none.
+// The position of the BEGIN that the colon belongs to. Null if there is none.
 const char* BeginBefore( const char* a_colon, const char* a_lineBegin, const char* a_lineEnd )
 {
     const PimVCardWord& begin = PimVCardVocabularyBytes::Get().m_begin;

@@ -69,7 +69,7 @@ struct Entry
     Class Classes::*m_class;
 };
 
-// The most wanted come first.
+// Those needed most often come first.
 constexpr std::array<Entry, 11> s_kEntries = { {
     { &s_kSemicolonPattern, &Classes::m_semicolon },
     { &s_kNamePattern, &Classes::m_name },
@@ -84,14 +84,14 @@ constexpr std::array<Entry, 11> s_kEntries = { {
     { &s_kQSafeCharPattern, &Classes::m_qSafe },
 } };
 
-// Made by the first scanner, which may be a static object of another source.
+// Created by the first scanner, which may be a static object of another source file.
 const Classes& AllClasses()
 {
     static const Classes s_classes;
     return s_classes;
 }
 
-// The vocabulary's texts are never copied, so a pattern is known by where it stands.
+// The vocabulary's texts are never copied, so the address of its text identifies a pattern.
 bool AreSameText( const QString& a_first, const QString& a_second )
 {
     return a_first.constData() == a_second.constData() && a_first.size() == a_second.size();
@@ -101,7 +101,7 @@ bool AreSameText( const QString& a_first, const QString& a_second )
 
 const PimVCardVocabularyBytes& PimVCardVocabularyBytes::Get()
 {
-    // The encoded break is the pattern up to its line break, which is the first thing in it that is not plain text.
+    // The encoded break is the part of the pattern before its line break, where its plain text ends.
     static const PimVCardVocabularyBytes s_bytes = {
         ByteOf( s_kSpace ),       ByteOf( s_kCr ),
         ByteOf( s_kLf ),          ByteOf( s_kColon ),
@@ -129,7 +129,7 @@ const Class* Class::Find( const QString& a_pattern )
 
 bool Class::MatchesEscaped( QChar a_character ) const
 {
-    // Where the text ends behind the backslash, it is tested alone.
+    // A backslash at the end of the text is tested alone.
     if ( a_character.isNull() )
         return m_backslash;
     const auto is = [a_character]( const QString& a_delimiter ) { return a_character == *a_delimiter.constData(); };

@@ -1,5 +1,5 @@
 /// \file
-/// What the vocabulary's token patterns accept, known without matching. Private to the component.
+/// The characters that the vocabulary's token patterns accept, known without matching. Private to the component.
 
 #pragma once
 
@@ -14,36 +14,36 @@ namespace PimManager::vCard
 
 /// The characters and the escape pairs that one token pattern accepts in a run.
 ///
-/// Layout: `m_bytes` has an entry for each byte value, so that a run is found in UTF-8 text without decoding it:
+/// Layout: `m_bytes` has an entry for each byte value, so the end of a run is found in UTF-8 text without decoding it:
 ///
-///     byte    0x00 … 0x7F  the character itself; false for the backslash, which begins an escape pair
-///             0x80 … 0xFF  true if every character that it begins or goes on with is accepted
+///     byte    0x00 … 0x7F  true if the character is accepted; false for the backslash, which begins an escape pair
+///             0x80 … 0xFF  true if every character that contains this byte is accepted
 ///
-/// A character whose first byte is false here is decoded and asked for alone.
+/// A character whose first byte is false here is decoded and tested alone.
 struct PimVCardCharacterClass
 {
     enum class Beyond : quint8
     {
         Nothing,
         LineBreaks, ///< NEL, U+2028 and U+2029
-        Everything, ///< but for U+FEFF, which a run reads as the empty text
+        Everything, ///< except for U+FEFF, which a run reads as the empty text
     };
 
     std::array<bool, 256> m_bytes;
     /// What is accepted above ASCII.
     Beyond m_beyond = Beyond::Nothing;
-    /// A backslash without a partner is accepted.
+    /// A backslash that is not part of an escape pair is accepted.
     bool m_backslash = false;
-    /// A backslash with a backslash, comma, semicolon or colon is accepted.
+    /// A backslash before a backslash, comma, semicolon or colon is accepted.
     bool m_escapePairs = false;
-    /// The same few tokens come again and again.
+    /// The tokens of this class are few and recur often.
     bool m_recurs = false;
     /// Carriage returns are accepted.
     bool m_endsLines = false;
-    /// The only character of the class; null if there are more.
+    /// The only character of the class. Null if there are more.
     const QString* m_delimiter = nullptr;
 
-    /// \return the class of an expression that was made from a token pattern of the vocabulary, without options; null
+    /// \return the class of an expression that was made from a token pattern of the vocabulary, without options. Null
     ///         for any other expression.
     static const PimVCardCharacterClass* Find( const QRegularExpression& a_expression );
 
@@ -56,13 +56,13 @@ struct PimVCardCharacterClass
         return code < 0x80 ? m_bytes[code] || ( m_backslash && code == '\\' ) : MatchesBeyondAscii( code );
     }
 
-    /// True if a run may hold characters that m_bytes accepts and that are not ASCII.
+    /// True if a run may contain non-ASCII characters that m_bytes accepts.
     bool MayTakeBeyondAscii() const { return m_beyond == Beyond::Everything; }
 
-    /// The same for a backslash and a character.
+    /// Like Matches(), for a backslash and the character after it.
     bool MatchesEscaped( QChar a_character ) const;
 
-    /// \return the first byte from a_begin on that does not go on with a run; a_end if there is none.
+    /// \return the first byte from a_begin on that is not part of the run. a_end if there is none.
     const char* EndOfRun( const char* a_begin, const char* a_end ) const
     {
         const auto isIn = [this]( char a_byte ) { return m_bytes[static_cast<uchar>( a_byte )]; };

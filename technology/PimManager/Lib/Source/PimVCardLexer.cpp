@@ -81,7 +81,7 @@ void PrintStreamStatus( QTextStream::Status a_status )
 
 } // namespace
 
-/// Counts the lines that a run ends: its carriage returns, if it has as many line feeds.
+/// Counts the lines that a run ends: its carriage returns if it has as many line feeds, otherwise 0.
 class PimVCardLexer::LineCount
 {
 public:
@@ -101,7 +101,7 @@ private:
     qint32 m_lineFeeds = 0;
 };
 
-/// Tests each candidate of a run against an expression, as it comes back from UTF-8.
+/// Tests each candidate of a run against an expression, after conversion to UTF-8 and back.
 class PimVCardLexer::ExpressionMatcher
 {
 public:
@@ -114,7 +114,7 @@ public:
     bool MatchesEscaped( QChar a_character ) const { return MatchesText( QString( s_kBackslash ) + a_character ); }
 
 private:
-    // The empty text is the end of the input, or U+FEFF: no run goes on over it, not even one that it matches.
+    // The empty text is the end of the input, or U+FEFF. It ends every run, even if the expression matches it.
     bool MatchesText( const QString& a_candidate ) const
     {
         const QString tested = QString::fromUtf8( a_candidate.toUtf8().constData() );
@@ -211,7 +211,7 @@ bool PimVCardLexer::IsNext( const QRegularExpression& a_pattern, const PimVCardC
     return a_pattern.match( QString( m_nextChar ) ).hasMatch();
 }
 
-// Most runs stand whole in the bytes, without a backslash, and an ASCII character ends them.
+// Most runs are complete in the bytes, have no backslash and end at an ASCII character.
 inline bool PimVCardLexer::TakeWholeRun( const PimVCardCharacterClass& a_class )
 {
     if ( !m_stream.IsDirectlyBehind( m_nextChar ) || !a_class.m_bytes[m_nextChar.unicode()] )
@@ -282,7 +282,7 @@ void PimVCardLexer::TakeUnescaped( const ExpressionMatcher& /*a_matcher*/, QChar
     m_token += a_candidate;
 }
 
-// Takes the candidate and all that follows it in the run up to a backslash, straight from the bytes of the text.
+// Reads the candidate and the rest of the run up to a backslash, directly from the bytes of the text.
 void PimVCardLexer::TakeUnescaped( const PimVCardCharacterClass& a_class, QChar a_candidate, LineCount& a_lines )
 {
     const bool isInBytes = a_candidate != s_kBackslash && m_stream.IsDirectlyBehind( a_candidate );
@@ -366,7 +366,7 @@ void PimVCardLexer::SeekToBeginLine()
     {
         const bool beginsWithHalf = m_stream.PassMarkOrHalf();
         line = m_beginSearch->LineFrom( m_stream.Next(), m_stream.End() );
-        // No expression matches a text with half a character.
+        // No expression matches a text that contains half of a surrogate pair.
         line.m_hasBegin = line.m_hasBegin && !beginsWithHalf;
         m_stream.SkipTo( line.m_next );
         ++m_lineNumber;

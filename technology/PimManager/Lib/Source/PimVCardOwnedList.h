@@ -1,5 +1,5 @@
 /// \file
-/// Lists that own what their elements point to. Private to the component.
+/// Lists that own the objects to which their elements point. Private to the component.
 
 #pragma once
 
@@ -12,8 +12,8 @@
 namespace PimManager::vCard
 {
 
-/// Deletes the elements, first to last, and then the list, which must have been made with `new`. Null entries and a
-/// null list are passed over.
+/// Deletes the elements, first to last, and then the list, which must have been created with `new`. Null entries and a
+/// null list are skipped.
 template <typename T>
 void DeleteOwnedList( QList<T*>* a_list )
 {
@@ -33,12 +33,12 @@ struct OwnedListDeleter
     }
 };
 
-/// Holds a list that belongs to nobody yet; an operation that fails drops it with all that it holds.
+/// A list that has no other owner yet. An operation that fails deletes it with all its elements.
 template <typename T>
 using OwnedList = std::unique_ptr<QList<T*>, OwnedListDeleter>;
 
-/// Collects the elements of a list. Up to UsualNumber pointers are held without an allocation. Elements that were not
-/// taken are deleted, from the first on.
+/// Collects the elements of a list. Up to UsualNumber pointers are stored without an allocation. Elements that were not
+/// taken are deleted, first to last.
 template <typename T, int UsualNumber>
 class OwnedElements
 {
@@ -54,10 +54,10 @@ public:
         static_cast<void>( a_element.release() );
     }
 
-    /// \pre there is an element.
+    /// \pre There is an element.
     const T& Last() const { return *m_elements.last(); }
 
-    /// \return a new list, just as long as it must be, that takes the elements over.
+    /// \return a new list without spare capacity. It takes over the elements.
     QList<T*>* TakeAsList()
     {
         OwnedList<T> list( new QList<T*> );

@@ -24,7 +24,7 @@ constexpr int s_kUsualProperties = 16;
 constexpr int s_kUsualParameters = 4;
 constexpr int s_kUsualComponents = 8;
 
-// A wall clock on purpose: the timing line has always shown its time.
+// A wall clock on purpose: the timing line has always shown wall-clock time.
 class Stopwatch
 {
 public:
@@ -39,7 +39,7 @@ private:
     const QTime m_start = QTime::currentTime();
 };
 
-// What the parsers of one thread share: making an expression costs more than parsing a line.
+// Shared by the parsers of one thread, because creating an expression costs more than parsing a line.
 struct TokenExpressions
 {
     const QRegularExpression m_dot{ s_kDotPattern };
@@ -66,7 +66,7 @@ bool IsBlank( QChar a_character )
     return a_character == *s_kSpace.constData() || a_character == QChar::Tabulation;
 }
 
-// The boundaries of a card as nearly every card has them.
+// The boundaries of a card, as written in nearly every card.
 struct PlainLines
 {
     const PimVCardWord m_begin{ s_kBegin + s_kColon + s_kVCard + s_kCrlf };
@@ -90,8 +90,8 @@ bool IsOneOf( QChar a_character, const Delimiters&... a_delimiters )
     return ( ( a_character == a_delimiters.at( 0 ) ) || ... );
 }
 
-// Asked about every line, and most words differ from the vocabulary's at their first letter. The letters that begin its
-// words have no relatives beyond ASCII, and folding the case of a text keeps its length.
+// Called for every line. Most words differ from the vocabulary's in their first letter. The first letters of the
+// vocabulary's words have no case variants above ASCII, and case folding does not change the length of a text.
 bool AreSameWord( const QString& a_first, const QString& a_second )
 {
     if ( a_first.size() != a_second.size() )
@@ -112,7 +112,7 @@ void AppendTo( QString& a_text, QString&& a_piece )
         a_text += a_piece;
 }
 
-// Takes the texts out: a copy would be counted, and counting across threads is slow.
+// Moves the texts. A copy would change a reference count, which is slow across threads.
 template <typename Texts>
 QList<QString>* NewListOf( Texts& a_texts )
 {
@@ -217,7 +217,8 @@ qint64 PimVCardParser::Recover( qint64 a_lastRecovery )
     const qint64 place = m_lexer->m_stream.pos();
     if ( place > a_lastRecovery )
         return place;
-    // Lines that end in a bare LF are rewound one byte too far: the same card would fail at the same place for ever.
+    // For lines that end with a bare LF, the scanner goes back one byte too far. The same card would fail at the same
+    // place forever.
     m_lexer->m_stream.seek( a_lastRecovery + 1 );
     return a_lastRecovery + 1;
 }
@@ -255,7 +256,7 @@ bool PimVCardParser::ParseStart()
     return isStart;
 }
 
-// As ParseProperty() takes such a line.
+// Has the same effect as ParseProperty() on this line.
 bool PimVCardParser::TakeBoundary( const PimVCardWord& a_line )
 {
     if ( m_errorReported != 0 || !m_lexer->TakeLine( a_line ) )
@@ -440,7 +441,7 @@ bool PimVCardParser::NoteEncoding( const QString& a_name, const QString& a_value
 {
     if ( !AreSameWord( a_name, s_kEncoding ) )
         return true;
-    if ( a_value == s_kQuotedPrintable ) // as nearly every card has it
+    if ( a_value == s_kQuotedPrintable ) // as in nearly every card
         m_quotedPrintable = true;
     else
     {

@@ -23,7 +23,7 @@ quint64 WordAt( const char* a_place )
     return qFromLittleEndian<quint64>( a_place );
 }
 
-// The first byte that may begin a line break: below 0x0E, or beyond ASCII.
+// The first byte that may begin a line break: below 0x0E, or not ASCII.
 const char* FindBreakCandidate( const char* a_begin, const char* a_end )
 {
     const char* place = a_begin;
@@ -39,7 +39,7 @@ const char* FindBreakCandidate( const char* a_begin, const char* a_end )
     return place;
 }
 
-// The length of the line break that begins here, 0 if none does. The text is UTF-8, so no character is cut off.
+// The length of the line break that begins here. 0 if there is none. The text is UTF-8, so no character is incomplete.
 int LineBreakLength( const char* a_place, const char* a_end )
 {
     switch ( static_cast<uchar>( *a_place ) )
@@ -75,7 +75,7 @@ const char* SkipAscii( const char* a_begin, const char* a_end )
     return place;
 }
 
-// The length of the character beyond ASCII that begins here, 0 if it is malformed (RFC 3629, section 4).
+// The length of the non-ASCII character that begins here. 0 if it is malformed (RFC 3629, section 4).
 int CharacterLength( const char* a_place, const char* a_end )
 {
     const auto byteAt = [=]( int a_offset )
@@ -108,7 +108,7 @@ bool IsUtf8( const char* a_begin, const char* a_end )
     return true;
 }
 
-/// Copies a text but for the pieces that go.
+/// Copies a text without the pieces that are cut.
 class Copier
 {
 public:
@@ -118,10 +118,10 @@ public:
     {
     }
 
-    /// True if a piece went.
+    /// True if a piece was cut.
     bool HasCut() const { return m_to != nullptr; }
 
-    /// Where the piece ended that went last.
+    /// The end of the last piece that was cut.
     const char* LastCut() const { return m_copied; }
 
     void Cut( const char* a_begin, const char* a_end )
@@ -130,7 +130,7 @@ public:
         m_copied = a_end;
     }
 
-    // A piece that is replaced is longer than a blank.
+    // The replaced piece is longer than a blank.
     void ReplaceByBlank( const char* a_begin, const char* a_end )
     {
         Cut( a_begin, a_end );
@@ -163,7 +163,7 @@ private:
     char* m_to = nullptr;
 };
 
-// The length of an encoded line break and the soft one behind it, 0 if none begins here.
+// The length of an encoded line break and the soft line break after it. 0 if none begins here.
 qint64 EncodedBreakLength( const char* a_place, const char* a_end )
 {
     const PimVCardWord& text = PimVCardVocabularyBytes::Get().m_encodedBreak;
@@ -173,7 +173,7 @@ qint64 EncodedBreakLength( const char* a_place, const char* a_end )
     return breakLength == 0 ? 0 : text.Length() + breakLength;
 }
 
-// The blanks at the start of a line, those among them that encoded line breaks become.
+// Skips the blanks at the start of a line, including those that replace encoded line breaks.
 const char* SkipIndent( const char* a_begin, const char* a_end )
 {
     const char* place = SkipBlanks( a_begin, a_end );
@@ -182,13 +182,14 @@ const char* SkipIndent( const char* a_begin, const char* a_end )
     return place;
 }
 
-// Bytes that are not the array's own may go before it does.
+// Bytes that the array does not own may be freed before the array.
 bool IsWholeAndOwned( const QByteArray& a_data, const char* a_begin, const char* a_end )
 {
     return a_data.capacity() != 0 && a_begin == a_data.constData() && a_end == a_begin + a_data.size();
 }
 
-// Does both in one pass, as if the encoded breaks went first and the folds after. The piece is one of the array.
+// Does both in one pass, as if the encoded breaks were joined first and the folds removed after. The piece is part of
+// the array.
 QByteArray JoinLines( const QByteArray& a_data, const char* a_begin, const char* a_end )
 {
     const char equals = PimVCardVocabularyBytes::Get().m_equals;

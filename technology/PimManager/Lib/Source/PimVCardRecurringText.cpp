@@ -19,7 +19,7 @@ constexpr int s_kHalfWord = sizeof( quint32 );
 constexpr int s_kLongest = 2 * s_kWord;
 constexpr size_t s_kPlaces = 128;
 
-// All bytes of a text of known length, so that a comparison is one of numbers.
+// All bytes of a text of known length, so that texts are compared as numbers.
 struct Key
 {
     quint64 m_front;
@@ -37,7 +37,7 @@ struct Entry
     }
 };
 
-// Two texts that have the same place do not drive each other out.
+// Two texts with the same place do not evict each other.
 struct Entries
 {
     Entry m_newer;
@@ -64,7 +64,7 @@ size_t PlaceOf( const Key& a_key )
 class Cache
 {
 public:
-    // The vocabulary's words are constants: sharing them is not counted.
+    // The vocabulary's words are constants, so sharing them changes no reference count.
     Cache()
     {
         for ( const QString* word : { &s_kBegin,  &s_kEnd,    &s_kN,   &s_kFn,   &s_kNickname,        &s_kPhoto,

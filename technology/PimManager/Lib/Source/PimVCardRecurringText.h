@@ -1,5 +1,5 @@
 /// \file
-/// The names that stand in every card. Private to the component.
+/// The names that occur in every card. Private to the component.
 
 #pragma once
 
@@ -8,7 +8,7 @@
 namespace PimManager::vCard
 {
 
-/// Makes a text that will likely be made again, such as TEL, TYPE or a line end: each thread keeps the last short ones,
+/// Creates a text that is likely to recur, such as TEL, TYPE or a line ending. Each thread keeps the last short ones,
 /// and the cards share them.
 /// \param a_text ASCII, at least one byte.
 QString PimVCardRecurringText( const char* a_text, int a_length );

@@ -17,7 +17,7 @@ bool IsContinuation( char a_byte )
     return ( static_cast<uchar>( a_byte ) & 0xC0 ) == 0x80;
 }
 
-// The number of bytes that follow a lead byte; 0 for a byte that begins no character.
+// The number of bytes that follow a lead byte. 0 for a byte that begins no character.
 int TailLength( uchar a_lead )
 {
     if ( a_lead < 0xC2 || a_lead > 0xF4 )
@@ -27,7 +27,7 @@ int TailLength( uchar a_lead )
     return a_lead < 0xF0 ? 2 : s_kLongestTail;
 }
 
-// The end of a text without the character that its end cuts off.
+// The end of a text without an incomplete last character.
 const char* EndOfWholeCharacters( const char* a_begin, const char* a_end )
 {
     const char* lead = a_end;
@@ -155,7 +155,7 @@ QString PimVCardTextStream::ReadTo( const char* a_end )
         text += TakeLowSurrogate();
     else
         PassMarkOrHalf();
-    // The decoder would swallow a mark here, where it is a character.
+    // The decoder would skip a byte order mark here, where it is a character.
     while ( SkipByteOrderMark() )
         text += QChar( QChar::ByteOrderMark );
     text += QString::fromUtf8( m_next, static_cast<int>( a_end - m_next ) );

@@ -14,7 +14,7 @@
 namespace PimManager::vCard
 {
 
-/// What begins an escape pair. Of the format's delimiters it alone stands in no constant of the vocabulary.
+/// Begins an escape pair. It is the only delimiter of the format that is not a constant of the vocabulary.
 constexpr QLatin1Char s_kBackslash( '\\' );
 
 /// \return the byte of a delimiter, which is ASCII like every text of the vocabulary.
@@ -23,9 +23,9 @@ inline char ByteOf( const QString& a_delimiter )
     return a_delimiter.constData()->toLatin1();
 }
 
-/// A word of the vocabulary, or several put together, as the bytes that they are in a text.
+/// A word of the vocabulary, or several joined, as the bytes that represent them in a text.
 ///
-/// An object needs no destruction, so a static one may still be used while the program ends.
+/// An object needs no destruction, so a static one may still be used while the program exits.
 class PimVCardWord
 {
 public:
@@ -40,7 +40,7 @@ public:
     const char* Bytes() const { return m_bytes.data(); }
     int Length() const { return m_length; }
 
-    /// \pre the text has at least Length() bytes there.
+    /// \pre The text has at least Length() bytes there.
     bool IsAt( const char* a_place ) const
     {
         return std::memcmp( a_place, m_bytes.data(), static_cast<size_t>( m_length ) ) == 0;
@@ -51,8 +51,9 @@ private:
     int m_length;
 };
 
-/// The words and delimiters that the preparation and the search for the next card look for. Each source that includes
-/// the vocabulary itself builds all of its constants, which is 10 KB of code on the target, so these two do not.
+/// The words and delimiters that the preparation and the search for the next card look for. Both use these instead of
+/// the vocabulary, because each source file that includes the vocabulary constructs all of its constants, which is 10
+/// KB of code on the target.
 struct PimVCardVocabularyBytes
 {
     const char m_blank;
@@ -68,7 +69,7 @@ struct PimVCardVocabularyBytes
     /// \return true for a blank or a tab.
     bool IsBlank( char a_byte ) const { return a_byte == m_blank || a_byte == '\t'; }
 
-    /// \return the only object, made by the first call. Any thread may call.
+    /// \return the only object, created by the first call. Any thread may call this.
     static const PimVCardVocabularyBytes& Get();
 };
 

@@ -20,7 +20,7 @@ QString ThroughUtf8( const QString& a_text )
     return QString::fromUtf8( a_text.toUtf8().constData() );
 }
 
-// The empty text is the end of the input, or U+FEFF: no expression may go on over it, not even one that it matches.
+// The empty text is the end of the input, or U+FEFF. It ends every run, even if the expression matches it.
 bool IsInRun( const QRegularExpression& a_pattern, const QString& a_candidate )
 {
     const QString tested = ThroughUtf8( a_candidate );
@@ -53,7 +53,7 @@ PimVCardLexer::PimVCardLexer( const QByteArray* a_data ) :
 {
     m_stream.setAutoDetectUnicode( false );
 #if QT_VERSION < QT_VERSION_CHECK( 6, 0, 0 )
-    m_stream.setCodec( "UTF-8" ); // what Qt 6 begins with
+    m_stream.setCodec( "UTF-8" ); // the default of Qt 6
 #endif
 }
 

@@ -8,13 +8,13 @@
 namespace PimManager::vCard
 {
 
-// Two expressions over the whole text, each written as its rule: the judge of the component's preparation.
+// Two expressions over the whole text, each written as its rule. The component's preparation is compared with them.
 QByteArray PreparedText( const QByteArray& a_data )
 {
     const auto nul = a_data.indexOf( '\0' );
     QString text = QString::fromUtf8( nul >= 0 ? a_data.left( nul ) : a_data );
     text.replace( QRegularExpression( s_kQpSoftBreakPattern ), s_kSpace );
-    // A CR LF is one line break: where its CR is protected by a "=" before it, its LF begins no fold either.
+    // A CR LF is one line break. If a "=" before its CR protects it, its LF does not begin a fold either.
     const QString notInsideCrlf = QStringLiteral( R"((?!(?<=\r)\n))" );
     text.replace( QRegularExpression( notInsideCrlf + s_kUnfoldPattern ), QString() );
     return text.toUtf8();

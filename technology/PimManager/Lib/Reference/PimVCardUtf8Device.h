@@ -1,5 +1,5 @@
 /// \file
-/// The device under the plain scanner's text stream.
+/// The device that the plain scanner's text stream reads from.
 
 #pragma once
 
@@ -12,22 +12,23 @@ namespace PimManager::vCard
 
 /// Reads a byte array in blocks that end between UTF-8 sequences.
 ///
-/// A text stream tells its position exactly only when its decoder holds no half sequence at a block's end. The blocks
-/// are small because the stream decodes its block anew, byte by byte, whenever it is asked for its position.
+/// A text stream knows its exact position only if its decoder has no incomplete sequence at the end of a block. The
+/// blocks are small because the stream decodes its block again, byte by byte, each time its position is requested.
 class PimVCardUtf8Device : public QIODevice
 {
 public:
-    /// Opens the device for reading. The array is not taken over, must outlive the device and must not change.
+    /// Opens the device for reading. The caller keeps ownership of the array. It must outlive the device and must not
+    /// change.
     explicit PimVCardUtf8Device( const QByteArray* a_data );
 
     /// \return the length of the array in bytes.
     qint64 size() const override;
 
 protected:
-    /// Gives fewer bytes than asked for when the block would end inside a sequence; a caller that asks for less than
+    /// Returns fewer bytes than requested if the block would end inside a sequence. A caller that requests less than
     /// one whole sequence gets part of it.
     qint64 readData( char* a_buffer, qint64 a_maxSize ) override;
-    /// Refuses: the device is for reading only.
+    /// Always fails, because the device is read-only.
     qint64 writeData( const char* a_buffer, qint64 a_size ) override;
 
 private:

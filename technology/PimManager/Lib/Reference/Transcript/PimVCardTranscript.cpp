@@ -30,7 +30,7 @@ QString WithoutMilliseconds( const QString& a_message )
     return QString( a_message ).replace( timing, QStringLiteral( R"(\1 \2)" ) );
 }
 
-/// The lines so far. Takes every message on Qt's log in as a line, too.
+/// The lines so far. Also records every message on Qt's log as a line.
 class Transcript
 {
 public:
@@ -73,7 +73,7 @@ void AddScanner( const PimVCardLexer& a_lexer, bool a_hasPosition )
         Transcript::Add( QLatin1String( "position" ), Number( a_lexer.m_stream.pos() ) );
 }
 
-// Results of the parser, deleted once they are told.
+// Results of the parser, deleted once they are recorded.
 
 void Add( bool a_result )
 {
@@ -148,7 +148,7 @@ void AddOwned( T* a_result )
     Add( std::unique_ptr<T>( a_result ) );
 }
 
-/// A parser and the property that it gave last.
+/// A parser and the last property that it returned.
 class ParserSession
 {
 public:

@@ -1,8 +1,8 @@
 /// \file
-/// What a parser or a scanner does, told as lines of plain text.
+/// Records what a parser or a scanner does as lines of plain text.
 ///
-/// The source is compiled twice: over the component, and over the plain implementation in this folder. So every
-/// function below exists in two namespaces, and a program that links both builds can compare their answers:
+/// The source is compiled twice: for the component, and for the plain implementation in this folder. Every function
+/// below exists in two namespaces, so a program that links both builds can compare their results:
 ///
 /// \code
 /// const QByteArray text( "BEGIN:VCARD\r\nEND:VCARD\r\n" );
@@ -10,9 +10,10 @@
 /// const bool isSame = vCard::TranscriptOf( text, calls ) == vCardReference::TranscriptOf( text, calls );
 /// \endcode
 ///
-/// A transcript holds results field by field, the state after each call, and every message on Qt's log with its type
-/// and category. The milliseconds of the timing line are left out, so two transcripts of the same text are equal.
-/// While one is made, Qt's log goes into it and not to the screen: make one at a time in a process.
+/// A transcript contains the results field by field, the state after each call, and every message on Qt's log with its
+/// type and category. It omits the milliseconds of the timing line, so two transcripts of the same text are equal.
+/// While a transcript is created, Qt's log is written to it and not to the screen. Create only one at a time in a
+/// process.
 
 #pragma once
 
@@ -33,7 +34,7 @@ enum class PimVCardParserCall
     ParseVCards,
     ParseVCard,
     ParseStart,
-    /// Over the property of the last ParseProperty; over null when there was none or it failed.
+    /// Called with the property of the last ParseProperty. Null if there was none or it failed.
     ParseEnd,
     ParseProperties,
     ParseProperty,
@@ -53,21 +54,21 @@ inline constexpr PimVCardParserCall s_kLastParserCall = PimVCardParserCall::Pars
 /// What a step of a scanner script does.
 enum class PimVCardScannerCall
 {
-    /// `GetToken( expression, false )`, with a copy of the expression when the argument is not 0.
+    /// `GetToken( expression, false )`, with a copy of the expression if the argument is not 0.
     Run,
-    /// `GetToken( expression, true )`, with a copy of the expression when the argument is not 0.
+    /// `GetToken( expression, true )`, with a copy of the expression if the argument is not 0.
     Single,
     /// `SeekToPattern( expression )`
     Seek,
-    /// `PrintStatus( &expression )`; `PrintStatus( nullptr )` when the argument is not 0.
+    /// `PrintStatus( &expression )`, or `PrintStatus( nullptr )` if the argument is not 0.
     Status,
-    /// Gives the expression the pattern of another one, the argument's; its options stay.
+    /// Assigns the pattern of another expression, whose index is the argument. The options do not change.
     Change,
     /// `m_stream >> m_nextChar`
     Read,
     /// `m_stream.readLine()`
     ReadLine,
-    /// `m_stream.pos()`, for scripts that do not ask at each step.
+    /// `m_stream.pos()`, for scripts that do not request it after each step.
     Position,
     /// `m_stream.seek( argument )`
     GoTo,
@@ -75,31 +76,32 @@ enum class PimVCardScannerCall
     SetLookAhead
 };
 
-/// One step. Which of the two numbers it uses is said above.
+/// One step. PimVCardScannerCall says which of the two numbers it uses.
 struct PimVCardScannerStep
 {
     PimVCardScannerCall m_call;
-    /// A place in the script's list of expressions.
+    /// An index into the script's list of expressions.
     int m_expression = 0;
     int m_argument = 0;
 };
 
-/// What an expression is made of. Each transcript compiles its own.
+/// The pattern and options of an expression. Each transcript compiles its own.
 struct PimVCardScannerExpression
 {
     QString m_pattern;
     QRegularExpression::PatternOptions m_options = QRegularExpression::NoPatternOption;
 };
 
-/// What is done with one scanner, from its making on.
+/// The steps of one scanner, from its creation on.
 struct PimVCardScannerScript
 {
     QList<PimVCardScannerExpression> m_expressions;
     QList<PimVCardScannerStep> m_steps;
-    /// True to note the stream's position after each step. A text stream reads other blocks when it is asked.
+    /// True to record the position of the stream after each step. A text stream reads different blocks if its position
+    /// is requested.
     bool m_watchesPosition = true;
-    /// True to work with the scanner of a parser, which has learnt the parser's expressions and reads the prepared
-    /// text; else with a new scanner over the text as it is.
+    /// True to use the scanner of a parser, which has learned the parser's expressions and reads the prepared text.
+    /// Otherwise a new scanner reads the text as it is.
     bool m_isOfParser = false;
 };
 
@@ -107,29 +109,29 @@ struct PimVCardScannerScript
 struct PimVCardHeldCards
 {
     int m_count = 0;
-    /// Deletes them when it goes.
+    /// Owns the cards.
     std::shared_ptr<const void> m_cards;
 };
 
 namespace vCard
 {
 
-/// Makes a parser over the text and calls it. Starts with the prepared text; after each call come its result and the
-/// scanner's and the parser's state.
+/// Creates a parser for the text and calls it. The transcript begins with the prepared text. Each call adds its result
+/// and the state of the scanner and the parser.
 QStringList TranscriptOf( const QByteArray& a_text, const QList<PimVCardParserCall>& a_calls );
 
-/// Takes each step with a scanner over the text. After each come its result and the scanner's state.
+/// Runs each step with a scanner for the text. Each step adds its result and the state of the scanner.
 QStringList TranscriptOf( const QByteArray& a_text, const PimVCardScannerScript& a_script );
 
 /// The text as the parser prepares it.
 QByteArray Prepared( const QByteArray& a_text );
 
-/// Parses the whole text. Nothing is taken down: this is what benchmarks measure. The parser's messages go to Qt's log.
+/// Parses the whole text. Nothing is recorded, because benchmarks measure this. The parser's messages go to Qt's log.
 PimVCardHeldCards ParsedCards( const QByteArray& a_text );
 
 } // namespace vCard
 
-// The build that renames the namespace by a macro has declared them above.
+// The build that renames the namespace with a macro has declared them above.
 #ifndef vCard
 
 namespace vCardReference

@@ -215,7 +215,7 @@ CardData Merged( const CardData& a_first, const CardData& a_second )
 
 } // namespace
 
-TEST( DamageTest, ExceptionsAreThese )
+TEST( DamageTest, DamageCostsTheseCards )
 {
     const CardData damaged = Card( "x" );
     const std::vector<Row> rows = {

@@ -81,7 +81,7 @@ QList<QString>* Values( const QList<QString>& a_values )
 
 } // namespace
 
-TEST( DataModelParameterTest, AccessorsGiveTheTextsByRole )
+TEST( DataModelParameterTest, AccessorsReturnTheMatchingText )
 {
     const PimVCardParameter parameter( Text( "TYPE" ), Text( "\"a, quoted; one\"" ) );
     EXPECT_EQ( parameter.GetName(), Text( "TYPE" ) );
@@ -104,7 +104,7 @@ TEST( DataModelParameterTest, TextsShareTheirMemory )
     EXPECT_TRUE( parameter.GetValue().isSharedWith( value ) );
 }
 
-TEST( DataModelPropertyTest, AccessorsGiveTheTextsByRole )
+TEST( DataModelPropertyTest, AccessorsReturnTheMatchingText )
 {
     const PimVCardProperty property( Text( "item1" ), Text( "TEL" ), NoParameters(), Values( { Text( "1" ) } ) );
     EXPECT_EQ( property.GetGroupID(), Text( "item1" ) );
@@ -271,7 +271,7 @@ TEST( DataModelPrintTest, UngroupedPropertyPrintsAnEmptyGroup )
                                     Debug( Text( "   Name:   \"N\"" ) ), Debug( Text( "   Values:" ) ) } ) );
 }
 
-TEST( DataModelPrintTest, PrefixStandsAtTheHeadAndTwiceBeforeValues )
+TEST( DataModelPrintTest, PrefixBeginsEachMessageAndPrecedesValuesTwice )
 {
     auto* const parameters = new QList<PimVCardParameter*>{ new PimVCardParameter( Text( "X" ), Text( "y" ) ) };
     const PimVCardProperty property( QString(), Text( "N" ), parameters, Values( { Text( "v" ) } ) );
@@ -284,7 +284,7 @@ TEST( DataModelPrintTest, PrefixStandsAtTheHeadAndTwiceBeforeValues )
                                  Text( "\xC3\xA9> Values:" ), Text( "\xC3\xA9> \xC3\xA9> \"v\"" ) } ) );
 }
 
-TEST( DataModelPrintTest, EmptyPrefixLeavesTheBlankBehindIt )
+TEST( DataModelPrintTest, EmptyPrefixKeepsTheBlankAfterIt )
 {
     const PimVCardParameter parameter( Text( "A" ), Text( "b" ) );
     const LogCapture log;

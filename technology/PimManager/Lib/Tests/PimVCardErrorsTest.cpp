@@ -192,7 +192,7 @@ TEST( ErrorsTest, ReportMarksParserUntilRecovery )
     }
 }
 
-TEST( ErrorsTest, RowsHoldEveryLabelAndMessage )
+TEST( ErrorsTest, RowsCoverEveryLabelAndMessage )
 {
     std::set<std::string> seen;
     for ( const Row& row : s_kRows )
@@ -268,7 +268,7 @@ TEST( ErrorLogTest, SuccessWritesNothing )
     EXPECT_EQ( "", TextOf( log ) );
 }
 
-TEST( ErrorLogTest, IllegalCharacterStandsBehindHeading )
+TEST( ErrorLogTest, IllegalCharacterFollowsHeading )
 {
     EXPECT_EQ( R"log(critical|Error in "ParseGroup()" ->
   "Found illegal character..."
@@ -284,7 +284,7 @@ critical|
                LogOf( RunGroup, "item1.FN :a\r\n" ) );
 }
 
-TEST( ErrorLogTest, PatternStandsInStatus )
+TEST( ErrorLogTest, StatusShowsPattern )
 {
     EXPECT_EQ( R"log(critical|Error in "ParseProperty()" ->
   "Expected COLON token..."
@@ -355,7 +355,7 @@ debug|[PVCP] : 1 vCards parsed in: # ms
                LogOf( RunVCards, text ) );
 }
 
-TEST( ErrorLogTest, BadBeginLineIsPrintedBehindStatus )
+TEST( ErrorLogTest, BadBeginLineIsPrintedAfterStatus )
 {
     EXPECT_EQ( R"log(critical|Error in "ParseStart()" ->
   "Could not parse BEGIN property..."
@@ -394,7 +394,7 @@ debug|[PVCP] : 0 vCards parsed in: # ms
                LogOf( RunVCards, "FN:Jo \"M\"\tV\nx\r\n" ) );
 }
 
-TEST( ErrorLogTest, BadEndLineIsPrintedBehindStatus )
+TEST( ErrorLogTest, BadEndLineIsPrintedAfterStatus )
 {
     EXPECT_EQ( R"log(critical|Error in "ParseEnd()" ->
   "Could not parse END property..."

@@ -53,7 +53,7 @@ protected:
 
 } // namespace
 
-TEST_F( FixtureTest, PropertyWithoutParametersPassesWithAnEmptyListAndWithNone )
+TEST_F( FixtureTest, PropertyWithoutParametersPassesWithAnEmptyAndANullList )
 {
     sm_property.reset( MakeProperty( new QList<PimVCardParameter*> ) );
     Base::TestProperty( sm_property.get(), "item1", "TEL", 0, {}, {}, 1, { "5550102" } );
@@ -63,7 +63,7 @@ TEST_F( FixtureTest, PropertyWithoutParametersPassesWithAnEmptyListAndWithNone )
     Base::TestProperty( sm_property.get(), "", "TEL", 0, {}, {}, 0, {} );
 }
 
-TEST_F( FixtureTest, CountsThatAreNotThoseOfTheListsFailBeforeThePropertyIsRead )
+TEST_F( FixtureTest, WrongCountsFailBeforeThePropertyIsRead )
 {
     static const Texts one{ "a" };
     static const Texts two{ "a", "b" };
@@ -80,7 +80,7 @@ TEST_F( FixtureTest, NullPropertyFails )
                           "Value of: a_property\n  Actual: false\nExpected: true" );
 }
 
-TEST_F( FixtureTest, FirstDifferenceIsTheOnlyOneTold )
+TEST_F( FixtureTest, OnlyTheFirstDifferenceIsReported )
 {
     static const Texts one{ "wrong" };
     sm_property.reset( MakeProperty( OneParameter() ) );

@@ -104,12 +104,12 @@ class HostileInputTest : public testing::TestWithParam<HostileShape>
 {
 };
 
-TEST_P( HostileInputTest, SmallTextGivesItsCards )
+TEST_P( HostileInputTest, SmallTextYieldsItsCards )
 {
     ExpectOutcome( GetParam(), GetParam().m_repetitions / PIMVCARD_TEST_SIZE_DIVISOR / s_kSmallDivisor );
 }
 
-TEST_P( HostileInputTest, LargeTextGivesItsCards )
+TEST_P( HostileInputTest, LargeTextYieldsItsCards )
 {
     ExpectOutcome( GetParam(), GetParam().m_repetitions / PIMVCARD_TEST_SIZE_DIVISOR );
 }

@@ -55,7 +55,7 @@ class InputPreparationLineBreakTest : public testing::TestWithParam<LineBreak>
 
 } // namespace
 
-TEST_P( InputPreparationRowTest, GivesThePreparedText )
+TEST_P( InputPreparationRowTest, YieldsThePreparedText )
 {
     EXPECT_EQ( Prepared( GetParam().m_input ), GetParam().m_prepared );
 }
@@ -196,7 +196,7 @@ TEST( InputPreparationTest, OtherControlCharactersAreNoLineBreaks )
     }
 }
 
-TEST( InputPreparationTest, NullArrayGivesEmptyData )
+TEST( InputPreparationTest, NullArrayYieldsEmptyData )
 {
     EXPECT_EQ( Prepared( QByteArray() ), QByteArray( "" ) );
 }
@@ -223,7 +223,7 @@ TEST( InputPreparationTest, RawArrayIsReadToItsSizeOnly )
     EXPECT_EQ( Prepared( QByteArray::fromRawData( bytes.data(), 5 ) ), QByteArray( "FN:ab" ) );
 }
 
-TEST( InputPreparationTest, RawArrayNeedsNoNulBehindIt )
+TEST( InputPreparationTest, RawArrayNeedsNoTrailingNul )
 {
     const std::vector<char> bytes = { 'F', 'N', ':', 'a', '\r', '\n', ' ', 'b' };
     const auto size = static_cast<int>( bytes.size() );

@@ -42,7 +42,7 @@ void Fill( Elements& a_elements, const std::string& a_names, std::string& a_reco
 } // namespace
 
 // One row with room for all elements, one with more than there is room for.
-TEST( OwnedElementsTest, ElementsThatWereNotTakenAreDeletedFromTheFirstOn )
+TEST( OwnedElementsTest, ElementsThatWereNotTakenAreDeletedFirstToLast )
 {
     for ( const std::string names : { "", "a", "ab", "abcdef" } )
     {
@@ -57,7 +57,7 @@ TEST( OwnedElementsTest, ElementsThatWereNotTakenAreDeletedFromTheFirstOn )
     }
 }
 
-TEST( OwnedElementsTest, ListTakesElementsOverInOrder )
+TEST( OwnedElementsTest, ListTakesOverElementsInOrder )
 {
     std::string record;
     QList<Element*>* list = nullptr;
@@ -76,7 +76,7 @@ TEST( OwnedElementsTest, ListTakesElementsOverInOrder )
     EXPECT_EQ( "abc", record );
 }
 
-TEST( OwnedListTest, ElementsAreDeletedFromTheFirstOnAndNullIsSkipped )
+TEST( OwnedListTest, ElementsAreDeletedFirstToLastAndNullIsSkipped )
 {
     std::string record;
     auto* const list = new QList<Element*>{ new Element( 'a', record ), nullptr, new Element( 'b', record ) };

@@ -72,7 +72,7 @@ const std::vector<ListRow> s_kLists = {
 
 } // namespace
 
-TEST( ParametersTest, AcceptedListsComeAsWritten )
+TEST( ParametersTest, AcceptedListsAreReturnedAsWritten )
 {
     for ( const ListRow& row : s_kLists )
     {
@@ -213,7 +213,7 @@ const std::vector<FailureRow> s_kFailures = {
 
 } // namespace
 
-TEST( ParametersTest, FailureGivesNullAndExactReports )
+TEST( ParametersTest, FailureReturnsNullAndWritesExactReports )
 {
     for ( const FailureRow& row : s_kFailures )
     {
@@ -416,7 +416,7 @@ const std::vector<FailureRow> s_kBadQuoted = {
 
 } // namespace
 
-TEST( QuotedParameterValueTest, TextComesWithClosingQuote )
+TEST( QuotedParameterValueTest, TextIncludesClosingQuote )
 {
     for ( const QuotedRow& row : s_kQuoted )
     {
@@ -429,7 +429,7 @@ TEST( QuotedParameterValueTest, TextComesWithClosingQuote )
     }
 }
 
-TEST( QuotedParameterValueTest, FailureGivesEmptyTextAndReport )
+TEST( QuotedParameterValueTest, FailureReturnsEmptyTextAndWritesReport )
 {
     for ( const FailureRow& row : s_kBadQuoted )
     {

@@ -89,7 +89,7 @@ const std::vector<BadGroupRow> s_kBadGroups = {
 
 } // namespace
 
-TEST( GroupTest, GroupComesWithoutItsLastDot )
+TEST( GroupTest, GroupOmitsItsLastDot )
 {
     for ( const GroupRow& row : s_kGroups )
     {
@@ -105,7 +105,7 @@ TEST( GroupTest, GroupComesWithoutItsLastDot )
     }
 }
 
-TEST( GroupTest, OtherCharacterBehindNameIsIllegal )
+TEST( GroupTest, OtherCharacterAfterNameIsIllegal )
 {
     for ( const BadGroupRow& row : s_kBadGroups )
     {
@@ -184,7 +184,7 @@ const std::vector<LineRow> s_kLines = {
 
 } // namespace
 
-TEST( PropertyTest, LineComesAsWritten )
+TEST( PropertyTest, LineIsReturnedAsWritten )
 {
     for ( const LineRow& row : s_kLines )
     {
@@ -234,7 +234,7 @@ const std::vector<std::vector<const char*>> s_kBadLines = {
 
 } // namespace
 
-TEST( PropertyTest, LineThatFailsGivesNull )
+TEST( PropertyTest, LineThatFailsReturnsNull )
 {
     for ( const std::vector<const char*>& row : s_kBadLines )
     {
@@ -288,7 +288,7 @@ TEST( PropertyTest, EncodingOfFailedLineStaysSet )
     EXPECT_TRUE( PimVCardParserInspector( values ).IsQuotedPrintable() );
 }
 
-TEST( PropertyTest, EncodingOfLineThatFailsBehindItsValuesIsCleared )
+TEST( PropertyTest, EncodingOfLineThatFailsAfterItsValuesIsCleared )
 {
     const LogCapture log;
     PimVCardParser parser( "PHOTO;ENCODING=b:A A\r\n" );
@@ -311,7 +311,7 @@ std::optional<PropertyData> ParseBehind( const char* a_parameters, const char* a
 
 } // namespace
 
-TEST( PropertyTest, EncodingLeftOverSteersNextLine )
+TEST( PropertyTest, LeftoverEncodingAppliesToNextLine )
 {
     EXPECT_EQ( ( PropertyData{ "", "FN", {}, { "ab" } } ),
                ParseBehind( ";ENCODING=QUOTED-PRINTABLE", "FN:a=\r\nb\r\n" ) );
@@ -320,7 +320,7 @@ TEST( PropertyTest, EncodingLeftOverSteersNextLine )
     EXPECT_EQ( std::nullopt, ParseBehind( ";ENCODING=b", "FN:a b\r\n" ) );
 }
 
-TEST( PropertyTest, EncodingLeftOverMeetsOtherEncoding )
+TEST( PropertyTest, LeftoverEncodingConflictsWithOtherEncoding )
 {
     EXPECT_EQ( std::nullopt, ParseBehind( ";ENCODING=b", "FN;ENCODING=QUOTED-PRINTABLE:a\r\n" ) );
     EXPECT_TRUE( ParseBehind( ";ENCODING=b", "FN;ENCODING=BASE64:a\r\n" ).has_value() );
@@ -395,7 +395,7 @@ TEST( PropertiesTest, LineThatFailsDropsList )
     }
 }
 
-TEST( PropertiesTest, PropertiesComeInOrderOfText )
+TEST( PropertiesTest, PropertiesKeepOrderOfText )
 {
     PimVCardParser parser( "item1.TEL;HOME:1\r\nADR:;;x\r\nEND:VCARD\r\n" );
     const CardData expected = { { "item1", "TEL", { { "", "HOME" } }, { "1" } },

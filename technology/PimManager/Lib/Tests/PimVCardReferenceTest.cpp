@@ -142,7 +142,7 @@ TEST( ReferenceTest, ParsesTheExampleAddressBook )
     EXPECT_EQ( vCardReference::ParsedCards( Phonebook() ).m_count, 10 );
 }
 
-TEST( ReferenceTest, TranscriptTellsWhatWasParsed )
+TEST( ReferenceTest, TranscriptShowsWhatWasParsed )
 {
     const QStringList lines =
         vCardReference::TranscriptOf( "BEGIN:VCARD\r\na.TEL;HOME:1;2\r\nEND:VCARD\r\n", s_kParseVCards );

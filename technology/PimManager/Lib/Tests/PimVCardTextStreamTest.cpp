@@ -45,7 +45,7 @@ class TextStreamTest : public testing::TestWithParam<MalformedRow>
 {
 };
 
-TEST_P( TextStreamTest, ByteOfNoCharacterReadsAsReplacement )
+TEST_P( TextStreamTest, MalformedByteIsReadAsReplacement )
 {
     EXPECT_EQ( UnitsOf( GetParam().m_bytes ).toStdString(), GetParam().m_units );
 }
@@ -63,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P( Malformed, TextStreamTest,
                                            MalformedRow{ "NoLead", "a\xFFz", "a?z" } ),
                           []( const auto& a_info ) { return a_info.param.m_name; } );
 
-TEST( TextStreamSeekTest, PlacesFromStartToEndAreReached )
+TEST( TextStreamSeekTest, PositionsFromStartToEndAreReached )
 {
     const QByteArray text( "abc" );
     PimVCardTextStream stream( &text );
@@ -74,7 +74,7 @@ TEST( TextStreamSeekTest, PlacesFromStartToEndAreReached )
     }
 }
 
-TEST( TextStreamSeekTest, PlaceOutsideTheTextIsRefusedAndNothingChanges )
+TEST( TextStreamSeekTest, PositionOutsideTheTextIsRefusedAndNothingChanges )
 {
     const QByteArray text( "abc" );
     PimVCardTextStream stream( &text );

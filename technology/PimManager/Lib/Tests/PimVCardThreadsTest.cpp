@@ -148,7 +148,7 @@ void RunOnThreads( const std::function<void( int )>& a_work )
 
 } // namespace
 
-TEST( ThreadsTest, BooksGiveTheirCards )
+TEST( ThreadsTest, BooksYieldTheirCards )
 {
     const ThreadLog log;
     const std::vector<Outcome> outcomes = OutcomesOfAllBooks();
@@ -156,7 +156,7 @@ TEST( ThreadsTest, BooksGiveTheirCards )
         EXPECT_EQ( outcomes[i].m_cards.size(), Books()[i].m_cards ) << Books()[i].m_name;
 }
 
-TEST( ThreadsTest, ParsersSideBySideGiveWhatOneAloneGives )
+TEST( ThreadsTest, ConcurrentParsersHaveTheResultsOfOneParser )
 {
     const ThreadLog log;
     const std::vector<Outcome> expected = OutcomesOfAllBooks();
@@ -199,7 +199,7 @@ TEST( ThreadsTest, CardsOutliveTheThreadThatParsedThem )
 }
 
 // One thread goes on parsing, and so using the names that it keeps, while others let go of its cards.
-TEST( ThreadsTest, CardsMayGoOnOtherThreadsWhileTheirOwnParses )
+TEST( ThreadsTest, CardsMayBeDeletedOnOtherThreadsWhileTheirOwnParses )
 {
     const ThreadLog log;
     const QByteArray& text = Books().front().m_text;

@@ -277,7 +277,7 @@ TEST( TokenScannerTest, EmptyTextIsAtItsEnd )
 
 // Single characters.
 
-TEST( TokenScannerTest, NameThenColonLeaveTheCharacterBehind )
+TEST( TokenScannerTest, NameThenColonLeaveTheCharacterAfterThem )
 {
     Scanner scanner( "BEGIN:VCARD" );
     EXPECT_EQ( scanner.Run( s_kNamePattern ), Text( "BEGIN" ) );
@@ -319,7 +319,7 @@ TEST( TokenScannerTest, SingleModeKeepsABackslashBeforeCarriageReturn )
     EXPECT_EQ( scanner.Left(), Text( "\r\n" ) );
 }
 
-TEST( TokenScannerTest, SingleModeTakesAByteOrderMark )
+TEST( TokenScannerTest, SingleModeReadsAByteOrderMark )
 {
     Scanner scanner( QByteArray( "a" ) + s_kByteOrderMark );
     EXPECT_EQ( scanner.Run( s_kValueCharPattern ), Text( "a" ) );
@@ -369,7 +369,7 @@ TEST( TokenScannerTest, LookAheadMayBeSetByTheCaller )
 
 // Runs.
 
-TEST_P( TokenScannerRunTest, GivesTheTokenAndLeavesTheRest )
+TEST_P( TokenScannerRunTest, ReturnsTheTokenAndLeavesTheRest )
 {
     Scanner scanner( GetParam().m_text );
     EXPECT_EQ( scanner.Run( GetParam().m_pattern ), WholeText( GetParam().m_token ) );
@@ -487,7 +487,7 @@ TEST( TokenScannerTest, LineEndAfterABackslashIsNotCounted )
 }
 
 // Long runs are looked through by words of bytes.
-TEST( TokenScannerTest, MalformedByteIsFoundInEveryPlaceOfARun )
+TEST( TokenScannerTest, MalformedByteIsFoundAtEveryPositionOfARun )
 {
     for ( const char byte : { '\x80', '\xFF' } )
     {
@@ -537,7 +537,7 @@ TEST( TokenScannerTest, MatchingIsCaseSensitiveUnlessTheExpressionSaysOtherwise 
 }
 
 // In any letter case U+212A, the sign of the kelvin, is a K, and U+017F a long s.
-TEST( TokenScannerTest, TokenPatternWithOptionsIsAnother )
+TEST( TokenScannerTest, TokenPatternWithOptionsIsAnotherExpression )
 {
     Scanner scanner( "a\xE2\x84\xAA\xC5\xBF:" );
     const QRegularExpression anyCase( s_kNamePattern, QRegularExpression::CaseInsensitiveOption );
@@ -612,7 +612,7 @@ TEST_P( TokenScannerPatternTest, LookAheadBackslashIsAnOrdinaryCharacter )
     EXPECT_EQ( scanner.Left(), isAccepted ? Text( ",x" ) : Text( "\\,x" ) );
 }
 
-TEST_P( TokenScannerPatternTest, EndOfTextGivesEmptyTokens )
+TEST_P( TokenScannerPatternTest, EndOfTextYieldsEmptyTokens )
 {
     Scanner scanner( "" );
     for ( int i = 0; i < 2; ++i )
@@ -629,7 +629,7 @@ INSTANTIATE_TEST_SUITE_P( Vocabulary, TokenScannerPatternTest, s_kVocabularyPatt
 
 // Expressions that are none.
 
-TEST( TokenScannerTest, InvalidExpressionIsToldAndChangesNothing )
+TEST( TokenScannerTest, InvalidExpressionIsReportedAndChangesNothing )
 {
     const QRegularExpression invalid( Text( "ab[c" ) );
     for ( const bool isSingle : { false, true } )
@@ -675,7 +675,7 @@ TEST( TokenScannerTest, SeekWithInvalidExpressionChangesNothingAndIsSilent )
 
 // Going to a line. The rows search for "BEGIN".
 
-TEST_P( TokenScannerSeekTest, GivesTheLineAndGoesToItsStart )
+TEST_P( TokenScannerSeekTest, ReturnsTheLineAndMovesToItsStart )
 {
     Scanner scanner( GetParam().m_text );
     const LogCapture log;
@@ -734,7 +734,7 @@ TEST( TokenScannerTest, SeekDropsLookAheadAndTokens )
     EXPECT_EQ( scanner.LineNumber(), 2 );
 }
 
-TEST( TokenScannerTest, SeekStartsBehindTheLookAhead )
+TEST( TokenScannerTest, SeekStartsAfterTheLookAhead )
 {
     Scanner scanner( "aBEGIN\r\nBEGIN\r\nx" );
     scanner.Run( Text( "a" ) );
@@ -768,7 +768,7 @@ TEST( TokenScannerTest, SeekForEmptyTextFindsTheNextLine )
     EXPECT_EQ( scanner.Position(), 0 );
 }
 
-TEST( TokenScannerTest, NothingComesAfterASeekInVain )
+TEST( TokenScannerTest, NothingIsLeftAfterAFailedSeek )
 {
     Scanner scanner( "a\r\nBEGIN" );
     EXPECT_EQ( scanner.Seek( Text( "BEGIN" ) ), Text( "" ) );
@@ -874,7 +874,7 @@ TEST( TokenScannerTest, StreamDeliversEveryCharacter )
 
 // Positions, in texts of many blocks of the stream (16 KB) and of the device below it.
 
-TEST( TokenScannerPositionTest, IsExactBehindEveryCharacterOfTheFirstBlocks )
+TEST( TokenScannerPositionTest, IsExactAfterEveryCharacterOfTheFirstBlocks )
 {
     const QByteArray bytes = TextWithByteOrderMarks( 130 );
     ASSERT_GT( bytes.size(), 2 * 1024 );
@@ -892,7 +892,7 @@ TEST( TokenScannerPositionTest, IsExactWhereverACharacterStraddlesABlockEnd )
     }
 }
 
-TEST( TokenScannerPositionTest, IsExactRoundTheBlockEndsOfTheStream )
+TEST( TokenScannerPositionTest, IsExactAroundTheBlockEndsOfTheStream )
 {
     constexpr int s_kStreamBlock = 16384;
     const QByteArray bytes = TextWithByteOrderMarks( 6400 );
@@ -923,7 +923,7 @@ TEST( TokenScannerPositionTest, IsExactAllTheWayThroughALongText )
     }
 }
 
-TEST( TokenScannerPositionTest, BackslashBeforeCarriageReturnIsExactInEveryPlaceOfABlock )
+TEST( TokenScannerPositionTest, BackslashBeforeCarriageReturnIsExactAtEveryPositionOfABlock )
 {
     for ( int shift = 0; shift <= 1040; ++shift )
     {
@@ -946,7 +946,7 @@ TEST( TokenScannerPositionTest, BackslashBeforeCarriageReturnIsExactAfterALongRu
     }
 }
 
-TEST( TokenScannerPositionTest, SeekIsExactBehindALongLine )
+TEST( TokenScannerPositionTest, SeekIsExactAfterALongLine )
 {
     const QByteArray line = MixedText( 9000 );
     for ( int shift = 0; shift <= 16; ++shift )
@@ -960,7 +960,7 @@ TEST( TokenScannerPositionTest, SeekIsExactBehindALongLine )
     }
 }
 
-TEST( TokenScannerPositionTest, SeekIsExactBehindManyLines )
+TEST( TokenScannerPositionTest, SeekIsExactAfterManyLines )
 {
     constexpr int s_kLines = 3000;
     const QByteArray lines = ( MixedText( 3 ) + "\r\n" ).repeated( s_kLines );

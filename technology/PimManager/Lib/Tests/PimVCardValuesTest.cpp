@@ -105,7 +105,7 @@ TEST( ValuesTest, OtherCharactersDoNotSplit )
     ExpectValues( "", rows );
 }
 
-TEST( ValuesTest, CharacterThatIsNoneEndsValue )
+TEST( ValuesTest, NonValueCharacterEndsValue )
 {
     const std::vector<Row> rows = {
         { "carriage return", "a\rb", { "a" }, u'\r' },
@@ -160,7 +160,7 @@ TEST( ValuesTest, BackslashThatBeginsComponentEndsValue )
     ExpectValues( "", rows );
 }
 
-TEST( ValuesTest, CarriageReturnBehindBackslashIsReadTwice )
+TEST( ValuesTest, CarriageReturnAfterBackslashIsReadTwice )
 {
     ValueParser parser( "", "a\\\r\nb" );
     EXPECT_EQ( std::vector<std::string>{ "a" }, parser.Parse() );
@@ -191,7 +191,7 @@ TEST( QuotedPrintableValuesTest, SoftLineBreaksAreJoined )
     ExpectValues( s_kQpParameters, rows );
 }
 
-TEST( QuotedPrintableValuesTest, BlanksBehindSoftLineBreakAreKept )
+TEST( QuotedPrintableValuesTest, BlanksAfterSoftLineBreakAreKept )
 {
     const std::vector<Row> rows = {
         { "blank", "a=\r\n b\r\n", { "a b" } },
@@ -221,7 +221,7 @@ TEST( QuotedPrintableValuesTest, SoftLineBreakIsEndOfPlainValue )
     ExpectValues( "", rows );
 }
 
-TEST( QuotedPrintableValuesTest, OtherLineEndFailsAndKeepsFlag )
+TEST( QuotedPrintableValuesTest, OtherLineEndingFailsAndKeepsFlag )
 {
     const std::vector<Row> rows = {
         { "end of the text", "a=", {} },
@@ -256,7 +256,7 @@ TEST( QuotedPrintableValuesTest, SoftLineBreaksCountAsLines )
 
 // BASE64
 
-TEST( Base64ValuesTest, AlphabetIsTaken )
+TEST( Base64ValuesTest, AlphabetIsAccepted )
 {
     const std::string alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/=";
     const std::string line = alphabet + "\r\n";

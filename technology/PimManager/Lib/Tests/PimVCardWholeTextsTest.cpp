@@ -32,7 +32,7 @@ const char* const s_kBadLines[] = {
 
 } // namespace
 
-TEST( StartTest, BeginLineInAnyDressIsStart )
+TEST( StartTest, BeginLineInAnyFormIsStart )
 {
     for ( const char* text : s_kStarts )
     {
@@ -98,7 +98,7 @@ bool IsEnd( const char* a_text, PimVCardParser& a_parser )
 
 } // namespace
 
-TEST( EndTest, EndLineInAnyDressIsEnd )
+TEST( EndTest, EndLineInAnyFormIsEnd )
 {
     for ( const char* text : { "END:VCARD\r\n", "END\t:  VCARD\r\n", "end:vcard\r\n", "eNd:vCaRd\r\n",
                                "item1.END:VCARD\r\n", "END;a=b;c:VCARD\r\n" } )
@@ -174,7 +174,7 @@ const std::string s_kNoEnd = "BEGIN:VCARD\r\nFN:x\r\n";
 
 } // namespace
 
-TEST( CardTest, CardHoldsLinesBetweenBeginAndEnd )
+TEST( CardTest, CardContainsLinesBetweenBeginAndEnd )
 {
     const LogCapture log;
     PimVCardParser parser( "BEGIN:VCARD\r\nVERSION:3.0\r\nitem1.TEL;TYPE=HOME:1\r\nend : vcard\r\nX" );
@@ -259,7 +259,7 @@ void ExpectCards( const std::vector<Row>& a_rows )
 
 } // namespace
 
-TEST( WholeTextsTest, GoodTextsGiveAllCardsWithoutReport )
+TEST( WholeTextsTest, GoodTextsYieldAllCardsWithoutReport )
 {
     const std::vector<Row> rows = {
         { "empty text", "", {}, 0 },
@@ -352,7 +352,7 @@ TEST( RecoveryTest, BeginInsideLineIsFoundAndRefused )
 }
 
 // The search begins behind the look-ahead, which is already the B of the line after.
-TEST( RecoveryTest, CardRightBehindRefusedLineIsPassedOver )
+TEST( RecoveryTest, CardDirectlyAfterRefusedLineIsSkipped )
 {
     const std::vector<Row> rows = {
         { "wrong END", s_kWrongEnd + s_kA + s_kB, { Card( "B" ) }, 1 },
@@ -378,7 +378,7 @@ TEST( RecoveryTest, BeginInLastLineIsNotFound )
     ExpectCards( rows );
 }
 
-TEST( RecoveryTest, BlanksBehindRecoveryAreNotSkipped )
+TEST( RecoveryTest, BlanksAfterRecoveryAreNotSkipped )
 {
     const LogCapture log;
     PimVCardParser parser = ParserOf( "FN:x=\r\n \t" + s_kA );
@@ -390,7 +390,7 @@ TEST( RecoveryTest, BlanksBehindRecoveryAreNotSkipped )
     EXPECT_EQ( ( std::vector<int>{ 2, 2, 2, 2, 2, 2, 2, 2 } ), LineNumbersOf( log ) );
 }
 
-TEST( RecoveryTest, MissingEndTakesNextCardIn )
+TEST( RecoveryTest, CardWithoutEndAbsorbsNextCard )
 {
     const CardData both = { { "", "FN", {}, { "x" } }, { "", "BEGIN", {}, { "VCARD" } }, { "", "FN", {}, { "A" } } };
     const std::vector<Row> rows = {
@@ -462,7 +462,7 @@ TEST( RecoveryTest, MarkedParserRecoversWithFirstFailure )
 }
 
 // The way back counts characters: it ends two bytes into this line, which holds two characters of two bytes.
-TEST( RecoveryTest, WayBackIsShortByMultiByteCharacters )
+TEST( RecoveryTest, MultiByteCharactersMakeTheWayBackTooShort )
 {
     const LogCapture log;
     PimVCardParser parser = ParserOf( "!\r\nNOTE:\u00E9\u00E9BEGIN:VCARD\r\nX\r\n" + s_kA );
@@ -498,7 +498,7 @@ void Append( std::vector<Report>& a_reports, const std::vector<Report>& a_more )
 
 } // namespace
 
-TEST( LineEndsTest, OtherLineEndsGiveWhatTheyGive )
+TEST( LineEndsTest, OtherLineEndingsHaveTheseResults )
 {
     const std::vector<Row> rows = {
         { "LF, one card", CardText( "A", "\n" ), {}, 1 },
@@ -527,7 +527,7 @@ TEST( LineEndsTest, OtherLineEndsGiveWhatTheyGive )
 // way back to it, its length and 2, ends on the line feed before it, and the line number stays 3. That line feed is no
 // name, so the recovery after it comes to the same place; the text is then set one byte further, to the B of BEGIN,
 // whose value runs to the end of the text.
-TEST( LineEndsTest, RecoveryToSamePlaceGoesOneByteOn )
+TEST( LineEndsTest, RecoveryToSamePositionAdvancesOneByte )
 {
     const LogCapture log;
     PimVCardParser parser = ParserOf( s_kBrokenLf + CardText( "B", "\n" ) + CardText( "C", "\n" ) );
@@ -568,7 +568,7 @@ TEST( LineEndsTest, FirstRecoveryMayLeadToStart )
 }
 
 // A base64 value ends at a line feed: with the encoding left over by the card before, this BEGIN line is a good one.
-TEST( LineEndsTest, EncodingLeftOverSteersNextCard )
+TEST( LineEndsTest, LeftoverEncodingAppliesToNextCard )
 {
     const std::vector<Row> rows = {
         { "left over",
@@ -632,7 +632,7 @@ TEST( LargeTextsTest, CardsAroundBrokenOnesAreKept )
     }
 }
 
-TEST( LargeTextsTest, RecoveryBehindLongValueIsExact )
+TEST( LargeTextsTest, RecoveryAfterLongValueIsExact )
 {
     for ( const size_t length : { 16000U, 16383U, 16384U, 70000U } )
     {
@@ -650,7 +650,7 @@ TEST( LargeTextsTest, RecoveryBehindLongValueIsExact )
     }
 }
 
-TEST( LargeTextsTest, HundredsOfCardsComeInOrder )
+TEST( LargeTextsTest, HundredsOfCardsAreReturnedInOrder )
 {
     std::string text;
     std::vector<CardData> expected;
@@ -726,7 +726,7 @@ TEST( OwnershipTest, UnusedParserIsDropped )
     EXPECT_EQ( s_kA, PimVCardParserInspector( parser ).Data().toStdString() );
 }
 
-TEST( WholeTextsTest, SecondCallGivesNothing )
+TEST( WholeTextsTest, SecondCallReturnsNothing )
 {
     const LogCapture log;
     PimVCardParser parser = ParserOf( s_kA );

@@ -1,4 +1,4 @@
-# cmake -D COMMAND=... -D EXPECTED=FILE -P CompareOutput.cmake: does the command print just what the file holds?
+# cmake -D COMMAND=... -D EXPECTED=FILE -P CompareOutput.cmake: fails if the output of the command differs from the file.
 execute_process(COMMAND ${COMMAND} OUTPUT_VARIABLE printed COMMAND_ERROR_IS_FATAL ANY)
 file(READ ${EXPECTED} expected)
 if(NOT printed STREQUAL expected)

@@ -1,5 +1,6 @@
-// Cards cut off at each byte, and with each byte replaced by others that mean something: a card before, the damaged
-// one, two cards behind. What is given is compared with a reading of its own, and with what is promised of such texts.
+// Cards that are cut off at each byte, and cards in which each byte is replaced by others with a special meaning. One
+// card precedes the damaged one, and two follow it. The results are compared with those of an independent reader, and
+// with what is promised for such texts.
 
 #include "PimVCardParser.h"
 #include "PimVCardPlainReading.h"
@@ -26,7 +27,7 @@ struct Sample
     QByteArray m_text;
 };
 
-// Found by googletest, which would show the bytes of a sample.
+// googletest finds this function. Otherwise it would show the bytes of a sample.
 void PrintTo( const Sample& a_sample, std::ostream* a_stream )
 {
     *a_stream << a_sample.m_name;
@@ -73,7 +74,7 @@ std::vector<CardData> CardsOf( const QByteArray& a_text )
     return Take( PimVCardParser( a_text ).ParseVCards() ).value();
 }
 
-// The example address book, card by card; of a photo only the first two physical lines are kept.
+// The example address book, card by card. Only the first two physical lines of a photo are kept.
 std::vector<Sample> PhonebookCards()
 {
     QFile file( QStringLiteral( PIMVCARD_PHONEBOOK ) );
@@ -147,7 +148,7 @@ class DamagedTextTest : public testing::TestWithParam<Sample>
 {
 };
 
-// The text ends there: no end of the damaged line is left to find.
+// The text ends at the cut, so there is no end of the damaged line to find.
 TEST_P( DamagedTextTest, TextCutOffKeepsCardsBefore )
 {
     const QByteArray sample = GetParam().m_text;
@@ -193,7 +194,7 @@ TEST_P( DamagedTextTest, ByteReplacedKeepsCardsAroundIt )
 
 INSTANTIATE_TEST_SUITE_P( Samples, DamagedTextTest, testing::ValuesIn( Samples() ), NameOf<Sample> );
 
-// What damage may cost besides the damaged card.
+// The losses that damage may cause in addition to the damaged card.
 
 namespace
 {

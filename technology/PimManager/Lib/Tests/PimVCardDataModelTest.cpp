@@ -21,7 +21,7 @@ static_assert( !std::is_copy_constructible_v<PimVCardParameter> && !std::is_copy
 static_assert( !std::is_copy_constructible_v<PimVCardProperty> && !std::is_copy_assignable_v<PimVCardProperty> );
 static_assert( !std::is_copy_constructible_v<PimVCard> && !std::is_copy_assignable_v<PimVCard> );
 
-/// What the objects below write down when they are deleted: their name and how many elements their list still has.
+/// The objects below record their deletion here: their name, and how many elements their list still has.
 struct Deletions
 {
     QList<QString> m_names;

@@ -73,7 +73,7 @@ void RunQuotedParamValue( PimVCardParser& a_parser )
     EXPECT_EQ( QString(), a_parser.ParseQuotedParamValue() );
 }
 
-/// The values of a QUOTED-PRINTABLE line: the text begins with its parameters.
+/// The values of a QUOTED-PRINTABLE line. The text begins with the parameters.
 void RunValues( PimVCardParser& a_parser )
 {
     Take( a_parser.ParseParameters( false ) );
@@ -236,12 +236,12 @@ TEST( ErrorsTest, RowsCoverEveryLabelAndMessage )
     EXPECT_EQ( all, seen );
 }
 
-// The log line for line
+// The log, line by line
 
 namespace
 {
 
-/// The log of an operation over a text, without the time that it took.
+/// The log of an operation on a text, without the parse time.
 std::string LogOf( void ( *a_run )( PimVCardParser& ), const char* a_text )
 {
     const LogCapture log;

@@ -1,5 +1,5 @@
 /// \file
-/// The checkers of the self-check, themselves: what they let pass and how they fail.
+/// Tests the check functions of the self-check: what they accept and how they fail.
 
 #include "Test/PimVCardParserTestBase.h"
 
@@ -28,7 +28,7 @@ QList<PimVCardParameter*>* OneParameter()
     return new QList<PimVCardParameter*>{ new PimVCardParameter( QStringLiteral( "TYPE" ), QStringLiteral( "HOME" ) ) };
 }
 
-/// Opens what the fixture keeps to googletest, and stands for a case that has ended its body.
+/// Makes the protected functions of the fixture public. Represents a case whose body has ended.
 class BareCase : public PimVCardParserTestBase
 {
 public:
@@ -47,7 +47,7 @@ protected:
         Base::sm_parser = nullptr;
     }
 
-    // Static, because the statement that a failure is expected of can use nothing else.
+    // Static, because EXPECT_FATAL_FAILURE cannot use anything else in its statement.
     static inline std::unique_ptr<PimVCardProperty> sm_property;
 };
 

@@ -1,5 +1,5 @@
-// Texts made to hang the parser, to crash it or to fill the memory, at real sizes. How long they take is no matter here
-// but for the time-out of the process; how the work grows is a matter for the benchmarks.
+// Texts made to hang or crash the parser or to use up the memory, at real sizes. The time they take is limited only by
+// the time-out of the process. The benchmarks measure how the work grows.
 
 #include "HostileShapes.h"
 #include "PimVCardParser.h"
@@ -18,7 +18,7 @@ namespace PimManager::vCard
 namespace MadeTexts
 {
 
-// Found by googletest, which would show the bytes of a shape.
+// googletest finds this function. Otherwise it would show the bytes of a shape.
 static void PrintTo( const HostileShape& a_shape, std::ostream* a_stream )
 {
     *a_stream << a_shape.m_name.constData();
@@ -70,7 +70,7 @@ QByteArray LinesOf( const QList<PimVCard*>& a_cards )
     return lines;
 }
 
-// Texts of megabytes are compared, and shown where they part.
+// Compares texts of several megabytes, and shows where they differ.
 testing::AssertionResult AreSame( const QByteArray& a_expected, const QByteArray& a_given )
 {
     if ( a_expected == a_given )

@@ -101,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P( SoftBreaks, InputPreparationRowTest,
                                                 "N;ENCODING=QUOTED-PRINTABLE:;=4B=75=\r\n=6C" } ),
                           NameOf<Row> );
 
-// After "=" a line break stays, whatever follows. A CR LF is one line break: its LF alone begins no fold.
+// A line break after "=" is kept, whatever follows. A CR LF is one line break, so its LF alone begins no fold.
 INSTANTIATE_TEST_SUITE_P( Protected, InputPreparationRowTest,
                           testing::Values( Row{ "Blank", "N:x=\r\n y", "N:x=\r\n y" },
                                            Row{ "BlanksAndTabs", "N:x=\r\n \t y", "N:x=\r\n \t y" },
@@ -115,7 +115,7 @@ INSTANTIATE_TEST_SUITE_P( Protected, InputPreparationRowTest,
                                            Row{ "TextBetween", "N:x=y\r\n z", "N:x=yz" } ),
                           NameOf<Row> );
 
-// The encoded breaks are joined first and the folds removed after; neither step is run again.
+// The encoded breaks are joined first, then the folds are removed. Neither step is repeated.
 INSTANTIATE_TEST_SUITE_P(
     Order, InputPreparationRowTest,
     testing::Values( Row{ "JoiningMakesAFold", "L:a\r\n=0D=0A=\r\nb", "L:ab" },

@@ -1,4 +1,4 @@
-// How an application keeps contact data out of its journal: what SECURITY.md advises is tried here.
+// How an application keeps contact data out of its journal. This tests the advice of SECURITY.md.
 
 #include "PimVCardParser.h"
 #include "PimVCardTestLog.h"
@@ -16,7 +16,7 @@ namespace PimManager::vCard
 namespace
 {
 
-// A parameter, a value and an END line that fail, each with something that is nobody's business.
+// A parameter, a value and an END line that fail, each with private data.
 const char* const s_kCards = "BEGIN:VCARD\r\n"
                              "FN:Secret Name\r\n"
                              "TEL;X=\"Secret-Parameter\x01:+1-555-0100\r\n"
@@ -40,7 +40,7 @@ int MessagesWithSecret( const QList<LogMessage>& a_messages )
     return static_cast<int>( count );
 }
 
-// Rules for the time of a test.
+// Rules that apply for the duration of a test.
 class LoggingRules
 {
 public:

@@ -1,5 +1,5 @@
 /// \file
-/// Where the plain implementation can judge the component.
+/// Says for which texts the plain implementation can judge the component.
 
 #pragma once
 
@@ -8,10 +8,10 @@
 namespace PimManager
 {
 
-/// A text stream does not know its place any more once a seek led into the middle of a character that U+FEFF follows:
-/// it takes the U+FEFF for a byte order mark. Its place decides on the recovery from a fault, so such texts are left
-/// out. The stream of Qt 6 also keeps the state of its decoder over a seek, and loses it when it is asked for its place
-/// twice: with Qt 6 every text with a U+FEFF behind its start is left out.
+/// A text stream loses its position after a seek into the middle of a character that is followed by U+FEFF, because it
+/// takes the U+FEFF for a byte order mark. The recovery from an error depends on the position, so such texts are
+/// excluded. The stream of Qt 6 also keeps the state of its decoder across a seek, and loses it if its position is
+/// requested twice. With Qt 6, every text with a U+FEFF after its start is excluded.
 /// \param a_prepared the text that is scanned.
 inline bool IsJudgeSure( const QByteArray& a_prepared )
 {

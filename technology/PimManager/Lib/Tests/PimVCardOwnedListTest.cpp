@@ -41,7 +41,7 @@ void Fill( Elements& a_elements, const std::string& a_names, std::string& a_reco
 
 } // namespace
 
-// One row with room for all elements, one with more than there is room for.
+// The last row has more elements than there is room for.
 TEST( OwnedElementsTest, ElementsThatWereNotTakenAreDeletedFirstToLast )
 {
     for ( const std::string names : { "", "a", "ab", "abcdef" } )

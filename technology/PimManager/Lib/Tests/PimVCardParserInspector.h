@@ -1,5 +1,5 @@
 /// \file
-/// The parser's inner state, for tests that no result can tell.
+/// Shows the parser's internal state to tests, where no result shows it.
 
 #pragma once
 
@@ -9,7 +9,7 @@
 namespace PimManager::vCard
 {
 
-/// Reads the state of a parser that outlives it.
+/// Reads the state of a parser, which must outlive it.
 class PimVCardParserInspector
 {
 public:
@@ -18,12 +18,12 @@ public:
     {
     }
 
-    /// The text as prepared, in UTF-8.
+    /// The prepared text, in UTF-8.
     QByteArray Data() const { return m_parser.m_data; }
     PimVCardLexer& Lexer() const { return *m_parser.m_lexer; }
     bool IsQuotedPrintable() const { return m_parser.m_quotedPrintable; }
     bool IsBase64() const { return m_parser.m_base64; }
-    /// 1 once a failure was reported, else 0.
+    /// 1 after a failure was reported, otherwise 0.
     qint32 ErrorReported() const { return m_parser.m_errorReported; }
 
 private:

@@ -1,8 +1,8 @@
 /// \file
-/// The self-check: 34 cases, each a parser over a text of its own.
+/// The self-check: 34 cases, each with a parser for a text of its own.
 ///
-/// The expected words are written out and never taken from the vocabulary, so that a change there is noticed; the
-/// vocabulary is included only to be built before the texts of the cases.
+/// The expected words are written out and never taken from the vocabulary, so a change of the vocabulary is noticed.
+/// The vocabulary is included only so that it is constructed before the texts of the cases.
 
 #include "PimVCardTestCards.h"
 #include "PimVCardTestPhotos.h"
@@ -81,7 +81,7 @@ static const QByteArray s_kPhonePhotoLine = QByteArray( "PHOTO;ENCODING=b;TYPE=J
 
 static const QByteArray s_kVCardData1 = PhoneCard( s_kPhonePhotoLine );
 
-/// Parsed by VCard2, and what Unfold1 expects.
+/// Parsed by VCard2, and expected by Unfold1.
 static const QByteArray s_kUnfoldData1 = MailCard( " ", s_kPhotoB );
 
 static const QByteArray s_kVCardData3( s_kEncodedNameCard );

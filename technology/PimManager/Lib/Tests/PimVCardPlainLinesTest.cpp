@@ -1,4 +1,4 @@
-// BEGIN and END lines as nearly every card has them are read in one step. That step must leave what the others leave.
+// BEGIN and END lines in their usual form are read in one step. This step must leave the same state as the others.
 
 #include "PimVCardParser.h"
 #include "PimVCardTestReports.h"
@@ -25,7 +25,7 @@ const EncodingRow s_kEncodings[] = {
     { ";ENCODING=b", false, true },
 };
 
-/// Reads the parameter and the colon behind it, so that the line behind is read with that encoding.
+/// Reads the parameter and the colon after it, so that the line after them is read with this encoding.
 void ReadParameter( PimVCardParser& a_parser, const EncodingRow& a_row )
 {
     const PimVCardParserInspector inspector( a_parser );

@@ -1,6 +1,6 @@
 /// \file
-/// A second reading of whole texts, written apart from the component to judge it: no expressions for each character, no
-/// stream, no log. It shares no code with what it judges and is far too plain to be fast.
+/// A second reader of whole texts, written independently of the component to judge it. It uses no expression per
+/// character, no stream and no log. It shares no code with the component and is far too simple to be fast.
 
 #pragma once
 
@@ -17,11 +17,11 @@
 namespace PimManager::vCard
 {
 
-/// Reads the cards of a text. U+FEFF is not provided for.
+/// Reads the cards of a text. Does not support U+FEFF.
 class PlainReading
 {
 public:
-    /// \param a_text as a parser would be given it.
+    /// \param a_text the text as a parser would receive it.
     explicit PlainReading( const QByteArray& a_text ) :
         m_bytes( Prepared( a_text ) )
     {
@@ -59,7 +59,7 @@ private:
         return text.remove( s_fold ).toUtf8();
     }
 
-    // From a byte on, which may be inside a character; each unit remembers the byte that it begins at.
+    // Continues at a byte, which may be inside a character. Each unit remembers the byte at which it begins.
     void GoTo( int a_byte )
     {
         m_units.clear();
@@ -87,7 +87,7 @@ private:
     {
         return a_place < Size() ? m_units[static_cast<size_t>( a_place )].second : static_cast<int>( m_bytes.size() );
     }
-    // The character at the place was read; nothing is left when none stands behind it.
+    // The character at m_place was read. Nothing is left if no character follows it.
     int FirstUnread() const { return std::min( Size(), m_place + ( m_hasStarted ? 1 : 0 ) ); }
     bool IsAtEnd() const { return FirstUnread() == Size(); }
 
@@ -144,7 +144,7 @@ private:
         return run;
     }
 
-    // A backslash inside a run: with the character behind it, or lost. False when the run ends there.
+    // A backslash inside a run is read with the character after it, or lost. Returns false if the run ends here.
     bool TakeBackslash( Class a_isIn, QString& a_run )
     {
         const ushort next = At( m_place + 1 );
@@ -248,7 +248,7 @@ private:
         return IsOneOf( ":;" ) && NoteEncoding( name, value );
     }
 
-    // A quote that does not close fails the line, but the list is read on.
+    // A quote that does not close makes the line fail, but the rest of the list is still read.
     QString ParameterValue()
     {
         if ( !Take( '"' ) )
@@ -292,7 +292,7 @@ private:
         return true;
     }
 
-    // Goes to the next line with BEGIN, the rest of the line of the failure among them, and tells where that is.
+    // Moves to the next line with BEGIN and returns its position. The rest of the line that failed is searched too.
     int Recover( int a_lastRecovery )
     {
         static const QRegularExpression s_begin( QStringLiteral( "BEGIN[ \t]*:[ \t]*VCARD" ),
@@ -308,7 +308,7 @@ private:
             if ( line.endsWith( QLatin1Char( '\r' ) ) )
                 line.chop( 1 );
         }
-        // The way back is counted in characters and gone in bytes.
+        // The way back is measured in characters but applied in bytes.
         int target = ByteAt( end );
         const int wayBack = static_cast<int>( line.size() ) + 2;
         if ( end < Size() && target >= wayBack )
@@ -320,7 +320,7 @@ private:
     const QByteArray m_bytes;
     std::vector<std::pair<ushort, int>> m_units;
     int m_place = 0;
-    // False until the character at the place was looked at.
+    // False until the character at m_place was tested.
     bool m_hasStarted = false;
     bool m_isQuotedPrintable = false;
     bool m_isBase64 = false;

@@ -223,7 +223,7 @@ namespace
 {
 
 const std::vector<std::vector<const char*>> s_kBadLines = {
-    // The last operation that reports, from the innermost, and lines for which it does.
+    // The last operation that reports, counted from the innermost, and lines for which it does.
     { "ParseGroup()", "FN :a\r\n", "item1.FN\t:a\r\n", "FN=a\r\n", "\r\n", "\r\nFN:a\r\n", " FN:a\r\n", "" },
     { "ParseParameters()", "FN;:a\r\n", "FN;a= b:c\r\n", "FN;a=\"\":b\r\n", "END;a :VCARD\r\n" },
     { "ParseValues()", "FN;ENCODING=QUOTED-PRINTABLE:a=\r\n\r\n", "FN;ENCODING=QUOTED-PRINTABLE:=" },
@@ -299,7 +299,7 @@ TEST( PropertyTest, EncodingOfLineThatFailsAfterItsValuesIsCleared )
 namespace
 {
 
-/// Parses a line after the parameters of a line that never came to its value.
+/// Parses a line after the parameters of a line whose value was never parsed.
 std::optional<PropertyData> ParseBehind( const char* a_parameters, const char* a_line )
 {
     const LogCapture log;

@@ -1,4 +1,4 @@
-// The component against the plain implementation: the same results, states and log messages for the same text.
+// Compares the component with the plain implementation: the same text has the same results, states and log messages.
 
 #include "PimVCardReferenceTexts.h"
 
@@ -24,7 +24,7 @@ const QList<Call> s_kParseVCards = { Call::ParseVCards };
 constexpr const char* s_kByteOrderMark = "\xEF\xBB\xBF";
 constexpr int s_kLinesBefore = 6;
 
-// Long texts are shown by their ends.
+// Only the ends of long texts are shown.
 std::string Shortened( const std::string& a_text )
 {
     constexpr size_t s_kShown = 1000;
@@ -92,7 +92,7 @@ testing::AssertionResult ScansTheSame( const QByteArray& a_text, const PimVCardS
     return result ? result : testing::AssertionFailure() << result.message() << Shown( a_script );
 }
 
-/// Takes the whole text with one expression and looks at what follows a run that ends.
+/// Reads the whole text with one expression, and shows what follows each run.
 PimVCardScannerScript RunsOf( const QString& a_pattern, bool a_watchesPosition )
 {
     const Step run = { PimVCardScannerCall::Run };
@@ -108,7 +108,7 @@ QByteArray Phonebook()
     return file.open( QIODevice::ReadOnly ) ? file.readAll() : QByteArray();
 }
 
-/// The example's cards with the photos down to three lines.
+/// The cards of the example, with photos of only three lines.
 QByteArray PhonebookWithSmallPhotos()
 {
     QString text = QString::fromUtf8( Phonebook() );
@@ -117,7 +117,7 @@ QByteArray PhonebookWithSmallPhotos()
     return text.toUtf8();
 }
 
-/// All samples one behind the other until the text is that long.
+/// All samples one after another, repeated until the text has at least this length.
 QByteArray LongBook( int a_length )
 {
     QByteArray book;

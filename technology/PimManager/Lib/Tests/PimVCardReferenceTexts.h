@@ -1,6 +1,6 @@
 /// \file
-/// The texts, the calls and the scripts over which the component and the plain implementation are compared: samples of
-/// each construct, and random ones, the same in every run.
+/// The texts, calls and scripts with which the component and the plain implementation are compared: samples of each
+/// construct, and random ones that are the same in every run.
 
 #pragma once
 
@@ -18,7 +18,7 @@
 namespace PimManager
 {
 
-/// A whole card for each construct of the grammar, and cards that fail in each way.
+/// A whole card for each construct of the grammar, and a card for each way to fail.
 inline QList<QByteArray> SampleTexts()
 {
     const QByteArray begin( "BEGIN:VCARD\r\n" );
@@ -73,7 +73,7 @@ inline QList<QByteArray> SampleTexts()
     return texts;
 }
 
-/// What random texts are made of.
+/// The pieces of which random texts consist.
 inline QList<QByteArray> TextPieces()
 {
     return { "BEGIN:VCARD\r\n",
@@ -165,7 +165,7 @@ inline QList<QByteArray> TextPieces()
              "\xEF\xBB\xBF\xEF\xBB\xBF" };
 }
 
-/// Pieces that no UTF-8 text holds, and the NUL, at which the parser's text ends.
+/// Pieces that are not valid in UTF-8, and the NUL, which ends the parser's text.
 inline QList<QByteArray> MalformedPieces()
 {
     return { QByteArray( 1, '\0' ),
@@ -193,7 +193,7 @@ inline QList<QByteArray> MalformedPieces()
              "\xFF" };
 }
 
-/// The vocabulary's patterns, as they stand and as copies, others that are near them, and some like nothing there.
+/// The vocabulary's patterns, original and copied, variations of them, and some that are entirely different.
 inline QList<PimVCardScannerExpression> ScannerExpressions()
 {
     using namespace vCard;
@@ -232,13 +232,13 @@ public:
     {
     }
 
-    /// \return a number from 0 to below the end.
+    /// \return a number from 0 to a_end - 1.
     int Number( int a_end ) { return static_cast<int>( m_random() % static_cast<uint>( a_end ) ); }
 
     /// A text of random pieces in UTF-8, without NUL.
     QByteArray Text( int a_pieces ) { return Joined( m_pieces, a_pieces ); }
 
-    /// The same with malformed pieces and NULs among them.
+    /// The same, with malformed pieces and NULs.
     QByteArray MalformedText( int a_pieces )
     {
         QByteArray text;
@@ -247,7 +247,7 @@ public:
         return text;
     }
 
-    /// Some samples, one behind the other, with random pieces put in, and bytes and stretches taken out.
+    /// Some samples, one after another, with random pieces inserted and with bytes and sections removed.
     QByteArray ChangedSamples()
     {
         QByteArray text;
@@ -267,7 +267,7 @@ public:
         return calls;
     }
 
-    /// A script over that text.
+    /// A script for this text.
     PimVCardScannerScript Script( const QByteArray& a_text )
     {
         PimVCardScannerScript script;

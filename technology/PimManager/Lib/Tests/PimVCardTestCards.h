@@ -1,5 +1,5 @@
 /// \file
-/// The cards of the self-check, as phones and programs write them. The people in them do not exist.
+/// The cards of the self-check, as phones and programs write them. The people in them are fictitious.
 
 #pragma once
 
@@ -8,7 +8,7 @@
 namespace PimManager::vCard
 {
 
-/// The look of a printed card, as a mail program keeps it: XML on one line.
+/// The design of a printed card, as a mail program stores it: XML on one line.
 inline constexpr const char* s_kDesign =
     R"(<card xmlns="https://example.invalid/namespaces/name-card" version="1.0" side="left" paper="ffffff">)"
     R"(<img place="top" area="24" use="photo"/>)"
@@ -31,8 +31,8 @@ inline constexpr const char* s_kDesign =
     R"(<fld row="16" show="revision" size="7" ink="606060"/>)"
     R"(</card>)";
 
-/// Folds a content line: a_firstWidth characters stay on the first physical line, up to a_width follow on each
-/// continuation line, behind the blank that begins it.
+/// Folds a content line. The first physical line has a_firstWidth characters. Each continuation line has up to a_width
+/// characters after its leading blank.
 inline QByteArray Fold( const QByteArray& a_line, int a_firstWidth, int a_width )
 {
     QByteArray folded = a_line.left( a_firstWidth );
@@ -58,8 +58,8 @@ inline QByteArray PhoneCard( const QByteArray& a_photoLine )
            a_photoLine + "\r\n" + "END:VCARD\r\n";
 }
 
-/// A card as a mail program writes it: vCard 2.1, with an empty line behind the photo.
-/// \param a_labelBreak stands between the road and the town of the LABEL line.
+/// A card as a mail program writes it: vCard 2.1, with an empty line after the photo.
+/// \param a_labelBreak separates the road and the town of the LABEL line.
 inline QByteArray MailCard( const QByteArray& a_labelBreak, const QByteArray& a_photo )
 {
     return "BEGIN:VCARD\r\n"
@@ -101,7 +101,7 @@ inline constexpr const char* s_kEncodedNameCard =
     "=BF\r\n"
     "END:VCARD\r\n";
 
-/// vCard 2.1 with bare types, and an empty line behind the photo.
+/// vCard 2.1 with bare types, and an empty line after the photo.
 inline QByteArray BareTypesCard( const QByteArray& a_photo )
 {
     return "BEGIN:VCARD\r\n"

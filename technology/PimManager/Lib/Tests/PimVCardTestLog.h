@@ -1,5 +1,5 @@
 /// \file
-/// What the unit tests share to look at Qt's log.
+/// Captures Qt's log for the unit tests.
 
 #pragma once
 
@@ -39,7 +39,7 @@ inline LogMessage Critical( const QString& a_text )
     return { QtCriticalMsg, QByteArrayLiteral( "default" ), a_text };
 }
 
-/// Lets a failed comparison show the message instead of its bytes.
+/// Makes a failed comparison show the message instead of its bytes.
 inline std::ostream& operator<<( std::ostream& a_stream, const LogMessage& a_message )
 {
     return a_stream << '\n'
@@ -47,8 +47,8 @@ inline std::ostream& operator<<( std::ostream& a_stream, const LogMessage& a_mes
                     << a_message.m_category.constData() << "] " << a_message.m_text.toStdString();
 }
 
-/// Collects all messages between its construction and its destruction and keeps them off the screen. One at a time, on
-/// one thread.
+/// Collects all messages between its construction and its destruction, and does not show them on the screen. Only one
+/// may exist at a time, on one thread.
 class LogCapture
 {
 public:
@@ -63,7 +63,7 @@ public:
     /// All messages so far, in order.
     QList<LogMessage> Messages() const { return sm_messages; }
 
-    /// The messages so far of one type, their texts only.
+    /// The texts of the messages of one type so far.
     QList<QString> Texts( QtMsgType a_type ) const
     {
         QList<QString> texts;

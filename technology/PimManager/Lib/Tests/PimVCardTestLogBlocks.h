@@ -1,5 +1,5 @@
 /// \file
-/// What the unit tests share to let millions of messages go by.
+/// Lets unit tests write millions of messages to Qt's log.
 
 #pragma once
 
@@ -10,8 +10,8 @@
 namespace PimManager::vCard
 {
 
-/// Drops all messages between its construction and its destruction and counts the blocks of the error reports among
-/// them. One at a time, on one thread.
+/// Drops all messages between its construction and its destruction, and counts the blocks of error reports among them.
+/// Only one may exist at a time, on one thread.
 class LogBlockCount
 {
 public:
@@ -23,9 +23,9 @@ public:
     ~LogBlockCount() { qInstallMessageHandler( m_former ); }
     Q_DISABLE_COPY( LogBlockCount )
 
-    /// The blocks of which the heading was written.
+    /// The number of blocks whose heading was written.
     int Begun() const { return m_begun; }
-    /// The blocks of which the empty last line was written.
+    /// The number of blocks whose empty last line was written.
     int Ended() const { return m_ended; }
 
 private:

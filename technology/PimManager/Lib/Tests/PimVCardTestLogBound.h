@@ -1,5 +1,5 @@
 /// \file
-/// What the unit tests share to survive a parser that writes to the log without end.
+/// Protects the unit tests from a parser that writes to the log without end.
 
 #pragma once
 
@@ -11,8 +11,8 @@
 namespace PimManager::vCard
 {
 
-/// Ends the program when a log holds more messages than any test writes. A parser that recovers to the same place again
-/// and again would otherwise fill the memory of the machine.
+/// Ends the program if a log has more messages than any test writes. Otherwise a parser that recovers to the same
+/// position again and again would use up the memory of the machine.
 inline void EndIfEndless( qint64 a_messages )
 {
     constexpr qint64 s_kMost = 200000;

@@ -1,5 +1,5 @@
-// The main of every unit test: the tests run under the locale of the environment, as programs with a QCoreApplication
-// do.
+// The main function of every unit test. The tests run with the locale of the environment, as programs with a
+// QCoreApplication do.
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@
 namespace
 {
 
-// A locale that is missing gives "C" without a word, so who wants a certain one says which charset it has.
+// A missing locale silently becomes "C". A caller that needs a certain locale therefore names its charset.
 bool IsCharsetAsWanted()
 {
     const char* const wanted = std::getenv( "PIMVCARD_TEST_CHARSET" );
@@ -28,10 +28,10 @@ bool IsCharsetAsWanted()
 
 int main( int argc, char* argv[] )
 {
-    // The tests know the messages of the system in English.
+    // The tests expect the messages of the system in English.
     setenv( "LANGUAGE", "en", 1 );
     std::setlocale( LC_ALL, "" );
-    // A shell switches Ctrl-C off for what it runs in the background, and tests of Ctrl-C would wait for ever.
+    // A shell disables Ctrl-C for background processes. Tests of Ctrl-C would then wait forever.
     std::signal( SIGINT, SIG_DFL );
     testing::InitGoogleTest( &argc, argv );
     return IsCharsetAsWanted() ? RUN_ALL_TESTS() : EXIT_FAILURE;

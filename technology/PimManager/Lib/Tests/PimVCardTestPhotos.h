@@ -1,7 +1,8 @@
 /// \file
-/// The photos of the self-check's cards: small JPEG pictures in BASE64, as they stand in a PHOTO line.
+/// The photos in the self-check's cards: small JPEG pictures in BASE64, as written in a PHOTO line.
 ///
-/// They are drawn for these tests and show nobody. To see one, pass its text, without the quotes, through `base64 -d`.
+/// They were drawn for these tests and show no real person. To view one, decode its text, without the quotes, with
+/// `base64 -d`.
 
 #pragma once
 

@@ -1,5 +1,5 @@
 /// \file
-/// What the unit tests share to look at error reports: the log as blocks, each with what its lines said.
+/// Reads error reports from the log for the unit tests: the log as blocks, each with the content of its lines.
 
 #pragma once
 
@@ -19,11 +19,11 @@ struct Report
 {
     std::string m_label;
     std::string m_message;
-    /// The expression that the status dump shows, in the quotes and escapes of the log; empty when it shows none.
+    /// The expression that the status dump shows, with the quotes and escapes of the log. Empty if it shows none.
     std::string m_pattern = {};
-    /// The illegal character as the log shows it, in its single quotes; empty when there is no such line.
+    /// The illegal character as the log shows it, in its single quotes. Empty if there is no such line.
     std::string m_illegal = {};
-    /// True when a property was printed.
+    /// True if a property was printed.
     bool m_hasProperty = false;
 
     bool operator==( const Report& a_other ) const
@@ -43,14 +43,14 @@ inline std::ostream& operator<<( std::ostream& a_stream, const Report& a_report 
     return a_stream << ( a_report.m_hasProperty ? ", with a property" : "" );
 }
 
-/// What stands behind a heading in a message of the log; empty when the message is another one.
+/// The part of a message that follows a heading. Empty if the message does not begin with the heading.
 inline std::string TextBehind( const QString& a_heading, const LogMessage& a_message )
 {
     return a_message.m_text.startsWith( a_heading ) ? a_message.m_text.mid( a_heading.size() ).toStdString() : "";
 }
 
-/// Notes what a message says of the report that it belongs to.
-/// \return false for a critical message that no report holds.
+/// Records what a message says about the report to which it belongs.
+/// \return false for a critical message that does not belong to a report.
 inline bool AddToReport( Report& a_report, const LogMessage& a_message )
 {
     if ( a_message.m_type == QtCriticalMsg )
@@ -63,7 +63,7 @@ inline bool AddToReport( Report& a_report, const LogMessage& a_message )
     return true;
 }
 
-/// The reports in the log, in order. A critical message that belongs to none appears as a report without a label.
+/// The reports in the log, in order. A critical message that belongs to no report appears as a report without a label.
 inline std::vector<Report> ReportsOf( const LogCapture& a_log )
 {
     static const QRegularExpression heading( QStringLiteral( R"x(\AError in "([^"]*)" ->\n  "([^"]*)"\z)x" ) );
@@ -93,7 +93,7 @@ inline std::vector<int> LineNumbersOf( const LogCapture& a_log )
     return numbers;
 }
 
-/// The whole log as one text, each message on a line of its own behind its type: `debug|Line Number:         1`.
+/// The whole log as one text. Each message is on its own line, after its type: `debug|Line Number:         1`.
 inline std::string TextOf( const LogCapture& a_log )
 {
     std::string text;

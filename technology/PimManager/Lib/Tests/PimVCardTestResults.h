@@ -1,5 +1,5 @@
 /// \file
-/// What the unit tests share to compare parse results: plain values that are written in one line, compare and print.
+/// Parse results as plain values, which the unit tests can write in one line, compare and print.
 
 #pragma once
 
@@ -95,7 +95,7 @@ inline CardData DataOf( const PimVCard& a_vCard )
     return data;
 }
 
-/// Takes over what a parse operation returned: gives its data, or nothing for null, and deletes it.
+/// Takes ownership of the result of a parse operation. Returns its data, or nothing for null, and deletes it.
 template <typename T>
 auto Take( T* a_result ) -> std::optional<decltype( DataOf( *a_result ) )>
 {
@@ -105,7 +105,7 @@ auto Take( T* a_result ) -> std::optional<decltype( DataOf( *a_result ) )>
     return DataOf( *owner );
 }
 
-/// As above for a list of objects, which are deleted too.
+/// The same for a list of objects, which are deleted too.
 template <typename T>
 auto Take( QList<T*>* a_results ) -> std::optional<std::vector<decltype( DataOf( *a_results->first() ) )>>
 {
@@ -119,7 +119,7 @@ auto Take( QList<T*>* a_results ) -> std::optional<std::vector<decltype( DataOf(
     return data;
 }
 
-/// The first character that the parser has not consumed yet; 0 at the end of the text.
+/// The first character that the parser has not consumed yet. 0 at the end of the text.
 inline char16_t NextChar( const PimVCardParser& a_parser )
 {
     return PimVCardParserInspector( a_parser ).Lexer().m_nextChar.unicode();

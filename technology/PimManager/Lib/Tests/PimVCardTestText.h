@@ -1,5 +1,5 @@
 /// \file
-/// What the unit tests share to show Qt's texts in failure messages. Include it in every test that compares them.
+/// Shows Qt's texts in the failure messages of the unit tests. Include it in every test that compares such texts.
 
 #pragma once
 
@@ -17,13 +17,13 @@
 namespace PimManager::vCard
 {
 
-/// The text of a UTF-8 literal. In an assertion it reads better in the failure message than QStringLiteral does.
+/// The text of a UTF-8 literal. In an assertion, its failure message is easier to read than that of QStringLiteral.
 inline QString Text( const char* a_utf8 )
 {
     return QString::fromUtf8( a_utf8 );
 }
 
-/// One UTF-16 unit for a reader: itself when it is printable ASCII, else `\uXXXX`. A backslash is doubled.
+/// One UTF-16 unit in readable form: printable ASCII as it is, any other unit as `\uXXXX`. A backslash is doubled.
 inline std::string Escaped( QChar a_character )
 {
     const auto unit = static_cast<unsigned>( a_character.unicode() );
@@ -36,7 +36,7 @@ inline std::string Escaped( QChar a_character )
     return buffer;
 }
 
-/// A text in quotes, every unit that could not be told by eye escaped.
+/// A text in quotes. Every unit that cannot be recognised by eye is escaped.
 inline std::string Escaped( const QString& a_text )
 {
     std::string result = "\"";
@@ -45,7 +45,7 @@ inline std::string Escaped( const QString& a_text )
     return result + '"';
 }
 
-/// As above for bytes: `\u00C3` is the byte C3.
+/// The same for bytes: `\u00C3` is the byte C3.
 inline std::string Escaped( const QByteArray& a_bytes )
 {
     return Escaped( QString::fromLatin1( a_bytes ) );

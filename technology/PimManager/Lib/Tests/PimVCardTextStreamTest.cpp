@@ -1,4 +1,4 @@
-// The stream alone: bytes that are no characters, which the parser never shows it, and places outside the text.
+// The stream alone: malformed bytes, which the parser never passes to it, and positions outside the text.
 
 #include "PimVCardTextStream.h"
 #include "PimVCardTestLog.h"
@@ -20,7 +20,7 @@ struct MalformedRow
     const char* m_units; // '?' for U+FFFD
 };
 
-// Found by googletest.
+// googletest finds this function.
 void PrintTo( const MalformedRow& a_row, std::ostream* a_stream )
 {
     *a_stream << a_row.m_name;

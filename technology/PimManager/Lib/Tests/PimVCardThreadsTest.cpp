@@ -1,4 +1,4 @@
-// Parsers side by side, each on a thread of its own: the results and the log messages are those of one parser alone.
+// Parsers that run concurrently, each on its own thread, have the results and log messages of a single parser.
 
 #include "PimVCardParser.h"
 #include "PimVCardTestPhotos.h"
@@ -69,7 +69,7 @@ const std::vector<BookRow>& Books()
     return s_books;
 }
 
-/// Keeps the messages of each thread apart.
+/// Keeps a separate list of messages for each thread.
 class ThreadLog
 {
 public:
@@ -80,7 +80,7 @@ public:
     ~ThreadLog() { qInstallMessageHandler( m_former ); }
     Q_DISABLE_COPY( ThreadLog )
 
-    /// What this thread wrote since it last asked, without the milliseconds.
+    /// The messages of this thread since the last call, without the milliseconds.
     static std::vector<std::string> TakeMessages()
     {
         static const QRegularExpression s_time( QStringLiteral( "[0-9]+ ms$" ) );
@@ -125,7 +125,7 @@ std::vector<Outcome> OutcomesOfAllBooks()
     return outcomes;
 }
 
-// Does the work on all threads, which begin together.
+// Does the work on all threads, which start at the same time.
 void RunOnThreads( const std::function<void( int )>& a_work )
 {
     std::atomic<int> waiting = s_kThreads;
@@ -178,7 +178,7 @@ TEST( ThreadsTest, ConcurrentParsersHaveTheResultsOfOneParser )
     }
 }
 
-// Names that the cards share with the thread that parsed them outlive it, and may go on another thread.
+// Cards share names with the thread that parsed them. The names outlive the thread and may be deleted on another one.
 TEST( ThreadsTest, CardsOutliveTheThreadThatParsedThem )
 {
     const ThreadLog log;
@@ -198,7 +198,7 @@ TEST( ThreadsTest, CardsOutliveTheThreadThatParsedThem )
         } );
 }
 
-// One thread goes on parsing, and so using the names that it keeps, while others let go of its cards.
+// One thread continues to parse, and so to use the names that it keeps, while other threads delete its cards.
 TEST( ThreadsTest, CardsMayBeDeletedOnOtherThreadsWhileTheirOwnParses )
 {
     const ThreadLog log;

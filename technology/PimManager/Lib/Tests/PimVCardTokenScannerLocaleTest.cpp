@@ -1,4 +1,4 @@
-// Qt 5 only: Qt 6 has no codec of the locale.
+// Qt 5 only, because Qt 6 has no codec for the locale.
 #include "PimVCardLexer.h"
 
 #include "PimVCardParserInspector.h"

@@ -15,7 +15,7 @@ namespace PimManager::vCard
 namespace
 {
 
-// One character of each longer length in UTF-8. The last is two UTF-16 units.
+// One character for each UTF-8 length of more than one byte. The last has two UTF-16 units.
 constexpr const char* s_kTwoBytes = "\xC3\xA9";
 constexpr const char* s_kThreeBytes = "\xE2\x82\xAC";
 constexpr const char* s_kFourBytes = "\xF0\x9F\x98\x80";
@@ -24,7 +24,7 @@ constexpr const char* s_kByteOrderMark = "\xEF\xBB\xBF";
 constexpr ushort s_kByteOrderMarkUnit = 0xFEFF;
 constexpr ushort s_kLastUnit = 0xFFFF;
 
-/// A text and a scanner over it.
+/// A text and a scanner for it.
 class Scanner
 {
 public:
@@ -43,7 +43,7 @@ public:
     qint64 Position() const { return m_lexer.m_stream.pos(); }
     PimVCardLexer& Lexer() { return m_lexer; }
 
-    /// All that is in no token yet: the look-ahead, if there is one, and the rest of the text, which is read by this.
+    /// Everything that is in no token yet: the look-ahead, if there is one, and the rest of the text. Reads the rest.
     QString Left()
     {
         const QString lookAhead = Next().isNull() ? QString() : QString( Next() );
@@ -55,7 +55,7 @@ private:
     PimVCardLexer m_lexer;
 };
 
-/// The text of UTF-8 bytes with all that is in it; QString::fromUtf8() swallows a byte order mark and ends at a NUL.
+/// The complete text of UTF-8 bytes. QString::fromUtf8() alone skips a byte order mark and ends at a NUL.
 QString WholeText( const QByteArray& a_bytes )
 {
     return QString::fromUtf8( ( 'x' + a_bytes ).constData(), a_bytes.size() + 1 ).mid( 1 );
@@ -90,13 +90,13 @@ void PrintTo( const SeekRow& a_row, std::ostream* a_stream )
     *a_stream << Escaped( a_row.m_text );
 }
 
-/// A token pattern and the characters it accepts, as a rule of its own.
+/// A token pattern, and the characters that it accepts as an independent rule.
 struct PatternRow
 {
     const char* m_name;
     QString m_pattern;
     bool ( *m_accepts )( ushort a_unit );
-    /// Any character that it accepts.
+    /// One of the characters that it accepts.
     char m_sample;
 };
 
@@ -158,7 +158,7 @@ bool IsLineBreak( ushort a_unit )
     return IsBetween( a_unit, 0x0A, 0x0D ) || a_unit == 0x85 || a_unit == 0x2028 || a_unit == 0x2029;
 }
 
-// Printable ASCII, the blank and the tab, and all above ASCII.
+// Printable ASCII, the blank, the tab, and everything above ASCII.
 bool IsText( ushort a_unit )
 {
     return a_unit == '\t' || ( a_unit >= ' ' && a_unit != 0x7F );
@@ -203,7 +203,7 @@ const auto s_kVocabularyPatterns = testing::Values(
     PatternRow{ "ValueChar", s_kValueCharPattern, IsValue, 'v' },
     PatternRow{ "Base64Char", s_kBase64CharPattern, IsBase64, 'b' } );
 
-// Thirteen bytes, eight UTF-16 units: repeated, its characters straddle block ends in every way.
+// Thirteen bytes, eight UTF-16 units. If repeated, its characters cross block ends in every way.
 QByteArray MixedText( int a_repetitions )
 {
     return ( QByteArray( "abcd" ) + s_kTwoBytes + s_kThreeBytes + s_kFourBytes ).repeated( a_repetitions );
@@ -214,7 +214,7 @@ QByteArray TextWithByteOrderMarks( int a_repetitions )
     return ( MixedText( 1 ) + s_kByteOrderMark + 'e' ).repeated( a_repetitions );
 }
 
-// How far a position lies in UTF-8 once a unit of the text is behind it; a pair counts with its first half.
+// The number of UTF-8 bytes by which a unit advances the position. A pair counts with its first half.
 int Utf8Length( QChar a_unit )
 {
     if ( a_unit.isSurrogate() )
@@ -224,7 +224,7 @@ int Utf8Length( QChar a_unit )
     return a_unit.unicode() < 0x800 ? 2 : 3;
 }
 
-// The byte position behind none, one, two ... units of the text.
+// The byte positions after zero, one, two ... units of the text.
 QList<qint64> ExactPositions( const QByteArray& a_bytes )
 {
     QList<qint64> positions = { 0 };
@@ -240,8 +240,8 @@ void ReadUnits( PimVCardTextStream& a_stream, int a_count )
         a_stream >> unit;
 }
 
-// To ask a stream for its position moves the ends of the blocks that it reads later, so each question has a scanner of
-// its own.
+// Requesting the position of a stream moves the ends of the blocks that it reads later, so each request uses a new
+// scanner.
 void ExpectExactPositions( const QByteArray& a_bytes, int a_first, int a_last )
 {
     const QList<qint64> expected = ExactPositions( a_bytes );
@@ -329,7 +329,7 @@ TEST( TokenScannerTest, SingleModeReadsAByteOrderMark )
 
 TEST( TokenScannerTest, SingleModeDoesNotTryARunAfterwards )
 {
-    // In a run the half of the pair would pass as "?".
+    // In a run, half of the pair would match as "?".
     Scanner scanner( s_kFourBytes );
     EXPECT_EQ( scanner.Single( s_kValueCharPattern ), Text( "" ) );
     EXPECT_EQ( scanner.Left(), Text( s_kFourBytes ) );
@@ -486,7 +486,7 @@ TEST( TokenScannerTest, LineEndAfterABackslashIsNotCounted )
     EXPECT_EQ( scanner.Next(), QLatin1Char( 'B' ) );
 }
 
-// Long runs are looked through by words of bytes.
+// Long runs are searched several bytes at a time.
 TEST( TokenScannerTest, MalformedByteIsFoundAtEveryPositionOfARun )
 {
     for ( const char byte : { '\x80', '\xFF' } )
@@ -536,7 +536,7 @@ TEST( TokenScannerTest, MatchingIsCaseSensitiveUnlessTheExpressionSaysOtherwise 
     EXPECT_EQ( scanner.Lexer().GetToken( anyCase, false ), Text( "A" ) );
 }
 
-// In any letter case U+212A, the sign of the kelvin, is a K, and U+017F a long s.
+// Ignoring letter case, U+212A, the kelvin sign, equals K, and U+017F, the long s, equals s.
 TEST( TokenScannerTest, TokenPatternWithOptionsIsAnotherExpression )
 {
     Scanner scanner( "a\xE2\x84\xAA\xC5\xBF:" );
@@ -545,7 +545,7 @@ TEST( TokenScannerTest, TokenPatternWithOptionsIsAnotherExpression )
     EXPECT_EQ( scanner.Left(), Text( ":" ) );
 }
 
-// What each token pattern of the vocabulary accepts.
+// The characters that each token pattern of the vocabulary accepts.
 
 TEST_P( TokenScannerPatternTest, RunTakesExactlyItsCharacters )
 {
@@ -627,7 +627,7 @@ TEST_P( TokenScannerPatternTest, EndOfTextYieldsEmptyTokens )
 
 INSTANTIATE_TEST_SUITE_P( Vocabulary, TokenScannerPatternTest, s_kVocabularyPatterns, NameOf<PatternRow> );
 
-// Expressions that are none.
+// Invalid expressions.
 
 TEST( TokenScannerTest, InvalidExpressionIsReportedAndChangesNothing )
 {
@@ -673,7 +673,7 @@ TEST( TokenScannerTest, SeekWithInvalidExpressionChangesNothingAndIsSilent )
     EXPECT_EQ( scanner.Left(), Text( "B\r\nC\r\nD" ) );
 }
 
-// Going to a line. The rows search for "BEGIN".
+// Seeking a line. The rows search for "BEGIN".
 
 TEST_P( TokenScannerSeekTest, ReturnsTheLineAndMovesToItsStart )
 {
@@ -699,7 +699,7 @@ INSTANTIATE_TEST_SUITE_P(
                      SeekRow{ "CarriageReturnBeforeCrlf", "a\r\nBEGIN\r\r\nx", "BEGIN\r", 3, 2 } ),
     NameOf<SeekRow> );
 
-// The way back is the line's characters and two bytes, which leads too far or not far enough on these lines.
+// The way back is the number of characters plus two bytes, which is too far or not far enough for these lines.
 INSTANTIATE_TEST_SUITE_P(
     FoundInexactly, TokenScannerSeekTest,
     testing::Values( SeekRow{ "LineFeedIsOneByteTooFar", "ab\nBEGIN\nx", "BEGIN", 2, 2 },

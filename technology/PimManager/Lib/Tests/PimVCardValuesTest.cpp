@@ -15,11 +15,11 @@ const std::string s_kQpParameters = ";ENCODING=QUOTED-PRINTABLE:";
 const std::string s_kBase64Parameters = ";ENCODING=b:";
 const Report s_kNoLineEnd{ "ParseValues()", "Expected CRLF token...", R"("\\A\\R\\z")" };
 
-/// A parser that stands behind the colon of a content line.
+/// A parser that has read a content line up to and including its colon.
 class ValueParser
 {
 public:
-    /// \param a_parameters the parameters of the line with the colon after them; empty for a line without a colon.
+    /// \param a_parameters the parameters of the line, including the colon. Empty for a line without a colon.
     ValueParser( const std::string& a_parameters, const std::string& a_text ) :
         m_parser( QByteArray::fromStdString( a_parameters + a_text ) )
     {
@@ -31,7 +31,7 @@ public:
     char16_t Next() const { return NextChar( m_parser ); }
     PimVCardParserInspector State() const { return PimVCardParserInspector( m_parser ); }
 
-    /// Takes the parameters and the colon. Both encodings at once fail but leave both set, which some tests want.
+    /// Reads the parameters and the colon. Both encodings together are an error, but stay set, which some tests need.
     void PassParameters()
     {
         const LogCapture log;

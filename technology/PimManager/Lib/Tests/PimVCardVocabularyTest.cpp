@@ -23,7 +23,7 @@ struct Row
     const char* m_expected;
 };
 
-/// Every constant of the header, in its order.
+/// Every constant of the header, in the same order.
 const std::vector<Row>& Rows()
 {
     static const std::vector<Row> rows = {
@@ -68,7 +68,7 @@ const std::vector<Row>& Rows()
         { "s_kCr", s_kCr, "\r" },
         { "s_kLf", s_kLf, "\n" },
         { "s_kSpace", s_kSpace, " " },
-        // Patterns over values, groups and the whole text.
+        // Patterns for values, groups and the whole text.
         { "s_kTrailingEqualsPattern", s_kTrailingEqualsPattern, R"(=\z)" },
         { "s_kTrailingDotPattern", s_kTrailingDotPattern, R"(\.\z)" },
         { "s_kTrailingCommasPattern", s_kTrailingCommasPattern, R"(,+\z)" },
@@ -167,7 +167,7 @@ bool IsFound( const QString& a_pattern, const QString& a_text )
     return QRegularExpression( a_pattern ).match( a_text ).hasMatch();
 }
 
-// Built before main, from constants of every group of the header: the first, the last and some between.
+// Constructed before main, from constants of every group of the header: the first, the last and some in between.
 const QString s_builtBeforeMain =
     s_kBegin + s_kColon + s_kVCard + s_kCrlf + s_kNamePattern + s_kParseVCardsLabel + s_kErrExpectedValuesList;
 

@@ -163,7 +163,7 @@ PimVCardParser ParserOf( const std::string& a_text )
     return PimVCardParser( QByteArray::fromStdString( a_text ) );
 }
 
-// Whole cards and broken ones, all lines ended by CR LF.
+// Whole cards and broken ones. All lines end with CR LF.
 const std::string s_kA = CardText( "A" );
 const std::string s_kB = CardText( "B" );
 const std::string s_kC = CardText( "C" );
@@ -230,7 +230,7 @@ struct Row
     const char* m_name;
     std::string m_text;
     std::vector<CardData> m_cards;
-    /// How many cards the log calls failed.
+    /// The number of cards that failed according to the log.
     int m_failures;
 };
 
@@ -278,8 +278,8 @@ TEST( WholeTextsTest, GoodTextsYieldAllCardsWithoutReport )
     ExpectCards( rows );
 }
 
-// The line end before takes all line ends in, and blanks behind it are folds: only a backslash, which the line end's
-// run loses, lets such a character be the look-ahead between two cards.
+// A line ending includes all line breaks that follow it, and blanks after it are folds. Only a backslash, which is lost
+// at the end of the line ending's run, can make such a character the look-ahead between two cards.
 TEST( WholeTextsTest, WhiteSpaceBetweenCardsIsSkipped )
 {
     const std::vector<Row> rows = {
@@ -351,7 +351,7 @@ TEST( RecoveryTest, BeginInsideLineIsFoundAndRefused )
     ExpectCards( rows );
 }
 
-// The search begins behind the look-ahead, which is already the B of the line after.
+// The search begins after the look-ahead, which is already the B of the next line.
 TEST( RecoveryTest, CardDirectlyAfterRefusedLineIsSkipped )
 {
     const std::vector<Row> rows = {
@@ -461,7 +461,7 @@ TEST( RecoveryTest, MarkedParserRecoversWithFirstFailure )
     EXPECT_EQ( 1, FailuresIn( log ) );
 }
 
-// The way back counts characters: it ends two bytes into this line, which holds two characters of two bytes.
+// The way back counts characters. It ends two bytes inside this line, which has two characters of two bytes.
 TEST( RecoveryTest, MultiByteCharactersMakeTheWayBackTooShort )
 {
     const LogCapture log;
@@ -470,7 +470,7 @@ TEST( RecoveryTest, MultiByteCharactersMakeTheWayBackTooShort )
     EXPECT_TRUE( log.Texts( QtDebugMsg ).contains( QStringLiteral( "   Name:   \"TE\"" ) ) );
 }
 
-// Line ends other than CR LF
+// Line endings other than CR LF
 
 namespace
 {
@@ -523,10 +523,10 @@ TEST( LineEndsTest, OtherLineEndingsHaveTheseResults )
     ExpectCards( rows );
 }
 
-// By hand: the value of the first BEGIN runs over the line feeds up to U+0001. The next BEGIN line is on line 4; the
-// way back to it, its length and 2, ends on the line feed before it, and the line number stays 3. That line feed is no
-// name, so the recovery after it comes to the same place; the text is then set one byte further, to the B of BEGIN,
-// whose value runs to the end of the text.
+// The steps, worked out by hand: The value of the first BEGIN continues over the line feeds up to U+0001. The next
+// BEGIN line is line 4. The way back to it, its length plus 2, ends on the line feed before it, and the line number
+// stays 3. That line feed is not a name, so the next recovery returns to the same position. The parser then moves one
+// byte further, to the B of BEGIN, whose value continues to the end of the text.
 TEST( LineEndsTest, RecoveryToSamePositionAdvancesOneByte )
 {
     const LogCapture log;
@@ -555,7 +555,7 @@ TEST( LineEndsTest, EachBrokenCardIsVisited )
                LineNumbersOf( log ) );
 }
 
-// The first recovery has none before it: it may lead to the very start of the text.
+// No recovery precedes the first one, so it may lead to the very start of the text.
 TEST( LineEndsTest, FirstRecoveryMayLeadToStart )
 {
     const LogCapture log;
@@ -567,7 +567,7 @@ TEST( LineEndsTest, FirstRecoveryMayLeadToStart )
     EXPECT_EQ( expected, ReportsOf( log ) );
 }
 
-// A base64 value ends at a line feed: with the encoding left over by the card before, this BEGIN line is a good one.
+// A base64 value ends at a line feed. With the encoding left over from the previous card, this BEGIN line is valid.
 TEST( LineEndsTest, LeftoverEncodingAppliesToNextCard )
 {
     const std::vector<Row> rows = {
@@ -595,8 +595,8 @@ struct LargeText
     int m_failures = 0;
 };
 
-/// Cards with names of one-byte to four-byte characters, which lie differently about every block's end, and a broken
-/// one of another kind after each sixth.
+/// Cards with names of one-byte to four-byte characters, which cross the end of each block differently, and a different
+/// broken card after every sixth one.
 LargeText MakeLargeText( size_t a_size )
 {
     const std::string broken[] = { s_kBroken, "BEGIN:VCARD\r\nFN:\u540D\x01\u540D\r\nEND:VCARD\r\n",
@@ -692,7 +692,8 @@ TEST( OwnershipTest, CallerMayDropRawDataAfterConstruction )
     EXPECT_EQ( Card( "A" ), Take( parser.ParseVCard() ) );
 }
 
-// A book that is prepared into a copy, since its notes are folded, and is longer than any block that is read at once.
+// This book is copied during preparation, because its notes are folded, and is longer than any block that is read at
+// once.
 TEST( OwnershipTest, TextStaysWholeWhileCardsAreParsed )
 {
     std::string text;
@@ -783,7 +784,7 @@ const std::vector<std::string> s_kPieces = {
     "\xFF",
 };
 
-/// A few pieces, between a BEGIN and an END line as often as not.
+/// A few pieces. A BEGIN line before them and an END line after them are each as likely as not.
 std::string RandomText( std::mt19937& a_random )
 {
     std::string text = a_random() % 2 == 0 ? "" : s_kPieces.front();

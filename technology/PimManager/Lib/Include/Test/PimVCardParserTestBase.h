@@ -97,7 +97,7 @@ protected:
     /// Starts the case without a parser.
     void SetUp() override;
 
-    /// Deletes the parser of the case, if it has made one.
+    /// Deletes the parser of the case, if it created one.
     void TearDown() override;
 };
 

@@ -41,8 +41,8 @@ class PIMVCARD_EXPORT PimVCardLexer
 public:
     /// Opens the text for reading, without reading any of it.
     /// \param a_data UTF-8 without NUL bytes, whatever the locale. May be empty, not null. The caller keeps ownership.
-    ///               It must outlive the scanner and must not change meanwhile. A byte order mark at its start is
-    ///               skipped. Each byte that is not part of a UTF-8 sequence is read as one U+FFFD.
+    ///               The array must outlive the scanner and must not change meanwhile. A byte order mark at its start
+    ///               is skipped. Each byte that is not part of a UTF-8 sequence is read as one U+FFFD.
     explicit PimVCardLexer( const QByteArray* a_data );
     virtual ~PimVCardLexer();
     Q_DISABLE_COPY( PimVCardLexer )

@@ -37,7 +37,7 @@ class PimVCardWord;
 /// (see PimVCard.h). A null pointer, an empty text or `false` means that the operation failed.
 ///
 /// **Errors.** A failure is reported only on Qt's log. Each operation that fails writes its own block, the innermost
-/// first: critical messages with the operation and the reason, then debug messages with the state of the scanner. A
+/// first: critical messages with the operation and the reason, and debug messages with the state of the scanner. A
 /// failure also marks the parser. Only ParseVCards() removes the mark, after each search for the next card, whether or
 /// not it found one. On a marked parser, ParseProperty(), ParseParameters() and the operations that call them fail,
 /// whatever the text is. If a line fails after its ENCODING parameter, the encoding also applies to the next property

@@ -32,8 +32,9 @@ namespace PimManager::vCard
 class PIMVCARD_EXPORT PimVCardTextStream : public QTextStream
 {
 public:
-    /// \param a_data UTF-8, whatever the locale. Not null, may be empty. The caller keeps ownership. It must outlive
-    ///               the stream and must not change. An incomplete character at its end is not part of the text.
+    /// \param a_data UTF-8, whatever the locale. Not null, may be empty. The caller keeps ownership. The array must
+    ///               outlive the stream and must not change. An incomplete character at its end is not part of the
+    ///               text.
     explicit PimVCardTextStream( const QByteArray* a_data );
 
     /// Reads the next UTF-16 unit, including white space. A character above U+FFFF is read as two units, one after the

@@ -43,8 +43,8 @@ class PimVCardLexer
 public:
     /// Opens the text for reading, without reading any of it.
     /// \param a_data UTF-8 without NUL bytes, whatever the locale. May be empty, not null. The caller keeps ownership.
-    ///               It must outlive the scanner and must not change meanwhile. A byte order mark at its start is
-    ///               skipped. In malformed UTF-8, each piece that cannot be decoded is read as U+FFFD. Positions are
+    ///               The array must outlive the scanner and must not change meanwhile. A byte order mark at its start
+    ///               is skipped. In malformed UTF-8, each piece that cannot be decoded is read as U+FFFD. Positions are
     ///               exact only for well-formed text.
     explicit PimVCardLexer( const QByteArray* a_data );
     virtual ~PimVCardLexer();

@@ -17,8 +17,8 @@ namespace PimManager::vCard
 class PimVCardUtf8Device : public QIODevice
 {
 public:
-    /// Opens the device for reading. The caller keeps ownership of the array. It must outlive the device and must not
-    /// change.
+    /// Opens the device for reading. The caller keeps ownership of the array, which must outlive the device and must
+    /// not change.
     explicit PimVCardUtf8Device( const QByteArray* a_data );
 
     /// \return the length of the array in bytes.

@@ -26,6 +26,16 @@ function(pimvcard_install_library target name)
           FILES_MATCHING PATTERN "Pim*.h" PATTERN Test EXCLUDE)
   set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
   pimvcard_install_pkg_config_file(${target})
+  if(BUILD_SHARED_LIBS AND PIMVCARD_INSTALL_STATIC)
+    pimvcard_install_static_library(${target})
+  endif()
+endfunction()
+
+# The same objects as a static library. The CMake package does not name it.
+function(pimvcard_install_static_library target)
+  add_library(${target}-static STATIC $<TARGET_OBJECTS:${target}>)
+  set_target_properties(${target}-static PROPERTIES LINKER_LANGUAGE CXX OUTPUT_NAME ${target}${pimvcard_name_suffix})
+  install(TARGETS ${target}-static ARCHIVE COMPONENT devel)
 endfunction()
 
 # pkg-config finds the prefix from the place of the file. It knows /usr/include, which a compiler must not be given once
@@ -43,36 +53,13 @@ function(pimvcard_install_pkg_config_file library)
 endfunction()
 
 function(pimvcard_install_program target)
-  set(zsh_folder zsh/site-functions)
-  if(PIMVCARD_DEBIAN_PACKAGES)
-    set(zsh_folder zsh/vendor-completions)
-  endif()
   install(TARGETS ${target} RUNTIME COMPONENT tools)
   file(RELATIVE_PATH way_to_libraries /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
   set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${way_to_libraries}")
-  pimvcard_install_manual(${PROJECT_SOURCE_DIR}/docs/man/${target}.1)
+  install(FILES ${PROJECT_SOURCE_DIR}/docs/man/${target}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
   install(FILES Completion/${target}.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
           RENAME ${target} COMPONENT tools)
-  install(FILES Completion/_${target} DESTINATION ${CMAKE_INSTALL_DATADIR}/${zsh_folder} COMPONENT tools)
-endfunction()
-
-# pimvcard_install_compressed(FILE NAME DESTINATION COMPONENT): as Debian wants its documents.
-function(pimvcard_install_compressed file name destination component)
-  find_program(PIMVCARD_GZIP gzip REQUIRED)
-  set(compressed ${PROJECT_BINARY_DIR}/packages/${component}/${name}.gz)
-  file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/packages/${component})
-  execute_process(COMMAND ${PIMVCARD_GZIP} -9nc ${file} OUTPUT_FILE ${compressed} COMMAND_ERROR_IS_FATAL ANY)
-  install(FILES ${compressed} DESTINATION ${destination} COMPONENT ${component})
-endfunction()
-
-# pimvcard_install_manual(PAGE): a manual page of section 1.
-function(pimvcard_install_manual page)
-  if(PIMVCARD_DEBIAN_PACKAGES)
-    cmake_path(GET page FILENAME name)
-    pimvcard_install_compressed(${page} ${name} ${CMAKE_INSTALL_MANDIR}/man1 tools)
-  else()
-    install(FILES ${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
-  endif()
+  install(FILES Completion/_${target} DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions COMPONENT tools)
 endfunction()
 
 function(pimvcard_install_package)

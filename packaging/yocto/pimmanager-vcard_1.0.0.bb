@@ -3,7 +3,7 @@ DESCRIPTION = "Reads the address books that phones and desktop programs write, a
 libraries for messy books, and the program pimvcard."
 SECTION = "libs"
 
-# No licence has been chosen by the owner yet: all rights reserved.
+# The owner has not chosen a licence yet, see docs/packaging.md.
 LICENSE = "CLOSED"
 
 # The sources stand beside this recipe, two folders up; nothing is fetched. A layer that keeps the recipe apart from them

@@ -53,7 +53,7 @@ function(pimvcard_add_symbols_test library)
     set_target_properties(${shown} PROPERTIES LINKER_LANGUAGE CXX)
   endif()
   add_test(NAME SymbolsTest.LibraryShowsWhatTheListSays/${library}
-           COMMAND ${PROJECT_SOURCE_DIR}/scripts/symbols $<TARGET_FILE:${shown}>
+           COMMAND ${PROJECT_SOURCE_DIR}/scripts/support/symbols $<TARGET_FILE:${shown}>
                    ${PROJECT_SOURCE_DIR}/packaging/abi/lib${library}.symbols)
   set_tests_properties(SymbolsTest.LibraryShowsWhatTheListSays/${library} PROPERTIES LABELS symbols TIMEOUT 60)
 endfunction()

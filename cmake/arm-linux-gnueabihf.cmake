@@ -1,4 +1,4 @@
-# Compiles for 32-bit ARM with hardware floating point, against the folder that scripts/arm-sysroot makes, and runs what
+# Compiles for 32-bit ARM with hardware floating point, against the folder that scripts/support/arm-sysroot makes, and runs what
 # was compiled under qemu-user.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR arm)

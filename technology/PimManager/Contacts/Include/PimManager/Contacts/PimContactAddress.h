@@ -15,7 +15,7 @@
 namespace PimManager::Contacts
 {
 
-/// The components of ADR in the order of the value (RFC 6350, section 6.3.1; from Room on RFC 9554, section 2.1).
+/// The components of ADR in the order of the value (RFC 6350, section 6.3.1; Room and later: RFC 9554, section 2.1).
 enum class PimContactAddressPart
 {
     PostOfficeBox,
@@ -43,8 +43,8 @@ constexpr int s_kPimContactAddressParts = static_cast<int>( PimContactAddressPar
 
 /// An ADR property with its label, position and time zone, or a LABEL property without an ADR. Implicitly shared.
 ///
-/// A LABEL of its own (vCard 2.1, RFC 2426) belongs to the address of the same group, or else to the first one with the
-/// same types, or else to the next address in order.
+/// A separate LABEL property (vCard 2.1, RFC 2426) belongs to the address of the same group, or else to the first
+/// address with the same types, or else to the next address in order.
 class PIMCONTACT_EXPORT PimContactAddress : public PimContactField
 {
     Q_GADGET
@@ -67,7 +67,7 @@ public:
     /// Creates an empty address.
     PimContactAddress();
 
-    /// \return the texts of a component, which is a list; without empty ones.
+    /// \return the texts of a component, without empty ones. A component is a list.
     QStringList Parts( PimContactAddressPart a_part ) const;
     void SetParts( PimContactAddressPart a_part, const QStringList& a_texts );
 
@@ -81,27 +81,27 @@ public:
     QString PostalCode() const { return Part( PimContactAddressPart::PostalCode ); }
     QString Country() const { return Part( PimContactAddressPart::Country ); }
 
-    /// \return the code of the country as written, such as `DE`: that of the parameter CC (RFC 8605), or else of
-    ///         X-ABADR in the same group. Empty if it is open.
+    /// \return the country code as written, such as `DE`, from the parameter CC (RFC 8605) or else from X-ABADR in the
+    ///         same group. Empty if there is none.
     QString CountryCode() const;
     void SetCountryCode( const QString& a_code );
 
-    /// \return the address as it is written on a letter (LABEL); empty if it is open.
+    /// \return the address as it is written on a letter (LABEL). Empty if there is none.
     QString DeliveryText() const;
     void SetDeliveryText( const QString& a_text );
 
-    /// \return lines for people: the delivery text, or else the components from the post office box to the country.
+    /// \return lines for people: the delivery text, or else the components from the post office box up to the country.
     QString Text() const;
 
-    /// \return the position: that of the parameter GEO, or else of the property GEO of the same group. Open if there is
-    ///         none that can be read.
+    /// \return the position from the parameter GEO, or else from the property GEO of the same group. Not set if there
+    ///         is none that can be read.
     std::optional<PimContactPosition> Position() const;
 
-    /// \return the time zone as written: that of the parameter TZ, or else of the property TZ of the same group. Empty
-    ///         if it is open.
+    /// \return the time zone as written, from the parameter TZ or else from the property TZ of the same group. Empty if
+    ///         there is none.
     QString TimeZone() const;
 
-    /// \return what the address is for. Words of TYPE that are no kind are in Types().
+    /// \return the purposes of the address. TYPE words without a flag are in Types().
     PimContactAddressKinds Kinds() const;
     void SetKinds( PimContactAddressKinds a_kinds );
 
@@ -111,7 +111,7 @@ public:
     /// \return the same address in other languages or scripts (ALTID), this one included.
     PimContactList<PimContactAddress> Alternatives() const;
 
-    /// \return true if all of the above, label, preference and language are equal.
+    /// \return true if all of the above, and label, preference and language are equal.
     bool operator==( const PimContactAddress& a_other ) const { return IsEqual( a_other ); }
     bool operator!=( const PimContactAddress& a_other ) const { return !IsEqual( a_other ); }
 

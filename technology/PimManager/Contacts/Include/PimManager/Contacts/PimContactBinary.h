@@ -1,5 +1,5 @@
 /// \file
-/// A value that holds bytes: a picture, a sound or a key.
+/// A binary value: a picture, a sound or a key.
 ///
 /// \code
 /// const PimContactBinary photo = line.Binary();
@@ -32,24 +32,25 @@ public:
     PimContactBinary& operator=( const PimContactBinary& a_other );
     ~PimContactBinary();
 
-    /// True if the value holds text, such as the address of a picture, and not bytes.
+    /// True if the value is text, such as the address of a picture, and not bytes.
     bool IsNull() const;
 
-    /// \return the bytes; empty for a null value. If the value is damaged, those before the fault.
+    /// \return the bytes. Empty for a null value. If the value is damaged, only the bytes before the fault.
     QByteArray Bytes() const;
 
-    /// \return the media type of a `data:` URI as written, such as `image/jpeg`; empty if the value names none.
+    /// \return the media type of a `data:` URI as written, such as `image/jpeg`. Empty if the value names none.
     QByteArray MediaType() const;
 
-    /// \return the media type by the first bytes, such as `image/png`; empty if they are not known. The types are JPEG,
-    ///         PNG, GIF, WebP, HEIC, HEIF, AVIF, TIFF, BMP and icons, WAV, MP3, Ogg, AMR, MIDI, FLAC and AU.
+    /// \return the media type according to the first bytes, such as `image/png`. Empty if it is unknown. The known
+    ///         types are JPEG, PNG, GIF, WebP, HEIC, HEIF, AVIF, TIFF, BMP and icons, WAV, MP3, Ogg, AMR, MIDI, FLAC
+    ///         and AU.
     QByteArray DetectedType() const;
 
     /// \return true if the value could not be decoded to its end.
     bool IsDamaged() const;
 
-    /// \return the place of the first character that could not be decoded, counted in the BASE64 or percent-encoded
-    ///         text, its length if the text is too short, and -1 if the value is not damaged.
+    /// \return the position of the first character that could not be decoded in the BASE64 or percent-encoded text. The
+    ///         length of that text if it is too short. -1 if the value is not damaged.
     qint64 FaultPlace() const;
 
 private:

@@ -35,8 +35,8 @@ class PimContactBookPrivate;
 
 /// The contacts of a file, and the report on it. Implicitly shared; copying is cheap.
 ///
-/// A book holds cards. It takes at most three times the bytes of its cards and 250 bytes a card. A contact is made from
-/// its card when it is asked for; to change a contact in the book, edit it and pass it to Replace().
+/// A book contains cards. It uses at most three times the bytes of its cards, plus 250 bytes for each card. A contact
+/// is created from its card at each access. To change a contact in the book, edit it and pass it to Replace().
 class PIMCONTACT_EXPORT PimContactBook
 {
 public:
@@ -53,14 +53,14 @@ public:
 
     /// Reads a file.
     /// \param a_name the file name.
-    /// \return the cards of the file. If it cannot be opened or read, the cards up to that place; Report().ErrorText()
-    ///         then says why.
+    /// \return the cards of the file. If it cannot be opened or read, the cards up to the error; Report().ErrorText()
+    ///         then describes it.
     static PimContactBook ReadFile( const QString& a_name, const PimContactOptions& a_options = PimContactOptions() );
 
     /// Reads a device from its current position to its end.
-    /// \param a_device open for reading; remains the caller's. A sequential device is waited for, each time up to 30
-    ///                 seconds.
-    /// \return the cards. If the device fails, those up to that place; Report().ErrorText() then says why.
+    /// \param a_device open for reading; remains the caller's. If a sequential device has no data, the function waits
+    ///                 up to 30 seconds for more, each time.
+    /// \return the cards. If the device fails, the cards up to the failure; Report().ErrorText() then describes it.
     static PimContactBook Read( QIODevice& a_device, const PimContactOptions& a_options = PimContactOptions() );
 
     /// Reads bytes.
@@ -70,10 +70,12 @@ public:
 
     /// Writes all contacts to a device, as PimContactWriter does.
     /// \param a_device open for writing; remains the caller's.
-    /// \return what the format could not express. Its ErrorText() says whether the device failed.
+    /// \return a report on the data that the format could not express. Its ErrorText() is not empty if the device
+    ///         failed.
     PimContactWriteReport Save( QIODevice& a_device, PimContactFormat a_format = PimContactFormat::V30 ) const;
 
-    /// Writes all contacts to a file. It is replaced when everything was written; if that fails, it stays as it was.
+    /// Writes all contacts to a file. An existing file is replaced only after everything was written. If that fails, it
+    /// does not change.
     /// \param a_name the file name.
     PimContactWriteReport Save( const QString& a_name, PimContactFormat a_format = PimContactFormat::V30 ) const;
 
@@ -82,7 +84,7 @@ public:
     /// True if there are no cards.
     bool IsEmpty() const;
 
-    /// \param a_index from 0 to Size() less 1.
+    /// \param a_index from 0 to Size() - 1.
     PimContact At( int a_index ) const;
     const PimContactCard& CardAt( int a_index ) const;
 
@@ -90,12 +92,13 @@ public:
     const_iterator begin() const;
     const_iterator end() const;
 
-    /// The cards in the order of the file. Valid until the book is changed or destroyed, so a temporary book has none.
+    /// The cards in the order of the file. Valid until the book is changed or destroyed, so a temporary book cannot
+    /// return them.
     CardRange Cards() const&;
     CardRange Cards() && = delete;
 
-    /// Finds the members of a group by their UID (RFC 6350, section 6.6.5). `urn:uuid:` before it makes no difference,
-    /// and neither does letter case.
+    /// Finds the members of a group by their UID (RFC 6350, section 6.6.5). A `urn:uuid:` prefix and letter case are
+    /// ignored.
     /// \return the contacts in the order of the book. Members that are not in the book are left out. Linear in the
     ///         length of the book.
     QList<PimContact> MembersOf( const PimContact& a_group ) const;
@@ -105,14 +108,14 @@ public:
     /// Adds the card of a contact at the end. A null contact is not added.
     void Append( const PimContact& a_contact ) { Append( a_contact.Card() ); }
 
-    /// Replaces a card by that of a contact. A null contact changes nothing.
-    /// \param a_index from 0 to Size() less 1.
+    /// Replaces a card by the card of a contact. A null contact changes nothing.
+    /// \param a_index from 0 to Size() - 1.
     void Replace( int a_index, const PimContact& a_contact );
 
-    /// Removes a card. \param a_index from 0 to Size() less 1.
+    /// Removes a card. \param a_index from 0 to Size() - 1.
     void Remove( int a_index );
 
-    /// Moves a card so that it is at another index afterwards. Both are from 0 to Size() less 1.
+    /// Moves a card to another index. Both indexes are from 0 to Size() - 1.
     void Move( int a_from, int a_to );
 
     /// The report on the file that was read. Changing the book does not change it.
@@ -126,7 +129,7 @@ private:
     QSharedDataPointer<PimContactBookPrivate> d;
 };
 
-/// Steps over the contacts of a book, and makes each when it is asked for.
+/// Iterates over the contacts of a book. Each contact is created when the iterator is dereferenced.
 class PIMCONTACT_EXPORT PimContactBook::const_iterator
 {
 public:

@@ -31,7 +31,7 @@ enum class PimContactVersion
     V40,
 };
 
-/// The number of versions. Their values run from 0 to this number less 1.
+/// The number of versions. Their values run from 0 to this number - 1.
 constexpr int s_kPimContactVersions = static_cast<int>( PimContactVersion::V40 ) + 1;
 
 /// How the folds of a card are undone.
@@ -43,13 +43,13 @@ enum class PimContactFoldStyle
     BlankKept,
 };
 
-/// A card of a file. It holds a copy of its bytes, from BEGIN to the end of END, and an index that was made while
-/// reading: every decision that needs the surroundings of a line is stored there. Nothing is decoded.
+/// A card of a file. It has a copy of its bytes, from BEGIN to the end of the END line, and an index of its lines. The
+/// reader made the index and stored every decision in it that depends on other lines. Nothing is decoded.
 ///
 /// A card is implicitly shared and immutable. Copying costs no memory, and const functions may run in several threads
 /// at once. A card does not refer to the file or to the reader. A nested card shares the memory of its outer card.
 ///
-/// A card takes its bytes, about five bytes a line, and about 120 bytes.
+/// A card uses its own bytes, about five bytes for each line, and about 120 bytes more.
 class PIMCONTACT_EXPORT PimContactCard
 {
 public:
@@ -67,14 +67,15 @@ public:
     bool IsNull() const;
 
     /// \return the bytes as found, with dropped and blank lines, but without filtered lines. A byte order mark before a
-    ///         nested card is included. A file in UTF-16 was converted to UTF-8 first. Copies the bytes.
+    ///         nested card is included. If the file was in UTF-16, the bytes are those converted to UTF-8. Copies the
+    ///         bytes.
     QByteArray Bytes() const;
 
-    /// The properties of the card; those of nested cards are not counted.
+    /// The number of properties of the card, without those of nested cards.
     int LineCount() const;
 
-    /// The properties in their order. Stepping takes constant time, but for lines with oddities: then it is linear in
-    /// the number of the line's continuation lines.
+    /// The properties in their order. A step takes constant time, except at a line with oddities. There it is linear in
+    /// the number of continuation lines.
     const_iterator begin() const;
     const_iterator end() const;
 
@@ -83,17 +84,17 @@ public:
     /// How the folds of the card are undone.
     PimContactFoldStyle FoldStyle() const;
 
-    /// The number of the card in its file, from 1; of a nested card that of its outermost card.
+    /// The number of the card in its file, from 1. A nested card has the number of its outermost card.
     qint64 Number() const;
 
-    /// The place of the first byte in the file, from 0. In a file that was converted from UTF-16, bytes of the
+    /// The offset of the first byte in the file, from 0. If the file was converted from UTF-16, the offset in the
     /// converted text.
     qint64 Offset() const;
 
-    /// The line of the first byte in the file, from 1.
+    /// The line number of the first byte in the file, from 1.
     qint64 FirstLine() const;
 
-    /// True if the card has BEGIN and END and no line was dropped, nested cards included.
+    /// True if the card has BEGIN and END, and no line of it or of its nested cards was dropped.
     bool IsWhole() const;
     /// True if the card has a BEGIN line.
     bool HasBegin() const;
@@ -112,17 +113,17 @@ public:
     /// The default character set that applied when the card was read.
     QByteArray DefaultCharset() const;
 
-    /// \return true if text of the card or of a nested card is read in DefaultCharset(): it is not UTF-8, and the card
-    ///         names no known character set that applies to it. BASE64 values do not count. False if the default is
-    ///         UTF-8 or unknown, and for a null card.
+    /// \return true if any text of the card or of a nested card is read in DefaultCharset(). That is text that is not
+    ///         UTF-8 and to which no known character set named in the card applies. BASE64 values do not count. False
+    ///         if the default is UTF-8 or unknown, and for a null card.
     ///
-    /// Such text is correct only if the default was right, so tell the user. Linear in the length of the card at most,
+    /// Such text is correct only if the default is right, so inform the user. At most linear in the length of the card,
     /// and much faster if no line is QUOTED-PRINTABLE.
     /// \note Example: a card with `N:J\xF6rg` and no CHARSET uses the default. With `N;CHARSET=KOI8-R:J\xF6rg` it does
     ///       not, and neither does a card in UTF-8.
     bool UsesDefaultCharset() const;
 
-    /// \return true if bytes, index and record are equal. The place in the file is not compared.
+    /// \return true if bytes, index and record are equal. The position in the file is not compared.
     bool operator==( const PimContactCard& a_other ) const;
     bool operator!=( const PimContactCard& a_other ) const;
 
@@ -131,11 +132,11 @@ private:
     explicit PimContactCard( PimContactCardPrivate* a_private, quint32 a_record );
 
     QExplicitlySharedDataPointer<PimContactCardPrivate> d;
-    // Which record in the shared memory: that of the outermost card, or of a nested one.
+    // The record in the shared memory: that of the outermost card or of a nested one.
     quint32 m_record = 0;
 };
 
-/// Steps over the lines of a card. It keeps the memory of the card alive.
+/// Iterates over the lines of a card. It keeps the memory of the card alive.
 class PIMCONTACT_EXPORT PimContactCard::const_iterator
 {
 public:
@@ -157,7 +158,7 @@ private:
     friend class PimContactCardPrivate; // steps over the lines
 
     PimContactLine m_line;
-    // What follows the line: its places in the index and in the bytes, and the end of the index.
+    // The positions of the next line in the index and in the bytes, and the end of the index.
     quint32 m_nextEntry = 0;
     quint32 m_nextBegin = 0;
     quint32 m_indexEnd = 0;

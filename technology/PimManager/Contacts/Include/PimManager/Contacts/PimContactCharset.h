@@ -1,7 +1,7 @@
 /// \file
 /// The character sets that the library decodes.
 ///
-/// To decode the value of a line, use PimContactLine::Text() instead: it knows the character set of the line.
+/// To decode the value of a line, use PimContactLine::Text() instead. It determines the character set of the line.
 ///
 /// \code
 /// const PimContactCharset charset = PimContactCharset::Of( "koi8_r" );
@@ -23,10 +23,10 @@
 namespace PimManager::Contacts
 {
 
-/// A character set, or none. It is a number: copy it. There is no private class, because it will never hold more.
+/// A character set, or none. It is one number and cheap to copy, so it has no private class.
 ///
-/// A label means what the programs that write it mean by it: `ISO-8859-1` is windows-1252, `Shift_JIS` is code page
-/// 932, and `GB2312` is GB18030. So several labels have the same character set, and each character set has one name.
+/// A label has the meaning that it has in practice: `ISO-8859-1` is windows-1252, `Shift_JIS` is code page 932, and
+/// `GB2312` is GB18030. So several labels can denote the same character set, but each character set has one name.
 ///
 /// All functions may be called in several threads at once.
 class PIMCONTACT_EXPORT PimContactCharset
@@ -37,12 +37,12 @@ public:
 
     /// Finds a character set by a label, as a card or a user writes it.
     ///
-    /// Letter case, punctuation, and blanks round the label are ignored. UTF-16, UTF-32 and UTF-7 are unknown, because
-    /// no line of a card can be in them. Takes constant time.
-    /// \return an unknown character set if none has the label.
+    /// Letter case, punctuation, and blanks around the label are ignored. UTF-16, UTF-32 and UTF-7 are unknown, because
+    /// no line of a card can be in them. Constant time.
+    /// \return the character set; an unknown one if none has the label.
     static PimContactCharset Of( const QByteArray& a_label );
 
-    /// \return the name of every character set, for a list of what a user may choose. Of() finds each of them.
+    /// \return the names of all character sets, for example for a list in a user interface. Of() finds each of them.
     static QList<QByteArray> Names();
 
     /// \return false if no character set has the label.
@@ -54,8 +54,8 @@ public:
     /// Decodes a text. Each byte that belongs to no character becomes U+FFFD, and decoding continues at the next byte.
     /// If the character set is unknown, the text is decoded as UTF-8. Linear in the length of the text.
     ///
-    /// \param a_bytes          the text; may have any bytes.
-    /// \param[out] a_malformed if given, receives the number of bytes that belong to no character.
+    /// \param a_bytes          the text; any bytes are allowed.
+    /// \param[out] a_malformed receives the number of bytes that belong to no character, unless it is null.
     /// \return the text.
     /// \note   East Asian character sets need modules of the system's iconv(), see docs/embedded.md. Without them, all
     ///         bytes beyond ASCII count as malformed.

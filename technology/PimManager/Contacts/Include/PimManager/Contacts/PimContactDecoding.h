@@ -1,5 +1,5 @@
 /// \file
-/// What was found while a value was decoded.
+/// The problems found while a value was decoded.
 ///
 /// \code
 /// const PimContactDecoding decoding = line.Decoding();
@@ -21,35 +21,35 @@ namespace PimManager::Contacts
 
 class PimContactDecodingPrivate;
 
-/// What may be wrong with a value.
+/// The kinds of problems.
 enum class PimContactDecodingProblem
 {
-    /// CHARSET names no known character set. Counts one.
+    /// CHARSET names an unknown character set. Its count is 1.
     UnknownCharset = 0x01,
-    /// The text is not UTF-8 and its line names no known character set; that of the card or the caller was used. Counts
-    /// one.
+    /// The text is not UTF-8 and its line names no known character set. That of the card or the caller was used. Its
+    /// count is 1.
     AssumedCharset = 0x02,
-    /// Bytes that are no characters of the character set. Each became U+FFFD.
+    /// Bytes that are not characters of the character set. Each became U+FFFD.
     MalformedText = 0x04,
-    /// This system cannot decode the character set. The bytes count as malformed as well. Counts one.
+    /// This system cannot decode the character set. The bytes count as malformed as well. Its count is 1.
     MissingCodec = 0x08,
-    /// A "=" that no two hexadecimal digits follow in QUOTED-PRINTABLE text. It was kept as written.
+    /// A "=" in QUOTED-PRINTABLE text without two hexadecimal digits after it. It was kept as written.
     MalformedQuotedPrintable = 0x10,
-    /// A backslash before a character that needs none, or at the end. Both were kept as written.
+    /// A backslash before a character that needs no escape, or at the end. Both were kept as written.
     UnknownEscape = 0x20,
     /// A backslash before a quote or an apostrophe. The backslash was removed.
     EscapedQuote = 0x40,
-    /// BASE64 or percent-encoded text that cannot be decoded. What precedes the fault was decoded. Counts one.
+    /// BASE64 or percent-encoded text that cannot be decoded. The text before the fault was decoded. Its count is 1.
     MalformedBinary = 0x80,
 };
 Q_DECLARE_FLAGS( PimContactDecodingProblems, PimContactDecodingProblem )
 Q_DECLARE_OPERATORS_FOR_FLAGS( PimContactDecodingProblems )
 
-/// The findings of one value. Implicitly shared and immutable.
+/// The problems of one value. Implicitly shared and immutable.
 class PIMCONTACT_EXPORT PimContactDecoding
 {
 public:
-    /// Creates the findings of a value without problems, in UTF-8.
+    /// Creates the result for a value in UTF-8 without problems.
     PimContactDecoding();
     PimContactDecoding( const PimContactDecoding& a_other );
     PimContactDecoding& operator=( const PimContactDecoding& a_other );
@@ -61,17 +61,17 @@ public:
     /// The kinds of problems.
     PimContactDecodingProblems Problems() const;
 
-    /// How often a problem was found.
+    /// The number of times that a problem was found.
     qint64 Count( PimContactDecodingProblem a_problem ) const;
 
-    /// \return where a problem was found first: a byte, from 0, of the text in which the problem is. For
-    ///         MalformedQuotedPrintable that is the value as written, for MalformedText the value after
-    ///         QUOTED-PRINTABLE was decoded, for escapes the value in UTF-8, and for MalformedBinary the BASE64 or
-    ///         percent-encoded text. -1 if it was not found, and for problems with a character set.
+    /// \return the position of the first occurrence of a problem, as a byte offset from 0. For
+    ///         MalformedQuotedPrintable, it is in the value as written; for MalformedText, in the value after
+    ///         QUOTED-PRINTABLE was decoded; for escapes, in the value in UTF-8; for MalformedBinary, in the BASE64 or
+    ///         percent-encoded text. -1 if the problem was not found, and for problems with a character set.
     qint64 FirstPlace( PimContactDecodingProblem a_problem ) const;
 
-    /// The name of the character set that was used, such as `windows-1252`. If QUOTED-PRINTABLE text and other text are
-    /// in different ones, that of the QUOTED-PRINTABLE text. Never empty.
+    /// The name of the character set that was used, such as `windows-1252`. If QUOTED-PRINTABLE text and other text
+    /// have different character sets, that of the QUOTED-PRINTABLE text. Never empty.
     QByteArray Charset() const;
 
 private:

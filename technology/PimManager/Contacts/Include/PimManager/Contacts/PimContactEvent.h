@@ -14,8 +14,8 @@
 namespace PimManager::Contacts
 {
 
-/// A BDAY, ANNIVERSARY or DEATHDATE, one of the properties that programs use for an anniversary, or X-ABDATE with its
-/// label. The built-in labels `_$!<Anniversary>!$_` and `_$!<Birthday>!$_` also set the kind. Implicitly shared.
+/// A BDAY, ANNIVERSARY or DEATHDATE, a property that programs use instead of ANNIVERSARY, or X-ABDATE with its label.
+/// The built-in labels `_$!<Anniversary>!$_` and `_$!<Birthday>!$_` also set the kind. Implicitly shared.
 class PIMCONTACT_EXPORT PimContactEvent : public PimContactField
 {
     Q_GADGET
@@ -29,7 +29,7 @@ public:
         Birth,
         Anniversary,
         Death,
-        Other, ///< Label() names it
+        Other, ///< named by Label()
     };
     Q_ENUM( Kind )
 
@@ -39,21 +39,21 @@ public:
 
     Kind EventKind() const;
 
-    /// \return when it is. The date may be a text; its year may be open.
+    /// \return the date of the event. It may be a text, and its year may be unknown.
     PimContactDate Date() const;
     void SetDate( const PimContactDate& a_date );
 
-    /// \return where it was (BIRTHPLACE and DEATHPLACE, RFC 6474): a text, or a URI such as `geo:46.77,7.63`. Empty if
-    ///         it is open.
+    /// \return the place of the event (BIRTHPLACE and DEATHPLACE, RFC 6474): a text, or a URI such as `geo:46.77,7.63`.
+    ///         Empty if there is none.
     QString Place() const;
 
-    /// \return the calendar (CALSCALE), such as `gregorian`; empty if it is open.
+    /// \return the calendar (CALSCALE), such as `gregorian`. Empty if there is none.
     QString Calendar() const;
 
     /// \return the same event in other languages (ALTID), this one included.
     PimContactList<PimContactEvent> Alternatives() const;
 
-    /// \return true if all of the above, label, preference and language are equal.
+    /// \return true if all of the above, and label, preference and language are equal.
     bool operator==( const PimContactEvent& a_other ) const { return IsEqual( a_other ); }
     bool operator!=( const PimContactEvent& a_other ) const { return !IsEqual( a_other ); }
 

@@ -1,5 +1,5 @@
 /// \file
-/// The extents of a file: what became of each byte.
+/// The extents of a file: what happened to each byte.
 ///
 /// \code
 /// reader.SetExtentHandler( []( const PimContactExtent& a_extent ) {
@@ -21,12 +21,12 @@ namespace PimManager::Contacts
 
 class PimContactExtentPrivate;
 
-/// What became of a byte.
+/// What happened to a byte.
 enum class PimContactExtentKind
 {
-    Line,     ///< of a property of a delivered card, line endings and continuation lines included
+    Line,     ///< of a property of a delivered card, including line endings and continuation lines
     Boundary, ///< of a BEGIN or END line of a delivered card
-    Blank,    ///< of empty lines and lines of white space, inside cards and outside
+    Blank,    ///< of empty lines and lines of white space, inside and outside cards
     Dropped,  ///< left out of a delivered card
     Refused,  ///< of a card or a file that was left out
     Filtered, ///< of a property that the filter left out
@@ -34,11 +34,11 @@ enum class PimContactExtentKind
     Outside,  ///< outside cards
 };
 
-/// The number of kinds. Their values run from 0 to this number less 1.
+/// The number of kinds. Their values run from 0 to this number - 1.
 constexpr int s_kPimContactExtentKinds = static_cast<int>( PimContactExtentKind::Outside ) + 1;
 
-/// A run of bytes with one fate. The extents of a file follow each other without a gap, from byte 0 to the end of the
-/// file, or to the place where the reading stopped. They are the same however the file was cut into pieces. Implicitly
+/// A run of bytes of one kind. The extents of a file follow each other without a gap, from byte 0 to the end of the
+/// file or to the position where reading stopped. They do not depend on how the file was cut into pieces. Implicitly
 /// shared and immutable.
 class PIMCONTACT_EXPORT PimContactExtent
 {
@@ -49,20 +49,20 @@ public:
     PimContactExtent& operator=( const PimContactExtent& a_other );
     ~PimContactExtent();
 
-    /// The first byte in the file, from 0. In a file that was converted, bytes of the converted text.
+    /// The offset of the first byte in the file, from 0. If the file was converted, the offset in the converted text.
     qint64 Offset() const;
 
     /// The number of bytes; at least 1.
     qint64 Length() const;
 
-    /// What became of the bytes.
+    /// What happened to the bytes.
     PimContactExtentKind Kind() const;
 
     /// The number of the outermost card, from 1; 0 outside cards.
     qint64 Card() const;
 
-    /// The bytes as found; of a file that was converted the converted ones. What is longer than the limit of a card
-    /// comes in several extents of at most that limit or 64 KiB, whichever is larger.
+    /// The bytes as found. If the file was converted, the converted bytes. A run longer than the limit of a card is
+    /// delivered as several extents, each of at most that limit or 64 KiB, whichever is larger.
     QByteArray Bytes() const;
 
     bool operator==( const PimContactExtent& a_other ) const;

@@ -1,5 +1,5 @@
 /// \file
-/// What all parts of a contact have in common: where a part is in its card, and what its owner calls it.
+/// The common base of all parts of a contact: the position in the card, label, types, preference and language.
 ///
 /// \code
 /// const PimContactPhone phone = contact.Phones().Preferred();
@@ -27,16 +27,16 @@ namespace PimManager::Contacts
 
 class PimContactFieldPrivate;
 
-/// A part of a contact: a number, a mail address, a date. It is the base of PimContactPhone and others, which add the
-/// typed value. Implicitly shared; const functions may run in several threads at once.
+/// A part of a contact, such as a number, a mail address or a date. It is the base of PimContactPhone and other
+/// classes, which add the typed value. Implicitly shared. Const functions may run in several threads at once.
 ///
-/// A field that was read holds the memory of its card and stays valid without the contact. A field that a program makes
-/// belongs to no contact until it is passed to a function such as PimContact::AddPhone().
+/// A field that was read shares the memory of its card and remains valid without the contact. A field that a program
+/// creates belongs to no contact until it is passed to a function such as PimContact::AddPhone().
 ///
-/// All texts are decoded and otherwise as the card has them: they may be long and may contain any character. Escape
-/// them before you write them to a terminal or into HTML.
+/// All texts are decoded but otherwise unchanged. They may be long and may contain any character. Escape them before
+/// you write them to a terminal or into HTML.
 ///
-/// QML reads the properties. A property is undefined if the card leaves it open.
+/// QML reads the properties. A property is undefined if it is not set in the card.
 class PIMCONTACT_EXPORT PimContactField
 {
     Q_GADGET
@@ -52,40 +52,41 @@ public:
     PimContactField( PimContactField&& a_other ) noexcept;
     ~PimContactField();
 
-    /// \return the id of the line that the field was read from, see PimContact::Line(); 0 for a field that a program
-    ///         made. Edits of the contact do not change the ids of its lines.
+    /// \return the id of the line that the field was read from, see PimContact::Line(). 0 for a field that a program
+    ///         created. Edits of the contact do not change the ids of its lines.
     int Id() const;
 
     /// \return the ids of all lines that the field was read from: its own, and those of its label, position and other
-    ///         additions. Empty for a field that a program made.
+    ///         additions. Empty for a field that a program created.
     QList<int> LineIds() const;
 
-    /// \return what the owner of the address book calls the field: X-ABLabel of the same group, else X-CUSTOM, else the
-    ///         first word of TYPE that is not a standard one. `Home` for `_$!<Home>!$_` and `Boat` for `X-Boat`. Empty
-    ///         without a label.
+    /// \return the user's name for the field: X-ABLabel of the same group, else X-CUSTOM, else the first TYPE word that
+    ///         is not a standard one. `Home` for `_$!<Home>!$_` and `Boat` for `X-Boat`. Empty if there is no label.
     QString Label() const;
     /// Sets the label. An empty one removes it.
     void SetLabel( const QString& a_label );
 
-    /// \return the words of TYPE, such as `CELL`, each once. Letters of ASCII are in upper case. PREF is left out, and
-    ///         so is INTERNET of a mail address, because every address has it. PimContactLine::Types() returns them as
-    ///         written.
+    /// \return the words of TYPE, such as `CELL`, each once. ASCII letters are in upper case. PREF is left out.
+    ///         INTERNET is left out for a mail address, because it applies to every address. PimContactLine::Types()
+    ///         returns the words as written.
     QStringList Types() const;
 
-    /// \return what the field is for, in a few words such as `boat phone` or `cell, work`: the label, or else the types
-    ///         in small letters. Empty if the card does not say it.
+    /// \return the purpose of the field in a few words such as `boat phone` or `cell, work`: the label, or else the
+    ///         types in lower case. Empty if there are neither.
     QString Purpose() const;
 
-    /// \return from 1, the most wanted, to 100: the value of PREF, or 1 if a type is PREF. Open without both.
+    /// \return a number from 1 (most preferred) to 100: the value of PREF, or 1 if a type is PREF. Not set if there is
+    ///         neither.
     std::optional<int> Preference() const;
-    /// \param a_preference from 1 to 100; other numbers are taken as the nearest of these.
+    /// \param a_preference from 1 to 100. Other numbers are changed to the nearest of these.
     void SetPreference( std::optional<int> a_preference );
 
-    /// \return the language of the text (LANGUAGE), such as `de` or `ja-Latn`; empty if it is open.
+    /// \return the language of the text (LANGUAGE), such as `de` or `ja-Latn`. Empty if there is none.
     QString Language() const;
     void SetLanguage( const QString& a_language );
 
-    /// \return the parameters as PimContactLine::NamedParameters() returns them; empty for a field that a program made.
+    /// \return the parameters as PimContactLine::NamedParameters() returns them. Empty for a field that a program
+    ///         created.
     QList<QPair<QString, QString>> Parameters() const;
 
 protected:
@@ -101,15 +102,15 @@ private:
     QVariant PreferenceValue() const;
 };
 
-/// The fields of one kind, in the order of the card. A QVector with one more function.
+/// The fields of one kind, in the order of the card. A QVector with a few more functions.
 template <class Field>
 class PimContactList : public QVector<Field>
 {
 public:
     using QVector<Field>::QVector;
 
-    /// \return the most wanted field: that of the lowest Preference(), or else the first one. An empty field if there
-    ///         is none. Linear.
+    /// \return the preferred field: the one with the lowest Preference(), or else the first one. An empty field if
+    ///         there is none. Linear.
     Field Preferred() const
     {
         const Field* preferred = nullptr;

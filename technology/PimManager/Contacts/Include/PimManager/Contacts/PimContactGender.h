@@ -23,7 +23,7 @@ class PIMCONTACT_EXPORT PimContactGender : public PimContactField
 public:
     enum class Sex
     {
-        Open, ///< the property says nothing about the sex, or has another letter
+        Open, ///< the property does not state the sex, or has another letter
         Male,
         Female,
         Other,
@@ -38,10 +38,10 @@ public:
 
     Sex SexOf() const;
 
-    /// \return the gender identity in words; empty if it is open.
+    /// \return the gender identity in words. Empty if there is none.
     QString Text() const;
 
-    /// \return true if all of the above, label, preference and language are equal.
+    /// \return true if all of the above, and label, preference and language are equal.
     bool operator==( const PimContactGender& a_other ) const { return IsEqual( a_other ); }
     bool operator!=( const PimContactGender& a_other ) const { return !IsEqual( a_other ); }
 

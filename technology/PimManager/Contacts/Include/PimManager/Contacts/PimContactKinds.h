@@ -1,8 +1,8 @@
 /// \file
-/// What the numbers, addresses and relations of a contact are for, as flags.
+/// The purposes of the numbers, addresses and relations of a contact, as flags.
 ///
-/// Each value lists the words of TYPE that it is read from, in any letter case. `X-` before a word, and `X-EVOLUTION-`,
-/// make no difference. PREF is not a kind. A word that is not listed here sets no flag.
+/// Each value lists the TYPE words that set it, in any letter case. The prefixes `X-` and `X-EVOLUTION-` are ignored.
+/// PREF is not a kind. A word that is not listed here sets no flag.
 ///
 /// The flags belong to the meta object of the namespace, `PimManager::Contacts::staticMetaObject`. QMetaEnum knows
 /// their names, and a program can register them for QML with `qmlRegisterUncreatableMetaObject()`.
@@ -26,13 +26,13 @@ namespace PimManager::Contacts
 Q_NAMESPACE_EXPORT( PIMCONTACT_EXPORT )
 Q_CLASSINFO( "RegisterEnumClassesUnscoped", "false" )
 
-/// What a phone number is for. Words such as HOMEFAX and HOME-FAX set two flags.
+/// The purpose of a phone number. Words such as HOMEFAX and HOME-FAX set two flags.
 enum class PimContactPhoneKind : quint32
 {
     Home = 1U << 0U,       ///< HOME
     Work = 1U << 1U,       ///< WORK, BUSINESS
     Mobile = 1U << 2U,     ///< CELL, CELLULAR, MOBILE, IPHONE
-    Fax = 1U << 3U,        ///< FAX, and HOMEFAX, WORKFAX, OTHERFAX with a second flag
+    Fax = 1U << 3U,        ///< FAX; also HOMEFAX, WORKFAX, OTHERFAX, each with a second flag
     Pager = 1U << 4U,      ///< PAGER
     Video = 1U << 5U,      ///< VIDEO
     Text = 1U << 6U,       ///< TEXT, SMS, MSG: it accepts messages
@@ -43,7 +43,7 @@ enum class PimContactPhoneKind : quint32
     Bbs = 1U << 11U,       ///< BBS: a bulletin board system
     Modem = 1U << 12U,     ///< MODEM
     Pcs = 1U << 13U,       ///< PCS: personal communication services
-    Main = 1U << 14U,      ///< MAIN, MAIN-NUMBER, and COMPANY-MAIN with Company: the number of a switchboard
+    Main = 1U << 14U,      ///< MAIN, MAIN-NUMBER; also COMPANY-MAIN, with Company: a switchboard
     Assistant = 1U << 15U, ///< ASSISTANT
     Callback = 1U << 16U,  ///< CALLBACK
     Company = 1U << 17U,   ///< COMPANY
@@ -55,9 +55,9 @@ Q_DECLARE_FLAGS( PimContactPhoneKinds, PimContactPhoneKind )
 Q_FLAG_NS( PimContactPhoneKinds )
 Q_DECLARE_OPERATORS_FOR_FLAGS( PimContactPhoneKinds )
 
-/// What a mail address, a messenger or a web page is for.
+/// The purpose of a mail address, a messenger account or a web page.
 ///
-/// INTERNET sets no flag: every mail address without a TYPE is one as well (RFC 2426, section 3.3.2).
+/// INTERNET sets no flag, because a mail address without a TYPE is an Internet address too (RFC 2426, section 3.3.2).
 enum class PimContactKind : quint32
 {
     Home = 1U << 0U,   ///< HOME, PERSONAL
@@ -69,7 +69,7 @@ Q_DECLARE_FLAGS( PimContactKinds, PimContactKind )
 Q_FLAG_NS( PimContactKinds )
 Q_DECLARE_OPERATORS_FOR_FLAGS( PimContactKinds )
 
-/// What a postal address is for.
+/// The purpose of a postal address.
 enum class PimContactAddressKind : quint32
 {
     Home = 1U << 0U,          ///< HOME
@@ -86,7 +86,7 @@ Q_DECLARE_FLAGS( PimContactAddressKinds, PimContactAddressKind )
 Q_FLAG_NS( PimContactAddressKinds )
 Q_DECLARE_OPERATORS_FOR_FLAGS( PimContactAddressKinds )
 
-/// What somebody else is to the contact. The values up to Emergency are those of RFC 6350, section 6.6.6.
+/// The relation of another person to the contact. The values up to Emergency are those of RFC 6350, section 6.6.6.
 enum class PimContactRelationKind : quint32
 {
     Contact = 1U << 0U,          ///< CONTACT

@@ -30,7 +30,7 @@ namespace PimManager::Contacts
 class PimContactCard;
 class PimContactCardPrivate;
 
-/// How the value of a line is encoded, by its ENCODING parameter or a bare word.
+/// The encoding of a value, as declared by the ENCODING parameter or a bare word.
 enum class PimContactEncoding
 {
     None,
@@ -38,7 +38,7 @@ enum class PimContactEncoding
     Base64,
 };
 
-/// What is unusual about a line. Each has a diagnostic code of the same name.
+/// The ways in which a line is unusual. Each has a diagnostic code of the same name.
 enum class PimContactOddity
 {
     LineJoined = 0x001,
@@ -56,17 +56,17 @@ enum class PimContactOddity
 Q_DECLARE_FLAGS( PimContactOddities, PimContactOddity )
 Q_DECLARE_OPERATORS_FOR_FLAGS( PimContactOddities )
 
-/// How two physical lines of a content line are joined.
+/// The ways in which two physical lines of a content line are joined.
 enum class PimContactJoin
 {
-    Fold,      ///< the line ending goes, and one blank or tab with it, unless the card keeps it
-    Direct,    ///< the line ending goes, and empty lines and blanks behind it
-    LineFeed,  ///< the same, and line feeds take their place: one, and one more for each empty line, at most three
-    SoftBreak, ///< the "=", blanks behind it and the line ending go; a blank that follows is text
-    SoftBreakAndBlank, ///< the same, and one blank that follows goes too
+    Fold,              ///< the line ending is removed, and one blank or tab after it unless the card keeps it
+    Direct,            ///< the line ending is removed, and empty lines and blanks after it
+    LineFeed,          ///< as Direct, but replaced by line feeds: one, and one for each empty line, at most three
+    SoftBreak,         ///< the "=", blanks after it and the line ending are removed; a blank that follows is text
+    SoftBreakAndBlank, ///< as SoftBreak, but one blank that follows is removed too
 };
 
-/// What a value is, by the name of its property and the version of its card.
+/// The kind of a value, by the name of its property and the version of its card.
 enum class PimContactValueKind
 {
     Text,       ///< one text
@@ -75,36 +75,38 @@ enum class PimContactValueKind
     Binary,     ///< bytes, see PimContactLine::Binary()
 };
 
-/// A property of a card: where its parts are, and how to read them. It shares the memory of its card and stays valid
-/// when the card is gone.
+/// A property of a card, with functions that return its parts. It shares the memory of its card and remains valid after
+/// the card is destroyed.
 ///
-/// Functions that return bytes return them as they were written, in the character set of the line: continuation lines
-/// are joined, but no escape, no QUOTED-PRINTABLE or BASE64 text and no character is decoded. Functions that return a
-/// QString or a list of them decode. They do so in this order:
+/// Functions that return bytes return them as they were written, in the character set of the line. Continuation lines
+/// are joined, but escapes, QUOTED-PRINTABLE, BASE64 and the character set are not decoded. Functions that return a
+/// QString or a list of them decode the text, in this order:
 ///
 /// 1. Continuation lines are joined.
 /// 2. QUOTED-PRINTABLE is decoded, and so is BASE64 if the value is text; an encoded CR LF becomes a line feed.
-/// 3. The character set is decoded. QUOTED-PRINTABLE text is in that of the CHARSET parameter, or else in UTF-8 if that
-///    fits, or else in the caller's default. BASE64 text is in that of the CHARSET parameter, or else in UTF-8.
+/// 3. The character set is decoded. For QUOTED-PRINTABLE text, it is that of the CHARSET parameter, or else UTF-8 if
+///    the text is valid UTF-8, or else the caller's default. For BASE64 text, it is that of the CHARSET parameter, or
+///    else UTF-8.
 /// 4. The value is split at its semicolons or commas.
 /// 5. Escapes are removed: `\n` and `\N` become a line feed, and a backslash before a backslash, comma, semicolon,
 ///    colon, quote or apostrophe is removed. Any other backslash is kept.
 ///
-/// A byte that was written as QUOTED-PRINTABLE, or that is a part of another character, neither splits a value nor
-/// begins an escape. BASE64 encodes a value as a whole, so its delimiters and escapes are those of the decoded text.
-/// The rules are the same for all versions. A card without a version is read as 3.0.
+/// A byte that was written as QUOTED-PRINTABLE or that is a part of another character neither splits a value nor begins
+/// an escape. BASE64 encodes a value as a whole, so the delimiters and escapes are those of the decoded text. The rules
+/// are the same for all versions. A card without a version is read as 3.0.
 ///
-/// **BASE64 text.** Some phones write names and numbers as BASE64. A value that says BASE64 is text, not bytes, if all
-/// of these are true:
+/// **BASE64 text.** Some phones write names and numbers as BASE64. A value declared as BASE64 is text, not bytes, if
+/// all of these are true:
 ///
-/// - The property belongs to a standard, and is not PHOTO, LOGO, SOUND, KEY, AGENT or VERSION.
-/// - The BASE64 can be decoded without a fault, and its bytes without a malformed character: by the CHARSET parameter,
-///   or else as UTF-8. The caller's default is not used, because in many character sets almost any bytes are text.
+/// - The property is defined by a standard, and is not PHOTO, LOGO, SOUND, KEY, AGENT or VERSION.
+/// - The BASE64 can be decoded without a fault, and its bytes without a malformed character. Their character set is
+///   that of the CHARSET parameter, or else UTF-8. The caller's default is not used, because almost any bytes are valid
+///   text in many character sets.
 /// - The text has no control characters except tabs and line breaks.
 ///
-/// Any other value that says BASE64 is Binary, and its text is the BASE64.
+/// Any other value declared as BASE64 is Binary, and its text is the BASE64.
 ///
-/// Each function is linear in the length of the line at most. Const functions may run in several threads at once.
+/// Each function is at most linear in the length of the line. Const functions may run in several threads at once.
 class PIMCONTACT_EXPORT PimContactLine
 {
 public:
@@ -119,49 +121,50 @@ public:
     /// True for a null line.
     bool IsNull() const;
 
-    /// \return the bytes as found, with the line endings; with a nested card also those of the card.
+    /// \return the bytes as found, with the line endings. If the line contains a nested card, also the bytes of that
+    ///         card.
     QByteArray Bytes() const;
 
-    /// \return what precedes the last dot before the name, such as `item1`; empty without a group.
+    /// \return the group: the text before the last dot before the name, such as `item1`. Empty if there is none.
     QByteArray Group() const;
 
-    /// \return the name in the letter case in which it was written, without blanks round it; never empty.
+    /// \return the name in its original letter case, without blanks around it. Never empty.
     QByteArray Name() const;
 
-    /// \return what is between the semicolons before the colon, one element for each parameter. Examples are
-    ///         `TYPE=home,work` and `HOME`. Blanks round it are removed; quotes are kept. Empty ones are left out.
+    /// \return the parameters: the texts between the semicolons before the colon, such as `TYPE=home,work` and `HOME`.
+    ///         Blanks around them are removed and quotes are kept. Empty ones are left out.
     QList<QByteArray> Parameters() const;
 
-    /// \return the value, continuation lines joined. Empty for a line that holds a nested card on the next lines.
+    /// \return the value, with continuation lines joined. Empty for a line that has a nested card on the next lines.
     QByteArray Value() const;
 
     /// How the value is encoded.
     PimContactEncoding Encoding() const;
 
-    /// \return the character set in which the bytes of the line are to be read: `UTF-8`, `ISO-2022-JP`, or a name that
-    ///         the card or the caller gave. Never empty. The character set of QUOTED-PRINTABLE text is that of the
-    ///         CHARSET parameter and is not returned here.
+    /// \return the character set of the bytes of the line: `UTF-8`, `ISO-2022-JP`, or a name from the card or the
+    ///         caller. Never empty. The character set of QUOTED-PRINTABLE text is that of the CHARSET parameter and is
+    ///         not returned here.
     QByteArray Charset() const;
 
-    /// \return true if this is the name of the property, in any letter case. Nothing is copied.
+    /// \return true if the property has this name, in any letter case. Nothing is copied.
     /// \param a_name in ASCII, such as `TEL`.
     bool IsNamed( QLatin1String a_name ) const;
 
-    /// \return the names of the parameters in capitals, each once. A value without a name has one of the names that
-    ///         Parameter() explains.
+    /// \return the names of the parameters in upper case, each once. A value without a name is listed under one of the
+    ///         names that Parameter() describes.
     QStringList ParameterNames() const;
 
-    /// \return the values of a parameter, those of a list and of repeated parameters one after the other; empty without
-    ///         the parameter. Quotes are removed.
+    /// \return the values of a parameter. The values of a list and of repeated parameters follow each other. Empty if
+    ///         the line does not have the parameter. Quotes are removed.
     ///
-    /// - A bare word such as `HOME` is a TYPE. Encodings such as `QUOTED-PRINTABLE` are an ENCODING, `INLINE`, `URL`,
-    ///   `CID` and `CONTENT-ID` a VALUE, and a known character set such as `SHIFT_JIS` a CHARSET.
+    /// - A bare word such as `HOME` is a TYPE. However, encodings such as `QUOTED-PRINTABLE` are an ENCODING, `INLINE`,
+    ///   `URL`, `CID` and `CONTENT-ID` are a VALUE, and a known character set such as `SHIFT_JIS` is a CHARSET.
     /// - An unknown parameter with an empty value, such as `CELL=`, is a TYPE too.
     /// - In a list, the name may be repeated: `TYPE=HOME,TYPE=VOICE` has the values HOME and VOICE.
     /// - A comma in quotes does not delimit, except in TYPE: `TYPE="home,voice"` has two values.
-    /// - In versions 3.0 and 4.0, `^n`, `^'` and `^^` become a line feed, a quote and a caret (RFC 6868). A caret of
-    ///   version 2.1 is text.
-    /// - In LABEL, the escapes of values are removed as well (RFC 6350, section 6.3.1).
+    /// - In versions 3.0 and 4.0, `^n`, `^'` and `^^` become a line feed, a quote and a caret (RFC 6868). In version
+    ///   2.1, a caret is text.
+    /// - In the parameter LABEL, the escapes of values are removed as well (RFC 6350, section 6.3.1).
     ///
     /// \param a_name in ASCII and in any letter case, such as `TYPE`.
     QStringList Parameter( QLatin1String a_name ) const;
@@ -171,18 +174,18 @@ public:
     ///         use this function: it reads the line once.
     QList<QPair<QString, QString>> NamedParameters() const;
 
-    /// \return the values of TYPE in the letter case in which they were written.
+    /// \return the values of TYPE in their original letter case.
     QStringList Types() const;
 
-    /// What the value is.
+    /// The kind of the value.
     PimContactValueKind Kind() const;
 
-    /// \return the value by its kind: the elements of a List, the components of Components, and otherwise one text.
-    ///         Never empty.
+    /// \return the parts of the value according to Kind(): the elements of a List, the components of Components, and
+    ///         otherwise one text. Never empty.
     QStringList Values() const;
 
-    /// \return the whole value as one text, whatever semicolons and commas are in it. The text of a BASE64 value that
-    ///         is bytes is the BASE64.
+    /// \return the whole value as one text, including its semicolons and commas. If BASE64 is not text, its text is the
+    ///         BASE64.
     QString Text() const;
 
     /// \return the value split at its commas. An empty value has one empty element. Example: `a\,b,c` has two elements.
@@ -191,42 +194,42 @@ public:
     /// \return the value split at its semicolons; commas are text. An empty value has one empty component.
     QStringList Components() const;
 
-    /// \return the components, each split at its commas if the standard says that it is a list: in N and ADR of 3.0 and
-    ///         4.0 (RFC 2426, sections 3.1.2 and 3.2.1; RFC 6350, sections 6.2.2 and 6.3.1). Any other component has
-    ///         one element.
+    /// \return the components, each split at its commas if the standard defines it as a list. That is the case for N
+    ///         and ADR of 3.0 and 4.0 (RFC 2426, sections 3.1.2 and 3.2.1; RFC 6350, sections 6.2.2 and 6.3.1). Any
+    ///         other component has one element.
     QList<QStringList> ComponentLists() const;
 
-    /// \return the bytes of a value that is BASE64 or a `data:` URI; null if the value is neither, and for BASE64 text.
-    ///         In PHOTO, LOGO, SOUND and KEY, a value that does not say so is BASE64 too if it begins like a picture,
-    ///         sound or key.
+    /// \return the bytes of a value that is BASE64 or a `data:` URI. Null if the value is neither, and for BASE64 text.
+    ///         In PHOTO, LOGO, SOUND and KEY, a value that is not declared as BASE64 is still BASE64 if it begins like
+    ///         a picture, sound or key.
     PimContactBinary Binary() const;
 
-    /// \return what is found when the value is decoded. Decodes it.
+    /// \return the problems in the value. Decodes the value.
     PimContactDecoding Decoding() const;
 
-    /// \return the bytes of the value if the caller's default character set is used for some of them; otherwise empty.
+    /// \return the bytes of the value if some of them are read in the caller's default character set. Otherwise empty.
     ///         QUOTED-PRINTABLE is decoded; escapes are kept.
     ///
-    /// For programs that guess the default. It is used for text that is not UTF-8 if the line names no known character
-    /// set and, unless the text is QUOTED-PRINTABLE, no other line of the card does. A BASE64 value has no such text.
-    /// If the default is UTF-8 or unknown, no value has any.
-    /// \note Example: in a card that names no character set, `NOTE:caf\xE9\, bar` has the bytes `caf\xE9\, bar`, and
-    ///       `NOTE:bar` has none.
+    /// This function is for programs that guess the default. The default is used for text that is not UTF-8 if the line
+    /// names no known character set and, unless the text is QUOTED-PRINTABLE, no other line of the card does. A BASE64
+    /// value has no such text. If the default is UTF-8 or unknown, no value has such text.
+    /// \note Example: in a card that names no character set, the function returns `caf\xE9\, bar` for
+    ///       `NOTE:caf\xE9\, bar`, and nothing for `NOTE:bar`.
     QByteArray UndeclaredText() const;
 
-    /// What is unusual about the line.
+    /// The ways in which the line is unusual.
     PimContactOddities Oddities() const;
 
-    /// \return how the physical lines are joined, in their order; empty for a line that is not continued.
+    /// \return the joins between the physical lines, in their order. Empty for a line that is not continued.
     QList<PimContactJoin> Joins() const;
 
-    /// The place of the first byte in Bytes() of the card that the line belongs to.
+    /// The offset of the first byte in Bytes() of the card that the line belongs to.
     qint64 OffsetInCard() const;
 
-    /// \return the card that the line holds, as AGENT does; null if it holds none.
+    /// \return the nested card in this line, as in AGENT. Null if there is none.
     PimContactCard NestedCard() const;
 
-    /// \return true if bytes and index are equal. The place in the card is not compared.
+    /// \return true if bytes and index are equal. The position in the card is not compared.
     bool operator==( const PimContactLine& a_other ) const;
     bool operator!=( const PimContactLine& a_other ) const;
 
@@ -235,11 +238,11 @@ private:
     friend class PimContactCardPrivate; // reads the index
 
     QExplicitlySharedDataPointer<PimContactCardPrivate> d;
-    // The record of the card, and the places of the line in the index and in the bytes.
+    // The record of the card, and the positions of the line in the index and in the bytes.
     quint32 m_record = 0;
     quint32 m_entry = 0;
     quint32 m_begin = 0;
-    // Where the name is in the bytes of the line. No length if the index must be asked.
+    // The position of the name in the bytes of the line. The length is 0 if it must be looked up in the index.
     quint16 m_nameBegin = 0;
     quint16 m_nameLength = 0;
 };

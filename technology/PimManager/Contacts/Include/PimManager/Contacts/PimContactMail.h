@@ -26,15 +26,15 @@ public:
     PimContactMail();
     explicit PimContactMail( const QString& a_address, PimContactKinds a_kinds = PimContactKinds() );
 
-    /// \return the address, such as `omega@example.com`, without `mailto:` and the name of the person. Text that is no
-    ///         address is returned as it is.
+    /// \return the address, such as `omega@example.com`, without `mailto:` and the name of the person. Text that is not
+    ///         an address is returned unchanged.
     QString Address() const;
     void SetAddress( const QString& a_address );
 
-    /// \return the name in `"Omega" <omega@example.com>`; empty without one.
+    /// \return the name `Omega` in `"Omega" <omega@example.com>`. Empty if there is none.
     QString Name() const;
 
-    /// \return what the address is for. Words of TYPE that are no kind are in Types().
+    /// \return the purposes of the address. TYPE words without a flag are in Types().
     PimContactKinds Kinds() const;
     void SetKinds( PimContactKinds a_kinds );
 

@@ -18,8 +18,8 @@
 namespace PimManager::Contacts
 {
 
-/// A PHOTO, LOGO, SOUND or KEY: bytes, an address, or, in a KEY, a text. Implicitly shared. The bytes are decoded when
-/// they are asked for, each time; they are not kept.
+/// A PHOTO, LOGO, SOUND or KEY: bytes, an address, or (SOUND and KEY) a text. Implicitly shared. The bytes are decoded
+/// at each call of Bytes() and are not kept.
 class PIMCONTACT_EXPORT PimContactMedia : public PimContactField
 {
     Q_GADGET
@@ -37,21 +37,23 @@ public:
     /// \param a_mediaType such as `image/jpeg`; if it is empty, it is detected.
     explicit PimContactMedia( const QByteArray& a_bytes, const QString& a_mediaType = QString() );
 
-    /// \return the bytes; empty if the value is an address or a text. If the value is damaged, those before the fault.
+    /// \return the bytes. Empty if the value is an address or a text. If the value is damaged, only the bytes before
+    ///         the fault.
     QByteArray Bytes() const;
 
-    /// \return the media type, such as `image/jpeg`: that of the bytes if they are known, else that of the `data:` URI,
-    ///         of MEDIATYPE or of TYPE. Empty if it is open.
+    /// \return the media type, such as `image/jpeg`: that detected from the bytes, else that of the `data:` URI, of
+    ///         MEDIATYPE or of TYPE. Empty if it is unknown.
     QString MediaType() const;
 
-    /// \return the URI where the picture, sound or key is; empty if the value is not an address.
+    /// \return the URI of the picture, sound or key. Empty if the value is not an address.
     QString Address() const;
 
-    /// \return of SOUND and KEY, the text if the value is neither bytes nor an address, such as a pronunciation or the
-    ///         armoured text of a key.
+    /// \return the text of a SOUND or KEY that is neither bytes nor an address, such as a pronunciation or the armoured
+    ///         text of a key.
     QString Text() const;
 
-    /// \return the part of the picture that is shown (X-ABCROP-RECTANGLE), in pixels of the picture; open if it is all.
+    /// \return the visible part of the picture (X-ABCROP-RECTANGLE), in pixels of the picture. Not set if all of it is
+    ///         visible.
     std::optional<QRect> Crop() const;
 
     /// \return true if the value could not be decoded to its end.
@@ -60,7 +62,7 @@ public:
     /// \return the same picture in other forms (ALTID), this one included.
     PimContactList<PimContactMedia> Alternatives() const;
 
-    /// \return true if all of the above, label, preference and language are equal. Decodes the bytes.
+    /// \return true if all of the above, and label, preference and language are equal. Decodes the bytes.
     bool operator==( const PimContactMedia& a_other ) const { return IsEqual( a_other ); }
     bool operator!=( const PimContactMedia& a_other ) const { return !IsEqual( a_other ); }
 

@@ -14,8 +14,8 @@
 namespace PimManager::Contacts
 {
 
-/// An IMPP (RFC 4770; RFC 6350, section 6.4.3), a SOCIALPROFILE (RFC 9554, section 2.5), or one of the properties that
-/// programs use for them, such as X-JABBER. Implicitly shared.
+/// An IMPP (RFC 4770; RFC 6350, section 6.4.3), a SOCIALPROFILE (RFC 9554, section 2.5), or a property that programs
+/// use instead, such as X-JABBER. Implicitly shared.
 class PIMCONTACT_EXPORT PimContactMessenger : public PimContactField
 {
     Q_GADGET
@@ -30,28 +30,27 @@ public:
     /// \param a_service as Service() returns it.
     PimContactMessenger( const QString& a_service, const QString& a_handle );
 
-    /// \return the name of the service, such as `Skype`. Known services have one name, however the card names them; the
-    ///         name of any other service is returned as written. Empty if it is open.
+    /// \return the name of the service, such as `Skype`. A known service always has the same name, whatever name the
+    ///         card uses. The name of any other service is returned as written. Empty if there is none.
     QString Service() const;
 
-    /// \return the name of the user with that service; empty if the card has only an address that it cannot be read
-    ///         from.
+    /// \return the user's name in that service. Empty if the card has only an address from which it cannot be read.
     QString Handle() const;
 
-    /// \return the URI, such as `xmpp:omega@example.com`; empty if the card has none.
+    /// \return the URI, such as `xmpp:omega@example.com`. Empty if there is none.
     QString Address() const;
 
-    /// \return whether it is private or of the work. Words of TYPE that are no kind are in Types().
+    /// \return the purposes of the account, such as home or work. TYPE words without a flag are in Types().
     PimContactKinds Kinds() const;
     void SetKinds( PimContactKinds a_kinds );
 
-    /// True for a SOCIALPROFILE and what programs use for it.
+    /// True for a SOCIALPROFILE and the properties that programs use instead.
     bool IsSocialProfile() const;
 
     /// \return the same account in other languages (ALTID), this one included.
     PimContactList<PimContactMessenger> Alternatives() const;
 
-    /// \return true if all of the above, label, preference and language are equal.
+    /// \return true if all of the above, and label, preference and language are equal.
     bool operator==( const PimContactMessenger& a_other ) const { return IsEqual( a_other ); }
     bool operator!=( const PimContactMessenger& a_other ) const { return !IsEqual( a_other ); }
 

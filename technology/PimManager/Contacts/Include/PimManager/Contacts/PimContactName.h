@@ -28,7 +28,7 @@ enum class PimContactNamePart
 /// The number of components of N.
 constexpr int s_kPimContactNameParts = static_cast<int>( PimContactNamePart::Generation ) + 1;
 
-/// An N property, and what vendors add to it. Implicitly shared.
+/// An N property, with the properties that vendors add to it. Implicitly shared.
 class PIMCONTACT_EXPORT PimContactName : public PimContactField
 {
     Q_GADGET
@@ -48,7 +48,7 @@ public:
     PimContactName();
     PimContactName( const QString& a_given, const QString& a_family );
 
-    /// \return the texts of a component, which is a list; without empty ones.
+    /// \return the texts of a component, without empty ones. A component is a list.
     QStringList Parts( PimContactNamePart a_part ) const;
     void SetParts( PimContactNamePart a_part, const QStringList& a_texts );
 
@@ -60,20 +60,20 @@ public:
     QString Prefix() const { return Part( PimContactNamePart::Prefix ); }
     QString Suffix() const { return Part( PimContactNamePart::Suffix ); }
 
-    /// \return how the name is pronounced (X-PHONETIC-LAST-NAME, -FIRST-NAME, -MIDDLE-NAME); empty if it is open.
+    /// \return the pronunciation of the name (X-PHONETIC-LAST-NAME, -FIRST-NAME, -MIDDLE-NAME). Empty if there is none.
     QString PhoneticFamily() const;
     QString PhoneticGiven() const;
     QString PhoneticMiddle() const;
 
-    /// \return X-MAIDENNAME; empty if it is open.
+    /// \return X-MAIDENNAME. Empty if there is none.
     QString MaidenName() const;
 
-    /// \return the texts by which the name is sorted (SORT-AS; RFC 6350, section 5.9): for the family name, and for the
-    ///         given name if there is a second. Empty if they are open.
+    /// \return the texts by which the name is sorted (SORT-AS; RFC 6350, section 5.9). The first is for the family
+    ///         name, the second, if any, for the given name. Empty if there are none.
     QStringList SortAs() const;
 
-    /// \return the parts in the order of speech: prefix, given, additional, family, second surname, generation, suffix;
-    ///         joined by blanks.
+    /// \return the parts in spoken order, joined by blanks: prefix, given, additional, family, second surname,
+    ///         generation, suffix.
     QString Text() const;
 
     /// True if all parts are empty.
@@ -82,7 +82,7 @@ public:
     /// \return the name in other languages or scripts (ALTID), this one included.
     PimContactList<PimContactName> Alternatives() const;
 
-    /// \return true if all of the above, label, preference and language are equal.
+    /// \return true if all of the above, and label, preference and language are equal.
     bool operator==( const PimContactName& a_other ) const { return IsEqual( a_other ); }
     bool operator!=( const PimContactName& a_other ) const { return !IsEqual( a_other ); }
 

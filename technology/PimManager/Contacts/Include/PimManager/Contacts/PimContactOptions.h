@@ -1,5 +1,5 @@
 /// \file
-/// What a caller can choose about reading: limits, a filter, and the character set of last resort.
+/// Options for reading: limits, a filter, and the default character set.
 ///
 /// \code
 /// PimContactOptions options;
@@ -25,9 +25,9 @@ class PimContactOptionsPrivate;
 
 /// Options for PimContactReader and PimContactBook. Implicitly shared; copying is cheap.
 ///
-/// Exceeding a limit costs the line or the card that exceeds it. A diagnostic reports it, and the rest of the file is
-/// read. A limit of 0 or less means "no limit", except that a card never has more than 1 GiB and cards never nest
-/// deeper than 64. The defaults suit a desktop; docs/embedded.md lists values for devices with little memory.
+/// A line or card that exceeds a limit is left out. A diagnostic reports it, and the rest of the file is read. A limit
+/// of 0 or less means "no limit", except that a card never has more than 1 GiB and cards never nest deeper than 64. The
+/// defaults suit a desktop; docs/embedded.md lists values for devices with little memory.
 class PIMCONTACT_EXPORT PimContactOptions
 {
 public:
@@ -38,22 +38,22 @@ public:
     ~PimContactOptions();
 
     /// The largest card in bytes, from BEGIN to the line ending of END. Default: 16 MiB. A longer card is refused, and
-    /// no more than the limit of it is in memory. The limit also bounds how far the reader looks ahead and how much
-    /// text outside cards it keeps in case that text is a card without BEGIN.
+    /// at most the limit of its bytes is kept in memory. The same limit applies to the look-ahead of the reader, and to
+    /// the text outside cards that it keeps because the text may be a card without BEGIN.
     qint64 CardBytes() const;
     void SetCardBytes( qint64 a_bytes );
 
-    /// The longest content line in bytes, with its continuation lines and their line endings. Default: no limit but
-    /// that of the card. A longer line is dropped; its card is delivered in part.
+    /// The longest content line in bytes, including its continuation lines and their line endings. Default: only the
+    /// limit of the card applies. A longer line is dropped, and its card is delivered in part.
     qint64 LineBytes() const;
     void SetLineBytes( qint64 a_bytes );
 
     /// The largest number of physical lines in a card. Default: 1,000,000. A card with more lines is refused. The
-    /// number is never larger than 1,024 or a fifth of CardBytes(), whichever is larger.
+    /// number is at most 1,024 or a fifth of CardBytes(), whichever is larger.
     qint64 CardLines() const;
     void SetCardLines( qint64 a_lines );
 
-    /// How deeply cards may nest: 1 is the card of an AGENT. Default: 8. The property that holds a deeper card is
+    /// The deepest nesting of cards: 1 is the card in an AGENT. Default: 8. The property that contains a deeper card is
     /// dropped.
     int Nesting() const;
     void SetNesting( int a_depth );
@@ -62,30 +62,30 @@ public:
     qint64 Cards() const;
     void SetCards( qint64 a_cards );
 
-    /// The largest sum of the bytes of all delivered cards. Default: 1 GiB. A card that no longer fits is refused, and
-    /// later cards that fit are still delivered.
+    /// The largest number of bytes in all delivered cards together. Default: 1 GiB. A card that no longer fits is
+    /// refused. Later cards that fit are still delivered.
     qint64 BookBytes() const;
     void SetBookBytes( qint64 a_bytes );
 
-    /// The largest number of diagnostics that a report keeps. Default: 1,000. Further ones are counted and passed to
-    /// the handler. 0 keeps none; a negative number keeps all.
+    /// The largest number of diagnostics that a report keeps. Default: 1,000. Further ones are only counted and passed
+    /// to the handler. 0 keeps none, and a negative number keeps all.
     int Diagnostics() const;
     void SetDiagnostics( int a_count );
 
-    /// The properties to keep, by name in any letter case and whatever their group. An empty list, the default, keeps
-    /// all of them. VERSION is always kept. Lines of other properties are left out of the cards and reported as
+    /// The names of the properties to keep, in any letter case. Groups are ignored. An empty list, the default, keeps
+    /// all properties. VERSION is always kept. Lines of other properties are left out of the cards and reported as
     /// filtered.
     QList<QByteArray> Names() const;
     void SetNames( const QList<QByteArray>& a_names );
 
-    /// False leaves out PHOTO, LOGO, SOUND and KEY, and every property whose value is a `data:` URI. BASE64 is left out
-    /// too, except in a property such as FN, whose BASE64 may be text (see PimContactLine). Default: true.
+    /// If false, PHOTO, LOGO, SOUND and KEY are left out, and every property whose value is a `data:` URI. BASE64 is
+    /// left out too, except in a property such as FN, where BASE64 may be text (see PimContactLine). Default: true.
     bool AreMediaWanted() const;
     void SetMediaWanted( bool a_areWanted );
 
-    /// The character set of text that is not UTF-8 and names none, by a label such as `windows-1252`. Default:
-    /// `windows-1252`. With `UTF-8` or an unknown name such text is read as UTF-8, and malformed bytes become U+FFFD
-    /// when they are decoded.
+    /// The label of the character set for text that is not UTF-8 and names no character set. Default: `windows-1252`.
+    /// If it is `UTF-8` or an unknown name, such text is read as UTF-8, and malformed bytes become U+FFFD when they are
+    /// decoded.
     QByteArray DefaultCharset() const;
     void SetDefaultCharset( const QByteArray& a_charset );
 

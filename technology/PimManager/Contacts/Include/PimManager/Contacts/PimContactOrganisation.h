@@ -1,5 +1,5 @@
 /// \file
-/// Where a contact works.
+/// An organisation of a contact.
 ///
 /// \code
 /// qInfo() << contact.Organisations().Preferred().Name() << contact.Titles().Preferred().Text();
@@ -27,16 +27,16 @@ public:
     PimContactOrganisation();
     explicit PimContactOrganisation( const QString& a_name, const QStringList& a_units = QStringList() );
 
-    /// \return the name of the organisation; empty if the card names only units.
+    /// \return the name of the organisation. Empty if the card names only units.
     QString Name() const;
 
-    /// \return the units, the largest first; without empty ones.
+    /// \return the units, the largest first, without empty ones.
     QStringList Units() const;
 
     /// \return name and units, joined by commas and blanks.
     QString Text() const;
 
-    /// \return the texts by which name and units are sorted (SORT-AS); empty if they are open.
+    /// \return the texts by which name and units are sorted (SORT-AS). Empty if there are none.
     QStringList SortAs() const;
 
     PimContactKinds Kinds() const;
@@ -44,7 +44,7 @@ public:
     /// \return the same organisation in other languages (ALTID), this one included.
     PimContactList<PimContactOrganisation> Alternatives() const;
 
-    /// \return true if all of the above, label, preference and language are equal.
+    /// \return true if all of the above, and label, preference and language are equal.
     bool operator==( const PimContactOrganisation& a_other ) const { return IsEqual( a_other ); }
     bool operator!=( const PimContactOrganisation& a_other ) const { return !IsEqual( a_other ); }
 

@@ -29,25 +29,25 @@ class PIMCONTACT_EXPORT PimContactPhone : public PimContactField
 public:
     /// Creates a field without a number.
     PimContactPhone();
-    /// \param a_number as people write it.
+    /// \param a_number in any notation.
     explicit PimContactPhone( const QString& a_number, PimContactPhoneKinds a_kinds = PimContactPhoneKinds() );
 
     /// \return the number as written, without the extension and without `tel:`. White space at both ends is removed.
     QString Number() const;
     void SetNumber( const QString& a_number );
 
-    /// \return the extension: the digits behind `;ext=` (RFC 3966) or behind a word such as `ext.` or `x`. Empty
-    ///         without one.
+    /// \return the extension: the digits after `;ext=` (RFC 3966) or after a word such as `ext.` or `x`. Empty if there
+    ///         is none.
     QString Extension() const;
     void SetExtension( const QString& a_extension );
 
-    /// \return the number and the extension as people write them: `+1-555 ext. 12`.
+    /// \return the number and the extension for people, such as `+1-555 ext. 12`.
     QString Text() const;
 
-    /// \return the phone-context of a `tel:` URI (RFC 3966, section 5.1.5); empty without one.
+    /// \return the phone-context of a `tel:` URI (RFC 3966, section 5.1.5). Empty if there is none.
     QString Context() const;
 
-    /// \return what the number is for. Words of TYPE that are no kind are in Types().
+    /// \return the purposes of the number. TYPE words without a flag are in Types().
     PimContactPhoneKinds Kinds() const;
     void SetKinds( PimContactPhoneKinds a_kinds );
 

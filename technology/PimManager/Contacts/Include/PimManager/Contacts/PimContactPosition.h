@@ -14,9 +14,9 @@ namespace PimManager::Contacts
 /// A position on the Earth (WGS 84).
 struct PimContactPosition
 {
-    /// In degrees, from -90 to 90; the north is positive.
+    /// In degrees, from -90 to 90. North is positive.
     double m_latitude = 0;
-    /// In degrees, from -180 to 180; the east is positive.
+    /// In degrees, from -180 to 180. East is positive.
     double m_longitude = 0;
 
     bool operator==( const PimContactPosition& a_other ) const

@@ -1,5 +1,5 @@
 /// \file
-/// Somebody else who has to do with a contact.
+/// A relation of a contact to another person.
 ///
 /// \code
 /// for ( const PimContactRelation& relation : contact.Relations() )
@@ -19,8 +19,8 @@ namespace PimManager::Contacts
 
 class PimContact;
 
-/// A RELATED (RFC 6350, section 6.6.6), an AGENT (RFC 2426, section 3.5.4), or one of the properties that programs use
-/// for them, such as X-SPOUSE. Implicitly shared.
+/// A RELATED (RFC 6350, section 6.6.6), an AGENT (RFC 2426, section 3.5.4), or a property that programs use instead,
+/// such as X-SPOUSE. Implicitly shared.
 class PIMCONTACT_EXPORT PimContactRelation : public PimContactField
 {
     Q_GADGET
@@ -33,23 +33,23 @@ public:
     PimContactRelation();
     explicit PimContactRelation( const QString& a_text, PimContactRelationKinds a_kinds = PimContactRelationKinds() );
 
-    /// \return what the other person is to the contact; without flags if it is open or has only a Label().
+    /// \return the kind of the relation. No flags if the card does not state it or if there is only a Label().
     PimContactRelationKinds Kinds() const;
 
-    /// \return the name of the other person: of an AGENT that is a card its display name. Empty if the card has only an
+    /// \return the name of the other person. If an AGENT is a card, its display name. Empty if the card has only an
     ///         address.
     QString Text() const;
 
-    /// \return the URI of the other person, such as `urn:uuid:…` or `mailto:…`; empty if the card has none.
+    /// \return the URI of the other person, such as `urn:uuid:…` or `mailto:…`. Empty if there is none.
     QString Address() const;
 
-    /// \return the contact that an AGENT holds; a null contact otherwise.
+    /// \return the contact in an AGENT. Otherwise a null contact.
     PimContact Contact() const;
 
     /// \return the same relation in other languages (ALTID), this one included.
     PimContactList<PimContactRelation> Alternatives() const;
 
-    /// \return true if all of the above, label, preference and language are equal.
+    /// \return true if all of the above, and label, preference and language are equal.
     bool operator==( const PimContactRelation& a_other ) const { return IsEqual( a_other ); }
     bool operator!=( const PimContactRelation& a_other ) const { return !IsEqual( a_other ); }
 

@@ -1,5 +1,5 @@
 /// \file
-/// The report on a file: what became of every byte and every card, and what was found.
+/// The report on a file: what happened to every byte and every card, and the findings.
 ///
 /// \code
 /// const PimContactBook book = PimContactBook::ReadFile( QStringLiteral( "contacts.vcf" ) );
@@ -24,7 +24,7 @@ namespace PimManager::Contacts
 
 class PimContactReportPrivate;
 
-/// What kind of file was read.
+/// The kind of file that was read.
 enum class PimContactFileKind
 {
     Empty,       ///< no bytes
@@ -37,7 +37,7 @@ enum class PimContactFileKind
     Unknown,     ///< no card, and not text
 };
 
-/// How a line ends.
+/// The kinds of line endings.
 enum class PimContactLineEnd
 {
     CrLf,
@@ -46,21 +46,22 @@ enum class PimContactLineEnd
     CrCrLf,
 };
 
-/// How the encoding of the file was decided.
+/// How the character set of the file was determined.
 enum class PimContactEvidence
 {
     None,          ///< the text is ASCII
     ByteOrderMark, ///< at the start of the file
-    NulPattern,    ///< every other one of the first bytes is zero, as in UTF-16
+    NulPattern,    ///< every second byte at the start is zero, as in UTF-16
     ValidUtf8,     ///< every card is valid UTF-8
-    CharsetNamed,  ///< at least one card is not UTF-8, and a CHARSET parameter of it was used
+    CharsetNamed,  ///< at least one card is not UTF-8, and its CHARSET parameter was used
     Default,       ///< at least one card is not UTF-8, and the default character set was used
 };
 
-/// What became of a file. Implicitly shared and immutable: a report taken during the reading does not change.
+/// What happened to the bytes and cards of a file. Implicitly shared and immutable: a report obtained while reading
+/// does not change later.
 ///
-/// Each byte and each card is counted once. The numbers are valid at any time; the bytes of a card that is not complete
-/// yet are not counted.
+/// Each byte and each card is counted once. The numbers are valid at any time. The bytes of a card that is not yet
+/// complete are not counted.
 class PIMCONTACT_EXPORT PimContactReport
 {
 public:
@@ -70,65 +71,66 @@ public:
     PimContactReport& operator=( const PimContactReport& a_other );
     ~PimContactReport();
 
-    /// The bytes of all extents. After the end of a file that was not stopped, the bytes of the file; of a file in
-    /// UTF-16 or of jCards those of the converted text.
+    /// The number of bytes in all extents. After a file was read to its end, this is the size of the file, or the size
+    /// of the converted text if the file was in UTF-16 or had jCards.
     qint64 Bytes() const;
 
-    /// The bytes of all extents of a kind.
+    /// The number of bytes in all extents of a kind.
     qint64 Bytes( PimContactExtentKind a_kind ) const;
 
-    /// The number of extents of a kind. For Line it is the number of delivered properties, those of nested cards
-    /// included.
+    /// The number of extents of a kind. For Line, it is the number of delivered properties, including those of nested
+    /// cards.
     qint64 Extents( PimContactExtentKind a_kind ) const;
 
-    /// The cards delivered with all their lines. Repaired and filtered lines do not make a card less whole.
+    /// The number of cards delivered with all their lines. Repaired and filtered lines do not matter.
     qint64 CardsWhole() const;
 
-    /// The cards delivered from which a line was dropped, or that lack BEGIN or END.
+    /// The number of delivered cards from which a line was dropped or that lack BEGIN or END.
     qint64 CardsInPart() const;
 
-    /// The cards left out.
+    /// The number of cards that were left out.
     qint64 CardsRefused() const;
 
-    /// The cards inside delivered cards.
+    /// The number of cards inside delivered cards.
     qint64 CardsNested() const;
 
-    /// The outermost cards that have been begun so far, delivered or refused. Cards are numbered from 1 to this.
+    /// The number of outermost cards that have begun so far, delivered or refused. Cards are numbered from 1 to this
+    /// number.
     qint64 Cards() const;
 
-    /// The lines with that line ending. A last line without one is not counted.
+    /// The number of lines with this line ending. A last line without a line ending is not counted.
     qint64 LineEnds( PimContactLineEnd a_kind ) const;
 
-    /// The delivered cards of a version.
+    /// The number of delivered cards of a version.
     qint64 CardsOf( PimContactVersion a_version ) const;
 
-    /// The character set of the file: `UTF-8`, `UTF-16LE` or `UTF-16BE`, or that of the first card that is in none of
-    /// them. Never empty.
+    /// The character set of the file: `UTF-8`, `UTF-16LE` or `UTF-16BE`, or that of the first card with another
+    /// character set. Never empty.
     QByteArray Charset() const;
 
-    /// How the character set was decided.
+    /// How the character set was determined.
     PimContactEvidence Evidence() const;
 
-    /// True if the file was in UTF-16 or had jCards (RFC 7095). The cards and all offsets are those of its text in
-    /// UTF-8, with the jCards as vCards of version 4.0.
+    /// True if the file was in UTF-16 or had jCards (RFC 7095). The cards and all offsets are then those of the text
+    /// converted to UTF-8, with the jCards as vCards of version 4.0.
     bool IsConverted() const;
 
-    /// What kind of file was read.
+    /// The kind of file that was read.
     PimContactFileKind FileKind() const;
 
-    /// True if a handler stopped the reading. Bytes behind the place were not read and are in no extent.
+    /// True if a handler stopped the reading. The bytes after that position were not read and are in no extent.
     bool IsStopped() const;
 
-    /// The text of the error that ended the reading, such as that of a device; empty if there was none.
+    /// The text of the error that ended the reading, such as that of a device. Empty if there was none.
     QString ErrorText() const;
 
-    /// The findings in the order of the file; at most as many as PimContactOptions::Diagnostics().
+    /// The findings in the order of the file. At most PimContactOptions::Diagnostics() of them are kept.
     QList<PimContactDiagnostic> Diagnostics() const;
 
-    /// The number of findings of a code, kept or not.
+    /// The number of findings with a code, kept or not.
     qint64 Findings( PimContactDiagnosticCode a_code ) const;
 
-    /// The number of findings of a severity, kept or not.
+    /// The number of findings with a severity, kept or not.
     qint64 Findings( PimContactSeverity a_severity ) const;
 
     /// \return true if nothing is missing: no line was dropped, no card was refused, no text was outside cards, and

@@ -1,5 +1,5 @@
 /// \file
-/// A property of a contact whose value is a text, a language or an address on the Internet.
+/// A property of a contact whose value is a text, a language or a URI.
 ///
 /// \code
 /// for ( const PimContactText& note : contact.Notes() )
@@ -33,12 +33,12 @@ public:
     QString Text() const;
     void SetText( const QString& a_text );
 
-    /// \return whether it is private or of the work. Words of TYPE that are no kind are in Types().
+    /// \return the purposes of the field, such as home or work. TYPE words without a flag are in Types().
     PimContactKinds Kinds() const;
     void SetKinds( PimContactKinds a_kinds );
 
-    /// \return of EXPERTISE, HOBBY and INTEREST the level, such as `expert` or `high` (RFC 6715, section 3.2); empty if
-    ///         it is open. Letters of ASCII are in lower case.
+    /// \return the level of an EXPERTISE, HOBBY or INTEREST, such as `expert` or `high` (RFC 6715, section 3.2). ASCII
+    ///         letters are in lower case. Empty if there is none.
     QString Level() const;
 
     /// \return the same text in other languages (ALTID), this one included.

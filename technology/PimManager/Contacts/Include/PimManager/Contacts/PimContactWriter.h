@@ -34,7 +34,7 @@ namespace PimManager::Contacts
 
 class PimContactWriterPrivate;
 
-/// What is written.
+/// The output formats.
 enum class PimContactFormat
 {
     V21,   ///< vCard 2.1
@@ -43,35 +43,36 @@ enum class PimContactFormat
     JCard, ///< jCard (RFC 7095): one card, or an array of several cards, each on a line
 };
 
-/// Writes contacts to a device, one after the other. It holds one contact, and keeps that memory for the next one.
+/// Writes contacts to a device, one after the other. It keeps one contact in memory and reuses that memory for the next
+/// one.
 ///
-/// **What is written** is correct, whatever was found. The output is UTF-8 with CR LF. Lines are folded at 75 octets,
-/// never inside a character, an escape or an encoded byte. The properties keep their order. VERSION is added where it
-/// is missing, and so are FN and N where the version needs them.
+/// **The output** is always correct, even if the input was not. It is UTF-8 with CR LF. Lines are folded at 75 octets,
+/// never inside a character, an escape or an encoded byte. The properties keep their order. A missing VERSION is added,
+/// and so are FN and N if the version requires them.
 ///
-/// A line is written byte for byte if its card already has the version that is written and the line is what this class
-/// would accept: see the list below. Every other line is written again from its decoded value, so its folds, letter
-/// case and order of parameters may differ, but not what it says.
+/// A line is copied byte for byte if its card already has the version that is written and if all conditions in the list
+/// below are true. Every other line is written from its decoded value, so its folds, letter case and order of
+/// parameters may differ, but its meaning does not.
 ///
-/// - The reader has found nothing odd in it, and its lines end in CR LF and have 75 octets at most.
+/// - The reader has found nothing unusual in it, and its lines end in CR LF and have at most 75 octets.
 /// - It is ASCII or UTF-8. In 2.1, it is ASCII, and QUOTED-PRINTABLE is in UTF-8.
-/// - The version has its parameters, and the encoding that they name.
+/// - The version defines its parameters and the encoding that they name.
 ///
-/// Parts of a card that are no property are not written: dropped lines, blank lines, and text between lines.
-/// PimContactCard::Bytes() has them.
+/// Parts of a card that are not properties are not written: dropped lines, blank lines, and text between lines.
+/// PimContactCard::Bytes() contains them.
 ///
-/// **What the version does not have** is written in another form where programs have one, such as `X-ANNIVERSARY` for
-/// ANNIVERSARY, and Report() says so. The table in docs/vcard-support.md lists every property with what each version
-/// keeps. Line breaks of all kinds become line feeds, and control characters other than tabs are left out, so that no
-/// value ends its line or its card.
+/// **Properties that the version does not have** are written in another form that programs use, if there is one, such
+/// as `X-ANNIVERSARY` for ANNIVERSARY. Report() lists them. The table in docs/vcard-support.md shows what each version
+/// keeps of every property. All kinds of line breaks become line feeds, and control characters other than tabs are left
+/// out, so that no value can end its line or its card.
 ///
-/// Writing what was written in the same format yields the same bytes. A writer belongs to one thread; several writers
-/// may work at the same time.
+/// If the output is read and written again in the same format, the bytes do not change. A writer may be used by one
+/// thread only. Several writers may be used at the same time.
 class PIMCONTACT_EXPORT PimContactWriter
 {
 public:
-    /// \param a_device open for writing; must outlive the writer and remains the caller's. A device that is not open
-    ///                 fails when it is written to for the first time.
+    /// \param a_device open for writing; must outlive the writer and remains the caller's. If it is not open, the first
+    ///                 write fails.
     explicit PimContactWriter( QIODevice& a_device, PimContactFormat a_format = PimContactFormat::V30 );
     PimContactWriter( PimContactWriter&& a_other ) noexcept;
     PimContactWriter& operator=( PimContactWriter&& a_other ) noexcept;
@@ -79,35 +80,35 @@ public:
     ~PimContactWriter();
     Q_DISABLE_COPY( PimContactWriter )
 
-    /// What is written.
+    /// The output format.
     PimContactFormat Format() const;
 
-    /// The most notes that Report() keeps. Default: 1000. The others are counted.
+    /// The largest number of notes that Report() keeps. Default: 1000. Further notes are only counted.
     int MostNotes() const;
     void SetMostNotes( int a_most );
 
-    /// Writes a card. A null card writes nothing. Linear in the length of the card, but for cards that are nested in
-    /// it, which 3.0 writes as text with the escapes of all cards around them; deeper than two they are left out.
-    /// \return false if the device has failed, now or before. Then nothing more is written. The device is written to in
-    ///         large pieces, so a failure may show at a later call, and at the latest in Finish().
+    /// Writes a card. A null card writes nothing. Linear in the length of the card, except for nested cards in 3.0.
+    /// They are written as text with the escapes of all cards around them, and left out if they nest deeper than two.
+    /// \return false if the device has failed, in this call or before. Then nothing more is written. The writer writes
+    ///         to the device in large pieces, so a failure may be reported by a later call, at the latest by Finish().
     bool Write( const PimContactCard& a_card );
     /// Writes the card of a contact, see PimContact::Card().
     bool Write( const PimContact& a_contact ) { return Write( a_contact.Card() ); }
 
-    /// Ends the output, and writes what is still in memory. Call it once, behind the last contact; then write no more.
-    /// Without any contact a vCard file is empty, and a jCard file has an empty array.
-    /// \return false if the device has failed, now or before.
+    /// Ends the output and writes the remaining data. Call it once, after the last contact, and write nothing after it.
+    /// Without any contact, a vCard file is empty and a jCard file contains an empty array.
+    /// \return false if the device has failed, in this call or before.
     bool Finish();
 
-    /// The text of the device's error; empty if there was none.
+    /// The text of the device's error. Empty if there was none.
     QString ErrorText() const;
 
-    /// What has happened so far.
+    /// The report so far.
     PimContactWriteReport Report() const;
 
-    /// \return a card as a text of its own; a null card is an empty text, and as jCard an empty array.
+    /// \return the complete output for one card. For a null card it is empty, or an empty array as jCard.
     static QByteArray TextOf( const PimContactCard& a_card, PimContactFormat a_format = PimContactFormat::V30 );
-    /// \return the card of a contact as a text of its own.
+    /// \return the complete output for the card of a contact.
     static QByteArray TextOf( const PimContact& a_contact, PimContactFormat a_format = PimContactFormat::V30 )
     {
         return TextOf( a_contact.Card(), a_format );

@@ -15,7 +15,7 @@
 namespace PimManager::Contacts
 {
 
-/// The last byte of the word VCARD, and the bytes that are passed over behind it: of blanks, control characters and
+/// The last byte of the word VCARD, and the bytes that are ignored after it: those of blanks, control characters and
 /// byte order marks.
 constexpr std::array<bool, 256> LastBytesOfBoundaries()
 {
@@ -36,35 +36,39 @@ struct CardBoundary
         Begin,
         End,
         AgentBegin,  ///< `AGENT:BEGIN:VCARD`
-        EndAndBegin, ///< `END:VCARDBEGIN:VCARD`, as files have it that were put together without a line ending
+        EndAndBegin, ///< `END:VCARDBEGIN:VCARD`, from files that were concatenated without a line ending
     };
 
     Kind m_kind = Kind::None;
-    /// Where the second part of the line begins: the BEGIN of AgentBegin and EndAndBegin.
+    /// The position of the BEGIN in AgentBegin and EndAndBegin.
     quint32 m_beginPlace = 0;
 
-    // Of Begin and End: what else is on the line. Places count from the start of the line.
-    /// A byte order mark, at the start.
+    // For Begin and End: the other parts of the line, as positions from the start of the line. Examples:
+    //
+    //     item1.END;X=y:VCARD     m_group "item1.", m_parameters ";X=y"
+    //     END:VCARD the end       m_rest "the end"; m_isMended because of the blank before it
+    /// A byte order mark at the start.
     ByteRange m_mark;
-    /// A group with its dot, parameters, and what follows VCARD. Not blanks, control characters or byte order marks.
+    /// A group with its dot, parameters, and the text after VCARD, without blanks, control characters and byte order
+    /// marks around them.
     ByteRange m_group;
     ByteRange m_parameters;
     ByteRange m_rest;
-    /// There are blanks, control characters or byte order marks, but for a mark at the start.
+    /// There are blanks, control characters or byte order marks other than a mark at the start.
     bool m_isMended = false;
 
     static constexpr std::array<bool, 256> s_kLastBytes = LastBytesOfBoundaries();
 
-    /// The longest line that can be one.
+    /// The longest line that can be a boundary.
     static constexpr qint64 s_kLongest = 1024;
 
-    /// The line is longer than that, or its start was taken by LineScanner::TakeOpen().
+    /// The line is longer than that, or LineScanner::TakeOpen() has already taken its start.
     static bool IsTooLong( const PhysicalLine& a_line ) { return a_line.m_isLong || a_line.m_length > s_kLongest; }
 
-    /// \return true for an AGENT line without a value: a BEGIN line that follows it begins a card inside.
+    /// \return true for an AGENT line without a value. A BEGIN line after it begins a nested card.
     static bool IsOpenAgent( std::string_view a_line );
 
-    /// The line begins as BEGIN or END and is longer.
+    /// The line begins like a BEGIN or END line and is longer.
     static bool BeginsAsOne( std::string_view a_line )
     {
         constexpr size_t s_kEndLength = 9;
@@ -72,7 +76,8 @@ struct CardBoundary
                ( Upper( a_line[0] ) == 'B' || Upper( a_line[0] ) == 'E' );
     }
 
-    /// Almost every line fails this look: its last byte is that of the word, or one that is passed over.
+    /// A quick check that almost every line fails: the last byte must be that of the word, or one that is ignored after
+    /// it.
     static bool MayBe( std::string_view a_line )
     {
         return !a_line.empty() && static_cast<qint64>( a_line.size() ) <= s_kLongest &&
@@ -82,12 +87,12 @@ struct CardBoundary
     /// \param a_line not empty.
     static bool MayEndAsOne( std::string_view a_line ) { return s_kLastBytes[static_cast<uchar>( a_line.back() )]; }
 
-    /// The words may be followed by other text, if that begins with no byte of a name: `END:VCARD the end`.
+    /// Other text may follow the words if it does not begin with a name byte: `END:VCARD the end`.
     ///
     /// \param a_line a physical line without its line ending.
     static CardBoundary Of( std::string_view a_line );
 
-    /// The same, and `BEGIN:VCARD` with anything behind it is a BEGIN too. For lines outside cards.
+    /// The same for lines outside cards. There, `BEGIN:VCARD` with any text after it is a BEGIN.
     static CardBoundary OfOutside( std::string_view a_line );
 };
 

@@ -12,13 +12,13 @@
 namespace PimManager::Contacts
 {
 
-/// Copies entries and bytes of cards, one after the other, without filtered lines. The places of nested cards are
+/// Copies entries and bytes of cards, one after the other, without filtered lines. The positions of nested cards are
 /// adapted.
 class CardCopy
 {
 public:
     /// \param a_index of the outermost card; \param a_bytes its bytes. Both must outlive the copy.
-    /// \param a_begin where copying begins in the bytes.
+    /// \param a_begin the position in the bytes where copying begins.
     CardCopy( const uchar* a_index, std::string_view a_bytes, quint32 a_begin ) :
         m_index( a_index ),
         m_bytes( a_bytes ),
@@ -26,21 +26,21 @@ public:
     {
     }
 
-    /// Copies a card and its nested cards. Copying is at its first byte, and is at its end afterwards.
+    /// Copies a card and its nested cards. The current position must be its first byte, and is its end afterwards.
     /// \param a_record the place of its record in the index.
     CardIndex Copy( quint32 a_record );
 
-    /// Copies the next part, which is no nested card.
-    /// \param a_raw the entry as it is written.
+    /// Copies the next part, which must not be a nested card.
+    /// \param a_raw the bytes of the entry.
     void CopyPart( quint32 a_length, IndexBytes a_raw, IndexWriter& a_writer );
-    /// Copies a nested card, which is the next part.
+    /// Copies the next part, which must be a nested card.
     void CopyNested( const IndexEntry& a_entry, IndexWriter& a_writer );
     /// Leaves out the next bytes.
     void Skip( quint32 a_length ) { m_place += a_length; }
-    /// Adds bytes that are in no card.
+    /// Adds bytes that are not in the card.
     void Add( std::string_view a_bytes ) { m_copied.append( a_bytes.data(), static_cast<int>( a_bytes.size() ) ); }
 
-    /// All that was copied.
+    /// The copied bytes.
     const QByteArray& Bytes() const { return m_copied; }
 
 private:

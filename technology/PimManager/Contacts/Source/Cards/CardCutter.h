@@ -1,5 +1,5 @@
 /// \file
-/// Cards, cut out of the lines of a text.
+/// Cuts the lines of a text into cards.
 
 #pragma once
 
@@ -22,14 +22,15 @@ namespace PimManager::Contacts
 
 /// Finds the cards in a text. The rules:
 ///
-/// - BEGIN outside cards begins one; END at the same depth ends it.
-/// - BEGIN behind an AGENT line without a value, or on it, begins a card inside the card.
-/// - Any other BEGIN inside a card says that an END is missing: all open cards end there, and a new one begins.
-/// - Lines of properties with an END but no BEGIN are a card if one of them is FN, N, TEL, EMAIL or ORG. Text outside
-///   cards is therefore held from the first known property on.
-/// - At the end of the text all open cards end.
+/// - BEGIN outside cards begins a card. END at the same depth ends it.
+/// - BEGIN after an AGENT line without a value, or on the AGENT line, begins a nested card.
+/// - Any other BEGIN inside a card means that an END is missing. All open cards end there, and a new one begins.
+/// - Properties with an END but without a BEGIN are a card if one of them is FN, N, TEL, EMAIL or ORG. Text outside
+///   cards is therefore held back from the first known property on.
+/// - All open cards end at the end of the text.
 ///
-/// Two things are known only later, when BEGIN, the end of the text or the limit of a card comes and no other END did:
+/// Two things are decided only later, when BEGIN, the end of the text or the limit of a card is reached without another
+/// END:
 ///
 ///     BEGIN:VCARD                      BEGIN:VCARD
 ///     AGENT:BEGIN:VCARD                FN:a
@@ -37,38 +38,38 @@ namespace PimManager::Contacts
 ///     END:VCARD     of which card?     BEGIN:VCARD     now it is known that the END was meant
 ///     BEGIN:VCARD   now it is known: of the outer one
 ///
-/// The bytes of the card are still there, so it is read again with what is then known. The same happens when a line of
-/// an indented card is not indented. Each byte is read at most three times.
+/// The bytes of the card are kept until then, so it is read again with this knowledge. The same happens if a line of an
+/// indented card is not indented. Each byte is read at most three times.
 ///
-/// The cutter decides; other classes carry out what it has decided. CardStack writes the index of the card that is
-/// open, CardDelivery delivers it, SkippedCard takes the rest of a refused one, and OutsideText takes the lines between
+/// The cutter decides, and other classes carry out its decisions. CardStack writes the index of the open card,
+/// CardDelivery delivers it, SkippedCard takes the rest of a refused card, and OutsideText takes the lines between
 /// cards.
 class CardCutter
 {
 public:
     using CardTaker = CardDelivery::CardTaker;
 
-    /// All must outlive the cutter.
+    /// The arguments must outlive the cutter.
     CardCutter( LineScanner& a_scanner, Ledger& a_ledger, const PimContactOptions& a_options, CardTaker a_taker );
 
     /// Forgets the text.
     void Reset( bool a_isConverted );
 
-    /// What TakePlainCard() did.
+    /// The result of TakePlainCard().
     enum class PlainStep
     {
         None,    ///< nothing
-        Taken,   ///< it took lines
-        Waiting, ///< it waits for more of a card whose first lines it has read
+        Taken,   ///< lines were taken
+        Waiting, ///< the first lines of a card were read; more bytes are needed
     };
 
-    /// Takes the next card of the scanner, or its first lines, if it is plain so far.
+    /// Takes the next card from the scanner if it is plain, or its first lines if only these are plain.
     PlainStep TakePlainCard();
 
-    /// Takes the next line of the scanner.
+    /// Takes the next line from the scanner.
     void Take( const PhysicalLine& a_line );
 
-    /// Takes what has come of the next line, if the line is already longer than anything that is kept.
+    /// Takes the available part of the next line if it is already longer than any line that is kept.
     void TakeOpenLine()
     {
         // No shorter line exceeds a limit.
@@ -77,10 +78,10 @@ public:
         }
     }
 
-    /// No line follows.
+    /// Ends the text. No line follows.
     void Finish();
 
-    /// What the text outside cards is.
+    /// The kind of the text outside cards.
     PimContactFileKind KindOfText() const { return m_outside.Kind(); }
 
 private:
@@ -94,14 +95,18 @@ private:
         Skipping, ///< the card is refused
     };
 
-    // What is only known when the card is read again.
+    // Facts that are known only when the card is read again.
     struct Knowledge
     {
-        bool m_isPlain = false;     // the indentation of BEGIN is not that of all lines
-        bool m_isFlatAgent = false; // `AGENT:BEGIN:VCARD` begins no card
+        bool m_isPlain = false;     // not all lines have the indentation of BEGIN
+        bool m_isFlatAgent = false; // `AGENT:BEGIN:VCARD` does not begin a card
     };
 
-    // The card that is being read. A new card begins with a new object.
+    // The card that is being read. Each card begins with a new object. Example:
+    //
+    //       BEGIN:VCARD     m_indentation 2, so all lines are expected to be indented
+    //       FN:a            indented by exactly 2; m_isFirstLineBehind is false from here on
+    //     NOTE:b            not indented: the card is read again, with m_knowledge.m_isPlain
     struct OpenCard
     {
         // All lines are expected to be indented.
@@ -109,9 +114,9 @@ private:
 
         Line m_first;
         bool m_hasBegin = false;
-        // That of BEGIN.
+        // The number of blanks before BEGIN.
         quint32 m_indentation = 0;
-        bool m_isFirstLineBehind = true; // no line but BEGIN has come
+        bool m_isFirstLineBehind = true; // only BEGIN was read so far
         qint64 m_lines = 0;
         CardLookahead m_lookahead;
         Knowledge m_knowledge;
@@ -176,7 +181,7 @@ private:
     State m_state = State::Outside;
     OpenCard m_card;
     PlainCard m_plainCard;
-    // Of the card that is delivered; kept for its memory.
+    // The index of the card that is being delivered. Kept to reuse its memory.
     CardIndex m_sealed;
     bool m_mayTakePlainCards;
     bool m_isPlainCardOpen = false;

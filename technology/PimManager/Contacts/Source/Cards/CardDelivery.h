@@ -1,5 +1,5 @@
 /// \file
-/// Delivers the cards that are complete.
+/// Delivers complete cards.
 
 #pragma once
 
@@ -16,12 +16,12 @@
 namespace PimManager::Contacts
 {
 
-/// Delivers cards and counts them. A card that exceeds a limit of the book is refused instead. Either way its bytes are
-/// added to the ledger and released.
+/// Delivers cards and counts them. A card that exceeds a limit of the book is refused instead. In both cases its bytes
+/// are added to the ledger and released.
 class CardDelivery
 {
 public:
-    /// Receives a card that is complete; its extents have been added.
+    /// Receives a complete card. Its extents have been added before.
     using CardTaker = std::function<void( PimContactCard a_card )>;
 
     /// The scanner and the ledger must outlive this object.
@@ -29,13 +29,13 @@ public:
 
     /// Forgets the text.
     void Reset( bool a_isConverted );
-    /// All lines have been taken. In a card that reaches to the end of the text END is not missing; the file is cut
-    /// off.
+    /// All lines have been taken. If a card without END reaches to the end of the text, the file is reported as cut off
+    /// and END not as missing.
     void EndText() { m_isEndOfText = true; }
 
     /// The caller's default character set is known, and not UTF-8.
     bool IsDefaultKnown() const { return m_isDefaultKnown; }
-    /// As many cards have been delivered as the options allow; all others are refused.
+    /// The limit for the number of cards is reached. All further cards are refused.
     bool IsFull() const
     {
         const ReportData& data = m_ledger.Data();
@@ -44,10 +44,10 @@ public:
 
     /// Delivers or refuses a card.
     /// \param a_index the record and the index of the outermost card.
-    /// \param a_facts what its lines say about it.
-    /// \param a_begin where it begins in the text.
+    /// \param a_facts the facts from its lines.
+    /// \param a_begin its position in the text.
     void Deliver( const CardIndex& a_index, const CardFacts& a_facts, const TextPlace& a_begin );
-    /// Counts and reports a card that is refused. Its extents are added by the caller.
+    /// Counts and reports a refused card. The caller adds its extents.
     void ReportRefused( PimContactDiagnosticCode a_code, const TextPlace& a_begin );
 
 private:

@@ -1,5 +1,5 @@
 /// \file
-/// What is told about a card when it is delivered.
+/// The extents and findings of a card when it is delivered.
 
 #pragma once
 
@@ -12,20 +12,20 @@
 namespace PimManager::Contacts
 {
 
-/// Goes over the index of a card once. Each entry becomes an extent, and each oddity a finding at its place. So the
-/// extents are the card, and the findings are in the order of the file.
+/// Reads the index of a card once. Each entry becomes an extent, and each oddity a finding at its position. So the
+/// extents cover the card, and the findings are in the order of the file.
 class CardFindings
 {
 public:
     /// \param a_bytes the bytes of the outermost card.
-    /// \param a_begin where the card is in the text.
+    /// \param a_begin the position of the card in the text.
     CardFindings( Ledger& a_ledger, const CardIndex& a_index, std::string_view a_bytes, const TextPlace& a_begin,
                   qint64 a_number );
 
-    /// Counts the findings of a card that has no other oddities than those of its lines and boundaries.
+    /// Counts the findings of a card whose only oddities are those of its lines and boundaries.
     static void Count( Ledger& a_ledger, const CardFacts& a_facts );
 
-    /// \param a_isEndOfFile the card is the last one, and nothing follows it.
+    /// \param a_isEndOfFile true if the card ends at the end of the file.
     void Tell( bool a_isEndOfFile );
 
 private:
@@ -43,9 +43,9 @@ private:
     qint64 m_offset;
     qint64 m_number;
     bool m_isEndOfFile = false;
-    // The place of the next entry in the bytes.
+    // The position of the next entry in the bytes.
     quint32 m_place = 0;
-    // The last place that was reported, so that the lines before it are counted once.
+    // The last reported position, so that the lines before it are counted only once.
     TextPlace m_reported;
 };
 

@@ -10,16 +10,16 @@
 namespace PimManager::Contacts
 {
 
-/// The limits of a card as they apply: those of the options, and those that always apply. The latter bound the memory
-/// of an index and the depth of calls.
+/// The effective limits of a card: those of the options, and those that always apply. The latter bound the memory of an
+/// index and the depth of calls.
 struct CardLimits
 {
     explicit CardLimits( const PimContactOptions& a_options );
 
     qint64 m_bytes;
-    /// Physical lines.
+    /// The number of physical lines.
     qint64 m_lines;
-    /// How many cards may be open inside a card.
+    /// The number of cards that may be open inside a card.
     int m_nesting;
 };
 

@@ -11,14 +11,14 @@
 namespace PimManager::Contacts
 {
 
-/// Remembers the boundaries in a card whose meaning depends on what follows:
+/// Remembers the boundaries in a card whose meaning depends on the text after them:
 ///
 /// - An indented END may be a fold of the line before, or the END of the card.
-/// - The END of a card that began on its AGENT line may be meant for the outer card.
-/// - An indented BEGIN, with indented lines only since then, may be a fold or another card.
+/// - The END of a card that began on its AGENT line may be the END of the outer card.
+/// - An indented BEGIN with only indented lines after it may be a fold or another card.
 ///
-/// Text that follows decides that they are what they look like. If the card has no other END, they mean what Result
-/// says.
+/// If text follows, they are folds, or the END of the nested card. If the card has no other END, Result says what they
+/// mean.
 class CardLookahead
 {
 public:
@@ -26,12 +26,12 @@ public:
 
     enum class Result
     {
-        None,        ///< no boundary is open
+        None,        ///< no boundary is undecided
         PendingEnd,  ///< the card ends with the line of PendingEnd()
         FoldedBegin, ///< the card ends before the line of FoldedBegin(), where another one begins
     };
 
-    /// What the boundaries mean if no line of the card follows.
+    /// The meaning of the boundaries if no line of the card follows.
     Result Found() const;
     bool IsPending() const { return Found() != Result::None; }
 
@@ -42,19 +42,25 @@ public:
 
     /// A line of text follows.
     void TakeText( std::string_view a_text );
-    /// A boundary follows that was taken as a fold. TakeText() must be called first.
+    /// A boundary follows and was taken as a fold. TakeText() must be called first.
     void TakeFold( const PhysicalLine& a_line, Kind a_kind );
-    /// A card inside the card begins.
-    /// \param a_isInline on its AGENT line.
+    /// A nested card begins.
+    /// \param a_isInline true if it begins on its AGENT line.
     void BeginNested( bool a_isInline );
-    /// A card inside the card has ended, and none is open.
+    /// A nested card has ended, and no other one is open.
     void EndNested( const PhysicalLine& a_line );
 
 private:
+    // Example of the flags:
+    //
+    //     NOTE:a
+    //      BEGIN:VCARD     m_hasBegin, m_begin
+    //      END:VCARD       m_hasEnd, m_hasEndBehindBegin, m_end; both lines may be another card
+    //     TEL:1            not indented: m_hasBegin and m_hasEnd are cleared; both lines were folds of NOTE
     int m_nestedCards = 0;
-    // The only card inside began on its AGENT line.
+    // There is only one nested card, and it began on its AGENT line.
     bool m_isInlineAgent = false;
-    // Nothing but blank lines came since.
+    // Only blank lines followed m_end.
     bool m_hasEnd = false;
     bool m_isEndOfAgent = false;
     PhysicalLine m_end;

@@ -1,5 +1,5 @@
 /// \file
-/// What PimContactCard holds: one block of memory.
+/// The data of PimContactCard: one block of memory.
 ///
 ///     PimContactCardPrivate | record | entries, with those of nested cards | character set | bytes
 
@@ -19,8 +19,8 @@
 namespace PimManager::Contacts
 {
 
-/// What was decided about a card, outermost or nested, at its END. Records are stored in the index at any byte, so they
-/// are copied in and out.
+/// The decisions about a card, outermost or nested, that were made at its END. Records are stored in the index without
+/// alignment, so they are copied in and out.
 struct CardRecord
 {
     enum Flag : quint8
@@ -34,16 +34,16 @@ struct CardRecord
         IsOtherCharset = 0x40, ///< the card is not valid UTF-8
     };
 
-    /// Of the card in the bytes of the outermost card.
+    /// The position of the card in the bytes of the outermost card.
     quint32 m_begin = 0;
     quint32 m_length = 0;
-    /// Where the card begins in the outermost card as it was found: its byte, and the lines before it.
+    /// The start of the card in the outermost card as it was found: its offset, and the number of lines before it.
     quint32 m_offset = 0;
     quint32 m_line = 0;
-    /// Of its entries, which follow the record.
+    /// The length and number of its entries, which follow the record.
     quint32 m_indexLength = 0;
     quint32 m_lines = 0;
-    /// Of the character set of lines that name none themselves; its name follows the entries.
+    /// The length of the name of the character set for lines that name none. The name follows the entries.
     quint16 m_charsetLength = 0;
     quint8 m_version = 0;
     quint8 m_foldStyle = 0;
@@ -70,7 +70,7 @@ struct CardRecord
 class CardIndex
 {
 public:
-    /// \param a_charset the name of the character set of lines that name none themselves; may be empty.
+    /// \param a_charset the name of the character set for lines that name none; may be empty.
     void Set( const CardRecord& a_record, IndexBytes a_entries, std::string_view a_charset );
 
     IndexBytes Bytes() const { return { m_bytes.data(), static_cast<quint32>( m_bytes.size() ) }; }
@@ -82,18 +82,18 @@ private:
 };
 
 /// \return a reader of the entries of a card.
-/// \param a_base   the index of the outermost card, its record included.
-/// \param a_record the place of the record of the card in it.
+/// \param a_base   the index of the outermost card, including its record.
+/// \param a_record the position of the card's record in it.
 IndexReader EntriesOf( const uchar* a_base, quint32 a_record );
 
 /// \return the name of the character set of lines that name none themselves.
 std::string_view CharsetOf( const uchar* a_base, quint32 a_record );
 
-/// The block of a card.
+/// The memory block of a card.
 class PimContactCardPrivate : public QSharedData
 {
 public:
-    /// What is known about the card in its file.
+    /// Facts about the card in its file.
     struct Origin
     {
         qint64 m_number = 0;
@@ -106,19 +106,19 @@ public:
     /// Allocates the block with one allocation. Throws std::bad_alloc.
     static PimContactCard Create( const Origin& a_origin, IndexBytes a_index, std::string_view a_bytes );
 
-    // What PimContactCard and PimContactLine are made of.
+    // Gives access to the data of PimContactCard and PimContactLine.
     class LineView;
     static CardRecord RecordOf( const PimContactCard& a_card );
     static std::string_view BytesOf( const PimContactCard& a_card );
     static PimContactCard CardAt( PimContactCardPrivate* a_private, quint32 a_record );
     /// \return an iterator at the first property.
     static PimContactCard::const_iterator Begin( PimContactCardPrivate* a_private, quint32 a_record );
-    /// Goes on to the next property, or to the end.
+    /// Steps to the next property, or to the end.
     static void Step( PimContactCard::const_iterator& a_iterator );
     static bool AreSamePlace( const PimContactLine& a_first, const PimContactLine& a_second );
     static bool AreEqual( const PimContactCard& a_first, const PimContactCard& a_second );
 
-    // Create() alone makes blocks, by the operator below. NOLINTNEXTLINE(misc-new-delete-overloads)
+    // Only Create() makes blocks, with the operator below. NOLINTNEXTLINE(misc-new-delete-overloads)
     void operator delete( void* a_block ) { ::operator delete( a_block ); }
 
     const uchar* Index() const { return reinterpret_cast<const uchar*>( this + 1 ); }

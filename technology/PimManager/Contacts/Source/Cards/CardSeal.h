@@ -1,5 +1,5 @@
 /// \file
-/// What is decided about a card when its END has come.
+/// The decisions about a card at its END.
 
 #pragma once
 
@@ -15,9 +15,9 @@ namespace PimManager::Contacts
 
 /// Completes the record and the index of a card: its version, its fold style, and the character set of each line.
 ///
-/// \param a_facts   what the lines say about the card.
+/// \param a_facts   the facts from the lines of the card.
 /// \param a_entries the index of the lines.
-/// \param a_record  begin, length, and the flags that the lines do not know.
+/// \param a_record  begin, length, and the flags that do not depend on the lines.
 /// \param a_bytes   the bytes of the outermost card.
 /// \param a_isDefaultKnown the caller's default character set is known, and not UTF-8.
 /// \param[out] a_index the record and the index.

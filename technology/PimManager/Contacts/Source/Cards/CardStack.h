@@ -1,5 +1,5 @@
 /// \file
-/// The lines of a card and of the cards inside it.
+/// The lines of a card and of its nested cards.
 
 #pragma once
 
@@ -17,11 +17,11 @@
 namespace PimManager::Contacts
 {
 
-/// Writes the index of a card that is open: LogicalLines for the card, and for each card that is open inside it. It
-/// decides nothing about boundaries; the caller passes lines, BEGIN and END.
+/// Writes the index of the open card, with one LogicalLines for the card and one for each nested card that is open. It
+/// makes no decisions about boundaries: the caller passes lines, BEGIN and END.
 ///
-/// A card inside is left out, with the property that holds it, if it is nested deeper than the limit or if the property
-/// is filtered or too long. The lines of cards that are nested too deeply are not read at all.
+/// A nested card is left out, together with the property that contains it, if it is nested deeper than the limit or if
+/// the property is filtered or too long. The lines of cards that are nested too deeply are not read at all.
 class CardStack
 {
 public:
@@ -29,20 +29,20 @@ public:
     /// \param a_isDefaultKnown as for SealCard().
     CardStack( const LineScanner& a_scanner, const PimContactOptions& a_options, bool a_isDefaultKnown );
 
-    /// Begins a card and forgets the one before.
-    /// \param a_first       its first line. Passing it with AddBegin() is up to the caller, because it may be no BEGIN.
+    /// Begins a card and forgets the previous one.
+    /// \param a_first       its first line. If it is a BEGIN, the caller passes it to AddBegin().
     /// \param a_indentation as for LogicalLines::Begin().
     void Begin( const PhysicalLine& a_first, quint32 a_indentation );
-    /// Adds the BEGIN line of the outermost card, as it is recognised outside cards.
+    /// Adds the BEGIN line of the outermost card, with the rules for lines outside cards.
     void AddBegin( const PhysicalLine& a_line );
-    /// Must be called before a line is passed if the scanner has received bytes, because that moves them.
+    /// Must be called before a line is passed if the scanner has received bytes since, because that moves the bytes.
     void RefreshBytes()
     {
         for ( size_t depth = 0; depth <= m_depth; ++depth )
             m_levels[depth]->m_lines.SetBytes( m_scanner.At( m_offset ) );
     }
 
-    /// Takes a line that is no boundary.
+    /// Takes a line that is not a boundary.
     void Take( const PhysicalLine& a_line )
     {
         if ( m_tooDeep == 0 )
@@ -50,24 +50,25 @@ public:
         else
             TakeTooDeep( a_line );
     }
-    /// Begins a card inside the innermost one.
-    /// \param a_begin its BEGIN line. The line before it is an AGENT line: IsBehindAgent() has been called.
+    /// Begins a card nested in the innermost one.
+    /// \param a_begin its BEGIN line. The line before it must be an AGENT line, and IsBehindAgent() must have been
+    ///                called.
     void BeginNested( const PhysicalLine& a_begin );
-    /// Ends the innermost card, which is not the outermost one.
+    /// Ends the innermost card, which must not be the outermost one.
     void EndNested( const PhysicalLine& a_end, const CardBoundary& a_boundary );
-    /// Ends all cards that are open.
+    /// Ends all open cards.
     ///
-    /// \param a_end   the place in the text where they end.
+    /// \param a_end   the position in the text where they end.
     /// \param a_endLine the END line of the outermost card; null if it is missing.
-    /// \param a_hasBegin the outermost card has a BEGIN line.
+    /// \param a_hasBegin true if the outermost card has a BEGIN line.
     /// \param[out] a_index the record and the index of the outermost card.
     void Close( qint64 a_end, const PhysicalLine* a_endLine, bool a_hasBegin, CardIndex& a_index );
 
-    /// No card is open inside the outermost one.
+    /// No nested card is open.
     bool IsOutermost() const { return m_depth == 0 && m_tooDeep == 0; }
     /// The innermost card is nested too deeply.
     bool IsTooDeep() const { return m_tooDeep > 0; }
-    /// How many cards are open inside the outermost one.
+    /// The number of open nested cards.
     int Depth() const { return static_cast<int>( m_depth ) + m_tooDeep; }
     /// The last line is an AGENT line without a value. Settles that line.
     bool IsBehindAgent() { return IsTooDeep() ? m_isBehindAgentTooDeep : Lines().IsBehindOpenAgent(); }
@@ -86,9 +87,9 @@ private:
         }
         LogicalLines m_lines;
         quint32 m_begin = 0;
-        // Lines before it in the outermost card.
+        // The number of lines before it in the outermost card.
         quint32 m_line = 0;
-        // What becomes of it and of the property that holds it: Line, Filtered or Dropped.
+        // The kind of it and of the property that contains it: Line, Filtered or Dropped.
         EntryKind m_fate = EntryKind::Line;
     };
 
@@ -115,15 +116,20 @@ private:
     size_t m_mostNesting;
     bool m_isDefaultKnown;
 
-    // Of the outermost card.
+    // For the outermost card.
     qint64 m_offset = 0;
     qint64 m_number = 1;
     quint32 m_indentation = 0;
-    // The outermost card first. Levels are kept for their memory.
+    // The outermost card first. Levels are kept to reuse their memory.
     std::vector<std::unique_ptr<Level>> m_levels;
-    // The level of the innermost card that is not nested too deeply.
+    // The level of the innermost card that is not nested too deeply. Example with a limit of one nested card:
+    //
+    //     BEGIN:VCARD           m_depth 0
+    //     AGENT:BEGIN:VCARD     m_depth 1
+    //     AGENT:BEGIN:VCARD     m_depth 1, m_tooDeep 1: its lines are not read
+    //     END:VCARD             m_depth 1, m_tooDeep 0
     size_t m_depth = 0;
-    // How many cards are open that are nested too deeply.
+    // The number of open cards that are nested too deeply.
     int m_tooDeep = 0;
     bool m_isBehindAgentTooDeep = false;
 };

@@ -1,5 +1,5 @@
 /// \file
-/// What PimContactDiagnostic holds.
+/// The data of PimContactDiagnostic.
 
 #pragma once
 
@@ -10,13 +10,13 @@
 namespace PimManager::Contacts
 {
 
-/// A place in the text.
+/// A position in the text.
 struct TextPlace
 {
     qint64 m_offset = 0;
     /// From 1.
     qint64 m_line = 1;
-    /// The place of the first byte of the line.
+    /// The offset of the first byte of the line.
     qint64 m_lineOffset = 0;
 };
 

@@ -1,5 +1,5 @@
 /// \file
-/// What PimContactExtent holds.
+/// The data of PimContactExtent.
 
 #pragma once
 

@@ -1,5 +1,5 @@
 /// \file
-/// The ledger: every counter of a report.
+/// The ledger, with all counters of a report.
 
 #pragma once
 
@@ -48,8 +48,8 @@ public:
     static void SetError( PimContactReport& a_report, const QString& a_text ) { a_report.d->m_errorText = a_text; }
 };
 
-/// Counts what becomes of each byte and each card, and passes extents and diagnostics to the handlers. Extents are
-/// added in the order of the text and without gaps, so together they are the text.
+/// Counts what happens to each byte and each card, and passes extents and diagnostics to the handlers. Extents are
+/// added in the order of the text and without gaps, so together they cover the text.
 class Ledger
 {
 public:
@@ -60,7 +60,7 @@ public:
         m_diagnosticHandler = a_handler;
     }
 
-    /// Adds an extent. \param a_bytes an empty one is not added.
+    /// Adds an extent. \param a_bytes if empty, nothing is added.
     void Add( PimContactExtentKind a_kind, std::string_view a_bytes, qint64 a_card )
     {
         if ( a_bytes.empty() )
@@ -72,9 +72,9 @@ public:
         m_offset += static_cast<qint64>( a_bytes.size() );
     }
 
-    /// Extents must be added one by one, because there is a handler.
+    /// True if extents must be added one by one, because there is a handler.
     bool HasExtentHandler() const { return static_cast<bool>( m_extentHandler ); }
-    /// Adds several extents of a kind, where the order of kinds does not matter.
+    /// Adds several extents of a kind at once, if the order of kinds does not matter.
     void AddMany( PimContactExtentKind a_kind, qint64 a_extents, qint64 a_bytes )
     {
         m_data.m_bytes[static_cast<size_t>( a_kind )] += a_bytes;
@@ -85,7 +85,7 @@ public:
     /// The end of the last extent.
     qint64 Offset() const { return m_offset; }
 
-    /// Findings are only counted: no handler takes them, and the report keeps no more.
+    /// True if findings are only counted: there is no handler, and the report keeps no more.
     bool IsOnlyCounting() const
     {
         return !m_diagnosticHandler && m_mostDiagnostics >= 0 && m_data.m_diagnostics.size() >= m_mostDiagnostics;
@@ -94,21 +94,21 @@ public:
     {
         m_data.m_findings[static_cast<size_t>( a_code )] += a_count;
     }
-    /// Reports a finding. Findings are reported in the order of the text, but for those that were announced.
+    /// Reports a finding. Except for announced ones, findings must be reported in the order of the text.
     void Report( PimContactDiagnosticCode a_code, qint64 a_card, const TextPlace& a_place, qint64 a_count = 1 );
-    /// Reports a finding as soon as no earlier one can come.
+    /// Reports a finding as soon as no earlier one can follow.
     void Announce( PimContactDiagnosticCode a_code, const TextPlace& a_place )
     {
         m_announced.push_back( { a_code, 0, a_place, 1, a_place.m_offset } );
     }
-    /// The same for a finding whose place is not in this text.
-    /// \param a_offset where it belongs in this text.
+    /// The same for a finding whose position is not in this text.
+    /// \param a_offset the position in this text that determines its order.
     void Announce( PimContactDiagnosticCode a_code, qint64 a_card, const TextPlace& a_place, qint64 a_count,
                    qint64 a_offset )
     {
         m_announced.push_back( { a_code, a_card, a_place, a_count, a_offset } );
     }
-    /// No finding before this place follows.
+    /// No finding before this position follows.
     void FlushUpTo( qint64 a_offset )
     {
         if ( !m_announced.empty() )

@@ -1,5 +1,5 @@
 /// \file
-/// A line of a card and what is known about it, for the code that reads it.
+/// A line of a card with its entry in the index, for the code that reads it.
 
 #pragma once
 
@@ -16,21 +16,21 @@
 namespace PimManager::Contacts
 {
 
-/// What the lines of a card have in common. Refers to the memory of the card.
+/// The data that all lines of a card share. Refers to the memory of the card.
 struct CardView
 {
     CardRecord m_record;
     const uchar* m_index = nullptr;
     quint32 m_place = 0;
-    /// Of the outermost card.
+    /// The bytes of the outermost card.
     std::string_view m_bytes;
     std::string_view m_defaultCharset;
 
-    /// The character set of lines that name none themselves.
+    /// The character set of lines that name none.
     std::string_view Charset() const { return CharsetOf( m_index, m_place ); }
 };
 
-/// Where a line is in its card: its entry in the index, and its first byte.
+/// The position of a line in its card: its entry in the index, and its first byte.
 struct LinePlace
 {
     quint32 m_entry = 0;
@@ -42,7 +42,7 @@ struct IndexedLine
 {
     CardView m_card;
     IndexEntry m_entry;
-    /// With the line endings, and without the last one.
+    /// The line with all its line endings, and without the last one.
     std::string_view m_bytes;
     std::string_view m_text;
 
@@ -83,14 +83,14 @@ private:
     std::string_view Unfolded( std::string_view a_part, ByteRange a_range, QByteArray& a_buffer ) const;
 };
 
-/// Opens cards and lines.
+/// Gives access to the data of cards and lines.
 class PimContactCardPrivate::LineView
 {
 public:
     static CardView CardOf( const PimContactCard& a_card );
-    /// \param a_card the view of a card that is nested in this one, or of this one.
+    /// \param a_card the view of this card or of a card nested in it.
     static PimContactCard CardAt( const PimContactCard& a_outermost, const CardView& a_card );
-    /// \param a_line may be null; then nothing is in the line.
+    /// \param a_line may be null; then the result is empty.
     static IndexedLine LineOf( const PimContactLine& a_line );
     /// Reads the entry of a line of a card.
     /// \param a_line its m_card is set.
@@ -103,7 +103,7 @@ public:
         SetLine( a_card, a_place, line );
         return line;
     }
-    /// Sets a line to that of a card.
+    /// Sets a line to a line of a card.
     static void SetLine( const PimContactCard& a_card, LinePlace a_place, PimContactLine& a_line )
     {
         a_line.d = a_card.d;
@@ -119,18 +119,18 @@ public:
     }
     /// \param a_card is not null.
     static const Origin& OriginOf( const PimContactCard& a_card ) { return a_card.d->m_origin; }
-    /// Finds a value that is text in UTF-8 as it is written, but for its escapes.
+    /// Finds a value that is UTF-8 text as written, except for its escapes.
     /// \param a_line is not null.
     /// \return false for any other value.
     static bool FindPlainValue( const PimContactLine& a_line, std::string_view& a_value );
-    /// Finds the entry of the nested card that follows the line; blank lines may be in between.
+    /// Finds the entry of the nested card after the line. Blank lines may be in between.
     static bool FindNested( const PimContactLine& a_line, IndexEntry& a_nested );
 
 private:
     static CardView ViewOf( const PimContactCardPrivate* a_private, quint32 a_record );
 };
 
-/// Steps over the lines of a card, and reads the entry of each once.
+/// Iterates over the lines of a card and reads the entry of each line once.
 class LineCursor
 {
 public:
@@ -143,7 +143,7 @@ public:
     /// Steps to the next part of any kind. Line() is then that part.
     /// \return false behind the last part.
     bool NextPart();
-    /// Moves to the place before a part of the card: NextPart() then steps to that part.
+    /// Moves to the position before a part of the card. NextPart() then steps to that part.
     void StepTo( LinePlace a_place )
     {
         m_reader.StepTo( a_place.m_entry );
@@ -165,7 +165,7 @@ private:
 
     IndexedLine m_line;
     IndexReader m_reader;
-    // Of the next entry, in the bytes.
+    // The position of the next entry in the bytes.
     quint32 m_begin = 0;
     QByteArray m_name;
 };

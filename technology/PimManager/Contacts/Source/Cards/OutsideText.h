@@ -10,13 +10,13 @@
 namespace PimManager::Contacts
 {
 
-/// Adds the lines outside cards to the ledger. Lines of text between two cards are reported as one finding, with the
-/// place of the first line and their number. Blank lines are extents of their own and not part of that number.
+/// Adds the lines outside cards to the ledger. The lines of text between two cards are reported as one finding, with
+/// the position of the first line and their number. Blank lines are separate extents and are not counted.
 class OutsideText
 {
 public:
     /// Both must outlive this object.
-    /// \param a_longestLine longer lines are added in pieces.
+    /// \param a_longestLine lines longer than this are added in pieces.
     OutsideText( LineScanner& a_scanner, Ledger& a_ledger, qint64 a_longestLine );
 
     /// Forgets the text.
@@ -31,10 +31,10 @@ public:
     /// \param a_length their length in bytes.
     void AddMarks( const PhysicalLine& a_line, size_t a_length );
 
-    /// Reports the lines of text that were added since the last call. A card follows, or nothing does.
+    /// Reports the lines of text that were added since the last call. Called before a card and at the end of the text.
     void End();
 
-    /// What the text is, all lines together.
+    /// The kind of the text in all lines together.
     PimContactFileKind Kind() const { return m_kind.Kind(); }
 
 private:
@@ -43,7 +43,12 @@ private:
     LineScanner& m_scanner;
     Ledger& m_ledger;
     qint64 m_longestLine;
-    // The first of the lines of text, and how many they are.
+    // The first of the lines of text that are not yet reported, and their number. Example:
+    //
+    //     END:VCARD
+    //     hello           m_begin, m_lines 1
+    //                     a blank line is not counted
+    //     world           m_lines 2; the next BEGIN reports both lines
     TextPlace m_begin;
     qint64 m_lines = 0;
     TextKind m_kind;

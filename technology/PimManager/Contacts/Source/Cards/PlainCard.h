@@ -1,5 +1,5 @@
 /// \file
-/// The short road for plain cards.
+/// The fast path for plain cards.
 
 #pragma once
 
@@ -19,48 +19,49 @@
 namespace PimManager::Contacts
 {
 
-/// Reads a card in which no decision needs the surroundings of a line, and writes the index that LogicalLines would
-/// write. Most cards are plain, and this takes a third of the instructions.
+/// Reads a card in which no decision depends on neighbouring lines, and writes the index that LogicalLines would write.
+/// Most cards are plain, and this path needs a third of the instructions.
 ///
-/// A plain card has BEGIN, properties, folds, soft line breaks, empty lines and END, with one kind of line ending, and
-/// no card inside. Its lines may have oddities that are their own, such as blanks before the colon, empty parameters,
-/// control characters or unknown escapes. It may say no to a card that is plain; then the longer road is taken. With a
-/// limit for lines that road is always taken, so tests can compare the two.
+/// A plain card consists of BEGIN, properties, folds, soft line breaks, empty lines and END, with one kind of line
+/// ending and without nested cards. Its lines may have oddities that do not affect other lines, such as blanks before
+/// the colon, empty parameters, control characters or unknown escapes. The class may reject a card that is plain; then
+/// the slow path reads it. With a limit for lines the slow path is always used, so tests can compare the two.
 class PlainCard
 {
 public:
     PlainCard() = default;
     Q_DISABLE_COPY( PlainCard )
 
-    /// \param a_text where a card may begin.
+    /// \param a_text the text, at a position where a card may begin.
     /// \return true if its first line is the BEGIN of what may be a plain card.
     bool Begin( std::string_view a_text );
 
-    /// How the BEGIN line ends.
+    /// The line ending of the BEGIN line.
     PimContactLineEnd LineEnd() const { return m_lineEnd; }
 
-    /// What became of the card.
+    /// The state of the card.
     enum class Result
     {
-        Open,     ///< its END has not come
+        Open,     ///< its END has not been read yet
         Whole,    ///< it has been read
-        NotPlain, ///< it goes on in another way behind the lines that are closed
+        NotPlain, ///< the part after the closed lines is not plain
     };
 
-    /// Reads the card that has begun, or goes on when more of it has come.
-    /// \param a_text the same bytes as those of Begin() and of the last call, perhaps elsewhere, and all that followed.
+    /// Reads the card that has begun, or continues when more bytes are available.
+    /// \param a_text the same bytes as in Begin() and in the last call, possibly at another address, and all bytes
+    ///               after them.
     Result Read( std::string_view a_text );
 
-    /// The bytes of the lines before the property that is open, or those of the whole card. At least the BEGIN line.
+    /// The bytes of the lines before the open property, or those of the whole card. At least the BEGIN line.
     quint32 BytesClosed() const { return m_isOpen ? m_begin : m_written; }
     qint64 LinesClosed() const { return m_linesClosed; }
-    /// What these lines say.
+    /// The facts from these lines.
     CardFacts FactsClosed() const;
     IndexWriter& Writer() { return m_index; }
 
     IndexBytes Index() const { return m_index.Bytes(); }
     const CardFacts& Facts() const { return m_facts; }
-    /// Physical lines.
+    /// The number of physical lines.
     qint64 Lines() const { return m_physicalLines; }
 
 private:
@@ -68,10 +69,10 @@ private:
     {
         Next,
         Stop, ///< not plain
-        End,  ///< END has come
+        End,  ///< END was read
     };
 
-    // A physical line. Places count from the first byte of the card.
+    // A physical line. Positions count from the first byte of the card.
     struct Line
     {
         std::string_view m_text;
@@ -122,17 +123,22 @@ private:
     qint64 m_physicalLines = 0;
     qint64 m_linesClosed = 0;
     quint32 m_written = 0;
-    // The first line whose end has not come, and how far it was searched.
+    // The first line whose end has not been found, and the position up to which it was searched.
     size_t m_next = 0;
     size_t m_searched = 0;
     LineEndSearch m_search;
     CardFacts m_facts;
     IndexWriter m_index;
 
-    // The property that is open.
+    // The open property. Example:
+    //
+    //     FN:a                                     m_isOpen; the lines before it are closed
+    //     NOTE;ENCODING=QUOTED-PRINTABLE:b=        m_isOpen for NOTE, m_isSoftBreakOpen; FN is closed
+    //     c                                        m_isSoftBreakOpen is cleared
+    //                                              m_isBehindEmptyLine; an indented line after it is not plain
     bool m_isOpen = false;
     quint32 m_begin = 0;
-    // Of its last physical line, without the blank of a fold.
+    // The last physical line of the property, without the blank of a fold.
     quint32 m_lastBegin = 0;
     quint32 m_lastTextEnd = 0;
     quint32 m_end = 0;
@@ -141,10 +147,10 @@ private:
     bool m_isWide = false;
     bool m_hasControls = false;
     bool m_hasFolds = false;
-    // That of the line, and room for the next one.
+    // The head of the line, and space for that of the next line.
     std::array<LineHead, 2> m_heads;
     LineHead* m_head = m_heads.data();
-    // LineHead::Read() has called it so.
+    // LineHead::Read() has returned true for it.
     bool m_isHeadPlain = false;
     JoinWriter m_joins;
     FoldEvidence m_foldsClosed;

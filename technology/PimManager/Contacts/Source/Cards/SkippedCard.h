@@ -1,5 +1,5 @@
 /// \file
-/// A card that is refused before its END.
+/// A card that was refused before its END.
 
 #pragma once
 
@@ -10,30 +10,30 @@
 namespace PimManager::Contacts
 {
 
-/// Finds the end of a card that is refused, and adds its lines to the ledger. No line is kept, so a refused card of any
-/// length needs no memory. BEGIN behind an AGENT line without a value begins a card inside it; any other BEGIN ends it.
+/// Finds the end of a refused card and adds its lines to the ledger. No line is kept, so a refused card of any length
+/// needs no memory. BEGIN after an AGENT line without a value begins a nested card. Any other BEGIN ends the card.
 class SkippedCard
 {
 public:
     /// Both must outlive this object.
     SkippedCard( LineScanner& a_scanner, Ledger& a_ledger );
 
-    /// Begins before the BEGIN line of the card.
+    /// Starts before the BEGIN line of the card.
     void Begin();
-    /// Begins inside the card.
-    /// \param a_depth         how many cards are open inside it.
-    /// \param a_isBehindAgent the last line is an AGENT line without a value.
+    /// Starts inside the card.
+    /// \param a_depth         the number of open cards inside it.
+    /// \param a_isBehindAgent true if the last line is an AGENT line without a value.
     void BeginInside( int a_depth, bool a_isBehindAgent );
 
     /// \return true if the boundary is the BEGIN of another card: the END of this one is missing.
     bool EndsBefore( const CardBoundary& a_boundary ) const;
     /// Takes the next line of the card.
-    /// \param a_boundary what the line is. An EndAndBegin must be taken as two lines.
+    /// \param a_boundary the kind of the line. An EndAndBegin must be passed as two lines.
     void Take( const PhysicalLine& a_line, const CardBoundary& a_boundary );
-    /// Takes the first bytes of a line whose end has not come.
+    /// Takes the first bytes of a line whose end is not yet available.
     void TakeOpen( const PhysicalLine& a_line );
 
-    /// The END of the card has been taken.
+    /// True after the END of the card was taken.
     bool HasEnded() const { return m_depth < 0; }
 
 private:
@@ -41,7 +41,12 @@ private:
 
     LineScanner& m_scanner;
     Ledger& m_ledger;
-    // Of the card inside it that is open; -1 before BEGIN and behind END.
+    // The depth of the innermost open card; -1 before BEGIN and after END. Example:
+    //
+    //     BEGIN:VCARD     m_depth 0
+    //     AGENT:          m_isBehindAgent
+    //     BEGIN:VCARD     m_depth 1
+    //     END:VCARD       m_depth 0; without a further END, the next BEGIN ends the card
     int m_depth = -1;
     bool m_isBehindAgent = false;
 };

@@ -90,7 +90,12 @@ private:
         JCard,
         Other,
     };
-    // Where in the text the next byte is.
+    // The position of the next byte in the text. Example:
+    //
+    //     [ [ "vcard",                 Opened, and Head after the string
+    //     [ ["tel", {}, "text", "1"]   Properties
+    //     ]                            Tail
+    //     ]                            Outside; m_depth is 1 until the array of cards is closed
     enum class State
     {
         Outside,    // in no card

@@ -1,5 +1,5 @@
 /// \file
-/// What the lines of a card say about the card.
+/// Facts about a card that its lines determine.
 
 #pragma once
 
@@ -22,7 +22,7 @@ namespace PimManager::Contacts
 constexpr int s_kOddities = 11;
 static_assert( static_cast<int>( PimContactOddity::UnknownEscape ) == 1 << ( s_kOddities - 1 ) );
 
-/// Calls a_take( bit ) for each oddity, from the lowest bit on.
+/// Calls a_take( bit ) for each oddity, from the lowest bit up.
 template <typename Take>
 void ForEachOddity( PimContactOddities a_oddities, Take a_take )
 {
@@ -51,7 +51,7 @@ struct CardFacts
         return std::any_of( m_oddLines.begin(), m_oddLines.end(), []( quint32 a_lines ) { return a_lines != 0; } );
     }
 
-    /// There are parts of other kinds than lines, boundaries and blank lines.
+    /// There are parts other than lines, boundaries and blank lines.
     bool HasOddParts() const
     {
         return Parts( EntryKind::Dropped ) + Parts( EntryKind::Filtered ) + Parts( EntryKind::Mark ) +
@@ -59,10 +59,10 @@ struct CardFacts
                0;
     }
 
-    /// The parts of each kind, and their bytes.
+    /// The number of parts of each kind, and of their bytes.
     std::array<quint32, s_kEntryKinds> m_parts = {};
     std::array<quint32, s_kEntryKinds> m_bytes = {};
-    /// The lines with each oddity, by its bit.
+    /// The number of lines with each oddity, by its bit.
     std::array<quint32, s_kOddities> m_oddLines = {};
     quint32 m_mendedBoundaries = 0;
 
@@ -72,7 +72,7 @@ struct CardFacts
     bool m_isValidUtf8 = true;
     /// A line may be in ISO-2022-JP.
     bool m_mayBeShifted = false;
-    /// Of the folded lines of text; not if the version is known to be another one than 2.1.
+    /// From the folded lines of text. Not collected if the version is known and not 2.1.
     FoldEvidence m_folds;
     /// A part of the card was left out, or a line was.
     bool m_isDropped = false;

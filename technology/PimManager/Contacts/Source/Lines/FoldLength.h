@@ -1,5 +1,5 @@
 /// \file
-/// How long folded lines are.
+/// The lengths of folded lines.
 
 #pragma once
 

@@ -10,19 +10,19 @@
 namespace PimManager::Contacts
 {
 
-/// Bytes of an index that are written elsewhere. Not owned.
+/// Bytes of an index in other memory. Not owned.
 struct IndexBytes
 {
     const uchar* m_data = nullptr;
     quint32 m_size = 0;
 };
 
-/// Numbers have seven bits a byte, the lowest first; the high bit says that more follow.
+/// Numbers are stored with seven bits in each byte, the lowest first. The high bit is set if more bytes follow.
 constexpr uint s_kNumberContinues = 0x80;
 constexpr uint s_kBitsOfNumberByte = 7;
 constexpr size_t s_kLongestNumber = 5;
 
-/// Writes a number. \return the place behind it; at most s_kLongestNumber bytes are written.
+/// Writes a number. \return the position after it. At most s_kLongestNumber bytes are written.
 inline uchar* WriteNumber( uchar* a_place, quint32 a_number )
 {
     for ( ; a_number >= s_kNumberContinues; a_number >>= s_kBitsOfNumberByte )
@@ -31,10 +31,10 @@ inline uchar* WriteNumber( uchar* a_place, quint32 a_number )
     return a_place + 1;
 }
 
-/// Reads a number of which the first byte says that more follow, and steps behind it.
+/// Reads a number of at least two bytes and steps after it.
 quint32 ReadLongNumber( const uchar*& a_place );
 
-/// Reads a number and steps behind it.
+/// Reads a number and steps after it.
 inline quint32 ReadNumber( const uchar*& a_place )
 {
     return *a_place < s_kNumberContinues ? *a_place++ : ReadLongNumber( a_place );
@@ -45,7 +45,7 @@ class IndexBuffer
 {
 public:
     void Clear() { m_size = 0; }
-    /// Gives the memory back if it is large.
+    /// Frees the memory if it is large.
     void Release();
     void Add( IndexBytes a_bytes )
     {
@@ -53,7 +53,7 @@ public:
             Copy( a_bytes );
     }
 
-    /// \return where that many bytes can be written. End() must be told where they end.
+    /// \return memory for this many bytes. After writing, pass their end to End().
     uchar* Begin( size_t a_most )
     {
         if ( m_bytes.size() - m_size < a_most )

@@ -8,7 +8,7 @@
 namespace PimManager::Contacts
 {
 
-/// \return true for a type of vCard 2.1, section 2.9, and for any that begins with `X-`, in any letter case.
+/// \return true for a type of vCard 2.1, section 2.9, and for any type that begins with `X-`, in any letter case.
 bool IsType21( std::string_view a_type );
 
 } // namespace PimManager::Contacts

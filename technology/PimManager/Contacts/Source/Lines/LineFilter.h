@@ -1,5 +1,5 @@
 /// \file
-/// Which properties the caller wants.
+/// The filter for properties.
 
 #pragma once
 
@@ -29,7 +29,7 @@ public:
     bool IsWanted( const LineHead& a_head, std::string_view a_name, std::string_view a_value ) const;
 
 private:
-    // In capitals, sorted.
+    // In upper case, sorted.
     std::vector<QByteArray> m_names;
     bool m_areMediaWanted;
 };

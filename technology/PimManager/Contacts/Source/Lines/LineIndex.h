@@ -1,12 +1,13 @@
 /// \file
 /// The index of a card: a run of entries, one for each part of the card's bytes.
 ///
-/// The entries follow each other as the parts do, and their lengths add up to the length of the card, so no byte is
-/// without an entry. An entry has two to five bytes in a clean card:
+/// The entries are in the order of the parts, and their lengths add up to the length of the card, so every byte belongs
+/// to an entry. In a clean card, an entry has two to five bytes:
 ///
 ///     header byte | length | [reason] | [lengths of name, group, parameters | extras: encoding, joins, oddities ...]
 ///
-/// All numbers but the header are varints: seven bits a byte, the lowest first, the high bit says that more follow.
+/// All numbers except the header are varints: seven bits in each byte, the lowest first. The high bit is set if more
+/// bytes follow.
 
 #pragma once
 
@@ -19,7 +20,7 @@
 namespace PimManager::Contacts
 {
 
-/// What a part of a card is.
+/// The kind of a part of a card.
 enum class EntryKind : quint8
 {
     Line,     ///< a property
@@ -28,13 +29,13 @@ enum class EntryKind : quint8
     Dropped,  ///< left out, see DropReason
     Filtered, ///< left out by the caller's filter
     Mark,     ///< byte order marks
-    Nested,   ///< a card inside the card; it belongs to the property before it
+    Nested,   ///< a nested card; it belongs to the property before it
 };
 
 /// The number of kinds.
 constexpr int s_kEntryKinds = static_cast<int>( EntryKind::Nested ) + 1;
 
-/// Why a part was left out.
+/// The reason why a part was left out.
 enum class DropReason : quint8
 {
     NotAProperty,
@@ -44,30 +45,30 @@ enum class DropReason : quint8
     BoundaryText,
 };
 
-/// How a break between two physical lines is undone, where it is no plain fold.
+/// How a break between two physical lines is undone if it is not a plain fold.
 struct LineJoin
 {
-    /// Of what the join covers, in the line.
+    /// The range in the line that the join covers.
     quint32 m_begin = 0;
     quint32 m_length = 0;
     PimContactJoin m_kind = PimContactJoin::Direct;
-    /// Of LineFeed: how many line feeds the break becomes.
+    /// For LineFeed: the number of line feeds that replace the break.
     quint8 m_lineFeeds = 0;
 
     quint32 End() const { return m_begin + m_length; }
 };
 
-/// An entry, decoded.
+/// A decoded entry.
 struct IndexEntry
 {
     EntryKind m_kind = EntryKind::Line;
-    /// Of the part in the bytes of the card; of Nested that of the nested card.
+    /// The length of the part in the bytes of the card. For Nested, the length of the nested card.
     quint32 m_length = 0;
 
-    DropReason m_reason = DropReason::NotAProperty; // of Dropped
-    bool m_isMended = false;                        // of Boundary: blanks or control characters round it
+    DropReason m_reason = DropReason::NotAProperty; // for Dropped
+    bool m_isMended = false;                        // for Boundary: blanks or control characters around it
 
-    // Of Line.
+    // For Line.
     ByteRange m_group;
     ByteRange m_name;
     ByteRange m_parameters;
@@ -77,20 +78,20 @@ struct IndexEntry
     PimContactEncoding m_encoding = PimContactEncoding::None;
     LineCharset m_charset = LineCharset::Utf8;
     PimContactOddities m_oddities;
-    /// As JoinWriter writes them. Not owned.
+    /// As written by JoinWriter. Not owned.
     IndexBytes m_joins;
     bool m_doSoftBreaksTakeBlank = false;
 
-    /// Sets what the head of the line says.
+    /// Copies the data from the head of the line.
     void SetHead( const LineHead& a_head );
 
-    /// With MissingColon, which is not stored as an oddity.
+    /// Includes MissingColon, which is not stored as an oddity.
     PimContactOddities AllOddities() const
     {
         return m_hasColon ? m_oddities : m_oddities | PimContactOddity::MissingColon;
     }
 
-    /// Of Nested: where the record and the index of the nested card are, and how long they are.
+    /// For Nested: the position and length of the record and the index of the nested card.
     quint32 m_indexBegin = 0;
     quint32 m_indexLength = 0;
 };
@@ -116,21 +117,22 @@ private:
 class JoinReader
 {
 public:
-    /// \param a_entry a line; its index must outlive the reader.
+    /// \param a_entry the entry of a line. Its index must outlive the reader.
     explicit JoinReader( const IndexEntry& a_entry );
 
-    /// \return false behind the last one.
+    /// \return false after the last one.
     bool Next( LineJoin& a_join );
 
 private:
     const uchar* m_bytes;
     quint32 m_left;
     bool m_doSoftBreaksTakeBlank;
-    // The end of the last join, as it was written.
+    // The end of the last join as stored.
     quint32 m_begin = 0;
 };
 
-/// The first byte of an entry: the kind in the lowest three bits. Of a line five flags, of other parts a number.
+/// The first byte of an entry. It has the kind in the lowest three bits, and in the others five flags for a line and a
+/// number for other parts.
 struct IndexHeader
 {
     static constexpr uint s_kKindMask = 0x07;
@@ -140,7 +142,7 @@ struct IndexHeader
     static constexpr uint s_kHasColon = 0x20;
     static constexpr uint s_kHasFolds = 0x40;
     static constexpr uint s_kHasExtras = 0x80;
-    // Of the extras of a line.
+    // The flags for the extras of a line.
     static constexpr uint s_kExtraJoins = 0x20;
     static constexpr uint s_kExtraPlaces = 0x40;
 };
@@ -152,7 +154,7 @@ public:
     void Clear() { m_buffer.Clear(); }
     void Release() { m_buffer.Release(); }
     void Add( const IndexEntry& a_entry );
-    /// Adds a line whose head LineHead::Read() has called plain, and which has no oddity.
+    /// Adds a line without oddities for whose head LineHead::Read() returned true.
     void AddPlain( const LineHead& a_head, quint32 a_length, bool a_hasFolds, IndexBytes a_joins );
     void AddPart( EntryKind a_kind, quint32 a_length ) { AddPart( a_kind, a_length, 0 ); }
     void AddDropped( DropReason a_reason, quint32 a_length );
@@ -160,9 +162,9 @@ public:
     {
         AddPart( EntryKind::Boundary, a_length, a_isMended ? 1 : 0 );
     }
-    /// \param a_index record and index of a nested card of that length.
+    /// \param a_index record and index of a nested card of this length.
     void AddNested( quint32 a_length, IndexBytes a_index );
-    /// Entries as they are written elsewhere.
+    /// Adds entries that were written elsewhere.
     void AddRaw( IndexBytes a_entries ) { m_buffer.Add( a_entries ); }
 
     IndexBytes Bytes() const { return m_buffer.Bytes(); }
@@ -178,7 +180,8 @@ private:
 class IndexReader
 {
 public:
-    /// \param a_index the entries of one card; must outlive the reader. The places of nested indexes count from a_base.
+    /// \param a_index the entries of one card; must outlive the reader. The positions of nested indexes count from
+    ///                a_base.
     IndexReader( const uchar* a_base, quint32 a_begin, quint32 a_end ) :
         m_base( a_base ),
         m_place( a_begin ),
@@ -189,30 +192,30 @@ public:
     bool AtEnd() const { return m_place >= m_end; }
     /// The kind of the next entry. Not at the end.
     EntryKind NextKind() const { return static_cast<EntryKind>( m_base[m_place] & IndexHeader::s_kKindMask ); }
-    /// Where the next entry begins.
+    /// The position of the next entry.
     quint32 Place() const { return m_place; }
-    /// Goes on at the beginning of another entry.
+    /// Continues at the start of another entry.
     void StepTo( quint32 a_place ) { m_place = a_place; }
 
-    /// Reads the next entry and steps behind it. If a_isBrief is set, the places and the character set of a line are
+    /// Reads the next entry and steps after it. If a_isBrief is set, the positions and the character set of a line are
     /// not read.
     void Next( IndexEntry& a_entry, bool a_isBrief = false );
 
-    /// Reads the next entry, which is a line, and steps behind it.
+    /// Reads the next entry, which must be a line, and steps after it.
     void ReadLine( IndexEntry& a_entry );
 
-    /// What Skip() reads of an entry.
+    /// The data that Skip() reads from an entry.
     struct Outline
     {
         EntryKind m_kind = EntryKind::Line;
         quint32 m_length = 0;
-        /// Of a line; empty if its places are unusual, so that only Next() finds the name.
+        /// The name of a line. Empty if its positions are unusual, so that only Next() finds the name.
         ByteRange m_name;
-        /// Of a line: there may be line endings in the name.
+        /// For a line: there may be line endings in the name.
         bool m_isContinued = false;
     };
 
-    /// Steps behind the next entry and reads no more than this.
+    /// Steps after the next entry and reads only these data.
     Outline Skip()
     {
         const uchar* place = m_base + m_place;
@@ -239,12 +242,12 @@ public:
         return outline;
     }
 
-    /// What SkipPlain() reads of a line.
+    /// The data that SkipPlain() reads from a line.
     struct PlainLine
     {
         quint32 m_length = 0;
         ByteRange m_name;
-        /// They follow the name, and the colon follows them.
+        /// The parameters are between the name and the colon.
         ByteRange m_parameters;
         bool m_hasFolds = false;
     };
@@ -258,7 +261,7 @@ public:
                ( static_cast<uint>( EntryKind::Line ) | IndexHeader::s_kHasColon );
     }
 
-    /// Steps behind the next entry, which is plain.
+    /// Steps after the next entry, which must be plain.
     PlainLine SkipPlain()
     {
         const uchar* place = m_base + m_place;
@@ -269,10 +272,10 @@ public:
         return { lengths.m_line, name, { name.End(), lengths.m_parameters }, hasFolds };
     }
 
-    /// Finds the value of the next entry, which is a line, without reading the rest of the entry.
-    /// \param a_line       the bytes of the line and what follows it.
+    /// Finds the value of the next entry, which must be a line, without reading the rest of the entry.
+    /// \param a_line       the bytes of the line and all bytes after it.
     /// \param[out] a_value the value, with the line ending.
-    /// \return false if there is anything unusual about the line, or if it is continued or not in UTF-8.
+    /// \return false if the line is unusual, is continued, or is not in UTF-8.
     bool FindValue( const char* a_line, std::string_view& a_value ) const
     {
         const uchar* place = m_base + m_place;

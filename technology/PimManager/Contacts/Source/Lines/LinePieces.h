@@ -1,5 +1,5 @@
 /// \file
-/// Unfolding.
+/// Unfolds content lines.
 
 #pragma once
 
@@ -14,26 +14,26 @@
 namespace PimManager::Contacts
 {
 
-/// The text of a content line, piece by piece: what is between the breaks of its physical lines. This is the only place
-/// that undoes folds and soft line breaks.
+/// Iterates over the pieces of a content line, which are the texts between the breaks of its physical lines. This is
+/// the only class that undoes folds and soft line breaks.
 ///
-/// A break is undone as the index says. A break that the index does not mention is a plain fold: the line ending goes,
-/// and one blank or tab with it, unless the fold style of the card keeps it.
+/// The index describes how breaks are undone. A break that is not in the index is a plain fold: the line ending is
+/// removed, and one blank or tab after it unless the fold style of the card keeps it.
 class LinePieces
 {
 public:
     /// \param a_line  the bytes of the line without its last line ending; must outlive the pieces.
     /// \param a_entry its entry in the index, of which only the joins are read.
-    /// \param a_range the part of the line that is wanted.
+    /// \param a_range the part of the line to iterate over.
     LinePieces( std::string_view a_line, const IndexEntry& a_entry, PimContactFoldStyle a_style, ByteRange a_range );
 
-    /// \return false behind the last piece.
+    /// \return false after the last piece.
     bool Next();
 
     std::string_view Text() const { return m_text; }
-    /// The place of the piece in the line.
+    /// The position of the piece in the line.
     quint32 Begin() const { return static_cast<quint32>( m_text.data() - m_line.data() ); }
-    /// How many line feeds precede the piece.
+    /// The number of line feeds before the piece.
     int LineFeeds() const { return m_lineFeeds; }
     /// How the break before the piece is undone; not for the first piece.
     PimContactJoin Join() const { return m_join; }
@@ -49,7 +49,7 @@ private:
     ByteRange m_range;
     LineJoin m_next;
     bool m_hasNext = false;
-    // Where the next piece begins.
+    // The position of the next piece.
     quint32 m_place = 0;
     bool m_isAtEnd = false;
     int m_lineFeedsBefore = 0;
@@ -65,7 +65,7 @@ QByteArray Unfolded( std::string_view a_line, const IndexEntry& a_entry, PimCont
                      ByteRange a_range );
 
 /// Appends the pieces of a part of a line.
-/// \param a_length of the part with its breaks.
+/// \param a_length the length of the part with its breaks.
 void AppendUnfolded( LinePieces a_pieces, quint32 a_length, QByteArray& a_out );
 
 /// \return the line without its line ending.

@@ -1,5 +1,5 @@
 /// \file
-/// Content lines, put together from the physical lines of a card.
+/// Assembles content lines from the physical lines of a card.
 
 #pragma once
 
@@ -21,38 +21,38 @@
 namespace PimManager::Contacts
 {
 
-/// A physical line of a card. Places count from the first byte of the outermost card.
+/// A physical line of a card. Positions count from the first byte of the outermost card.
 struct CardLine
 {
     quint32 m_begin = 0;
-    /// Without the line ending.
+    /// The end without the line ending.
     quint32 m_textEnd = 0;
     quint32 m_end = 0;
     bool m_isWide = false;
     bool m_hasControls = false;
 };
 
-/// \return the version that a VERSION line names; Unknown for another line, and for another version.
+/// \return the version that a VERSION line names. Unknown for any other line and any other version.
 /// \param a_value the value as written, on one line.
 PimContactVersion VersionOf( std::string_view a_name, std::string_view a_value );
 
-/// Puts the lines of one card together and writes their index. The rules, from top to bottom:
+/// Assembles the content lines of one card and writes their index. The first rule that applies decides:
 ///
-/// - An empty line, or one of white space that does not follow a property directly, is blank.
-/// - Behind the "=" of a QUOTED-PRINTABLE value the next line continues it, indented or not, unless it is clearly a
-///   property.
-/// - An indented line continues the line before.
-/// - A line that is no property continues the text before it: directly when the line before it was folded without
-///   indentation, otherwise behind a line feed. Behind BASE64 a line of BASE64 continues directly.
-/// - What remains is no property and is dropped.
+/// - An empty line is blank, and so is a line of white space that does not follow a property directly.
+/// - After the "=" of a QUOTED-PRINTABLE value, the next line continues the value, indented or not, unless it is
+///   clearly a property.
+/// - An indented line continues the line before it.
+/// - A line that is not a property continues the text before it: directly if the line before it was folded without
+///   indentation, otherwise after a line feed. After BASE64, a line of BASE64 continues directly.
+/// - Any other line that is not a property is dropped.
 ///
-/// Whether a line is a property is known when its folds are known. So two lines are open at a time: the current
-/// property, which text may continue, and a candidate, which is not settled yet:
+/// Whether a line is a property is known only after its folds have been read. So two lines are open at a time: the
+/// current property, which text may continue, and a candidate, which is not settled yet:
 ///
 ///     NOTE:first part         the current property
 ///     second: part            a candidate; a fold may follow. It is settled when the next line begins another one
 ///
-/// Each byte is looked at a constant number of times.
+/// Each byte is read a constant number of times.
 class LogicalLines
 {
 public:
@@ -61,16 +61,16 @@ public:
     Q_DISABLE_COPY( LogicalLines )
 
     /// Begins a card.
-    /// \param a_begin       the place of its first byte.
-    /// \param a_indentation how many blanks precede each line of an indented card.
+    /// \param a_begin       the position of its first byte.
+    /// \param a_indentation the number of blanks before each line of an indented card.
     void Begin( quint32 a_begin, quint32 a_indentation );
 
-    /// Takes the place of another reader of the card, which has closed all lines up to a_written.
-    /// \param[in,out] a_index the entries up to there; gets other memory for its own.
+    /// Continues for another reader of the card, which has closed all lines up to a_written.
+    /// \param[in,out] a_index the entries up to there. Receives other memory in exchange.
     void Continue( IndexWriter& a_index, const CardFacts& a_facts, quint32 a_written );
 
-    /// The bytes of the outermost card, from its first byte to the end of the line that is taken next; valid until the
-    /// next call.
+    /// Sets the bytes of the outermost card, from its first byte to the end of the line that is taken next. They must
+    /// be valid until the next call.
     void SetBytes( const char* a_bytes ) { m_bytes = a_bytes; }
 
     /// Takes the next line between BEGIN and END.
@@ -79,17 +79,17 @@ public:
     /// Ends all open lines, so that IndexWriter entries can be added for what follows.
     void Close();
 
-    /// The current property is an AGENT without a value. Settles the candidate.
+    /// \return true if the current property is an AGENT without a value. Settles the candidate.
     bool IsBehindOpenAgent();
-    /// What the current property will be written as: Line, Filtered or Dropped.
+    /// The kind as which the current property will be written: Line, Filtered or Dropped.
     EntryKind FateOfCurrent() const { return m_isEveryLineWanted ? EntryKind::Line : FateOf( *m_current ); }
     /// Forgets the current property. The caller writes its bytes, from Written() on.
     void LeaveCurrent();
 
-    /// A line continues if it is indented: no empty line precedes it, and there is one to continue.
+    /// True if an indented line would be a fold: no empty line precedes it, and there is a line to continue.
     bool MayFold() const { return m_emptyLines == 0 && ( m_candidate->m_isOpen || m_current->m_isOpen ); }
 
-    /// Up to which byte the index has been written, and more of it.
+    /// The position up to which the index has been written, and functions that write more of it.
     quint32 Written() const { return m_written; }
     void WriteBlankUpTo( quint32 a_place );
     void WriteBoundary( quint32 a_length, bool a_isMended );
@@ -98,13 +98,20 @@ public:
     void WriteNested( quint32 a_length, IndexBytes a_index );
 
     const IndexWriter& Index() const { return m_index; }
-    /// The index is no longer needed, and its memory is given back if it is large.
+    /// The index is no longer needed. Its memory is freed if it is large.
     void ReleaseIndex() { m_index.Release(); }
     const CardFacts& Facts() const { return m_facts; }
     CardFacts& Facts() { return m_facts; }
 
 private:
-    // A content line that may still continue. Places count from the first byte of the card.
+    // A content line that may still continue. Positions count from the first byte of the outermost card. Examples:
+    //
+    //     NOTE;ENCODING=QUOTED-PRINTABLE:one=     m_isOpen
+    //      two=                                   m_softBreaks 1, m_blankBreaks 1
+    //      three                                  m_softBreaks 2, m_blankBreaks 2
+    //
+    //     NOTE;LANGUA                             no colon yet
+    //      GE=de:text                             m_hasFolds, m_isHeadFolded
     struct OpenLine
     {
         void Begin( const CardLine& a_line, quint32 a_marks, int a_emptyLinesBefore );
@@ -112,11 +119,11 @@ private:
 
         bool m_isOpen = false;
         quint32 m_begin = 0;
-        // Byte order marks before it, in bytes.
+        // The length of the byte order marks before it.
         quint32 m_marks = 0;
         quint32 m_firstTextEnd = 0;
         quint32 m_end = 0;
-        // Of its last physical line.
+        // The last physical line.
         quint32 m_lastBegin = 0;
         quint32 m_lastTextEnd = 0;
         bool m_hasFolds = false;
@@ -126,15 +133,16 @@ private:
         int m_emptyLinesBefore = 0;
         LineHead m_head;
         bool m_isHeadRead = false;
-        // Folds precede its colon. What it looks like, and its name, can then be read only without them.
+        // There are folds before its colon, so m_looks and m_foldedName are read from the unfolded text.
         bool m_isHeadFolded = false;
         LineLooks m_looks = LineLooks::Text;
         QByteArray m_foldedName;
-        // Below this length another look for the colon is not worth it, so that all looks together are linear.
+        // The colon is not searched again below this length, so that all searches together are linear.
         quint32 m_nextLook = 0;
         PimContactOddities m_oddities;
         JoinWriter m_joins;
-        // Soft line breaks; those before exactly one blank; and whether the lines before them have the length of folds.
+        // The number of soft line breaks, the number of those before exactly one blank, and whether all lines before
+        // them have the length of folded lines.
         int m_softBreaks = 0;
         int m_blankBreaks = 0;
         bool m_areBreaksAtFoldLength = true;
@@ -196,6 +204,11 @@ private:
     const char* m_bytes = nullptr;
     quint32 m_indentation = 0;
     quint32 m_written = 0;
+    // Empty lines since the last other line. Example:
+    //
+    //     NOTE:one
+    //                  m_emptyLines 1
+    //     two          m_emptyLinesBefore 1: joined to the NOTE with two line feeds, m_isJoined
     int m_emptyLines = 0;
     std::array<OpenLine, 2> m_lines;
     OpenLine* m_current = m_lines.data();

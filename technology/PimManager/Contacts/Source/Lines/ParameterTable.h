@@ -49,7 +49,7 @@ enum class StandardParameter : quint8
     UserName,
     Value,
 
-    Other, ///< a parameter of no standard
+    Other, ///< not a parameter of a standard
 };
 
 /// The number of parameters of the standards.
@@ -57,7 +57,7 @@ constexpr size_t s_kStandardParameters = static_cast<size_t>( StandardParameter:
 
 using ParameterSet = EnumSet<StandardParameter>;
 
-/// Determines the parameter with a name. Takes constant time.
+/// Determines the parameter with a name. Constant time.
 /// \param a_name in any letter case.
 StandardParameter StandardParameterOf( std::string_view a_name );
 
@@ -66,15 +66,15 @@ StandardParameter StandardParameterOf( std::string_view a_name );
 ///         removes at the ends of a value without quotes.
 bool NeedsQuotes( std::string_view a_value );
 
-/// \return true for GROUP in any letter case, which vCard 4.0 does not have (RFC 7095, section 7.1).
+/// \return true for GROUP in any letter case. vCard 4.0 does not have this parameter (RFC 7095, section 7.1).
 bool IsReservedParameter( std::string_view a_name );
 
-/// \return the name in capitals.
-/// \param a_parameter is not Other.
+/// \return the name in upper case.
+/// \param a_parameter not Other.
 std::string_view NameOf( StandardParameter a_parameter );
 
 /// Determines the section that defines a parameter for a version.
-/// \param a_parameter is not Other.
+/// \param a_parameter not Other.
 /// \return a section without a number if the version does not have the parameter.
 StandardSection SectionOf( StandardParameter a_parameter, PimContactVersion a_version );
 

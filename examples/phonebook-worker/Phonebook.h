@@ -24,8 +24,8 @@ public:
     /// Begins to read. Call it once.
     void Open();
 
-    /// Asks the reading to stop; Finished() is emitted soon after. The contacts so far stay. Does nothing if nothing is
-    /// read.
+    /// Asks the reading to stop; Finished() is emitted soon after. The contacts so far remain. Does nothing if nothing
+    /// is read.
     void Cancel();
 
     const Contacts& AllContacts() const { return m_contacts; }

@@ -16,7 +16,7 @@ namespace
 // may hold many cards, so contacts are counted as well.
 constexpr int s_kPieceBytes = 16 * 1024;
 constexpr int s_kContacts = 50;
-// How long a cancel can stay unnoticed while the worker waits.
+// How long a cancel can remain unnoticed while the worker waits.
 constexpr int s_kWaitMilliseconds = 20;
 
 Number NumberOf( const PimContactPhone& a_phone )

@@ -140,7 +140,7 @@ const std::map<std::string, QByteArray>& PropertySamples()
     return s_kSamples;
 }
 
-// Lines that are read with the parameter and without it. The percent sign is its place.
+// Lines that are read with the parameter and without it. The percent sign marks its position.
 struct ParameterSample
 {
     const char* m_lines;

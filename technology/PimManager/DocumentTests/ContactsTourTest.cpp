@@ -71,7 +71,7 @@ const std::vector<Row> s_kRows = {
 
 QString g_printed;
 
-// Qt separates what is printed by blanks, also behind the last word if that is empty.
+// Qt separates what is printed by blanks, also after the last word if that is empty.
 void KeepMessage( QtMsgType, const QMessageLogContext&, const QString& a_text )
 {
     QString line = a_text;

@@ -20,7 +20,7 @@ using namespace PimManager::vCard::Documents;
 namespace
 {
 
-// A book with a line that is no property.
+// A book with a line that is not a property.
 const char* const s_kBook = "BEGIN:VCARD\nVERSION:3.0\nFN:J\u00F6rg Maulwurf\nEND:VCARD\n"
                             "BEGIN:VCARD\nVERSION:3.0\nFN:Ada Fenwick\nTEL:+1-555-0102\n~~~\nEND:VCARD\n";
 const char* const s_kWholeBook = "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Bo Hollow\r\nEND:VCARD\r\n";
@@ -79,7 +79,7 @@ QString Fenced( const char* a_language )
     return QStringLiteral( "^```%1\\n((?:.*\\n)*?)```$" ).arg( QLatin1String( a_language ) );
 }
 
-// Indented lines of a Markdown document that begin with the program, but for those that stand for many commands.
+// Indented lines of a Markdown document that begin with the program, except for those that stand for many commands.
 QStringList CommandsIn( const QString& a_document )
 {
     static const QRegularExpression s_kPlaceholder( QStringLiteral( "\\b(BOOK|FILE|DIR|OUT|NAME|COMMAND)\\b" ) );

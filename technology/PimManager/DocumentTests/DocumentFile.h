@@ -22,14 +22,14 @@ struct TableRow
     int m_line = 0;
     /// The last heading above the table, without its "#".
     QString m_heading;
-    /// Without the blanks round them.
+    /// Without the blanks around them.
     QStringList m_cells;
 };
 
 /// \return the rows of all tables with these headings, in the order of the document.
 std::vector<TableRow> TableRows( const QString& a_document, const QStringList& a_headings );
 
-/// \return the text without the backquotes round it; the text itself when there are none.
+/// \return the text without the backquotes around it; the text itself when there are none.
 QString WithoutQuotes( const QString& a_cell );
 
 } // namespace PimManager::vCard::Documents

@@ -9,7 +9,7 @@
 namespace PimManager::vCard::Documents
 {
 
-/// What a command left behind.
+/// The output and the exit status of a command.
 struct ShellRun
 {
     /// -1 when it could not be run.
@@ -19,7 +19,7 @@ struct ShellRun
 };
 
 /// Runs a command of bash, with pipefail.
-/// \param a_command   what stands behind `bash -c`.
+/// \param a_command   the command for `bash -c`.
 /// \param a_folder    where it runs; empty for the folder of the test.
 /// \param a_arguments `$1` and on.
 ShellRun RunInShell( const QString& a_command, const QString& a_folder = QString(),

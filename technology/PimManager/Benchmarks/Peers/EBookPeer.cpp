@@ -1,4 +1,4 @@
-// pimvcard-peer-ebook: libebook-contacts. It reads one card at a time, so this program cuts the text behind each END
+// pimvcard-peer-ebook: libebook-contacts. It reads one card at a time, so this program cuts the text after each END
 // line. A card is read when its attributes are first asked for.
 
 #include "PeerRun.h"

@@ -39,8 +39,8 @@ public:
     /// \return the bytes of all extents but filtered ones.
     QByteArray Bytes() const;
 
-    /// \param a_offset a place in the file.
-    /// \return how many bytes of Bytes() are before that place.
+    /// \param a_offset a position in the file.
+    /// \return how many bytes of Bytes() are before that position.
     qint64 InCard( qint64 a_offset ) const;
 
     /// \return the lines of the card and of nested cards, in their order.

@@ -15,7 +15,7 @@ namespace PimManager::Contacts::Checks
 /// - The card of the edited contact says what the contact says, and so does Compacted(), which keeps the ids.
 /// - The bytes of that card say the same, unless the rest of the card depends on what was removed: in a card that is
 ///   not whole, is not in UTF-8, folds in another way without its longest lines, or has lines that are properties only
-///   behind certain others.
+///   after certain others.
 Broken BrokenContacts( const Subject& a_subject );
 
 } // namespace PimManager::Contacts::Checks

@@ -97,7 +97,7 @@ Broken BrokenJson( const Subject& a_subject )
 
 Broken BrokenJsonText( const QByteArray& a_json, int a_properties )
 {
-    // Qt's parser alone would accept blanks round the object, and control characters in a string.
+    // Qt's parser alone would accept blanks around the object, and control characters in a string.
     const bool isObject = a_json.startsWith( '{' ) && a_json.endsWith( '}' );
     const bool hasControls = std::any_of( a_json.begin(), a_json.end(), IsControl );
     const bool isUtf8 = QString::fromUtf8( a_json ).toUtf8() == a_json;

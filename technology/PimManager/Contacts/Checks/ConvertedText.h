@@ -8,7 +8,7 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// \return true if the file begins with a byte order mark of UTF-16, or if every other one of its first four bytes is
+/// \return true if the file begins with a byte order mark of UTF-16, or if every second one of its first four bytes is
 ///         zero and no other. A shorter file needs at least two bytes, and all of them count.
 bool IsUtf16( const QByteArray& a_file );
 

@@ -16,7 +16,7 @@ Broken Of( const Broken& a_broken, const PimContactDiagnostic& a_diagnostic )
     return a_broken.isEmpty() ? a_broken : a_broken + " of " + TranscriptOf( a_diagnostic );
 }
 
-// The card of the extent that contains a place; -1 behind the last one.
+// The card of the extent that contains a position; -1 after the last one.
 qint64 CardAt( const std::vector<PimContactExtent>& a_extents, qint64 a_offset )
 {
     const auto extent = std::lower_bound( a_extents.begin(), a_extents.end(), a_offset,
@@ -37,7 +37,7 @@ Broken BrokenCardNumber( const PimContactDiagnostic& a_diagnostic, const std::ve
     return card == -1 ? Broken() : Same( "card", a_diagnostic.Card(), card );
 }
 
-// Its place is in the JSON, before that was converted.
+// Its position is in the JSON, before that was converted.
 bool IsInJson( const PimContactDiagnostic& a_diagnostic )
 {
     return a_diagnostic.Code() == PimContactDiagnosticCode::JsonSyntax ||

@@ -1,5 +1,5 @@
 /// \file
-/// The diagnostics are in the order of the file, in their places, and counted.
+/// The diagnostics are in the order of the file, in their positions, and counted.
 
 #pragma once
 

@@ -9,7 +9,7 @@ namespace PimManager::Contacts::Checks
 {
 
 /// Joins the physical lines of each line again, by its joins and the fold style of its card alone: the value is the
-/// text behind the colon, byte for byte, and group, name and parameters are before it.
+/// text after the colon, byte for byte, and group, name and parameters are before it.
 Broken BrokenLineTexts( const Subject& a_subject );
 
 } // namespace PimManager::Contacts::Checks

@@ -8,8 +8,8 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// Inserts a word of letters and digits at random places of the text and reads it again, several times. The word is in
-/// a line of a card, in its name, group, parameters or value, or else in what the report calls dropped, refused,
+/// Inserts a word of letters and digits at random positions of the text and reads it again, several times. The word is
+/// in a line of a card, in its name, group, parameters or value, or else in what the report calls dropped, refused,
 /// filtered or outside. No diagnostic contains it.
 Broken BrokenMarkers( const Subject& a_subject );
 

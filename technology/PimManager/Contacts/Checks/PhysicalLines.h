@@ -34,7 +34,7 @@ std::vector<PhysicalLine> PhysicalLinesOf( const QByteArray& a_text );
 /// \return the number of lines with each PimContactLineEnd.
 std::array<qint64, s_kNoLineEnd> LineEndsOf( const std::vector<PhysicalLine>& a_lines );
 
-/// \param a_offset a place in the text, up to its end.
+/// \param a_offset a position in the text, up to its end.
 /// \return the index of the line that contains it; the end of the text belongs to a last line without a line ending, or
 ///         else to a line of its own.
 size_t LineAt( const std::vector<PhysicalLine>& a_lines, qint64 a_offset );

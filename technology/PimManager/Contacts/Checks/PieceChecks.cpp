@@ -60,7 +60,7 @@ Reading ReadAfterAnotherFile( const Subject& a_subject )
     return ReadInPieces( reader, a_subject.m_bytes, {} );
 }
 
-// A limit that no line reaches. With a limit for lines every card takes the longer road.
+// A limit that no line reaches. With a limit for lines every card takes the slow path.
 Reading ReadOnTheLongerRoad( const Subject& a_subject )
 {
     PimContactOptions options = a_subject.m_options;

@@ -13,10 +13,10 @@ namespace PimManager::Contacts::Checks
 /// PimContactBook.
 Broken BrokenPieces( const Subject& a_subject );
 
-/// \return random places to cut, ascending.
+/// \return random positions to cut, ascending.
 std::vector<qint64> RandomPlaces( qint64 a_size, unsigned a_seed );
 
-/// \return the places behind each byte but the last.
+/// \return the positions after each byte but the last.
 std::vector<qint64> AllPlaces( qint64 a_size );
 
 } // namespace PimManager::Contacts::Checks

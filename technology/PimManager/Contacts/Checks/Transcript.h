@@ -29,7 +29,7 @@ QByteArray ContentOf( const PimContactCard& a_card );
 /// \return the transcripts of all cards.
 QByteArray TranscriptOf( const std::vector<PimContactCard>& a_cards );
 
-/// \return place, card, severity, code and count.
+/// \return position, card, severity, code and count.
 QByteArray TranscriptOf( const PimContactDiagnostic& a_diagnostic );
 
 /// \return all counters, without the kept diagnostics. Counters of zero are left out.

@@ -11,7 +11,7 @@ namespace PimManager::Contacts::Checks
 /// For each card, and for each version of vCard:
 ///
 /// - What is written is one whole card of the version, in which the reader finds nothing to report.
-/// - Its lines end in CR LF and have 75 octets at most, but for the names and parameters of 2.1.
+/// - Its lines end in CR LF and have 75 octets at most, except for the names and parameters of 2.1.
 /// - Writing it again yields the same bytes.
 /// - In the version of the card, it is an equal contact unless the report says that something was left out or changed,
 ///   or that a name was added or changed.

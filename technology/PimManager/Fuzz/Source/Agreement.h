@@ -27,10 +27,10 @@ inline constexpr int s_kMostComparedLines = 2000;
 Violation CheckSame( const char* a_property, const QStringList& a_first, const QStringList& a_second );
 
 /// Are results, states and log of these calls the same a second time, and those of the plain implementation? The latter
-/// is asked within the limits above only, and not where it does not know its place.
+/// is asked within the limits above only, and not where it does not know its position.
 Violation CheckAgreement( const QByteArray& a_text, const QList<PimVCardParserCall>& a_calls );
 
-/// As above, for a scanner. The plain scanner is asked about well-formed UTF-8 without NUL: its places are exact for
+/// As above, for a scanner. The plain scanner is asked about well-formed UTF-8 without NUL: its positions are exact for
 /// nothing else.
 Violation CheckAgreement( const QByteArray& a_text, const PimVCardScannerScript& a_script );
 

@@ -38,7 +38,7 @@ OperationOutcome TryOperation( const QByteArray& a_text, PimVCardParserCall a_ca
 /// state fit together?
 ///
 /// They fit when a failure is marked and nothing else is, and when a property that was parsed to its end has left no
-/// encoding behind. ParseVCards has to end with nothing marked, at the end of the text, and with a list.
+/// encoding after. ParseVCards has to end with nothing marked, at the end of the text, and with a list.
 Violation CheckOutcome( const OperationOutcome& a_outcome );
 
 } // namespace PimManager::vCard::Fuzz

@@ -33,7 +33,7 @@ namespace PimManager::vCard::Fuzz
 class ResultVisit
 {
 public:
-    /// Each may be called many times. What is visited stays the caller's, and may be null, which is a violation.
+    /// Each may be called many times. What is visited remains the caller's, and may be null, which is a violation.
     void Visit( const PimVCard* a_vCard );
     void Visit( const PimVCardProperty* a_property );
     void Visit( const PimVCardParameter* a_parameter );

@@ -24,7 +24,7 @@ struct ScannerInput
 /// one less than the number of steps. Then three bytes a step, all taken modulo the length of the list they point to:
 /// the call (PimVCardScannerCall), the expression (ScannerExpressions()), the argument. What is left is the text.
 ///
-/// The argument is a place in the text for GoTo, an expression for Change, one of a few telling characters for
+/// The argument is a position in the text for GoTo, an expression for Change, one of a few telling characters for
 /// SetLookAhead, else 0 or 1. Steps that name the same expression share one.
 ///
 /// \param a_input the text shares its memory.

@@ -15,7 +15,7 @@ namespace
 constexpr QLatin1Char s_kBackslash( '\\' );
 constexpr int s_kSoftLineBreakLength = 3; // "=", CR, LF
 
-/// Follows a text through the source from one place on. Where a backslash may be a character of the text or one that
+/// Follows a text through the source from one position on. Where a backslash may be a character of the text or one that
 /// was left out, it follows both ways.
 class Follower
 {
@@ -26,7 +26,7 @@ public:
     {
     }
 
-    /// \return the first place behind the text; -1 if it does not stand there.
+    /// \return the first position after the text; -1 if it does not stand there.
     int EndOf( const QString& a_text, int a_place ) const
     {
         Places places = { a_place };

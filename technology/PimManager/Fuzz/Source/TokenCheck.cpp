@@ -10,7 +10,7 @@ namespace PimManager::vCard::Fuzz
 namespace
 {
 
-// Behind the end of the text the look-ahead is U+0000, which an expression may match, alone or behind a backslash.
+// After the end of the text the look-ahead is U+0000, which an expression may match, alone or after a backslash.
 QString OfText( const QString& a_token )
 {
     return QString( a_token ).remove( QChar() );

@@ -30,7 +30,7 @@ struct TakenTokens
 /// Takes those steps of a script that read through the expressions, up to the first seek.
 TakenTokens TakeTokens( const QByteArray& a_text, const PimVCardScannerScript& a_script );
 
-/// Does every token stand in the text behind the one before, backslashes aside, is a single one a single character, and
+/// Does every token stand in the text after the one before, backslashes aside, is a single one a single character, and
 /// does the line stand in the text and hold a match?
 /// \param a_text UTF-8 without NUL. One in which a backslash stands before a carriage return, which may then be read
 ///               twice, has no violations.

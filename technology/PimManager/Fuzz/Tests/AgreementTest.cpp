@@ -1,4 +1,4 @@
-// Transcripts that differ are told, with the place.
+// Transcripts that differ are told, with the position.
 
 #include "Agreement.h"
 

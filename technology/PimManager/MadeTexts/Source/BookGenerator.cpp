@@ -192,7 +192,7 @@ QByteArray BookGenerator::PhotoCard( int a_index )
     return card;
 }
 
-// Whole groups of three bytes, so that no padding is needed: a fold behind a "=" would be a soft line break.
+// Whole groups of three bytes, so that no padding is needed: a fold after a "=" would be a soft line break.
 QByteArray BookGenerator::Photo( bool a_is21 )
 {
     const quint32 length = s_kSmallestPhoto + Below( s_kLargestPhoto - s_kSmallestPhoto + 1 );

@@ -17,7 +17,7 @@ enum class LinePart
     Boundary,
     Property,
     Fold,
-    SoftBroken, // goes on with QUOTED-PRINTABLE text
+    SoftBroken, // continues with QUOTED-PRINTABLE text
 };
 
 LinePart PartOf( const QByteArray& a_line, bool a_isBehindSoftBreak )
@@ -101,7 +101,7 @@ QByteArray In21Style( const QByteArray& a_book )
                       } );
 }
 
-// Inserts text before and behind the colon of each property.
+// Inserts text before and after the colon of each property.
 QByteArray WithTextRoundColons( const QByteArray& a_book, const char* a_before, const char* a_behind )
 {
     return Converted( a_book,

@@ -17,7 +17,7 @@ constexpr int s_kBytes = 10000000;
 constexpr int s_kBytesOfLongestLine = 50000000;
 constexpr int s_kFailures = 20000;
 
-// A line that fails is told of by each operation round it, from the innermost outwards.
+// A line that fails is told of by each operation around it, from the innermost outwards.
 constexpr int s_kNotTheBeginLine = 3;      // ParseStart, ParseVCard, ParseVCards
 constexpr int s_kNotTheEndLine = 3;        // ParseEnd, ParseVCard, ParseVCards
 constexpr int s_kFirstLineFails = 4;       // ParseProperty and the three of a wrong BEGIN line
@@ -50,7 +50,7 @@ HostileShape OnlyLines( const char* a_name, const QByteArray& a_piece, const Gro
     return { a_name, { "", a_piece, "" }, {}, {}, a_blocks, s_kLines };
 }
 
-// Failures, and behind them a card that is given.
+// Failures, and after them a card that is given.
 HostileShape BeforeGoodCard( const char* a_name, const QByteArray& a_piece, const GrowingCount& a_blocks,
                              int a_repetitions = s_kLines, const QByteArray& a_tail = QByteArray() )
 {
@@ -123,7 +123,7 @@ QList<HostileShape> BrokenCards()
     const QByteArray wrongEnd = "BEGIN:VCARD\r\nEND:x\r\n";
     return {
         BeforeGoodCard( "begin-lines-and-broken-lines", "BEGIN:VCARD\r\n?\r\n", { 0, s_kGroupFails } ),
-        // The card behind a wrong END line is passed over with it, so only every other one is reported.
+        // The card after a wrong END line is passed over with it, so only every other one is reported.
         { "wrong-end-lines", { "", wrongEnd + wrongEnd, "" }, {}, {}, { 0, s_kNotTheEndLine }, s_kFailures },
         BeforeGoodCard( "quotes-that-never-close", CardWith( "TEL;X=\"abc:1" ), { 0, s_kQuotedParameterFails },
                         s_kFailures ),
@@ -168,8 +168,8 @@ QList<HostileShape> RecoveriesOnOneLine()
               "\x01"
               "BEGIN:VCARD",
               { s_kFirstGroupFails, 0 } ),
-        // The "?" fails, then the carriage return behind it; the END line is no BEGIN line, and the "B" behind it is
-        // lost, so "EGIN" is none either. The last card but one is the last that holds a further BEGIN to go to.
+        // The "?" fails, then the carriage return after it; the END line is not a BEGIN line, and the "B" after it is
+        // lost, so "EGIN" is none either. The last card but one is the last that contains a further BEGIN to go to.
         BeforeGoodCard( "cr-only-broken-cards-on-a-line", CardWith( "?", "\r" ),
                         { s_kGroupFails - s_kFirstGroupFails - 3 * s_kNotTheBeginLine,
                           s_kFirstGroupFails + 2 * s_kNotTheBeginLine },

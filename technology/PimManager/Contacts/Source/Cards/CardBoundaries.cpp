@@ -58,7 +58,7 @@ ByteRange RangeOf( std::string_view a_line, std::string_view a_part )
     return { static_cast<quint32>( a_part.data() - a_line.data() ), static_cast<quint32>( a_part.size() ) };
 }
 
-// What is left of a part without blanks round it.
+// What is left of a part without blanks around it.
 ByteRange TextIn( std::string_view a_line, ByteRange a_part )
 {
     return RangeOf( a_line, WithoutPadding( a_part.In( a_line ) ) );
@@ -109,7 +109,7 @@ Kind KindOf( std::string_view a_text, const LineHead& a_head )
     return IsNamed( a_text, a_head, "END" ) ? Kind::End : Kind::None;
 }
 
-// The place of BEGIN behind an END on one line, 0 if it is not such a line.
+// The position of BEGIN after an END on one line, 0 if it is not such a line.
 size_t PlaceOfBegin( std::string_view a_text )
 {
     if ( a_text.size() <= s_kEnd.size() || !BeginsWith( a_text, s_kEnd ) )

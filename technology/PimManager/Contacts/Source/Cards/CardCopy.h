@@ -27,7 +27,7 @@ public:
     }
 
     /// Copies a card and its nested cards. The current position must be its first byte, and is its end afterwards.
-    /// \param a_record the place of its record in the index.
+    /// \param a_record the position of its record in the index.
     CardIndex Copy( quint32 a_record );
 
     /// Copies the next part, which must not be a nested card.

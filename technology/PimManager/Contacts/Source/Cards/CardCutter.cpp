@@ -21,7 +21,7 @@ quint32 LeadingBlanks( std::string_view a_text )
     return static_cast<quint32>( a_text.size() - TrimmedLeft( a_text ).size() );
 }
 
-// The short road has no filter and no limit for lines.
+// The fast path has no filter and no limit for lines.
 bool AreAllLinesWanted( const PimContactOptions& a_options )
 {
     return LineFilter( a_options ).IsEmpty() && a_options.LineBytes() <= 0;
@@ -117,7 +117,7 @@ void CardCutter::DeliverPlainCard( std::string_view a_bytes )
     m_delivery.Deliver( m_sealed, m_plainCard.Facts(), place );
 }
 
-// The lines that were read on the short road need not be read again.
+// The lines that were read on the fast path need not be read again.
 void CardCutter::BeginFromPlainCard()
 {
     Line begin;
@@ -251,7 +251,7 @@ bool CardCutter::MayHoldCard( const Line& a_line ) const
     return !m_card.m_knowledge.m_isFlatAgent && !( isIndented && m_stack.MayFold() );
 }
 
-// The words of a boundary, indented behind a line that is not: the line before continues with them. Text that is held
+// The words of a boundary, indented after a line that is not: the line before continues with them. Text that is held
 // outside cards does not continue with BEGIN.
 bool CardCutter::IsFold( const Line& a_line, Kind a_kind ) const
 {

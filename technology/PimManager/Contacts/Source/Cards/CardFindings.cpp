@@ -68,7 +68,7 @@ PimContactExtentKind ExtentKindOf( EntryKind a_kind )
     }
 }
 
-// The text behind the first join of a kind; the line itself if there is none.
+// The text after the first join of a kind; the line itself if there is none.
 quint32 PlaceBehind( const IndexEntry& a_entry, std::initializer_list<PimContactJoin> a_kinds )
 {
     JoinReader joins( a_entry );

@@ -46,7 +46,7 @@ void CardStack::AddBegin( const PhysicalLine& a_line )
     WriteBoundary( a_line, CardBoundary::OfOutside( m_scanner.TextOf( a_line ) ) );
 }
 
-// The parts of the line, one behind the other.
+// The parts of the line, one after the other.
 void CardStack::WriteBoundary( const PhysicalLine& a_line, const CardBoundary& a_boundary )
 {
     LogicalLines& lines = Lines();

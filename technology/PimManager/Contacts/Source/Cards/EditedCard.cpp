@@ -114,7 +114,7 @@ private:
     size_t m_next = 0;
     // Of the last line of the card. Its nested card is kept or left out like the line.
     bool m_isLineKept = false;
-    // Behind BEGIN.
+    // After BEGIN.
     bool m_isInside;
 };
 

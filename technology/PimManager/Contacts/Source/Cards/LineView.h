@@ -138,10 +138,10 @@ public:
     explicit LineCursor( const PimContactCard& a_card );
     explicit LineCursor( const CardView& a_card );
 
-    /// \return false behind the last line.
+    /// \return false after the last line.
     bool Next();
     /// Steps to the next part of any kind. Line() is then that part.
-    /// \return false behind the last part.
+    /// \return false after the last part.
     bool NextPart();
     /// Moves to the position before a part of the card. NextPart() then steps to that part.
     void StepTo( LinePlace a_place )
@@ -150,7 +150,7 @@ public:
         m_begin = a_place.m_begin;
     }
 
-    /// \return true if the line holds a card, as AGENT does.
+    /// \return true if the line contains a card, as AGENT does.
     bool FindNested( CardView& a_nested ) const
     {
         return !m_reader.AtEnd() && m_reader.NextKind() != EntryKind::Line && FindAnyNested( a_nested );

@@ -115,7 +115,7 @@ bool PimContactCard::operator!=( const PimContactCard& a_other ) const
     return !( *this == a_other );
 }
 
-// The place of the card in its outermost card may differ, and so may those of nested cards, which follow from it.
+// The position of the card in its outermost card may differ, and so may those of nested cards, which follow from it.
 bool PimContactCardPrivate::AreEqual( const PimContactCard& a_first, const PimContactCard& a_second )
 {
     const CardRecord first = RecordOf( a_first );

@@ -310,7 +310,7 @@ bool PimContactReaderPrivate::Feed( const char* a_bytes, qint64 a_size )
     return isMoreWanted;
 }
 
-// Cards that Next() has not returned yet go to the handler if the caller goes on with Feed() or Finish().
+// Cards that Next() has not returned yet go to the handler if the caller continues with Feed() or Finish().
 void PimContactReaderPrivate::PassPulled()
 {
     m_isPulling = false;

@@ -19,7 +19,7 @@ constexpr std::string_view s_kEnd = "END:VCARD";
 constexpr std::string_view s_kAgent = "AGENT";
 constexpr size_t s_kLongestBegin = CardBoundary::s_kLongest;
 
-// No line around it changes what the line is. A name that is no name, or words for parameters, may be text.
+// No line around it changes what the line is. A name that is not a name, or words for parameters, may be text.
 bool IsSurelyProperty( const LineHead& a_head )
 {
     return a_head.m_hasColon && !a_head.m_hasWordsForParameters && !( a_head.m_oddities & PimContactOddity::OddName );
@@ -46,7 +46,7 @@ bool IsAgent( const LineHead& a_head, std::string_view a_line )
 
 } // namespace
 
-// Notes a soft line break. Blanks behind the "=", and an encoded one in a value that is not encoded, are not plain.
+// Notes a soft line break. Blanks after the "=", and an encoded one in a value that is not encoded, are not plain.
 bool PlainCard::EndsPlainly( std::string_view a_line )
 {
     m_lastTextEnd = static_cast<quint32>( a_line.data() + a_line.size() - m_text.data() );
@@ -249,7 +249,7 @@ void PlainCard::WaitForLineEnd( const LineEndSearch& a_search, size_t a_next, si
     m_searched = a_searched;
 }
 
-// The folds of a line that is not closed do not count if another reader goes on.
+// The folds of a line that is not closed do not count if another reader continues.
 void PlainCard::NoteFold( const Line& a_line )
 {
     if ( !m_hasFolds )

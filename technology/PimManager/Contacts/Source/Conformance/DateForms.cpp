@@ -57,7 +57,7 @@ struct Moment
             SetTime( a_text.substr( m_designator + 1 ) );
     }
 
-    /// A sign behind a digit begins the offset. One at the start means an open hour.
+    /// A sign after a digit begins the offset. One at the start means an open hour.
     void SetTime( std::string_view a_text )
     {
         const size_t digit = std::min( a_text.find_first_of( "0123456789" ), a_text.size() );

@@ -57,7 +57,7 @@ void LayoutCheck::Check( const IndexedLine& a_part )
     Flush();
 }
 
-// What follows a fold must not go on with a character that precedes it.
+// What follows a fold must not continue with a character that precedes it.
 void LayoutCheck::CheckPiece( const IndexedLine& a_part, std::string_view a_text )
 {
     m_isLong = m_isLong || a_text.size() > s_kLongestLine;

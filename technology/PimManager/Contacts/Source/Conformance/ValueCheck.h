@@ -24,7 +24,7 @@ public:
 
     /// \param a_rule         of the property; null if the version does not have it.
     /// \param a_type         the type that VALUE names, if it names one.
-    /// \param a_hasNestedCard the line holds a card.
+    /// \param a_hasNestedCard the line contains a card.
     void Check( const IndexedLine& a_line, const PropertyRule* a_rule, const std::optional<ValueType>& a_type,
                 bool a_hasNestedCard );
 

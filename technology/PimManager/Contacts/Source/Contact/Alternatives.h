@@ -36,7 +36,7 @@ private:
 };
 
 /// Determines which fields are alternatives of each other: those of one property with the same ALTID (RFC 6350, section
-/// 5.4). The elements of a list are alternatives of those with the same place in other lists.
+/// 5.4). The elements of a list are alternatives of those with the same position in other lists.
 class AlternativeGroups
 {
 public:

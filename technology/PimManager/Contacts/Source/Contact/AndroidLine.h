@@ -14,7 +14,7 @@ namespace PimManager::Contacts
 class AndroidLine
 {
 public:
-    /// \param a_reader must stay at the line as long as its texts are wanted.
+    /// \param a_reader must remain at the line as long as its texts are needed.
     explicit AndroidLine( FieldReader& a_reader )
     {
         AndroidCustomParts parts;

@@ -19,7 +19,7 @@ PimContactCard EmptyCard();
 /// \param a_line  a content line without a line ending.
 /// \param a_lines of the contact that the line is for: it is read by their version and has their indentation.
 /// \return a card whose last line it is; a null card if it is not exactly one property in UTF-8, whatever lines are
-///         before and behind it, or if it is VERSION.
+///         before and after it, or if it is VERSION.
 PimContactCard CardWithLine( const QByteArray& a_line, const ContactLines& a_lines );
 
 } // namespace PimManager::Contacts

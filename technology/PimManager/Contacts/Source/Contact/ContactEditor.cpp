@@ -68,7 +68,7 @@ QSet<int> IdsOf( const PimContactFieldPrivate& a_data )
     return ids;
 }
 
-// In 3.0 and before, only the most wanted one is marked.
+// In 3.0 and before, only the most preferred one is marked.
 void WritePreference( int a_preference, FieldWriter& a_writer, QStringList& a_types )
 {
     if ( a_preference > 0 && a_writer.IsVersion( PimContactVersion::V40 ) )
@@ -120,7 +120,7 @@ const QString& TextOf( const PimContactFieldPrivate& a_data )
     return static_cast<const TextData&>( a_data ).m_text;
 }
 
-/// \return the place of the element in the texts of its line, which may have changed; -1 if it is not there.
+/// \return the position of the element in the texts of its line, which may have changed; -1 if it is not there.
 int ElementIn( const QStringList& a_texts, const PimContactFieldPrivate& a_data )
 {
     const auto is = [&a_data]( const QString& a_text ) { return a_text.trimmed() == TextOf( a_data ); };
@@ -252,7 +252,7 @@ void ContactEditor::RemoveLines( const QSet<int>& a_ids )
     m_contact.m_lines.RemoveIf( [&a_ids]( const ContactLine& a_line ) { return a_ids.contains( a_line.m_id ); } );
 }
 
-// The id of a field of another contact may exist here, too. An element may have another place in its line now.
+// The id of a field of another contact may exist here, too. An element may have another position in its line now.
 size_t ContactEditor::FindLineOf( const PimContactFieldPrivate& a_data ) const
 {
     const ContactLines& lines = m_contact.m_lines;
@@ -357,7 +357,7 @@ bool ContactEditor::ReplaceAt( size_t a_index, const QByteArray& a_line )
     return true;
 }
 
-// Behind the last line with the property, and behind its additions.
+// After the last line with the property, and after its additions.
 size_t ContactEditor::PlaceFor( PropertyId a_property ) const
 {
     const ContactLines& lines = m_contact.m_lines;

@@ -80,7 +80,7 @@ public:
     }
     /// \return the index of the line with an id; Size() if there is none. Linear.
     size_t Find( int a_id ) const;
-    /// \return the index behind the last line with a property; Size() if there is none. Linear.
+    /// \return the index after the last line with a property; Size() if there is none. Linear.
     size_t EndOf( PropertyId a_property ) const;
 
     /// Reads the entry of a line.
@@ -92,7 +92,7 @@ public:
             a_line.m_card = ViewOf( line );
         PimContactCardPrivate::LineView::Read( line.m_place, a_line );
     }
-    /// Finds a value that is text in UTF-8 as it is written, but for its escapes.
+    /// Finds a value that is text in UTF-8 as written, except for its escapes.
     /// \param[out] a_value the value, with the line ending.
     /// \return false for any other value.
     bool FindPlainValue( size_t a_index, std::string_view& a_value ) const

@@ -112,7 +112,7 @@ private:
         return true;
     }
 
-    /// Two digits, with the mark before them or without it; or neither, and the part stays open.
+    /// Two digits, with the mark before them or without it; or neither, and the part remains unknown.
     bool NextPart( char a_mark, std::optional<int>& a_part )
     {
         const bool isThere = Skip( a_mark ) || IsAtDigit();

@@ -1,8 +1,8 @@
 /// \file
 /// Reads dates and times as address books write them.
 ///
-/// A form that can be read in one way only is read; every other text is no date. Nothing is allocated, and a text that
-/// is too long for a date is refused without a look at it.
+/// A form that can be read in one way only is read; every other text is not a date. Nothing is allocated, and a text
+/// that is too long for a date is refused without a look at it.
 
 #pragma once
 
@@ -27,7 +27,7 @@ enum class DateHint
 /// second, which are dropped. White space at both ends is ignored.
 ///
 /// \param a_omittedYear the value of X-APPLE-OMIT-YEAR: this year is open.
-/// \return nothing if it is no date, such as `12.04.1985`, a day that does not exist, or an empty text.
+/// \return nothing if it is not a date, such as `12.04.1985`, a day that does not exist, or an empty text.
 std::optional<DateFields> ReadDate( std::string_view a_text, DateHint a_hint = DateHint::Any,
                                     const std::optional<int>& a_omittedYear = std::nullopt );
 
@@ -35,7 +35,7 @@ std::optional<DateFields> ReadDate( std::string_view a_text, DateHint a_hint = D
 std::optional<DateFields> ReadCallTime( std::string_view a_text );
 
 /// \param a_text such as `-0500`, `-05:00`, `+02` or `Z`.
-/// \return minutes, positive east of Greenwich; nothing if it is no offset from UTC.
+/// \return minutes, positive east of Greenwich; nothing if it is not an offset from UTC.
 std::optional<int> ReadOffset( std::string_view a_text );
 
 } // namespace PimManager::Contacts

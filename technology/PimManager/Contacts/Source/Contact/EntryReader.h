@@ -22,8 +22,8 @@ namespace PimManager::Contacts
 class EntryReader
 {
 public:
-    /// Reads the name of a line. Its value is decoded when it is wanted.
-    /// \param a_line must exist as long as something of it is wanted.
+    /// Reads the name of a line. Its value is decoded when it is needed.
+    /// \param a_line must exist as long as something of it is needed.
     void Read( const IndexedLine& a_line );
 
     PropertyId Property() const { return m_property; }

@@ -59,8 +59,8 @@ public:
     virtual bool FitsName( std::string_view a_name ) const { return PropertyOf( a_name ) != PropertyId::AndroidCustom; }
     /// Writes the value by the name of the writer, and the parameters of the class.
     virtual void Write( FieldWriter& a_writer ) const = 0;
-    /// \return the name of another property that holds a part of the field, such as LABEL of an address; empty if all
-    ///         of it is in one line.
+    /// \return the name of another property that contains a part of the field, such as LABEL of an address; empty if
+    ///         all of it is in one line.
     virtual std::string_view AdditionName( PimContactVersion /*a_version*/ ) const { return {}; }
     /// Writes that part.
     virtual void WriteAddition( FieldWriter& /*a_writer*/ ) const {}

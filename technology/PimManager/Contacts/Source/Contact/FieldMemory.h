@@ -20,7 +20,7 @@ struct FieldMemory
         m_line.m_card = CardView();
         m_parameters.Clear();
     }
-    /// \return true if it holds more than any usual line needs.
+    /// \return true if it contains more than any usual line needs.
     bool IsLarge() const { return m_decoder.IsLarge() || m_parameters.IsLarge(); }
 
     IndexedLine m_line;

@@ -49,7 +49,7 @@ public:
     /// \return the kinds that a word of TYPE means, as the value of flags.
     using KindsOf = quint32 ( * )( std::string_view a_word );
 
-    /// \param a_line must exist as long as its parameters are wanted.
+    /// \param a_line must exist as long as its parameters are needed.
     void Read( const IndexedLine& a_line, KindsOf a_kindsOf );
 
     /// Forgets what was read.
@@ -72,7 +72,7 @@ public:
     /// \return the first word of TYPE that is neither a kind nor a standard word; empty without one.
     std::string_view CustomType() const { return m_customType; }
 
-    /// \return from 1, the most wanted, to 100: the value of PREF, or 1 if a type is PREF; 0 for none.
+    /// \return from 1 (most preferred) to 100: the value of PREF, or 1 if a type is PREF; 0 for none.
     int Preference() const
     {
         return m_meaning.m_preference == 0 && m_meaning.m_isPreferred ? 1 : m_meaning.m_preference;

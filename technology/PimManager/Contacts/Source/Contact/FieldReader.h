@@ -31,7 +31,7 @@ public:
     }
 
     /// \param a_properties a PropertyId or a PropertySet.
-    /// \return false behind the last line.
+    /// \return false after the last line.
     template <class Properties>
     bool Next( const Properties& a_properties )
     {
@@ -92,7 +92,7 @@ private:
     Borrowed<FieldMemory> m_memory;
     bool m_isDecoded = false;
     quint32 m_kinds = 0;
-    // A word of TYPE that is no kind is a label.
+    // A word of TYPE that is not a kind is a label.
     bool m_isTypeLabel = false;
     GroupLabels::Label m_label;
 };

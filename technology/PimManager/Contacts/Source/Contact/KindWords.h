@@ -25,7 +25,7 @@ PimContactKinds KindsOf( std::string_view a_word );
 /// \return true for INTERNET, which adds nothing to what an EMAIL is (RFC 2426, section 3.3.2).
 bool IsMailDefault( std::string_view a_word );
 
-/// \param a_word a word of TYPE that is no kind.
+/// \param a_word a word of TYPE that is not a kind.
 /// \return the label that it means: `Boat` for `X-Boat`, and any other word as it is.
 std::string_view CustomLabelOf( std::string_view a_word );
 

@@ -1,5 +1,5 @@
 /// \file
-/// The marks that some address books write round labels.
+/// The marks that some address books write around labels.
 
 #pragma once
 

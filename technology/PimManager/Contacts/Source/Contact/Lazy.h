@@ -1,5 +1,5 @@
 /// \file
-/// What is made when it is wanted for the first time.
+/// What is made when it is needed for the first time.
 
 #pragma once
 

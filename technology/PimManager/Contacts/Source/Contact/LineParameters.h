@@ -19,19 +19,19 @@ namespace PimManager::Contacts
 class LineParameters
 {
 public:
-    /// \param a_line must exist as long as its parameters are wanted.
+    /// \param a_line must exist as long as its parameters are needed.
     void Read( const IndexedLine& a_line );
 
     /// \return the words of TYPE and the bare words, as written, but without quotes, backslashes, a second "=", and the
     ///         marks of labels. PREF is left out.
     const WordGroups& Types() const { return m_types; }
 
-    /// \return from 1, the most wanted, to 100: the value of PREF, or 1 if a type is PREF; 0 for none.
+    /// \return from 1 (most preferred) to 100: the value of PREF, or 1 if a type is PREF; 0 for none.
     int Preference() const;
 
     /// \return the names of the other parameters, one for each value. TYPE, PREF, ENCODING and CHARSET are left out.
     const WordGroups& Names() const { return m_names; }
-    /// \return the value that has this place in Names().
+    /// \return the value that has this position in Names().
     std::string_view Value( size_t a_index ) const { return m_values[a_index]; }
 
     /// \return what X-CUSTOM says the line is for, as some phones write it; empty if there is none. The first one

@@ -73,7 +73,7 @@ constexpr WordTable s_kServices( std::array{
 } );
 static_assert( s_kServices.HasAllWords() );
 
-// Where the user name is behind a scheme.
+// Where the user name is after a scheme.
 enum class Form
 {
     Path,   // skype:omega?chat

@@ -37,14 +37,15 @@ struct MessengerParts
     std::string_view m_service;
     /// The user name without percent-encoding.
     std::string_view m_handle;
-    /// The URI as written, empty if the value is no URI.
+    /// The URI as written, empty if the value is not a URI.
     std::string_view m_address;
 };
 
 /// Reads a line whose name IsMessengerName() accepts.
 ///
 /// The service is the one of X-SERVICE-TYPE or SERVICE-TYPE, else of the property name, of a TYPE, of the URI scheme,
-/// or of a web address such as `https://twitter.com/omega`. In X-SOCIALPROFILE, any TYPE that is no kind is a service.
+/// or of a web address such as `https://twitter.com/omega`. In X-SOCIALPROFILE, any TYPE that is not a kind is a
+/// service.
 ///
 /// The user name is the one of X-USER or USERNAME, else of the value, else of X-USERID. A web address has a user name
 /// only if it is the address of a profile in a known service.

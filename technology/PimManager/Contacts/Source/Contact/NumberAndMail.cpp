@@ -73,7 +73,7 @@ NumberParts PartsOfText( std::string_view a_text )
     return { number, extension, {}, false };
 }
 
-/// \param a_uri the text behind `tel:`.
+/// \param a_uri the text after `tel:`.
 NumberParts PartsOfUri( std::string_view a_uri, DecodedParts& a_decoder )
 {
     std::string_view rest = a_uri;

@@ -25,8 +25,8 @@ class PartTexts
 public:
     /// Reads the parts of a value: a semicolon ends a component, and a comma a text of it. White space at both ends of
     /// a text is removed.
-    /// \param a_reader    is at a line. These texts refer to its card, and the field that holds them keeps the card.
-    /// \param a_mostParts components behind that number are texts of the last one.
+    /// \param a_reader    is at a line. These texts refer to its card, and the field that contains them keeps the card.
+    /// \param a_mostParts components after that number are texts of the last one.
     void Read( FieldReader& a_reader, int a_mostParts );
 
     /// \return the texts of a component, from 0.

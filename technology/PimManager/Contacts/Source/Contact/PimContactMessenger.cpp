@@ -166,7 +166,7 @@ void MessengerData::Write( FieldWriter& a_writer ) const
     }
 }
 
-// In a SOCIALPROFILE before 4.0, the service is the first word of TYPE that is no kind.
+// In a SOCIALPROFILE before 4.0, the service is the first word of TYPE that is not a kind.
 bool MessengerData::IsServiceType() const
 {
     const QByteArray word = m_service.toUtf8();

@@ -17,13 +17,13 @@
 namespace PimManager::Contacts
 {
 
-/// A place in the JSON.
+/// A position in the JSON.
 struct JsonPlace
 {
     qint64 m_offset = 0;
     /// From 1; lines end in LF.
     qint64 m_line = 1;
-    /// The place of the first byte of the line.
+    /// The position of the first byte of the line.
     qint64 m_lineOffset = 0;
 };
 
@@ -39,15 +39,15 @@ struct JsonFinding
     qint64 m_offset = 0;
 };
 
-/// Converts jCards (RFC 7095) to vCards of version 4.0, card by card and property by property. A text that is no jCard
-/// is returned unchanged.
+/// Converts jCards (RFC 7095) to vCards of version 4.0, card by card and property by property. A text that is not a
+/// jCard is returned unchanged.
 ///
 /// A text is a jCard if it begins with `[`, further brackets, and the string `vcard`; white space and a byte order mark
 /// may come first, together at most s_kLookedAt bytes. It may have any number of cards: in an array, in arrays inside
-/// each other, or one behind the other.
+/// each other, or one after the other.
 ///
-/// Nothing is lost: what is no property is the value of a property `X-JCARD` in its card. What is no card, outside of
-/// cards, is a line that begins with `#`, with blanks for its line breaks; so it is text outside cards.
+/// Nothing is lost: what is not a property is the value of a property `X-JCARD` in its card. What is not a card,
+/// outside of cards, is a line that begins with `#`, with blanks for its line breaks; so it is text outside cards.
 ///
 /// Errors of the syntax that do not touch a value are reported: commas that are missing or not wanted, and brackets
 /// that are not closed. A card that is not closed has no END.
@@ -79,7 +79,7 @@ public:
     /// What was found by the last call, in the order of the text.
     const std::vector<JsonFinding>& Findings() const { return m_findings; }
 
-    /// The text is no jCard, and passes unchanged.
+    /// The text is not a jCard, and passes unchanged.
     bool IsUnchanged() const { return m_form == Form::Other; }
     bool IsJCard() const { return m_form == Form::JCard; }
 
@@ -99,10 +99,10 @@ private:
     enum class State
     {
         Outside,    // in no card
-        Opened,     // behind the bracket of an array that may be a card
+        Opened,     // after the bracket of an array that may be a card
         Head,       // behind "vcard"
         Properties, // in the list of properties
-        Tail,       // behind that list
+        Tail,       // after that list
     };
     // What may come next.
     enum class Comma

@@ -169,7 +169,7 @@ void JsonCursor::AppendByte( char a_byte, std::string& a_out, StringForm a_form 
 }
 
 // \param a_place a backslash.
-// \return the place behind the escape; the end of the text if it is cut off.
+// \return the position after the escape; the end of the text if it is cut off.
 const char* JsonCursor::TakeEscape( const char* a_place, std::string& a_out, StringForm a_form )
 {
     constexpr std::string_view s_kNames = "\"\\/bfnrt";

@@ -33,7 +33,7 @@ constexpr bool EndsJsonWord( char a_byte )
 }
 
 /// Searches a string for its end, eight bytes at a time.
-/// \return the place of the first quote or backslash, or a_end.
+/// \return the position of the first quote or backslash, or a_end.
 const char* FindQuoteOrBackslash( const char* a_begin, const char* a_end );
 
 /// Takes one token after the other from a text. No function reads beyond the end; at the end they return false.
@@ -57,12 +57,12 @@ public:
     bool Take( char a_delimiter );
     /// Appends the string that comes next. \return false if no whole string comes next.
     bool AppendString( std::string& a_out, StringForm a_form );
-    /// Takes a number or another word. \return an empty text if none comes next or if it may continue behind the end.
+    /// Takes a number or another word. \return an empty text if none comes next or if it may continue after the end.
     std::string_view TakeWord();
 
     /// How many bytes were taken.
     size_t Length() const { return static_cast<size_t>( m_place - m_begin ); }
-    /// The number of errors, and the place of the first one.
+    /// The number of errors, and the position of the first one.
     qint64 Errors() const { return m_errors; }
     size_t FirstError() const { return m_firstError; }
 

@@ -70,7 +70,7 @@ const char* JsonValueSearch::FindString( const char* a_begin, const char* a_end 
     return PassString( place, a_end ) ? place : nullptr;
 }
 
-// \return false if the string continues behind the end.
+// \return false if the string continues after the end.
 bool JsonValueSearch::PassString( const char*& a_place, const char* a_end )
 {
     while ( a_place < a_end )

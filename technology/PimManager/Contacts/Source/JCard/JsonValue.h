@@ -15,10 +15,10 @@ public:
     /// \param a_first the first byte of the value, which is not passed to Find().
     void Begin( char a_first );
 
-    /// \return the end of the value in the piece; null if the value continues behind it.
+    /// \return the end of the value in the piece; null if the value continues after it.
     const char* Find( const char* a_begin, const char* a_end );
 
-    /// The same, but ends behind the first string inside an array.
+    /// The same, but ends after the first string inside an array.
     const char* FindString( const char* a_begin, const char* a_end );
 
 private:

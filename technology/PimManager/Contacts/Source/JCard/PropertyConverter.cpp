@@ -191,7 +191,7 @@ void PropertyConverter::AppendParameterValue( std::string_view a_value )
         m_parameters += '"';
 }
 
-// What cannot be a group stays a parameter, under another name.
+// What cannot be a group remains a parameter, under another name.
 void PropertyConverter::KeepGroup( size_t a_begin )
 {
     if ( !IsName( m_buffer ) || !m_group.empty() )
@@ -232,7 +232,7 @@ void PropertyConverter::AppendHead( std::string& a_out ) const
     a_out += ':';
 }
 
-// A reader without VALUE takes what is no URI for a text, also in a picture.
+// A reader without VALUE takes what is not a URI for a text, also in a picture.
 void PropertyConverter::CompleteType( size_t a_value, std::string& a_out ) const
 {
     const std::string_view text = std::string_view( a_out ).substr( a_value );
@@ -307,7 +307,7 @@ bool PropertyConverter::TakeText( JsonCursor& a_json, std::string& a_out, String
     return isDate ? TakeDate( a_json, a_out ) : a_json.AppendString( a_out, a_form );
 }
 
-// What is no date is written as text.
+// What is not a date is written as text.
 bool PropertyConverter::TakeDate( JsonCursor& a_json, std::string& a_out )
 {
     m_buffer.clear();

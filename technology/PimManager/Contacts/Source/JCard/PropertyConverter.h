@@ -17,7 +17,7 @@ namespace PimManager::Contacts
 /// Converts properties such as `["tel", {"type": "work"}, "uri", "tel:+1-555-555-0100"]` to content lines of vCard 4.0
 /// (RFC 7095, section 3.3 to 3.5).
 ///
-/// - The name is written in capitals. A parameter `group` becomes the group. A further one, or one that cannot be a
+/// - The name is written in upper case. A parameter `group` becomes the group. A further one, or one that cannot be a
 ///   group, is the parameter X-GROUP, because vCard has no GROUP (section 7.1).
 /// - VALUE is written if the type is neither that of the property in vCard 4.0 nor `unknown`. A value of type `unknown`
 ///   is copied as it is (section 5). A parameter `value`, which jCard does not have, is X-VALUE.

@@ -106,7 +106,7 @@ size_t SizeOf( std::string_view a_base64 )
     return a_base64.size() / s_kGroup * s_kBytesOfGroup - RemovePadding( letters );
 }
 
-/// Writes what precedes the BASE64, which begins at a place.
+/// Writes what precedes the BASE64, which begins at a position.
 /// \return the length of `mediaType` and `size`.
 size_t WriteHead( size_t a_place, const QByteArray& a_mediaType, JsonText& a_json )
 {

@@ -17,7 +17,7 @@ namespace PimManager::Contacts
 struct BinaryJson
 {
     bool m_isWritten = false;
-    /// The place of the first character that could not be decoded; -1 if there is none, or if the value is text.
+    /// The position of the first character that could not be decoded; -1 if there is none, or if the value is text.
     qint64 m_faultPlace = -1;
     /// Where the members `mediaType` and `size` are, with a comma before each of them.
     size_t m_place = 0;

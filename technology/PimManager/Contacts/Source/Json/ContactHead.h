@@ -47,7 +47,7 @@ struct FieldParts
     };
 
     const JsonText& m_json;
-    /// Without empty ones. Their places are in m_json.
+    /// Without empty ones. Their positions are in m_json.
     const std::vector<Part>& m_parts;
 
     std::string_view TextOf( const Part& a_part ) const
@@ -77,7 +77,7 @@ public:
     void EndUnits( const FieldHead& a_head );
     /// Takes a picture, sound or key that is bytes.
     /// \param a_members JSON: `mediaType` and `size`; empty if the value is damaged.
-    /// \param a_property its place in the list of properties.
+    /// \param a_property its position in the list of properties.
     void TakeMedia( const FieldHead& a_head, std::string_view a_members, size_t a_property );
     /// Has members read by PimContact.
     void Defer( ContactMembers a_members ) { m_deferred |= a_members; }

@@ -65,7 +65,7 @@ bool IsUnusual( FieldWay a_way, FieldParameter a_parameter, std::string_view a_v
     }
 }
 
-/// \return the bytes from a place on, up to eight of them, as a number.
+/// \return the bytes from a position on, up to eight of them, as a number.
 quint64 NumberAt( std::string_view a_text, size_t a_place )
 {
     quint64 number = 0;

@@ -160,7 +160,7 @@ private:
         void SetKey( const Key& a_key );
     };
 
-    // Heads that have the same place. The older one is replaced.
+    // Heads that have the same position. The older one is replaced.
     struct EntrySet
     {
         std::array<Entry, 2> m_entries;

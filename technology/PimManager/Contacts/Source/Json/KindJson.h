@@ -1,5 +1,5 @@
 /// \file
-/// What a field is for, in small letters.
+/// What a field is for, in lower case.
 
 #pragma once
 

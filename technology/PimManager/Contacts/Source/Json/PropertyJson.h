@@ -28,7 +28,7 @@ class PropertyJson
 public:
     /// Writes the object of a property, without the brace that ends it.
     /// \param a_labels of the card.
-    /// \param a_holdsCard an empty value is not written, because the property holds a card.
+    /// \param a_holdsCard an empty value is not written, because the property contains a card.
     /// \param a_place of the property in the list of properties.
     void Write( const IndexedLine& a_line, const GroupLabels& a_labels, bool a_holdsCard, size_t a_place,
                 ContactHead& a_contact, JsonText& a_json );

@@ -70,7 +70,7 @@ quint8 ClassOf( char a_byte )
     return s_kClasses[static_cast<unsigned char>( a_byte )];
 }
 
-/// \return the first place from a_place on with a byte of another class, or the length of the text.
+/// \return the first position from a_place on with a byte of another class, or the length of the text.
 size_t SkipClasses( std::string_view a_text, size_t a_place, int a_classes )
 {
     while ( a_place < a_text.size() && ( ClassOf( a_text[a_place] ) & a_classes ) != 0 )
@@ -87,7 +87,7 @@ public:
     {
     }
 
-    /// \return the next place, or the length of the text.
+    /// \return the next position, or the length of the text.
     size_t Next()
     {
 #ifdef __SSE2__
@@ -165,7 +165,7 @@ ByteRange RangeOf( std::string_view a_line, std::string_view a_part )
 
 struct Parameter
 {
-    /// Between two semicolons, without blanks round it.
+    /// Between two semicolons, without blanks around it.
     size_t m_begin = 0;
     /// What precedes the "=", without blanks; empty for a bare parameter.
     size_t m_nameBegin = 0;
@@ -174,7 +174,7 @@ struct Parameter
     /// out, and at the start of a name too.
     size_t m_valueBegin = 0;
     size_t m_valueEnd = 0;
-    /// The place of the delimiter that ends it.
+    /// The position of the delimiter that ends it.
     size_t m_end = 0;
 
     bool IsBare() const { return m_nameBegin == m_nameEnd; }
@@ -277,12 +277,12 @@ Parameter ParameterReader::ReadAny( size_t a_begin )
     ReadElements( parameter.m_valueBegin, parameter.IsBare() );
     parameter.m_end = m_place;
     parameter.m_valueEnd = EndOfTrimmed( parameter.m_valueBegin, m_place );
-    // One blank behind the semicolon is part of the grammar.
+    // One blank after the semicolon is part of the grammar.
     Add( parameter.m_begin > a_begin + 1 || IsBlank( m_text[m_place - 1] ), PimContactOddity::NameBlanks );
     return parameter;
 }
 
-/// \return true if it is behind the "=".
+/// \return true if it is after the "=".
 bool ParameterReader::ReadName( Parameter& a_parameter )
 {
     Skip( s_kNameByte );
@@ -311,7 +311,7 @@ void ParameterReader::ReadElements( size_t a_begin, bool a_isBare )
     Add( m_hasOddByte, PimContactOddity::OddParameter );
 }
 
-/// \return where the element begins: behind blanks and quotes that nothing closes. A quoted element is skipped.
+/// \return where the element begins: after blanks and quotes that nothing closes. A quoted element is skipped.
 size_t ParameterReader::BeginElement()
 {
     Skip( s_kBlank );
@@ -323,8 +323,8 @@ size_t ParameterReader::BeginElement()
     return m_place;
 }
 
-/// Skips a quoted element and the blanks behind it. If nothing closes the quote, nothing closes a later one, so the
-/// rest of the text is searched in vain only once.
+/// Skips a quoted element and the blanks after it. If nothing closes the quote, nothing closes a later one, so the rest
+/// of the text is searched in vain only once.
 bool ParameterReader::SkipQuoted()
 {
     if ( m_isNoQuoteClosed )
@@ -356,7 +356,7 @@ std::string_view Unquoted( std::string_view a_text )
     return isQuoted ? a_text.substr( 1, a_text.size() - 2 ) : a_text;
 }
 
-// Most words are written in capitals, and comparing them with the capitals is faster.
+// Most words are written in upper case, and comparing them with the capitals is faster.
 bool IsWord( std::string_view a_text, std::string_view a_capitals )
 {
     return a_text == a_capitals || IsSameWord( a_text, a_capitals );
@@ -405,11 +405,11 @@ public:
     {
     }
 
-    /// \param a_wordEnd behind the name bytes at the start of the line.
+    /// \param a_wordEnd after the name bytes at the start of the line.
     void Read( size_t a_wordEnd );
     /// Reads the parameters of a line whose name has been read.
-    /// \param a_begin behind the name.
-    /// \param a_next  behind the parameters that have been read and noted.
+    /// \param a_begin after the name.
+    /// \param a_next  after the parameters that have been read and noted.
     void ReadParameters( size_t a_begin, size_t a_next );
     void NoteParameter( const Parameter& a_parameter );
 
@@ -436,7 +436,7 @@ void HeadReader::Read( size_t a_wordEnd )
 
 /// Reads a name such as `TEL` or `item1.TEL`.
 ///
-/// \return the place of the delimiter behind it; 0 for any other name.
+/// \return the position of the delimiter after it; 0 for any other name.
 size_t HeadReader::ReadPlainName( size_t a_wordEnd )
 {
     const bool hasGroup = a_wordEnd < m_line.size() && m_line[a_wordEnd] == '.';
@@ -554,7 +554,7 @@ Q_NEVER_INLINE void NoteParameter( std::string_view a_text, const Parameter& a_p
 }
 
 // Passes over parameters such as `;HOME` and `;TYPE=HOME,WORK`.
-// \return the place behind them.
+// \return the position after them.
 inline size_t PassPlainParameters( std::string_view a_text, size_t a_begin, DelimiterSearch& a_delimiters,
                                    LineHead& a_head )
 {
@@ -682,7 +682,7 @@ LineLooks LooksOf( const LineHead& a_head, std::string_view a_line )
         return MayBeOddName( name ) ? LineLooks::Property : LineLooks::Text;
     if ( IsExtensionName( name ) )
         return LineLooks::ClearlyProperty;
-    // Names are written in capitals, or all small; "Tel: 555" is a line of a note.
+    // Names are written either in upper case or in lower case; "Tel: 555" is a line of a note.
     if ( IsKnownName( name ) )
         return HasLower( name ) && HasUpper( name ) ? LineLooks::Property : LineLooks::ClearlyProperty;
     return a_head.m_hasWordsForParameters ? LineLooks::Text : LineLooks::Property;

@@ -39,7 +39,7 @@ inline Word WordAt( const char* a_place )
     return qFromLittleEndian( word );
 }
 
-// Has its high bit set for each byte below 0x20. A byte behind one of them may be wrong, but none is missed.
+// Has its high bit set for each byte below 0x20. A byte after one of them may be wrong, but none is missed.
 inline Word ControlsOf( Word a_word )
 {
     return ( a_word - EachByte( 0x20 ) ) & ~a_word & EachByte( 0x80 );

@@ -39,7 +39,7 @@ LineLooks LooksOf( std::string_view a_text )
     return LooksOf( LineHead::Of( a_text ), a_text );
 }
 
-// From places in an unfolded text to places in the text with its folds.
+// From positions in an unfolded text to positions in the text with its folds.
 class PlaceMap
 {
 public:
@@ -137,7 +137,7 @@ void LogicalLines::Continue( IndexWriter& a_index, const CardFacts& a_facts, qui
     m_written = a_written;
 }
 
-// Behind the indentation of the card.
+// After the indentation of the card.
 quint32 LogicalLines::ContentBegin( const CardLine& a_line ) const
 {
     quint32 begin = a_line.m_begin;
@@ -268,7 +268,7 @@ bool LogicalLines::EndsInEquals( const OpenLine& a_line ) const
     return !text.empty() && text.back() == '=';
 }
 
-// `NOTE;ENCODING=` may be folded behind its "=", so a candidate without a colon is not settled before a fold.
+// `NOTE;ENCODING=` may be folded after its "=", so a candidate without a colon is not settled before a fold.
 bool LogicalLines::TakeBehindEquals( const CardLine& a_line, bool a_isFold )
 {
     OpenLine* const last = m_candidate->m_isOpen ? m_candidate : m_current;
@@ -378,7 +378,7 @@ bool LogicalLines::IsCandidateData() const
     return m_current->m_isOpen && HoldsBase64() && IsBase64( text ) && text.size() % s_kBase64Group == 0;
 }
 
-// BASE64 goes on without indentation, and then with it.
+// BASE64 continues without indentation, and then with it.
 bool LogicalLines::IsFoldOfData( std::string_view a_text )
 {
     OpenLine& line = *m_candidate;
@@ -421,7 +421,7 @@ bool LogicalLines::MayJoinComment() const
            IsSameWord( name, "LABEL" ) || IsSameWord( name, "ADR" );
 }
 
-// Some programs write an empty line behind each line, folded lines included.
+// Some programs write an empty line after each line, folded lines included.
 bool LogicalLines::IsFoldBehindEmptyLine( quint32 a_blanks ) const
 {
     return a_blanks > 0 && m_candidate->m_emptyLinesBefore == 1 && !m_current->m_isJoined && m_indentation == 0;
@@ -589,7 +589,7 @@ IndexEntry LogicalLines::EntryOf( const OpenLine& a_line )
     IndexEntry entry;
     entry.m_length = a_line.m_end - a_line.m_begin;
     entry.SetHead( a_line.m_head );
-    // Blanks behind a name without a colon are not the value.
+    // Blanks after a name without a colon are not the value.
     if ( !entry.m_hasColon && !a_line.m_isHeadFolded )
         entry.m_valueBegin = a_line.m_firstTextEnd - a_line.m_begin;
     entry.m_hasFolds = a_line.m_hasFolds;

@@ -102,7 +102,7 @@ struct PropertyRules
 /// \return the rules of a version in the order of its standards; none for an unknown version.
 PropertyRules RulesOf( PimContactVersion a_version );
 
-/// Finds the rule of a property. Takes constant time.
+/// Finds the rule of a property. Constant time.
 /// \return null if the version does not have the property.
 const PropertyRule* FindRule( PropertyId a_property, PimContactVersion a_version );
 

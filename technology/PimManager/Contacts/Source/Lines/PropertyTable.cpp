@@ -179,7 +179,7 @@ constexpr size_t s_kSlots = 512;
 constexpr quint8 s_kNoRow = 0xFF;
 static_assert( s_kRows.size() < s_kNoRow );
 
-// The first eight bytes of a name in capitals, and its length.
+// The first eight bytes of a name in upper case, and its length.
 struct Key
 {
     quint64 m_bytes = 0;

@@ -91,15 +91,15 @@ enum class PropertyId : quint8
 /// The number of properties.
 constexpr size_t s_kProperties = static_cast<size_t>( PropertyId::Xml ) + 1;
 
-/// Determines the property with a name. Takes constant time.
+/// Determines the property with a name. Constant time.
 /// \param a_name in any letter case.
 PropertyId PropertyOf( std::string_view a_name );
 
-/// The same for a name that is the beginning of a text. It takes less time if the text goes on.
+/// The same for a name that is the beginning of a text. It takes less time if the text continues.
 /// \param a_length the length of the name, from 1.
 PropertyId PropertyAt( std::string_view a_text, size_t a_length );
 
-/// Determines the property of a standard with a name. Takes constant time.
+/// Determines the property of a standard with a name. Constant time.
 /// \param a_name in any letter case.
 /// \return Other for the names of vendors as well.
 PropertyId StandardPropertyOf( std::string_view a_name );
@@ -107,7 +107,7 @@ PropertyId StandardPropertyOf( std::string_view a_name );
 /// \return true for a name that begins with `X-` in any letter case and is longer.
 bool IsExtensionName( std::string_view a_name );
 
-/// \return the name that a standard gives the property, in capitals; empty for properties of vendors only.
+/// \return the name that a standard gives the property, in upper case; empty for properties of vendors only.
 std::string_view NameOf( PropertyId a_property );
 
 } // namespace PimManager::Contacts

@@ -13,7 +13,7 @@ namespace
 
 constexpr std::string_view s_kEscaped = "\\,;:nN";
 
-// \return the place of the first backslash before something else, which may be a break.
+// \return the position of the first backslash before something else, which may be a break.
 size_t FirstUnknown( std::string_view a_value )
 {
     size_t place = 0;

@@ -14,7 +14,7 @@ namespace PimManager::Contacts
 struct UnknownEscapes
 {
     qint64 m_count = 0;
-    /// The place of the first one in the line.
+    /// The position of the first one in the line.
     quint32 m_first = 0;
 };
 

@@ -66,7 +66,7 @@ inline void Write( quint32 a_group, char* a_place )
 }
 
 /// Decodes complete groups up to the first one that has another character.
-/// \param a_out advances behind the output. The byte there is overwritten.
+/// \param a_out advances after the output. The byte there is overwritten.
 /// \return the end of what was decoded.
 const char* DecodeGroups( const char* a_text, const char* a_end, char*& a_out )
 {
@@ -96,7 +96,7 @@ const char* DecodeGroups( const char* a_text, const char* a_end, char*& a_out )
     return place;
 }
 
-/// Decodes the group that a break divides: a CR LF and the blank behind it, as in a folded line.
+/// Decodes the group that a break divides: a CR LF and the blank after it, as in a folded line.
 /// \return the end of the group; a_text if there is anything else.
 const char* DecodeDividedGroup( const char* a_text, const char* a_end, char*& a_out )
 {
@@ -121,7 +121,7 @@ const char* DecodeDividedGroup( const char* a_text, const char* a_end, char*& a_
 }
 
 /// Decodes complete groups and the breaks of folded lines.
-/// \param a_out advances behind the output. Four bytes there are overwritten.
+/// \param a_out advances after the output. Four bytes there are overwritten.
 /// \return the number of characters decoded.
 size_t DecodeLines( std::string_view a_text, char*& a_out )
 {

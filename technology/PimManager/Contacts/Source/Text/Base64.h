@@ -14,7 +14,7 @@ namespace PimManager::Contacts
 /// Decodes BASE64 that is passed in pieces (RFC 4648, section 4). The result does not depend on how the text is cut.
 ///
 /// White space is ignored, and padding is optional. Any other character that does not belong to the alphabet is a
-/// fault, and so are data behind the padding and a single character that is left over at the end. Decoding ends at the
+/// fault, and so are data after the padding and a single character that is left over at the end. Decoding ends at the
 /// first fault; what precedes it is kept.
 class Base64Decoder
 {
@@ -25,14 +25,14 @@ public:
     Base64Decoder( size_t a_length, QByteArray& a_out );
 
     /// Decodes the next piece.
-    /// \return false behind a fault.
+    /// \return false after a fault.
     bool Take( std::string_view a_piece );
 
     /// Ends the text.
     /// \return false if there was a fault.
     bool Finish();
 
-    /// The place of the fault in all pieces: of the character at fault, or the end of the text. -1 without a fault.
+    /// The position of the fault in all pieces: of the character at fault, or the end of the text. -1 without a fault.
     qint64 FaultPlace() const { return m_faultPlace; }
 
 private:

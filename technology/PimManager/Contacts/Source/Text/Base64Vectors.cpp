@@ -90,7 +90,7 @@ __attribute__( ( target( "avx" ) ) ) inline __m128i VectorAt( const char* a_plac
     return _mm_loadu_si128( reinterpret_cast<const __m128i*>( a_place ) );
 }
 
-/// \return the 16 characters at a place, without the break behind the first a_before of them.
+/// \return the 16 characters at a position, without the break after the first a_before of them.
 __attribute__( ( target( "avx" ) ) ) inline __m128i VectorRoundBreak( const char* a_place, uint a_before )
 {
     // Selects as many bytes as are left of the 16 before its middle.

@@ -13,7 +13,7 @@ namespace PimManager::Contacts
 /// for it.
 ///
 /// \param a_size of the text.
-/// \param a_out  advances by 12 bytes for each 16 characters. Four bytes behind them are overwritten.
+/// \param a_out  advances by 12 bytes for each 16 characters. Four bytes after them are overwritten.
 /// \return the number of characters decoded, with the breaks.
 size_t DecodeBase64Vectors( const char* a_text, size_t a_size, char*& a_out );
 

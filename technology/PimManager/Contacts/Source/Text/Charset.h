@@ -68,10 +68,10 @@ public:
     {
     }
 
-    /// Finds a character set by a label, as a card or a caller writes it. Letter case, punctuation, and blanks round
+    /// Finds a character set by a label, as a card or a caller writes it. Letter case, punctuation, and blanks around
     /// the label are ignored.
     ///
-    /// Labels are unknown if they are longer than 40 bytes, or have other characters than letters, digits and
+    /// Labels are unknown if they are longer than 40 bytes, or have characters other than letters, digits and
     /// `-_.:+()`. All forms of UTF-16, UTF-32 and UTF-7 are unknown, because no line of a card can be in them. So are
     /// ISO-2022-KR, ISO-2022-CN and HZ, which the Encoding standard rejects as well.
     ///
@@ -86,7 +86,7 @@ public:
     constexpr bool IsUtf8() const { return m_id == Id::Utf8; }
     /// \return true if each byte is a character: see SingleByteTables.h.
     constexpr bool IsSingleByte() const { return m_id >= Id::Windows1250 && m_id <= Id::MacCyrillic; }
-    /// \return false if a text without bytes beyond 0x7F may have other characters than ASCII, as in ISO-2022-JP after
+    /// \return false if a text without bytes beyond 0x7F may have characters other than ASCII, as in ISO-2022-JP after
     ///         an escape sequence. True for Shift_JIS, GB18030 and Big5, although a byte below 0x80 may be the second
     ///         one of a character.
     constexpr bool ContainsAscii() const { return m_id != Id::Iso2022Jp; }

@@ -25,8 +25,8 @@ namespace PimManager::Contacts
 /// \param a_charset the character set of the text. Without one, the text is decoded as UTF-8.
 /// \param a_bytes   the text; at most 4 GiB, and no longer than a QByteArray may be.
 /// \param a_out     receives the UTF-8 after what it contains already.
-/// \param a_places  if given, receives one element for each byte that is added to \a a_out: the place in \a a_bytes of
-///                  the first byte of the character that it came from.
+/// \param a_places  if given, receives one element for each byte that is added to \a a_out: the position in \a a_bytes
+///                  of the first byte of the character that it came from.
 /// \note  May be called in several threads. The time is linear in the length of the text, whatever it contains.
 DecodeResult DecodeTo( Charset a_charset, std::string_view a_bytes, QByteArray& a_out,
                        std::vector<quint32>* a_places = nullptr );

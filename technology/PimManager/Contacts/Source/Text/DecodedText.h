@@ -16,15 +16,15 @@ struct DecodeResult
 {
     /// The number of malformed bytes. Each became one U+FFFD.
     qint64 m_malformed = 0;
-    /// The place of the first malformed byte, if there is one.
+    /// The position of the first malformed byte, if there is one.
     quint32 m_firstMalformed = 0;
     /// The text has characters that this system cannot decode, as a module of iconv() is missing. Their bytes count as
     /// malformed.
     bool m_isUnavailable = false;
 };
 
-/// The text that DecodeTo() appends to, the places of its characters, and what was malformed. A place is that of the
-/// first byte of a character in the encoded text.
+/// The text that DecodeTo() appends to, the positions of its characters, and what was malformed. A position is that of
+/// the first byte of a character in the encoded text.
 class DecodedText
 {
 public:

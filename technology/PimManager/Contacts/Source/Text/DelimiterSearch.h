@@ -13,7 +13,7 @@
 namespace PimManager::Contacts
 {
 
-/// Steps over the places of two bytes in a text, eight bytes at once.
+/// Steps over the positions of two bytes in a text, eight bytes at once.
 ///
 /// \code
 /// for ( DelimiterSearch search( "a;b,c", ';', ',' ); search.Next(); )
@@ -30,7 +30,7 @@ public:
     {
     }
 
-    /// \return false behind the last place; Place() is then the end of the text.
+    /// \return false after the last position; Place() is then the end of the text.
     bool Next()
     {
         while ( m_matches == 0 )
@@ -64,7 +64,7 @@ private:
         return ~( ( ( a_word & s_kLowBits ) + s_kLowBits ) | a_word | s_kLowBits );
     }
 
-    // The first byte is the lowest. NUL follows the text, and it is no delimiter.
+    // The first byte is the lowest. NUL follows the text, and it is not a delimiter.
     quint64 WordAt( size_t a_place ) const
     {
         return FirstEight( std::string_view( m_text.data() + a_place, m_text.size() - a_place ) );
@@ -74,7 +74,7 @@ private:
     quint64 m_first;
     quint64 m_second;
     size_t m_next = 0;
-    // Where the last word began, and its places that are still to come.
+    // Where the last word began, and its positions that are still to come.
     size_t m_word = 0;
     quint64 m_matches = 0;
     size_t m_place = 0;

@@ -27,7 +27,7 @@ inline quint64 WordAt( const char* a_place )
     return qFromLittleEndian( word );
 }
 
-/// \return the first eight bytes of a text, which may be empty. Behind a shorter text, the bytes are zero.
+/// \return the first eight bytes of a text, which may be empty. After a shorter text, the bytes are zero.
 inline quint64 FirstEight( std::string_view a_text )
 {
     // The first and the last half of a shorter text, which may overlap.
@@ -57,7 +57,7 @@ inline quint64 FirstEightOf( std::string_view a_text, size_t a_length )
     return WordAt( a_text.data() ) & ( ~quint64( 0 ) >> ( 8 * missing ) );
 }
 
-/// The same as FirstEight(), but behind a shorter text, the bytes are those of a filler.
+/// The same as FirstEight(), but after a shorter text, the bytes are those of a filler.
 inline quint64 FirstEight( std::string_view a_text, char a_filler )
 {
     const quint64 missing = a_text.size() < s_kWord ? ~quint64( 0 ) << ( 8 * a_text.size() ) : 0;

@@ -16,7 +16,7 @@ namespace PimManager::Contacts
 /// the byte of the yen sign.
 ///
 /// The escape character of another escape sequence is malformed. Both bytes of a pair without a character are
-/// malformed, so that the pairs after it stay pairs. Control characters and blanks are valid between pairs.
+/// malformed, so that the pairs after it remain pairs. Control characters and blanks are valid between pairs.
 ///
 /// \param a_codec decodes EUC-JP, which has the same characters as pairs of bytes beyond ASCII. So no escape sequence
 ///                reaches iconv(), and no module for ISO-2022-JP is needed.

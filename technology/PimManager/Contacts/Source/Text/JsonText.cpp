@@ -245,7 +245,7 @@ void JsonText::Escape( std::string_view a_text )
 
 /// Appends what needs no escape at the start of a run, for which there is room: plain ASCII and most letters.
 /// \param a_textEnd the end of the text. A letter may go beyond the end of the run.
-/// \return the place of the first other character, or the end of the run or of the letter there.
+/// \return the position of the first other character, or the end of the run or of the letter there.
 inline const char* JsonText::CopyPlain( const char* a_begin, const char* a_runEnd, const char* a_textEnd )
 {
     const char* place = a_begin;

@@ -63,7 +63,7 @@ public:
     /// Appends brackets, names and the like.
     void Raw( std::string_view a_json ) { m_end = CopyBytes( a_json.data(), a_json.size(), Room( a_json.size() ) ); }
 
-    /// Appends what was appended before at a place.
+    /// Appends what was appended before at a position.
     void Again( size_t a_place, size_t a_length )
     {
         char* const end = Room( a_length );
@@ -89,18 +89,18 @@ public:
     void LowerName( std::string_view a_name );
     void Number( qint64 a_number );
 
-    /// How many bytes were appended, and the bytes from a place on. The view is valid until more is appended.
+    /// How many bytes were appended, and the bytes from a position on. The view is valid until more is appended.
     size_t Place() const { return static_cast<size_t>( m_end - m_begin ) - m_before; }
     std::string_view From( size_t a_place ) const
     {
         return std::string_view( m_begin + m_before + a_place, Place() - a_place );
     }
 
-    /// Inserts JSON before what was appended from a place on.
+    /// Inserts JSON before what was appended from a position on.
     /// \param a_json is not in the same byte array.
     void Insert( size_t a_place, std::string_view a_json );
 
-    /// Removes what was appended from a place on.
+    /// Removes what was appended from a position on.
     void Remove( size_t a_place ) { m_end = m_begin + m_before + a_place; }
 
     /// Removes all that was appended. The memory is kept, unless it is large.

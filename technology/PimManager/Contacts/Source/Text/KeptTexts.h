@@ -18,11 +18,11 @@ bool IsInside( std::string_view a_part, std::string_view a_text );
 class KeptTexts
 {
 public:
-    /// \param a_text must exist as long as its parts are wanted. The parts that were kept before are gone.
+    /// \param a_text must exist as long as its parts are needed. The parts that were kept before are gone.
     void Begin( std::string_view a_text );
 
     /// \param a_part a part of the text, or a decoded form of a part that is no longer. Each part may be kept twice.
-    /// \return the same text, which stays as it is until Begin() is called.
+    /// \return the same text, which remains as it is until Begin() is called.
     std::string_view Keep( std::string_view a_part );
 
 private:

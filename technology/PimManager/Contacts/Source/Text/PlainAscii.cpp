@@ -14,7 +14,7 @@ namespace
 
 constexpr std::ptrdiff_t s_kFourWords = 4 * s_kWord;
 
-// Sets the high bit of a byte that is odd. That of a plain byte may be set only behind an odd one.
+// Sets the high bit of a byte that is odd. That of a plain byte may be set only after an odd one.
 quint64 NotPrintable( quint64 a_word )
 {
     return a_word | ( a_word + s_kOnes ) | ( a_word - s_kOnes * ' ' );

@@ -20,7 +20,7 @@ namespace PimManager::Contacts
 /// \return true if one of eight bytes is anything else than plain ASCII: control characters, DEL, quotes, backslashes,
 ///         and all bytes beyond ASCII.
 ///
-/// Each line has the highest bit of a byte set if the byte is of its kind. Other bytes may have it set only behind a
+/// Each line has the highest bit of a byte set if the byte is of its kind. Other bytes may have it set only after a
 /// byte that is of that kind, or if they are beyond ASCII.
 inline bool HasSpecial( quint64 a_word )
 {

@@ -15,7 +15,7 @@ namespace PimManager::Contacts
 {
 
 /// A character set of iconv(). Bytes below 0x80 are ASCII in it, unless they are the second or a later byte of a
-/// character. The text is decoded one character at a time, so that the place of each character is known, and a
+/// character. The text is decoded one character at a time, so that the position of each character is known, and a
 /// malformed one costs no more than others.
 ///
 /// An object belongs to one thread.
@@ -38,7 +38,7 @@ public:
     /// Decodes one character.
     ///
     /// \param a_bytes begins with the character.
-    /// \param a_place the place of \a a_bytes in the whole text.
+    /// \param a_place the position of \a a_bytes in the whole text.
     /// \return the length of the character. Returns 0 if it is malformed, incomplete, or not available; then nothing is
     ///         appended.
     size_t DecodeFirst( std::string_view a_bytes, size_t a_place, DecodedText& a_text );

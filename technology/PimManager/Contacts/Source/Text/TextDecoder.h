@@ -18,7 +18,7 @@ namespace PimManager::Contacts
 /// unchanged; its character set is decided card by card.
 ///
 /// The first s_kSignatureBytes bytes decide. A file of a kind that cannot be an address book is reported as such and
-/// returned unchanged. A file is UTF-16 if it begins with a byte order mark of UTF-16, or if every other one of its
+/// returned unchanged. A file is UTF-16 if it begins with a byte order mark of UTF-16, or if every second one of its
 /// first four bytes is zero and the others are not. The byte order mark is converted like any other character, to
 /// `EF BB BF`. A surrogate without its other half becomes U+FFFD; so does a single byte at the end.
 ///

@@ -52,7 +52,7 @@ size_t LengthOfUsual( const char* a_place, const char* a_end )
 
 void Utf8Census::Take( std::string_view a_piece )
 {
-    // The members of a local copy can stay in registers.
+    // The members of a local copy can remain in registers.
     Utf8Census census = *this;
     const char* place = a_piece.data();
     const char* const end = place + a_piece.size();

@@ -54,7 +54,7 @@ size_t LengthOfWideSpace( std::string_view a_text )
 /// \param a_isNextVisible decides whether a blank that is the last of them is a single one.
 bool ArePlainWords( quint64 a_bytes, bool a_isNextVisible )
 {
-    // These have the high bit of each byte of ASCII from a blank on, behind a blank, and of DEL.
+    // These have the high bit of each byte of ASCII from a blank on, after a blank, and of DEL.
     const quint64 fromBlank = a_bytes + s_kOnes * ( 0x80 - ' ' );
     const quint64 behindBlank = a_bytes + s_kOnes * ( 0x80 - ' ' - 1 );
     const quint64 isDelete = a_bytes + s_kOnes;

@@ -11,7 +11,7 @@
 namespace PimManager::Contacts
 {
 
-/// A word in capitals and what it means.
+/// A word in upper case and what it means.
 template <typename Value>
 struct WordRow
 {
@@ -72,7 +72,7 @@ public:
 private:
     static constexpr size_t s_kLongest = 32;
 
-    // Sorted by length. The place of the first row of each length.
+    // Sorted by length. The position of the first row of each length.
     std::array<WordRow<Value>, s_kSize> m_rows;
     std::array<size_t, s_kLongest + 2> m_begins{};
 };

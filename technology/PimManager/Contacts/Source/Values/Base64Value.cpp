@@ -40,7 +40,7 @@ bool ConvertToUtf8( Charset a_charset, QByteArray& a_bytes, QByteArray& a_text )
 
 } // namespace
 
-// A picture has thousands of lines. Folds are white space, which the decoder ignores; the place of a fault does not
+// A picture has thousands of lines. Folds are white space, which the decoder ignores; the position of a fault does not
 // count them.
 qint64 DecodeBase64Value( const IndexedLine& a_line, QByteArray& a_bytes )
 {

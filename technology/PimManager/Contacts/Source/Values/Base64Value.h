@@ -17,7 +17,7 @@ namespace PimManager::Contacts
 /// Decodes the value of a line as BASE64.
 ///
 /// \param[out] a_bytes the bytes up to the first fault, after what it contains already.
-/// \return the place of the fault, see Base64Decoder; -1 without one.
+/// \return the position of the fault, see Base64Decoder; -1 without one.
 qint64 DecodeBase64Value( const IndexedLine& a_line, QByteArray& a_bytes );
 
 /// Decodes a value that is the BASE64 of text. Some phones write names so. It is if all of these are true:

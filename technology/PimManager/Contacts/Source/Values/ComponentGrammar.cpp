@@ -131,7 +131,7 @@ private:
 
     bool TakeElement() { return TakeByte( '"' ) ? TakeQuoted() : !TakeName().empty(); }
 
-    // Behind the quote.
+    // After the quote.
     bool TakeQuoted()
     {
         const size_t length = std::min( m_rest.find_first_of( "\"\\" ), m_rest.size() );

@@ -18,7 +18,7 @@ namespace PimManager::Contacts
 ///   QUOTED-PRINTABLE, BASE64, B, 7BIT or 8BIT, and at most one of the first three.
 /// - A backslash does not begin a component, and precedes a backslash, comma, semicolon or colon. BASE64 contains its
 ///   own characters and semicolons only.
-/// - One blank follows the line ending of a fold, and it is no text. The component removes all blanks.
+/// - One blank follows the line ending of a fold, and it is not text. The component removes all blanks.
 /// - Soft line breaks occur in values whose ENCODING is QUOTED-PRINTABLE. They do not follow an encoded line break,
 ///   because the component makes a blank of both.
 ///

@@ -14,7 +14,7 @@ namespace PimManager::Contacts
 /// is encoded inside parentheses: `X-CUSTOM(CHARSET=UTF-8,ENCODING=QUOTED-PRINTABLE,=42=6F=61=74)`.
 constexpr std::string_view s_kCustomParameter = "X-CUSTOM";
 
-/// \param a_parameter what is between two semicolons, without blanks round it.
+/// \param a_parameter what is between two semicolons, without blanks around it.
 /// \return true for X-CUSTOM with parentheses, in any letter case.
 bool IsEncodedLabel( std::string_view a_parameter );
 

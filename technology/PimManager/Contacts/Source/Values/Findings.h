@@ -24,7 +24,7 @@ public:
         m_problems = {};
         m_charset = Charset( Charset::Id::Utf8 );
     }
-    /// \param a_place -1 without a place.
+    /// \param a_place -1 without a position.
     void Add( PimContactDecodingProblem a_problem, qint64 a_place, qint64 a_count = 1 );
     void SetCharset( Charset a_charset ) { m_charset = a_charset; }
 

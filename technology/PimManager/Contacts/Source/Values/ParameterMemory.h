@@ -15,7 +15,7 @@ namespace PimManager::Contacts
 {
 
 /// The lines of a book have one of a few lists of parameters, such as `;TYPE=HOME,VOICE`. Reading them takes longer
-/// than reading the number behind them, so each thread remembers what the last ones have meant.
+/// than reading the number after them, so each thread remembers what the last ones have meant.
 ///
 /// \tparam Meaning holds no memory.
 template <class Meaning>

@@ -43,7 +43,7 @@ bool IsCharset( std::string_view a_word )
     return Charset::Of( a_word ).IsKnown();
 }
 
-/// \return the place of the quote that closes the one at the start: a comma or the end follows it.
+/// \return the position of the quote that closes the one at the start: a comma or the end follows it.
 size_t FindClosingQuote( std::string_view a_text )
 {
     size_t quote = a_text.find( '"', 1 );
@@ -170,7 +170,7 @@ void ParameterReader::BeginParameter( std::string_view a_parameter )
     m_isType = m_parameterName.empty() || IsSameWord( m_parameterName, s_kTypeParameter );
 }
 
-/// \return false if the next element is no value.
+/// \return false if the next element is not a value.
 bool ParameterReader::TakeValue()
 {
     if ( m_isLabel )

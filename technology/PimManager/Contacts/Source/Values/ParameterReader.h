@@ -36,7 +36,7 @@ public:
     /// \param a_parameters as LineHead::m_parameters; must outlive the reader.
     ParameterReader( std::string_view a_parameters, PimContactVersion a_version );
 
-    /// \return false behind the last value.
+    /// \return false after the last value.
     bool Next();
 
     /// True if the value is the first one of its parameter.

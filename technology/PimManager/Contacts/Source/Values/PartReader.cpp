@@ -86,7 +86,7 @@ inline bool PartReader::IsLiteral( size_t a_place )
     return m_literal != m_literalsEnd && *m_literal == a_place;
 }
 
-/// \return the first delimiter or backslash from a place on, or the end.
+/// \return the first delimiter or backslash from a position on, or the end.
 inline size_t PartReader::FindSpecial( size_t a_place )
 {
     size_t place = FindByte( a_place );
@@ -122,7 +122,7 @@ bool PartReader::Next()
     return true;
 }
 
-/// \return the place behind the escape.
+/// \return the position after the escape.
 size_t PartReader::TakeEscape( size_t a_backslash )
 {
     const size_t next = a_backslash + 1;

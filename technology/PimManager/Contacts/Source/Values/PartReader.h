@@ -18,8 +18,8 @@ namespace PimManager::Contacts
 struct EscapedText
 {
     std::string_view m_text;
-    /// Semicolons, commas and backslashes that were written as QUOTED-PRINTABLE, by their places. They neither delimit
-    /// nor escape.
+    /// Semicolons, commas and backslashes that were written as QUOTED-PRINTABLE, by their positions. They neither
+    /// delimit nor escape.
     const std::vector<quint32>* m_literals = nullptr;
 };
 
@@ -46,13 +46,13 @@ public:
     /// \param a_findings receives UnknownEscape and EscapedQuote.
     PartReader( const EscapedText& a_text, Delimiters a_delimiters, QByteArray& a_buffer, Findings& a_findings );
 
-    /// \return false behind the last part.
+    /// \return false after the last part.
     bool Next();
 
     /// The part. Valid until the next call of Next().
     std::string_view Text() const { return m_part; }
 
-    /// The delimiter behind the part; NUL at the end.
+    /// The delimiter after the part; NUL at the end.
     char Delimiter() const { return m_delimiter; }
 
 private:

@@ -14,7 +14,7 @@ class PlainParameters
 {
 public:
     /// \return true if a text consists of name bytes, semicolons, commas, and one "=" at most in each parameter, with a
-    ///         name before it and a value behind it.
+    ///         name before it and a value after it.
     static bool AreIn( std::string_view a_parameters );
 
     explicit PlainParameters( std::string_view a_parameters ) :
@@ -22,7 +22,7 @@ public:
     {
     }
 
-    /// \return false behind the last value.
+    /// \return false after the last value.
     bool Next();
 
     /// The name as written; empty for a bare word.

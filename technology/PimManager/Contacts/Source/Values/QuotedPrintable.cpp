@@ -40,7 +40,7 @@ inline uint DigitsAt( const char* a_place )
     return high << s_kBitsOfDigit | low;
 }
 
-/// \return the byte that is encoded at a place; s_kNoDigit or more if there is none.
+/// \return the byte that is encoded at a position; s_kNoDigit or more if there is none.
 inline uint EncodedByte( std::string_view a_text, size_t a_place )
 {
     if ( a_text.size() - a_place < s_kLength || a_text[a_place] != '=' )
@@ -48,8 +48,8 @@ inline uint EncodedByte( std::string_view a_text, size_t a_place )
     return DigitsAt( a_text.data() + a_place + 1 );
 }
 
-/// Decodes the encoded bytes at a place.
-/// \param a_place advances behind them.
+/// Decodes the encoded bytes at a position.
+/// \param a_place advances after them.
 /// \return the end of the output.
 char* DecodeRun( std::string_view a_text, size_t& a_place, char* a_out )
 {

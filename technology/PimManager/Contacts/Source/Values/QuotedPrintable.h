@@ -23,15 +23,15 @@ struct EncodedRun
 struct QuotedPrintableFaults
 {
     qint64 m_count = 0;
-    /// The place of the first one.
+    /// The position of the first one.
     quint32 m_first = 0;
 };
 
-/// Decodes a text without soft line breaks (RFC 2045, section 6.7). Small hexadecimal digits are accepted. A "=" that
-/// no two digits follow is kept. An encoded line break, `=0D=0A`, becomes a line feed.
+/// Decodes a text without soft line breaks (RFC 2045, section 6.7). Lower-case hexadecimal digits are accepted. A "="
+/// that no two digits follow is kept. An encoded line break, `=0D=0A`, becomes a line feed.
 ///
 /// \param[out] a_out  the decoded text, after what it contains already.
-/// \param[out] a_runs the bytes that were encoded, by their place in a_out.
+/// \param[out] a_runs the bytes that were encoded, by their position in a_out.
 QuotedPrintableFaults DecodeQuotedPrintable( std::string_view a_text, QByteArray& a_out,
                                              std::vector<EncodedRun>& a_runs );
 

@@ -325,7 +325,7 @@ void ValueDecoder::ConvertSegment( std::string_view a_text, ByteRange a_segment,
         NoteLiterals( outBegin, a_segment.m_begin );
 }
 
-// Of the text that was added to m_utf8 from a place on. m_places says where its bytes are in the segment.
+// Of the text that was added to m_utf8 from a position on. m_places says where its bytes are in the segment.
 void ValueDecoder::NoteLiterals( quint32 a_outBegin, quint32 a_segmentBegin )
 {
     for ( size_t i = 0; i < m_places.size(); ++i )

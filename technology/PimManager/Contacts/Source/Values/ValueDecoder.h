@@ -21,7 +21,7 @@ namespace PimManager::Contacts
 /// BASE64 is decoded, then the character set; the text is split at its delimiters, and the escapes of each part are
 /// removed.
 ///
-/// A byte that was encoded, or that is a part of another character, neither delimits nor escapes: `=3B` is no
+/// A byte that was encoded, or that is a part of another character, neither delimits nor escapes: `=3B` is not a
 /// delimiter, and neither is 0x5C in the character `83 5C` of Shift_JIS. BASE64 encodes a value as a whole, so its
 /// delimiters and escapes are those of the decoded text.
 ///
@@ -34,7 +34,7 @@ public:
     /// \param a_line must outlive the texts of the value.
     void Decode( const IndexedLine& a_line );
 
-    /// \return true if the value of a line is text in UTF-8 as it is written, but for its escapes.
+    /// \return true if the value of a line is text in UTF-8 as written, except for its escapes.
     static bool IsPlain( const IndexedLine& a_line )
     {
         return a_line.m_entry.m_encoding == PimContactEncoding::None && !a_line.IsContinued() &&
@@ -100,7 +100,7 @@ private:
     std::vector<EncodedRun> m_runs;
     std::vector<quint32> m_literals;
     std::vector<quint32> m_places;
-    // The first run that does not end before the place that NoteLiterals() has reached.
+    // The first run that does not end before the position that NoteLiterals() has reached.
     size_t m_run = 0;
     bool m_isBase64Text = false;
     // A value was long, and so may be the memory.

@@ -63,7 +63,7 @@ void CardWriter::WriteParts( const PimContactCard& a_card )
     m_sink.EndCard();
 }
 
-// VERSION stays where it is, but in 4.0 it follows BEGIN.
+// VERSION remains where it is, but in 4.0 it follows BEGIN.
 void CardWriter::WriteStart( const PimContactCard& a_card )
 {
     m_sink.BeginCard();

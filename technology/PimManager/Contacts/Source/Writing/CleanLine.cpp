@@ -77,7 +77,7 @@ bool HasGoodLayout( std::string_view a_line )
     return false;
 }
 
-/// Takes the parameter at the start of a text that begins behind a semicolon.
+/// Takes the parameter at the start of a text that begins after a semicolon.
 /// \param[out] a_values what follows "="; empty without it.
 /// \return the name, or the bare word; empty if it is malformed.
 std::string_view TakeParameter( std::string_view& a_rest, std::string_view& a_values )
@@ -423,7 +423,7 @@ bool CleanLine::IsCleanQuotedPrintable( const IndexedLine& a_line )
         const std::string_view encoded = value.substr( place + 1, 2 );
         if ( encoded == "\r\n" )
         {
-            // Programs do not agree on whether a blank behind it is a part of the text.
+            // Programs do not agree on whether a blank after it is a part of the text.
             if ( place + 3 < value.size() && IsBlank( value[place + 3] ) )
                 return false;
             --lineBreaks;

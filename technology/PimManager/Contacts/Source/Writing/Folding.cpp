@@ -24,8 +24,8 @@ bool EndsInOdd( std::string_view a_text, char a_byte )
     return ( a_text.size() - first ) % 2 != 0;
 }
 
-/// \return true if what precedes a place and what follows it belong together. A "=" at the end of a physical line looks
-///         like a soft line break, also with blanks behind it.
+/// \return true if what precedes a position and what follows it belong together. A "=" at the end of a physical line
+///         looks like a soft line break, also with blanks after it.
 bool IsBadFold( std::string_view a_text, size_t a_place )
 {
     const size_t last = a_text.find_last_not_of( " \t", a_place - 1 );
@@ -49,7 +49,7 @@ size_t PlaceOfFold( std::string_view a_text, size_t a_most )
     return place > 1 ? place : best;
 }
 
-/// \return the place before an encoded byte that ends at a_place or behind it; otherwise a_place.
+/// \return the position before an encoded byte that ends at a_place or after it; otherwise a_place.
 size_t BeforeEncodedByte( std::string_view a_text, size_t a_place )
 {
     for ( size_t back = 1; back <= 2 && back < a_place; ++back )
@@ -110,7 +110,7 @@ void AppendSoftBroken( std::string_view a_head, std::string_view a_value, QByteA
     size_t width = s_kLineLength - std::min( a_head.size(), s_kLineLength );
     while ( rest.size() > width )
     {
-        // One place is for the "=".
+        // One position is for the "=".
         const size_t place = width < 10 ? 0 : PlaceOfSoftBreak( rest, width - 1 );
         AppendAll( a_out, { rest.substr( 0, place ), s_kSoftBreak } );
         rest.remove_prefix( place );

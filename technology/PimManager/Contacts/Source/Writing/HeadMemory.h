@@ -21,7 +21,7 @@ class WrittenHead
 public:
     bool IsKnown() const { return m_length > 0; }
     std::string_view Text() const { return std::string_view( m_text.data(), m_length ); }
-    /// A long head stays unknown.
+    /// A long head remains unknown.
     void Set( std::string_view a_text );
 
 private:

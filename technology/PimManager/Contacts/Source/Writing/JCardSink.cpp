@@ -75,7 +75,7 @@ std::string_view WithoutPadding( std::string_view a_number )
     return text;
 }
 
-// RFC 8259, section 6, but for the sign.
+// RFC 8259, section 6, except for the sign.
 bool IsJsonNumber( std::string_view a_text )
 {
     if ( a_text.empty() || !IsDigit( a_text.front() ) )
@@ -196,7 +196,7 @@ void JCardSink::AddValues( const ParameterText& a_parameter )
 {
     if ( a_parameter.Is( StandardParameter::Type ) )
     {
-        // A reader removes white space round a type.
+        // A reader removes white space around a type.
         const std::string_view type = WithoutOuterSpace( a_parameter.m_value );
         if ( !type.empty() )
             m_values.push_back( type );

@@ -20,7 +20,7 @@ namespace PimManager::Contacts
 /// 4.0, and what PropertyConverter makes of them is what VCardText writes in that version.
 ///
 /// - Names and groups are in lower case. A group is the parameter `group`. VALUE is the type of the value.
-/// - N and ADR have all components that they must have, also the empty ones behind the last text.
+/// - N and ADR have all components that they must have, also the empty ones after the last text.
 /// - Bytes are a `data:` URI, of type `unknown` in a property that has no URI. Dates and times are in the extended
 ///   form. A boolean is `true` or `false`. A number is a number of JSON, so without a plus sign and without zeros
 ///   before it.

@@ -76,7 +76,7 @@ bool PlainChange::TakeOld( const LineHeadText& a_head, std::string_view a_value,
     return true;
 }
 
-/// \return false if the target has no place for all texts, or wants more components.
+/// \return false if the target has no room for all texts, or wants more components.
 bool PlainChange::ReadTexts( std::string_view a_value, const PlainChangeRule& a_rule )
 {
     m_texts.clear();

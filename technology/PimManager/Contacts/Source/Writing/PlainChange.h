@@ -1,5 +1,5 @@
 /// \file
-/// The short road to another version.
+/// The fast path to another version.
 
 #pragma once
 
@@ -33,12 +33,12 @@ public:
 
     void BeginCard( const CardRecord& a_record, VersionStep a_step, const PropertySet& a_properties );
 
-    /// \return false if the lines of a property must take the long road in this card.
+    /// \return false if the lines of a property must take the slow path in this card.
     bool MayTake( PropertyId a_property ) const;
 
     /// Writes a line of such a property. Its head is known, and its rule allows it.
     /// \param a_bytes with the line endings.
-    /// \return false if the line must take the long road. Nothing is written then.
+    /// \return false if the line must take the slow path. Nothing is written then.
     bool Take( std::string_view a_bytes, const IndexReader::PlainLine& a_line, const HeadMeaning& a_meaning );
 
 private:

@@ -13,7 +13,7 @@ namespace PimManager::Contacts
 namespace
 {
 
-// VersionChanges changes no value of these, but for numbers and numbers of components.
+// VersionChanges changes no value of these, except for numbers and numbers of components.
 bool IsPlainProperty( PropertyId a_property )
 {
     switch ( a_property )
@@ -56,7 +56,7 @@ bool HasComponents( const PropertyRule& a_rule )
     return a_rule.m_shape == ValueShape::Components || a_rule.m_shape == ValueShape::ComponentLists;
 }
 
-// The one way to write a text with escapes: `\\n`, `\\,` and `\\;`. Others are left to the long road.
+// The one way to write a text with escapes: `\\n`, `\\,` and `\\;`. Others are left to the slow path.
 bool HasUsualEscapes( std::string_view a_value )
 {
     for ( size_t place = a_value.find( '\\' ); place != std::string_view::npos;

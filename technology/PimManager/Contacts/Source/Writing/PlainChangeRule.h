@@ -29,7 +29,7 @@ struct VersionStep
 };
 
 /// Lines such as FN, TEL and ADR whose name is the same in another version, and whose only parameters are words of
-/// TYPE. What becomes of such a head does not depend on the value, and most values stay as they are.
+/// TYPE. What becomes of such a head does not depend on the value, and most values remain as they are.
 struct PlainChangeRule
 {
     /// \param a_parameters from the first semicolon up to the colon; may be empty.

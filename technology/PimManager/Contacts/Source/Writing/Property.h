@@ -20,7 +20,7 @@ namespace PimManager::Contacts
 /// One value of a parameter.
 struct ParameterText
 {
-    /// Of a standard parameter in capitals, else as written.
+    /// Of a standard parameter in upper case, else as written.
     std::string_view m_name;
     /// Decoded, in UTF-8. It may have any line breaks and control characters.
     std::string_view m_value;

@@ -315,7 +315,7 @@ void VCardText::AppendParameterValue( const ParameterText& a_parameter )
         value = ViewOf( clean );
         m_lostParameter = a_parameter.m_name;
     }
-    // A reader removes white space round a type, also in quotes.
+    // A reader removes white space around a type, also in quotes.
     if ( a_parameter.Is( StandardParameter::Type ) )
         value = WithoutOuterSpace( value );
     const bool isQuoted = NeedsQuotes( value );

@@ -48,7 +48,7 @@ public:
 
     /// Appends what is written already.
     void TakeWritten( std::string_view a_text );
-    /// Appends a line that is written already, but for its folds and its line ending.
+    /// Appends a line that is written already, except for its folds and its line ending.
     void TakeLong( std::string_view a_line );
     /// Appends a line whose value is written as it is. In 2.1, IsShort() must accept the line.
     void TakeValue( const LineHeadText& a_head, std::string_view a_value );
@@ -58,7 +58,7 @@ public:
     void TakeOldTexts( const LineHeadText& a_head, const std::vector<ValueText>& a_texts, ValueShape a_shape );
     /// The head of the property that was taken last, without its group.
     std::string_view Head() const { return ViewOf( m_line ).substr( m_headBegin, m_headLength ); }
-    /// Appends the line of a property that holds a card, which follows.
+    /// Appends the line of a property that contains a card, which follows.
     void TakeHolder( const Property& a_property );
     /// Lines are not folded, because they are to be a text.
     void SetUnfolded() { m_isFolded = false; }

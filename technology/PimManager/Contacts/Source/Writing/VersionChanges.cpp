@@ -100,7 +100,7 @@ bool AreEmpty( const std::vector<ValueText>& a_texts, quint32 a_component )
                         { return a_text.m_component != a_component || a_text.m_text.empty(); } );
 }
 
-/// Puts texts into a component, behind its others.
+/// Puts texts into a component, after its others.
 void AddTexts( std::vector<ValueText>& a_texts, quint32 a_component, const std::vector<std::string_view>& a_added )
 {
     if ( a_added.empty() )
@@ -118,7 +118,7 @@ void AddTexts( std::vector<ValueText>& a_texts, quint32 a_component, const std::
     a_texts.insert( place, added.begin(), added.end() );
 }
 
-/// Puts the texts of one component into another one as well, but for those that it has.
+/// Puts the texts of one component into another one as well, except for those that it has.
 void CopyTexts( std::vector<ValueText>& a_texts, quint32 a_from, quint32 a_to )
 {
     std::set<std::string_view> known = { std::string_view() };
@@ -635,7 +635,7 @@ void VersionChanges::ChangePosition( Property& a_property )
         return Note( Code::ValueChanged );
     const auto number = []( double a_number )
     { return QString::number( a_number, 'f', QLocale::FloatingPointShortest ).toLatin1(); };
-    // An altitude or an uncertainty has no place before 4.0.
+    // An altitude or an uncertainty cannot be written before 4.0.
     const std::string_view uri = WithoutOuterSpace( written );
     if ( !Is40() && ( std::count( uri.begin(), uri.end(), ',' ) > 1 ||
                       ( LengthOfScheme( uri ) > 0 && uri.find( ';' ) != std::string_view::npos ) ) )

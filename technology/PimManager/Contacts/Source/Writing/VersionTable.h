@@ -40,7 +40,7 @@ struct VersionRow
 /// \return the row of a property. One that no version changes has a row without names.
 const VersionRow& VersionRowOf( PropertyId a_property );
 
-/// \return the name that a property has in a version. Names that are not in the row, such as those of vendors, stay.
+/// \return the name that a property has in a version. Names that are not in the row, such as those of vendors, remain.
 std::string_view NameIn( std::string_view a_name, PropertyId a_property, PimContactVersion a_version );
 
 /// \return the rows as a table in Markdown, as docs/vcard-support.md has it.

@@ -49,11 +49,11 @@ private:
     ValueCheck m_value;
 
     std::array<bool, s_kProperties> m_isFound = {};
-    // Of properties that may occur once: the number of the property, and its ALTID.
+    // For properties that may occur once: the number of the property, and its ALTID.
     QSet<QByteArray> m_altIds;
     bool m_isFirstLine = true;
     bool m_isGroup = false;
-    // Of the first MEMBER; 0 for none.
+    // The line of the first MEMBER; 0 if there is none.
     qint64 m_memberLine = 0;
 };
 

@@ -1,5 +1,5 @@
 /// \file
-/// The forms of dates and times that each version has.
+/// The forms of dates and times in each version.
 
 #pragma once
 
@@ -12,8 +12,8 @@
 namespace PimManager::Contacts
 {
 
-/// Checks a date or a time: that of 4.0 by RFC 6350, section 4.3; that of 3.0 by RFC 2425, section 5.8.4; and that of
-/// 2.1 by ISO 8601, in the basic or in the extended format. A day must exist.
+/// Checks a date or a time: in 4.0 by RFC 6350, section 4.3; in 3.0 by RFC 2425, section 5.8.4; in 2.1 by ISO 8601, in
+/// the basic or the extended format. A day must exist.
 ///
 /// \param a_type Date, Time, DateTime, DateAndOrTime or Timestamp.
 bool IsDateOfType( std::string_view a_text, ValueType a_type, PimContactVersion a_version );

@@ -15,7 +15,7 @@ namespace PimManager::Contacts
 class LayoutCheck
 {
 public:
-    /// \param a_line the line of the file that the card begins in.
+    /// \param a_line the line of the file in which the card begins.
     LayoutCheck( PimContactVersion a_version, qint64 a_line, Violations& a_violations ) :
         m_version( a_version ),
         m_line( a_line ),
@@ -23,7 +23,7 @@ public:
     {
     }
 
-    /// The line that the next part begins in.
+    /// The line in which the next part begins.
     qint64 Line() const { return m_line; }
 
     /// Checks a part.
@@ -39,7 +39,7 @@ private:
     Violations& m_violations;
     bool m_isLineEndReported = false;
 
-    // Of the part.
+    // For the current part.
     std::string_view m_piece;
     bool m_isFirst = true;
     bool m_isLong = false;

@@ -12,7 +12,7 @@
 namespace PimManager::Contacts
 {
 
-/// Checks the parameters of one line after the other, and keeps its memory.
+/// Checks the parameters of lines, one line after the other. Keeps its memory.
 class ParameterCheck
 {
 public:
@@ -21,7 +21,7 @@ public:
     {
     }
 
-    /// \param a_rule of the property; null if the version does not have it.
+    /// \param a_rule the rule of the property; null if the version does not have it.
     void Check( const IndexedLine& a_line, const PropertyRule* a_rule );
 
     /// \return true if VALUE names a type of the version.
@@ -45,7 +45,7 @@ private:
     Violations& m_violations;
     ValueDecoder m_decoder;
 
-    // Of the line.
+    // For the current line.
     PimContactVersion m_version = PimContactVersion::Unknown;
     const PropertyRule* m_rule = nullptr;
     bool m_hasValueType = false;

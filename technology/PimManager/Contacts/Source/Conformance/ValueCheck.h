@@ -13,7 +13,7 @@
 namespace PimManager::Contacts
 {
 
-/// Checks the values of one line after the other, and keeps its memory.
+/// Checks the values of lines, one line after the other. Keeps its memory.
 class ValueCheck
 {
 public:
@@ -22,9 +22,9 @@ public:
     {
     }
 
-    /// \param a_rule         of the property; null if the version does not have it.
+    /// \param a_rule         the rule of the property; null if the version does not have it.
     /// \param a_type         the type that VALUE names, if it names one.
-    /// \param a_hasNestedCard the line contains a card.
+    /// \param a_hasNestedCard true if the line contains a card.
     void Check( const IndexedLine& a_line, const PropertyRule* a_rule, const std::optional<ValueType>& a_type,
                 bool a_hasNestedCard );
 
@@ -45,7 +45,7 @@ private:
     Violations& m_violations;
     ValueDecoder m_decoder;
 
-    // Of the line.
+    // For the current line.
     PimContactVersion m_version = PimContactVersion::Unknown;
     const IndexedLine* m_line = nullptr;
     const PropertyRule* m_rule = nullptr;

@@ -20,7 +20,7 @@ inline bool IsHexDigit( char a_byte )
     return IsDigit( a_byte ) || ( a_byte >= 'A' && a_byte <= 'F' ) || ( a_byte >= 'a' && a_byte <= 'f' );
 }
 
-/// These are false for an empty text.
+/// These functions return false for an empty text.
 bool AreLetters( std::string_view a_text );
 bool AreLettersAndDigits( std::string_view a_text );
 
@@ -30,7 +30,7 @@ bool IsInteger( std::string_view a_text );
 /// \return true for digits with or without a sign and a fraction, such as `-122.08`.
 bool IsFloat( std::string_view a_text );
 
-/// \return true for digits that are a number in the range.
+/// \return true for digits whose number is in the range.
 bool IsBetween( std::string_view a_text, int a_least, int a_most );
 
 /// \return true for TRUE and FALSE in any letter case.

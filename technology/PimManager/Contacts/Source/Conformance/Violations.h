@@ -1,5 +1,5 @@
 /// \file
-/// Collects what does not conform.
+/// Collects violations of the standards.
 
 #pragma once
 
@@ -15,14 +15,13 @@
 namespace PimManager::Contacts
 {
 
-/// Something that does not conform.
+/// A violation of a standard.
 struct Violation
 {
     PimContactFindingCode m_code = PimContactFindingCode::MissingVersion;
     qint64 m_line = 1;
     StandardSection m_section;
-    /// The name of a property, and that of a parameter or a type. They are those of the tables, which always exist, and
-    /// may be empty.
+    /// The name of a property, and that of a parameter or a type; may be empty. They refer to static tables.
     std::string_view m_subject;
     std::string_view m_detail;
 };
@@ -36,18 +35,18 @@ public:
     Violation m_violation;
 };
 
-/// The violations of a card in two lists: those of the whole card precede those of its lines.
+/// The violations of a card in two lists. Those of the whole card are returned before those of its lines.
 class Violations
 {
 public:
-    /// Sets the line that the next violations are in.
+    /// Sets the line of the next violations.
     void SetLine( qint64 a_line ) { m_line = a_line; }
 
     /// Adds a violation in the current line.
     void Add( PimContactFindingCode a_code, const StandardSection& a_section, std::string_view a_subject = {},
               std::string_view a_detail = {} );
     /// Adds a violation of the whole card.
-    /// \param a_line the line to be shown.
+    /// \param a_line the line number to report.
     void AddOfCard( PimContactFindingCode a_code, qint64 a_line, const StandardSection& a_section,
                     std::string_view a_subject = {} );
 

@@ -17,8 +17,9 @@ namespace PimManager::Contacts
 /// is.
 ///
 /// \param a_text  the value in jCard.
-/// \param a_isTime what precedes a `T` is not a date; without a `T` the whole value is a time or an offset.
-/// \return false if it is nothing of that kind; nothing is appended then.
+/// \param a_isTime true if the text before a `T` is not a date. Without a `T`, the whole value is then a time or an
+///                 offset.
+/// \return false if it is none of these. Then nothing is appended.
 bool AppendBasicForm( std::string_view a_text, bool a_isTime, std::string& a_out );
 
 } // namespace PimManager::Contacts

@@ -1,5 +1,5 @@
 /// \file
-/// A file of jCards becomes a text of vCards.
+/// Converts a file of jCards to a text of vCards.
 
 #pragma once
 
@@ -27,7 +27,7 @@ struct JsonPlace
     qint64 m_lineOffset = 0;
 };
 
-/// Something that was found in the JSON.
+/// A finding in the JSON.
 struct JsonFinding
 {
     PimContactDiagnosticCode m_code = PimContactDiagnosticCode::JsonSyntax;
@@ -35,7 +35,7 @@ struct JsonFinding
     qint64 m_card = 0;
     JsonPlace m_place;
     qint64 m_count = 1;
-    /// Where it belongs in the converted text.
+    /// The position in the converted text that determines its order.
     qint64 m_offset = 0;
 };
 
@@ -43,25 +43,27 @@ struct JsonFinding
 /// jCard is returned unchanged.
 ///
 /// A text is a jCard if it begins with `[`, further brackets, and the string `vcard`; white space and a byte order mark
-/// may come first, together at most s_kLookedAt bytes. It may have any number of cards: in an array, in arrays inside
-/// each other, or one after the other.
+/// may precede it, together at most s_kLookedAt bytes. It may contain any number of cards: in an array, in nested
+/// arrays, or one after the other.
 ///
-/// Nothing is lost: what is not a property is the value of a property `X-JCARD` in its card. What is not a card,
-/// outside of cards, is a line that begins with `#`, with blanks for its line breaks; so it is text outside cards.
+/// Nothing is lost. A part of a card that is not a property becomes the value of a property `X-JCARD`. A part outside
+/// cards that is not a card becomes a line that begins with `#`, with blanks for its line breaks, so it is text outside
+/// cards.
 ///
-/// Errors of the syntax that do not touch a value are reported: commas that are missing or not wanted, and brackets
-/// that are not closed. A card that is not closed has no END.
+/// Syntax errors outside values are reported: missing or superfluous commas, and brackets that are not closed. A card
+/// that is not closed has no END.
 ///
-/// One property is in memory. One that is longer than the limit becomes X-JCARD, and its card is longer than the limit.
+/// Only one property is kept in memory. A property longer than the limit becomes X-JCARD, and its card is then longer
+/// than the limit.
 ///
 /// The converted text and the findings do not depend on how the text is cut into pieces.
 class JCardText
 {
 public:
-    /// How many bytes may come before the first card.
+    /// The largest number of bytes before the first card.
     static constexpr size_t s_kLookedAt = 4096;
 
-    /// \param a_longestProperty in bytes of JSON.
+    /// \param a_longestProperty the limit in bytes of JSON.
     explicit JCardText( qint64 a_longestProperty ) :
         m_longestProperty( static_cast<size_t>( a_longestProperty ) )
     {
@@ -71,15 +73,15 @@ public:
     /// Prepares for another text.
     void Reset();
 
-    /// \return the converted text that is complete so far; valid until the next call, and while the piece exists.
+    /// \return the converted text that is complete so far. Valid until the next call, and only while the piece exists.
     std::string_view Convert( std::string_view a_piece );
     /// Ends the text. \return the rest of it.
     std::string_view Finish();
 
-    /// What was found by the last call, in the order of the text.
+    /// The findings of the last call, in the order of the text.
     const std::vector<JsonFinding>& Findings() const { return m_findings; }
 
-    /// The text is not a jCard, and passes unchanged.
+    /// True if the text is not a jCard and is returned unchanged.
     bool IsUnchanged() const { return m_form == Form::Other; }
     bool IsJCard() const { return m_form == Form::JCard; }
 
@@ -104,7 +106,7 @@ private:
         Properties, // in the list of properties
         Tail,       // after that list
     };
-    // What may come next.
+    // What is expected next.
     enum class Comma
     {
         None,   // a value
@@ -150,7 +152,7 @@ private:
     // The next byte of the piece, and its end.
     const char* m_place = nullptr;
     const char* m_end = nullptr;
-    // How far the lines were counted.
+    // The position up to which the lines were counted.
     const char* m_countedTo = nullptr;
     JsonPlace m_counted;
 
@@ -161,7 +163,7 @@ private:
     qint64 m_cards = 0;
     bool m_hasVersion = false;
 
-    // A value that is looked for, and what the pieces before had of it.
+    // The value whose end is being searched, and its part in the previous pieces.
     bool m_isInValue = false;
     bool m_isLongValue = false;
     JsonValueSearch m_search;
@@ -170,7 +172,7 @@ private:
     PropertyConverter m_converter;
 
     std::string m_out;
-    // The converted text of the calls before.
+    // The length of the converted text of previous calls.
     qint64 m_outOffset = 0;
     std::vector<JsonFinding> m_findings;
 };

@@ -14,8 +14,8 @@ namespace PimManager::Contacts
 /// How the characters of a string are written.
 enum class StringForm
 {
-    Decoded, ///< as they are; line breaks become line feeds
-    OneLine, ///< as they are; line breaks become `\n`
+    Decoded, ///< unchanged; line breaks become line feeds
+    OneLine, ///< unchanged; line breaks become `\n`
     Uri,     ///< a backslash precedes backslashes; line breaks become `\n`
     Escaped, ///< as a text of vCard: a backslash precedes backslashes, commas and semicolons; line breaks become `\n`
 };
@@ -36,9 +36,9 @@ constexpr bool EndsJsonWord( char a_byte )
 /// \return the position of the first quote or backslash, or a_end.
 const char* FindQuoteOrBackslash( const char* a_begin, const char* a_end );
 
-/// Takes one token after the other from a text. No function reads beyond the end; at the end they return false.
+/// Reads the tokens of a text, one after the other. No function reads beyond the end. At the end they return false.
 ///
-/// Errors inside a string do not end it. They are counted: an unknown escape loses its backslash, a surrogate without
+/// Errors inside a string do not end it, but are counted. An unknown escape loses its backslash, a surrogate without
 /// its other half becomes U+FFFD, and control characters are kept.
 class JsonCursor
 {
@@ -53,14 +53,14 @@ public:
 
     /// \return the next byte that is not white space; NUL at the end.
     char Peek();
-    /// Takes a delimiter. \return false if something else comes next.
+    /// Reads a delimiter. \return false if something else is next.
     bool Take( char a_delimiter );
-    /// Appends the string that comes next. \return false if no whole string comes next.
+    /// Reads the next string and appends it. \return false if there is no complete string.
     bool AppendString( std::string& a_out, StringForm a_form );
-    /// Takes a number or another word. \return an empty text if none comes next or if it may continue after the end.
+    /// Reads a number or another word. \return an empty text if there is none or if it may continue after the end.
     std::string_view TakeWord();
 
-    /// How many bytes were taken.
+    /// The number of bytes that were read.
     size_t Length() const { return static_cast<size_t>( m_place - m_begin ); }
     /// The number of errors, and the position of the first one.
     qint64 Errors() const { return m_errors; }

@@ -1,5 +1,5 @@
 /// \file
-/// Finds the end of a JSON value that comes in pieces.
+/// Finds the end of a JSON value that is passed in pieces.
 
 #pragma once
 
@@ -8,7 +8,7 @@
 namespace PimManager::Contacts
 {
 
-/// Counts brackets and braces outside strings. Nothing else is checked, and nesting needs no memory.
+/// Counts brackets and braces outside strings. It checks nothing else, and nesting needs no memory.
 class JsonValueSearch
 {
 public:

@@ -1,5 +1,5 @@
 /// \file
-/// A property of jCard becomes a content line.
+/// Converts a property of jCard to a content line.
 
 #pragma once
 
@@ -26,16 +26,16 @@ namespace PimManager::Contacts
 ///   array inside it is a component of several texts.
 /// - A parameter value is written with the escapes of RFC 6868, and in quotes where it has to be.
 ///
-/// VERSION is 4.0, whatever version the jCard was made of. A line never has a line break inside.
+/// VERSION is always 4.0. A line never contains a line break.
 class PropertyConverter
 {
 public:
-    /// \param a_json may have more than the property.
-    /// \param[out] a_out the line with CR LF is appended.
-    /// \return false if the text does not begin with a whole property; nothing is appended then.
+    /// \param a_json a text that begins with the property.
+    /// \param[out] a_out the line with CR LF is appended to it.
+    /// \return false if the text does not begin with a complete property. Then nothing is appended.
     bool Convert( std::string_view a_json, std::string& a_out );
 
-    /// The length of the property, and what was wrong in its strings. Valid if Convert() returned true.
+    /// The length of the property, and the errors in its strings. Valid if Convert() returned true.
     size_t Length() const { return m_length; }
     qint64 Errors() const { return m_errors; }
     size_t FirstError() const { return m_firstError; }

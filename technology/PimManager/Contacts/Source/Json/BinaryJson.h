@@ -1,5 +1,5 @@
 /// \file
-/// Writes values that are bytes.
+/// Writes binary values.
 
 #pragma once
 
@@ -13,23 +13,23 @@
 namespace PimManager::Contacts
 {
 
-/// What became of a value.
+/// The result of writing a value.
 struct BinaryJson
 {
     bool m_isWritten = false;
     /// The position of the first character that could not be decoded; -1 if there is none, or if the value is text.
     qint64 m_faultPlace = -1;
-    /// Where the members `mediaType` and `size` are, with a comma before each of them.
+    /// The position of the members `mediaType` and `size`, each with a comma before it.
     size_t m_place = 0;
     size_t m_length = 0;
 };
 
 /// Writes the members `mediaType`, `size` and `data` for a value that is bytes (see BinaryValue.h). BASE64 without
-/// anything unusual is copied, and any other value is decoded and encoded again. Nothing is written for a text, and for
-/// a value that cannot be decoded.
+/// anything unusual is copied, and any other value is decoded and encoded again. Nothing is written for a text or for a
+/// value that cannot be decoded.
 ///
 /// \param a_head    the head of the line.
-/// \param a_decoder has decoded the value as far as DecodeBase64Text() does.
+/// \param a_decoder must have decoded the value, at least with DecodeBase64Text().
 BinaryJson WriteBinary( const IndexedLine& a_line, const HeadJson& a_head, const ValueDecoder& a_decoder,
                         JsonText& a_json );
 

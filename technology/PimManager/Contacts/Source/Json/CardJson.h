@@ -19,15 +19,15 @@
 namespace PimManager::Contacts
 {
 
-/// Writes one card after the other, and keeps its memory.
+/// Writes cards, one after the other. Keeps its memory.
 class CardJson
 {
 public:
-    /// \param a_file the member `file`; null to leave it out.
+    /// \param a_file the value of the member `file`; null to leave it out.
     void Write( const PimContactCard& a_card, const QByteArray& a_file, JsonText& a_json );
 
 private:
-    // Of a card and of each card that it is nested in.
+    // For a card and for each card around it.
     struct Level
     {
         ContactHead m_head;
@@ -46,7 +46,7 @@ private:
     // The outermost card.
     PimContactCard m_card;
     const PimContact m_noContact;
-    // Of the file, from 1: of the first byte of the outermost card.
+    // The line of the file with the first byte of the outermost card, from 1.
     qint64 m_firstLine = 1;
 };
 

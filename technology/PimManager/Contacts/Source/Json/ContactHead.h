@@ -1,5 +1,5 @@
 /// \file
-/// The members of a contact that precede its properties.
+/// The members of a contact that are written before its properties.
 
 #pragma once
 
@@ -19,11 +19,11 @@
 namespace PimManager::Contacts
 {
 
-/// What the parameters and the label of a line say about its field.
+/// The data of a field from the parameters and the label of its line.
 struct FieldHead
 {
     const HeadJson& m_head;
-    /// JSON: members with a comma before each of them.
+    /// JSON: members, each with a comma before it.
     std::string_view m_common;
     /// True if the value should be bytes and cannot be decoded.
     bool m_isDamaged = false;
@@ -47,7 +47,7 @@ struct FieldParts
     };
 
     const JsonText& m_json;
-    /// Without empty ones. Their positions are in m_json.
+    /// The texts, without empty ones, as positions in m_json.
     const std::vector<Part>& m_parts;
 
     std::string_view TextOf( const Part& a_part ) const
@@ -56,8 +56,8 @@ struct FieldParts
     }
 };
 
-/// Collects the members of a contact while its properties are written. Each value is decoded once; what takes several
-/// properties is deferred, see DeferredMembers.h. Keeps its memory.
+/// Collects the members of a contact while its properties are written. Each value is decoded only once. Members that
+/// need several properties are deferred, see DeferredMembers.h. Keeps its memory.
 class ContactHead
 {
 public:
@@ -75,11 +75,11 @@ public:
     void TakeUnit( const FieldText& a_unit );
     /// Ends an ORG.
     void EndUnits( const FieldHead& a_head );
-    /// Takes a picture, sound or key that is bytes.
+    /// Takes a binary picture, sound or key.
     /// \param a_members JSON: `mediaType` and `size`; empty if the value is damaged.
     /// \param a_property its position in the list of properties.
     void TakeMedia( const FieldHead& a_head, std::string_view a_members, size_t a_property );
-    /// Has members read by PimContact.
+    /// Marks members to be read by PimContact.
     void Defer( ContactMembers a_members ) { m_deferred |= a_members; }
 
     /// \return true if WriteTo() needs the contact.
@@ -104,7 +104,7 @@ private:
     bool m_hasVersion = false;
     bool m_hasFormattedName = false;
     QByteArray m_organisation;
-    // Of an ORG: all components, how many there were, and which of them have a text.
+    // For an ORG: all components, their number, and which of them have a text.
     QByteArray m_units;
     size_t m_unitCount = 0;
     bool m_hasOrganisation = false;

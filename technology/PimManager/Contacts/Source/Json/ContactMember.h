@@ -1,5 +1,5 @@
 /// \file
-/// The members of a contact that its properties make, and how each property is read.
+/// The members of a contact that come from its properties, and how each property is read.
 
 #pragma once
 
@@ -12,7 +12,7 @@
 namespace PimManager::Contacts
 {
 
-/// In the order of the JSON. Each but FormattedNames has the name of a function of PimContact.
+/// In the order of the JSON. Each except FormattedNames has the name of a function of PimContact.
 enum class ContactMember : quint8
 {
     NameParts, ///< PimContact::Name()
@@ -74,7 +74,7 @@ constexpr ContactMembers BitOf( ContactMember a_member )
     return ContactMembers( 1 ) << static_cast<unsigned>( a_member );
 }
 
-/// \return a comma, the name and a colon, and the bracket of a member that is a list.
+/// \return a comma, the name, a colon, and for a list its opening bracket.
 std::string_view BeginOf( ContactMember a_member );
 
 /// How a property becomes a part of a member.
@@ -94,7 +94,7 @@ enum class FieldWay : quint8
     Deferred, ///< PimContact reads it: it is rare, or needs other properties
 };
 
-/// What becomes of a property.
+/// How a property is handled.
 struct FieldRule
 {
     FieldWay m_way = FieldWay::None;

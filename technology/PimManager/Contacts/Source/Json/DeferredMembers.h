@@ -11,10 +11,10 @@
 namespace PimManager::Contacts
 {
 
-/// Appends a member, with a comma before it, as PimContact reads it; nothing if the contact has no such field.
+/// Appends a member with a comma before it, as PimContact reads it. Appends nothing if the contact has no such field.
 ///
-/// It can write every member, and is then the slow way to what ContactHead does on its way through the properties.
-/// Photos and other media are left to ContactHead.
+/// It can write every member, but more slowly than ContactHead, which collects members while it reads the properties.
+/// Photos and other media are always left to ContactHead.
 void WriteDeferred( ContactMember a_member, const PimContact& a_contact, JsonText& a_json );
 
 } // namespace PimManager::Contacts

@@ -1,5 +1,5 @@
 /// \file
-/// The JSON of what precedes the values of lines.
+/// The JSON of the heads of lines.
 
 #pragma once
 
@@ -25,7 +25,7 @@
 namespace PimManager::Contacts
 {
 
-/// What the name and the parameters of a line say.
+/// The JSON of the name and the parameters of a line.
 class HeadJson
 {
 public:
@@ -34,36 +34,36 @@ public:
     /// \return true for PHOTO, LOGO, SOUND and KEY.
     bool IsMedia() const { return m_isMedia; }
 
-    /// The members `name`, `types`, `preference` and `parameters`, as far as there are any.
+    /// The members `name`, `types`, `preference` and `parameters` that are not empty.
     std::string_view All() const { return ViewOf( m_text ).substr( 0, m_parameters.End() ); }
     /// The member `name`.
     std::string_view Name() const { return m_name.In( ViewOf( m_text ) ); }
     /// A comma and the member `types`.
     std::string_view Types() const { return m_types.In( ViewOf( m_text ) ); }
-    /// What follows `types` in All(), with the comma before it.
+    /// The part after `types` in All(), with the comma before it.
     std::string_view Rest() const { return All().substr( m_preference.m_begin ); }
     /// A comma and the member `types` without INTERNET: every mail address has this type, so it says nothing about one.
     std::string_view TypesOfEntry() const { return m_typesOfEntry.In( ViewOf( m_text ) ); }
 
-    /// What the property becomes in its contact.
+    /// The use of the property in its contact.
     const FieldRule& Rule() const { return m_rule; }
     /// \return true if PimContact must read the members that depend on the property.
     bool IsDeferred() const { return m_isDeferred; }
-    /// The members `kinds`, `label`, `preference`, `language` and `altId` of the field, as far as there are any, with a
-    /// comma before each. They are those of a line without a label of its group.
+    /// The members `kinds`, `label`, `preference`, `language` and `altId` of the field that are not empty, each with a
+    /// comma before it. They apply to a line whose group has no label.
     std::string_view Common() const { return m_common.In( ViewOf( m_text ) ); }
     /// The member `label` in Common().
     std::string_view OwnLabel() const { return m_ownLabel.In( ViewOf( m_text ) ); }
-    /// What follows `label` in Common().
+    /// The part after `label` in Common().
     std::string_view CommonBehindLabel() const { return m_behindLabel.In( ViewOf( m_text ) ); }
     KindSet SetOfKinds() const { return m_kindSet; }
     quint32 Kinds() const { return m_kinds; }
-    /// \return true if the parameters say that the value is a URI.
+    /// \return true if the parameters declare the value as a URI.
     bool IsUri() const { return m_isUri; }
-    /// Of a picture, sound or key: the media type as PimContactMedia reads it from the parameters; empty if they name
+    /// The media type of a picture, sound or key as PimContactMedia reads it from the parameters. Empty if they name
     /// none.
     std::string_view FieldMediaType() const { return ViewOf( m_fieldMediaType ); }
-    /// The part of a picture that is shown.
+    /// The visible part of a picture.
     const std::optional<QRect>& Crop() const { return m_crop; }
 
     /// The media type that the parameters name; empty if they name none.
@@ -127,8 +127,8 @@ private:
     JsonText m_json;
 };
 
-/// Finds the JSON for one line after the other. An address book has few different heads, such as `TEL;TYPE=CELL`, so
-/// those that were seen last are remembered, unless they are long. Keeps its memory.
+/// Finds the JSON for lines, one after the other. An address book has few different heads, such as `TEL;TYPE=CELL`, so
+/// the last ones are remembered unless they are long. Keeps its memory.
 class HeadCache
 {
 public:
@@ -139,11 +139,11 @@ private:
     static constexpr size_t s_kSets = 128;
     static constexpr size_t s_kLongestKey = 96;
 
-    // What decides about the JSON of a head that needs no decoding.
+    // The key of a head that needs no decoding. It determines the JSON.
     struct Key
     {
         std::string_view m_text;
-        // No name is as long as this, so no line has the key of an empty entry.
+        // No name has this length, so no line has the key of an empty entry.
         quint32 m_nameLength = ~0U;
         ByteRange m_parameters;
         PimContactVersion m_version = PimContactVersion::Unknown;
@@ -160,7 +160,7 @@ private:
         void SetKey( const Key& a_key );
     };
 
-    // Heads that have the same position. The older one is replaced.
+    // Heads with the same position in the table. The older one is replaced.
     struct EntrySet
     {
         std::array<Entry, 2> m_entries;

@@ -1,5 +1,5 @@
 /// \file
-/// Appends an object whose members may all be missing.
+/// Appends an object whose members are all optional.
 
 #pragma once
 
@@ -10,7 +10,7 @@
 namespace PimManager::Contacts
 {
 
-/// An object: a brace, members with commas between them, and a brace at the end of its life.
+/// A JSON object: a brace, members with commas between them, and a closing brace in the destructor.
 class JsonObject
 {
 public:
@@ -21,7 +21,7 @@ public:
     ~JsonObject() { m_json.Raw( m_isEmpty ? "{}" : "}" ); }
     Q_DISABLE_COPY( JsonObject )
 
-    /// Appends the name of a member, after which its value must be appended.
+    /// Appends the name of a member. The caller must append its value next.
     /// \param a_name with quotes and a colon.
     JsonText& Key( std::string_view a_name )
     {
@@ -36,7 +36,7 @@ public:
         if ( !a_text.empty() )
             Key( a_name ).String( a_text );
     }
-    /// Appends members that have a comma before each of them.
+    /// Appends members, each with a comma before it.
     void Members( std::string_view a_members )
     {
         if ( m_isEmpty && !a_members.empty() )

@@ -1,5 +1,5 @@
 /// \file
-/// What a field is for, in lower case.
+/// The kinds of a field in lower case.
 
 #pragma once
 
@@ -22,13 +22,13 @@ enum class KindSet : quint8
     Relation,
 };
 
-/// The flags of a field whose TYPE says what it is for.
+/// The flags of a field that has kinds.
 KindSet KindSetOf( PropertyId a_property );
 
-/// \return what reads a word of TYPE.
+/// \return the function that reads a word of TYPE.
 FieldParameters::KindsOf WordReaderOf( KindSet a_set );
 
-/// Appends a comma and the member `kinds`; nothing without kinds.
+/// Appends a comma and the member `kinds`. Appends nothing if there are no kinds.
 /// \param a_kinds the value of the flags.
 void WriteKinds( KindSet a_set, quint32 a_kinds, JsonText& a_json );
 

@@ -23,23 +23,23 @@ public:
     bool Has( ContactMember a_member ) const { return ( m_members & BitOf( a_member ) ) != 0; }
     ContactMembers Members() const { return m_members; }
 
-    /// Begins an element, which lasts until the next one begins.
-    /// \return where to append its JSON.
+    /// Begins an element. It ends when the next one begins.
+    /// \return the buffer for its JSON.
     JsonText& Begin( ContactMember a_member );
     /// The element that was begun last.
     JsonText& Last() { return m_json; }
 
-    /// Appends the member, with a comma before it: its elements with commas between them.
+    /// Appends the member with a comma before it, and commas between its elements.
     void Write( ContactMember a_member, JsonText& a_json ) const;
 
 private:
     struct Element
     {
         size_t m_begin;
-        /// The next one of the member; s_kNone for the last one.
+        /// The next element of the member; s_kNone for the last one.
         size_t m_next;
     };
-    // Of a member: its first and its last element.
+    // The first and the last element of a member.
     struct Chain
     {
         size_t m_first;
@@ -52,7 +52,7 @@ private:
 
     JsonText m_json;
     std::vector<Element> m_elements;
-    // Those of m_members have a value.
+    // The entries of m_members that have a value.
     std::array<Chain, s_kContactMembers> m_chains;
     ContactMembers m_members = 0;
 };

@@ -22,13 +22,13 @@
 namespace PimManager::Contacts
 {
 
-/// Writes one property after the other, and passes their texts on to the contact. Keeps its memory.
+/// Writes properties, one after the other, and passes their texts to the contact. Keeps its memory.
 class PropertyJson
 {
 public:
-    /// Writes the object of a property, without the brace that ends it.
-    /// \param a_labels of the card.
-    /// \param a_holdsCard an empty value is not written, because the property contains a card.
+    /// Writes the object of a property, without its closing brace.
+    /// \param a_labels the labels of the card.
+    /// \param a_holdsCard true if the property contains a card, so that an empty value is not written.
     /// \param a_place of the property in the list of properties.
     void Write( const IndexedLine& a_line, const GroupLabels& a_labels, bool a_holdsCard, size_t a_place,
                 ContactHead& a_contact, JsonText& a_json );
@@ -58,12 +58,12 @@ private:
     KeptTexts m_texts;
     QByteArray m_group;
 
-    // Of a property whose group has a label: what a field has in common with others.
+    // For a property whose group has a label: the common members of its field.
     JsonText m_common;
     bool m_hasLabel = false;
-    // Of an N or ADR: the components without white space at both ends, how many there are, and where the texts of
-    // components are in the JSON. The length of a component that must be written again is 0, and so is that of one that
-    // is not there. The components of an ADR that need not be written again are not kept.
+    // For an N or ADR: the components without white space at both ends, their number, and the positions of their texts
+    // in the JSON. The length of a component is 0 if it must be written again or does not exist. The components of an
+    // ADR that need not be written again are not kept.
     NamedParts m_parts;
     std::array<FieldParts::Part, std::tuple_size<NamedParts>::value> m_written;
     size_t m_partCount = 0;

@@ -1,5 +1,5 @@
 /// \file
-/// What the standards say about each property.
+/// The rules of the standards for each property.
 
 #pragma once
 
@@ -44,11 +44,11 @@ enum class ValueType : quint8
     Binary,
     VCard,
     PhoneNumber,
-    Coordinates, ///< of 2.1: two numbers with a comma between them
-    Inline,      ///< of 2.1: what the property has without VALUE
-    ContentId,   ///< of 2.1: the value is in another part of the mail message
+    Coordinates, ///< 2.1: two numbers with a comma between them
+    Inline,      ///< 2.1: the type of the property without VALUE
+    ContentId,   ///< 2.1: the value is in another part of the mail message
 
-    Other, ///< a type of no standard
+    Other, ///< not a type of a standard
 };
 
 using ValueTypes = EnumSet<ValueType>;
@@ -70,26 +70,26 @@ enum class ValueShape : quint8
     ComponentLists, ///< components between semicolons, and each of them values between commas
 };
 
-/// As many components as a value has.
+/// Any number of components.
 constexpr quint8 s_kAnyNumber = 0xFF;
 
-/// What a standard says about a property.
+/// The rule of a standard for a property.
 struct PropertyRule
 {
     PropertyId m_property = PropertyId::Other;
     Occurrence m_occurrence = Occurrence::Any;
     ValueShape m_shape = ValueShape::Single;
-    /// Of Components and ComponentLists; the second may be s_kAnyNumber.
+    /// The limits for Components and ComponentLists; the second may be s_kAnyNumber.
     quint8 m_leastComponents = 1;
     quint8 m_mostComponents = 1;
     ValueType m_defaultType = ValueType::Text;
-    /// With the default type.
+    /// Includes the default type.
     ValueTypes m_types;
     ParameterSet m_parameters;
     StandardSection m_section;
 };
 
-/// A run of rules.
+/// A range of rules.
 struct PropertyRules
 {
     const PropertyRule* m_begin = nullptr;

@@ -10,9 +10,9 @@
 namespace PimManager::Contacts
 {
 
-/// What a property means. Several names may mean the same: X-ANNIVERSARY is an Anniversary.
+/// The meaning of a property. Several names may have the same meaning: X-ANNIVERSARY is an Anniversary.
 ///
-/// The first six are what a contact is called by, the best one first.
+/// The first six can be the display name of a contact, the best one first.
 enum class PropertyId : quint8
 {
     Fn,
@@ -22,7 +22,7 @@ enum class PropertyId : quint8
     Email,
     Tel,
 
-    Other, ///< a property without a meaning of its own
+    Other, ///< any other property
 
     Adr,
     AddressCountry, ///< X-ABADR
@@ -62,7 +62,7 @@ enum class PropertyId : quint8
     Mailer,
     MaidenName,
     Member,
-    Messenger, ///< IMPP and what programs write for it
+    Messenger, ///< IMPP and the properties that programs write instead
     Name,
     Note,
     OrgDirectory,
@@ -95,7 +95,7 @@ constexpr size_t s_kProperties = static_cast<size_t>( PropertyId::Xml ) + 1;
 /// \param a_name in any letter case.
 PropertyId PropertyOf( std::string_view a_name );
 
-/// The same for a name that is the beginning of a text. It takes less time if the text continues.
+/// The same for a name at the start of a text. It is faster if the text continues.
 /// \param a_length the length of the name, from 1.
 PropertyId PropertyAt( std::string_view a_text, size_t a_length );
 
@@ -107,7 +107,7 @@ PropertyId StandardPropertyOf( std::string_view a_name );
 /// \return true for a name that begins with `X-` in any letter case and is longer.
 bool IsExtensionName( std::string_view a_name );
 
-/// \return the name that a standard gives the property, in upper case; empty for properties of vendors only.
+/// \return the name that a standard gives the property, in upper case. Empty for properties that only vendors use.
 std::string_view NameOf( PropertyId a_property );
 
 } // namespace PimManager::Contacts

@@ -1,5 +1,5 @@
 /// \file
-/// Places in the standards.
+/// Sections of the standards.
 
 #pragma once
 
@@ -30,7 +30,7 @@ enum class Standard : quint8
 struct StandardSection
 {
     Standard m_standard = Standard::VCard21;
-    /// Such as `6.2.1`; empty for no section.
+    /// A number such as `6.2.1`; empty if there is none.
     std::string_view m_number;
 };
 

@@ -10,7 +10,7 @@
 namespace PimManager::Contacts
 {
 
-/// Backslashes before a character that needs none.
+/// The backslashes before a character that needs no escape.
 struct UnknownEscapes
 {
     qint64 m_count = 0;
@@ -23,7 +23,7 @@ struct UnknownEscapes
 ///         nor the letter n (RFC 2426, section 4; RFC 6350, section 3.4).
 bool HasUnknownEscapes( std::string_view a_line, const IndexEntry& a_entry );
 
-/// Counts them.
+/// Counts these backslashes.
 UnknownEscapes UnknownEscapesIn( std::string_view a_line, const IndexEntry& a_entry );
 
 } // namespace PimManager::Contacts

@@ -15,7 +15,7 @@ namespace PimManager::Contacts
 ///
 /// White space is ignored, and padding is optional. Any other character that does not belong to the alphabet is a
 /// fault, and so are data after the padding and a single character that is left over at the end. Decoding ends at the
-/// first fault; what precedes it is kept.
+/// first fault. The bytes before it are kept.
 class Base64Decoder
 {
 public:
@@ -25,14 +25,14 @@ public:
     Base64Decoder( size_t a_length, QByteArray& a_out );
 
     /// Decodes the next piece.
-    /// \return false after a fault.
+    /// \return false if there was a fault.
     bool Take( std::string_view a_piece );
 
     /// Ends the text.
     /// \return false if there was a fault.
     bool Finish();
 
-    /// The position of the fault in all pieces: of the character at fault, or the end of the text. -1 without a fault.
+    /// The position of the faulty character in all pieces, or the end of the text. -1 if there was no fault.
     qint64 FaultPlace() const { return m_faultPlace; }
 
 private:
@@ -44,11 +44,11 @@ private:
 
     QByteArray& m_out;
     char* m_end;
-    // Of the characters of an unfinished group: their bits, and their number.
+    // The bits of the characters of an unfinished group, and their number.
     quint32 m_bits = 0;
     int m_held = 0;
     bool m_isPadded = false;
-    // The length of the pieces before.
+    // The length of the previous pieces.
     qint64 m_taken = 0;
     qint64 m_faultPlace = -1;
 };

@@ -1,5 +1,5 @@
 /// \file
-/// Byte arrays that are used again and again.
+/// Reusable byte arrays.
 
 #pragma once
 
@@ -14,7 +14,7 @@ namespace PimManager::Contacts
 /// Empties a buffer. It keeps its memory, unless it is large.
 void Empty( QByteArray& a_buffer );
 
-/// Sets the length of a buffer whose contents are not wanted. It keeps its memory, unless it is large.
+/// Sets the length of a buffer whose contents are not needed. It keeps its memory, unless it is large.
 void Resize( QByteArray& a_buffer, int a_size );
 
 inline void Append( QByteArray& a_buffer, std::string_view a_text )

@@ -1,5 +1,5 @@
 /// \file
-/// Which bytes a text has.
+/// The kinds of bytes in a text.
 
 #pragma once
 
@@ -8,7 +8,7 @@
 namespace PimManager::Contacts
 {
 
-/// What a writer looks for before it copies a line.
+/// The kinds of bytes that a writer checks before it copies a line.
 struct ByteFlags
 {
     bool m_isAscii = true;
@@ -18,7 +18,7 @@ struct ByteFlags
     bool IsAsciiWithoutDelete() const { return m_isAscii && !m_hasDelete; }
 };
 
-/// Finds all of them in one pass.
+/// Determines all flags in one pass.
 ByteFlags ByteFlagsOf( std::string_view a_text );
 
 } // namespace PimManager::Contacts

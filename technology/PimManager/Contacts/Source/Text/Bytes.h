@@ -1,5 +1,6 @@
 /// \file
-/// Bytes of a text that is ASCII where it matters: bytes beyond ASCII are never a blank, a letter or a delimiter.
+/// Functions for the bytes of a text whose delimiters are ASCII. Bytes beyond ASCII are never a blank, a letter or a
+/// delimiter.
 
 #pragma once
 
@@ -29,7 +30,7 @@ inline bool IsDigit( char a_byte )
     return a_byte >= '0' && a_byte <= '9';
 }
 
-/// A letter, a digit or "-": what names consist of.
+/// A letter, a digit or "-". Names consist of these bytes.
 constexpr bool IsNameByte( char a_byte )
 {
     return ( a_byte >= 'A' && a_byte <= 'Z' ) || ( a_byte >= 'a' && a_byte <= 'z' ) ||
@@ -41,7 +42,7 @@ inline bool IsBase64Byte( char a_byte )
     return a_byte == '+' || a_byte == '/' || a_byte == '=' || ( IsNameByte( a_byte ) && a_byte != '-' );
 }
 
-/// A control character that no text needs: all below U+0020 but the tab.
+/// A control character that no text needs: all below U+0020 except the tab.
 inline bool IsControlByte( char a_byte )
 {
     return static_cast<unsigned char>( a_byte ) < 0x20 && a_byte != '\t';

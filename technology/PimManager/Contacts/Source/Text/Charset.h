@@ -11,14 +11,14 @@
 namespace PimManager::Contacts
 {
 
-/// One of the character sets that this library decodes, or none. A value of one byte that may be stored.
+/// One of the character sets that this library decodes, or none. It is one byte and may be stored.
 ///
-/// A label means what the programs that write it mean by it, as in the Encoding standard of the web: `ISO-8859-1` is
+/// A label has the meaning that it has in practice, as in the Encoding standard of the web: `ISO-8859-1` is
 /// windows-1252, `Shift_JIS` is code page 932, `GB2312` is GB18030, and `US-ASCII` is UTF-8.
 class Charset
 {
 public:
-    /// The sets of single bytes are together, from Windows1250 to MacCyrillic.
+    /// The single-byte character sets are contiguous, from Windows1250 to MacCyrillic.
     enum class Id : quint8
     {
         Unknown,
@@ -84,14 +84,14 @@ public:
     constexpr Id Value() const { return m_id; }
     constexpr bool IsKnown() const { return m_id != Id::Unknown; }
     constexpr bool IsUtf8() const { return m_id == Id::Utf8; }
-    /// \return true if each byte is a character: see SingleByteTables.h.
+    /// \return true if each byte is a character, see SingleByteTables.h.
     constexpr bool IsSingleByte() const { return m_id >= Id::Windows1250 && m_id <= Id::MacCyrillic; }
     /// \return false if a text without bytes beyond 0x7F may have characters other than ASCII, as in ISO-2022-JP after
     ///         an escape sequence. True for Shift_JIS, GB18030 and Big5, although a byte below 0x80 may be the second
     ///         one of a character.
     constexpr bool ContainsAscii() const { return m_id != Id::Iso2022Jp; }
 
-    /// \return the usual name, such as `windows-1252`, which Of() finds. Empty without a character set.
+    /// \return the usual name, such as `windows-1252`, which Of() finds. Empty if there is no character set.
     std::string_view Name() const;
 
     friend constexpr bool operator==( Charset a_left, Charset a_right ) { return a_left.m_id == a_right.m_id; }

@@ -10,7 +10,7 @@
 namespace PimManager::Contacts
 {
 
-/// Where the character set of a line is named. The numbers are stored in cards.
+/// The source of the character set of a line. The numbers are stored in cards.
 enum class LineCharset : quint8
 {
     Utf8 = 0,      ///< nowhere; the line is UTF-8 or ASCII
@@ -20,7 +20,7 @@ enum class LineCharset : quint8
     Iso2022Jp = 4, ///< nowhere; the line has the escape sequences of ISO-2022-JP
 };
 
-/// \return true if the name is that of a character set (see Charset::Of()), other than UTF-8 and ASCII.
+/// \return true if the name is that of a character set other than UTF-8 and ASCII (see Charset::Of()).
 bool IsKnownCharset( std::string_view a_name );
 
 /// \return true if the text has an escape character, so that it may be in ISO-2022-JP.
@@ -31,7 +31,7 @@ bool MayBeShifted( std::string_view a_text );
 /// 1. A line with an escape character and a known CHARSET that does not contain ASCII, such as ISO-2022-JP, is in that
 ///    character set.
 /// 2. A line with an escape sequence of ISO-2022-JP (`ESC $ B` or `ESC $ @`) is in ISO-2022-JP.
-/// 3. If the whole card is valid UTF-8, so is each line, whatever its CHARSET says.
+/// 3. If the whole card is valid UTF-8, each line is UTF-8, whatever CHARSET it names.
 /// 4. A line in ASCII is UTF-8.
 /// 5. A line with a known CHARSET that contains ASCII is in that character set.
 /// 6. A line with more complete characters of UTF-8 than malformed bytes is UTF-8 that was damaged.
@@ -40,13 +40,13 @@ bool MayBeShifted( std::string_view a_text );
 class CharsetChoice
 {
 public:
-    /// \param a_isCardUtf8     the card is valid UTF-8.
-    /// \param a_hasCardCharset a line of the card names a known character set.
-    /// \param a_isDefaultKnown the caller's default is known, and not UTF-8.
+    /// \param a_isCardUtf8     true if the card is valid UTF-8.
+    /// \param a_hasCardCharset true if a line of the card names a known character set.
+    /// \param a_isDefaultKnown true if the caller's default is known and not UTF-8.
     CharsetChoice( bool a_isCardUtf8, bool a_hasCardCharset, bool a_isDefaultKnown );
 
     /// \param a_text  the line with its continuation lines joined.
-    /// \param a_named the value of its CHARSET parameter; empty without one.
+    /// \param a_named the value of its CHARSET parameter; empty if there is none.
     LineCharset Of( std::string_view a_text, std::string_view a_named ) const;
 
 private:

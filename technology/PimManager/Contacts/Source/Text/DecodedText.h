@@ -11,15 +11,15 @@
 namespace PimManager::Contacts
 {
 
-/// What became of a text.
+/// The result of decoding a text.
 struct DecodeResult
 {
     /// The number of malformed bytes. Each became one U+FFFD.
     qint64 m_malformed = 0;
     /// The position of the first malformed byte, if there is one.
     quint32 m_firstMalformed = 0;
-    /// The text has characters that this system cannot decode, as a module of iconv() is missing. Their bytes count as
-    /// malformed.
+    /// True if the text has characters that this system cannot decode, because a module of iconv() is missing. Their
+    /// bytes count as malformed.
     bool m_isUnavailable = false;
 };
 
@@ -33,7 +33,7 @@ public:
 
     /// Appends ASCII characters, of which the first one is at \a a_place.
     void AppendAscii( std::string_view a_text, size_t a_place );
-    /// Appends a character that is UTF-8 already.
+    /// Appends a character that is already UTF-8.
     void AppendUtf8( std::string_view a_character, size_t a_place );
     void Append( char32_t a_character, size_t a_place );
     /// Appends U+FFFD and counts a malformed byte.

@@ -13,7 +13,7 @@
 namespace PimManager::Contacts
 {
 
-/// Steps over the positions of two bytes in a text, eight bytes at once.
+/// Iterates over the positions of two bytes in a text. It examines eight bytes at once.
 ///
 /// \code
 /// for ( DelimiterSearch search( "a;b,c", ';', ',' ); search.Next(); )
@@ -74,7 +74,7 @@ private:
     quint64 m_first;
     quint64 m_second;
     size_t m_next = 0;
-    // Where the last word began, and its positions that are still to come.
+    // The start of the last word, and its remaining positions.
     size_t m_word = 0;
     quint64 m_matches = 0;
     size_t m_place = 0;

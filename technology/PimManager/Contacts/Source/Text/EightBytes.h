@@ -1,5 +1,5 @@
 /// \file
-/// Eight bytes of a text in one number, the first byte lowest, so that all of them are looked at together.
+/// Eight bytes of a text in one number, the first byte lowest, so that all of them are examined together.
 
 #pragma once
 
@@ -19,7 +19,7 @@ constexpr quint64 s_kOnes = 0x0101010101010101U;
 constexpr quint64 s_kHighBits = s_kOnes << 7U;
 constexpr size_t s_kWord = sizeof( quint64 );
 
-/// \param a_place where there are eight bytes at least.
+/// \param a_place the address of at least eight bytes.
 inline quint64 WordAt( const char* a_place )
 {
     quint64 word = 0;

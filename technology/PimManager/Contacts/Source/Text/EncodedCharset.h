@@ -10,18 +10,18 @@
 namespace PimManager::Contacts
 {
 
-/// A decision, and how it was made.
+/// A character set, and how it was chosen.
 struct EncodedCharset
 {
     Charset m_charset;
-    /// A name was given, but no character set has it.
+    /// A name was given, but it is unknown.
     bool m_isNameUnknown = false;
     /// No name decided, and the text is not UTF-8.
     bool m_isAssumed = false;
 };
 
-/// Decides about the bytes of a value that were written as QUOTED-PRINTABLE. The character set of its other bytes is
-/// decided while the card is read, see CharsetChoice. The first rule that applies decides:
+/// Chooses the character set of the bytes of a value that were written as QUOTED-PRINTABLE. That of its other bytes is
+/// chosen while the card is read, see CharsetChoice. The first rule that applies decides:
 ///
 /// 1. The text is in the character set that its line names, if that is known. ISO-2022-JP counts only for a text with
 ///    an escape character.

@@ -14,7 +14,7 @@
 namespace PimManager::Contacts
 {
 
-/// Copies bytes. Few of them, as most are, need no call of a function.
+/// Copies bytes. A few bytes, the usual case, need no function call.
 /// \return the end of the copy.
 inline char* CopyBytes( const char* a_bytes, size_t a_size, char* a_out )
 {
@@ -41,17 +41,18 @@ inline char* CopyBytes( const char* a_bytes, size_t a_size, char* a_out )
     return a_out + a_size;
 }
 
-/// Appends JSON to a byte array that grows as it must. Commas and brackets are up to the caller; strings are always
-/// valid: in UTF-8, with U+FFFD for malformed bytes, and with `\uXXXX` for unsafe characters (see UnsafeCharacters.h).
+/// Appends JSON to a byte array that grows as needed. The caller is responsible for commas and brackets. Strings are
+/// always valid: in UTF-8, with U+FFFD for malformed bytes, and with `\uXXXX` for unsafe characters (see
+/// UnsafeCharacters.h).
 ///
-/// While an object exists, its byte array has more bytes than were appended. Finish() ends this. Without Finish(), the
-/// destructor removes all that was appended.
+/// While an object exists, its byte array is longer than the appended text. Finish() sets the final length. Without
+/// Finish(), the destructor removes everything that was appended.
 ///
-/// Functions throw std::bad_alloc if the byte array becomes longer than a byte array may be.
+/// Functions throw std::bad_alloc if the byte array becomes longer than a QByteArray can be.
 class JsonText
 {
 public:
-    /// \param a_out must outlive the object and not be used meanwhile.
+    /// \param a_out must outlive the object and must not be used in the meantime.
     explicit JsonText( QByteArray& a_out );
     /// Appends to a byte array of its own, see From().
     JsonText();
@@ -78,7 +79,7 @@ public:
         else
             FilledString( a_text );
     }
-    /// The same for a short string without anything to escape, as most are.
+    /// The same for a short string without anything to escape, the usual case.
     /// \return false for any other string, which is not appended.
     bool PlainString( std::string_view a_text );
     /// The same as String(), for a text that PlainString() has refused.

@@ -1,5 +1,5 @@
 /// \file
-/// Keeps texts whose memory is about to be used for something else.
+/// Keeps texts whose memory is about to be reused.
 
 #pragma once
 
@@ -10,19 +10,20 @@
 namespace PimManager::Contacts
 {
 
-/// \return true if a part that is not empty lies in the memory of a text.
+/// \return true if a part is not empty and lies in the memory of a text.
 bool IsInside( std::string_view a_part, std::string_view a_text );
 
-/// Keeps parts of one text. A part that lies inside the text is not copied; others are parts from which something was
-/// removed, and they are copied. Keeps its memory.
+/// Keeps parts of one text. A part that lies inside the text is not copied. Any other part, from which something was
+/// removed, is copied. Keeps its memory.
 class KeptTexts
 {
 public:
     /// \param a_text must exist as long as its parts are needed. The parts that were kept before are gone.
     void Begin( std::string_view a_text );
 
-    /// \param a_part a part of the text, or a decoded form of a part that is no longer. Each part may be kept twice.
-    /// \return the same text, which remains as it is until Begin() is called.
+    /// \param a_part a part of the text, or a decoded form of a part that is not longer than it. Each part may be kept
+    ///               twice.
+    /// \return the same text, which does not change until Begin() is called.
     std::string_view Keep( std::string_view a_part );
 
 private:

@@ -10,7 +10,7 @@
 namespace PimManager::Contacts
 {
 
-/// \param a_place of a percent sign.
+/// \param a_place the position of a percent sign.
 /// \return the byte that is encoded there; -1 if two hexadecimal digits do not follow.
 int PercentByte( std::string_view a_text, size_t a_place );
 

@@ -1,5 +1,5 @@
 /// \file
-/// Checks whether a text has nothing that needs a second look.
+/// Checks whether a text consists of plain ASCII.
 
 #pragma once
 

@@ -1,8 +1,8 @@
 /// \file
-/// Copies characters that JSON contains as they are: ASCII other than control characters, quotes and backslashes, and
-/// most letters beyond ASCII. All other characters are left to JsonText.
+/// Copies characters that need no escape in JSON: ASCII other than control characters, quotes and backslashes, and most
+/// letters beyond ASCII. All other characters are left to JsonText.
 ///
-/// Most texts are plain, so eight bytes are looked at and copied at a time, in a word.
+/// Most texts are plain, so eight bytes are examined and copied at a time, in one word.
 
 #pragma once
 
@@ -44,7 +44,7 @@ inline bool CopyWords( std::string_view a_text, char* a_out )
             return false;
         std::memcpy( out, &word, s_kWord );
     }
-    // It may overlap the word before.
+    // It may overlap the previous word.
     std::memcpy( &word, last, s_kWord );
     std::memcpy( a_out + a_text.size() - s_kWord, &word, s_kWord );
     return !HasSpecial( word );

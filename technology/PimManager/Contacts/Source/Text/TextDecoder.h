@@ -42,7 +42,7 @@ public:
     /// \return the rest of the text; valid until the next call of a function that is not const. Empty if called again.
     std::string_view Finish();
 
-    /// The file has been looked at, and passes unchanged: Decode() would return its pieces.
+    /// True if the kind of file is known and Decode() returns its pieces unchanged.
     bool IsUnchanged() const { return m_form == Form::Bytes; }
 
     /// Compressed, Document or Image if the file is of that kind; otherwise Unknown. Valid as soon as Decode() has
@@ -76,12 +76,12 @@ private:
     Form m_form = Form::Undecided;
     PimContactFileKind m_refusedKind = PimContactFileKind::Unknown;
     PimContactEvidence m_evidence = PimContactEvidence::None;
-    // The first bytes, while there are too few of them.
+    // The first bytes, as long as there are too few of them.
     std::vector<char> m_first;
     // The converted text is in m_buffer, up to m_end. The buffer only grows.
     std::vector<char> m_buffer;
     char* m_end = nullptr;
-    // What awaits its other half from the next piece: the first byte of a unit, and a high surrogate.
+    // The first halves whose second half is in the next piece: the first byte of a unit, and a high surrogate.
     bool m_hasHalfUnit = false;
     char m_halfUnit = '\0';
     char16_t m_highSurrogate = 0;

@@ -1,5 +1,5 @@
 /// \file
-/// Finds words that are known when the program is compiled.
+/// Finds words in a table that is built at compile time.
 
 #pragma once
 
@@ -11,7 +11,7 @@
 namespace PimManager::Contacts
 {
 
-/// A word in upper case and what it means.
+/// A word in upper case and its meaning.
 template <typename Value>
 struct WordRow
 {
@@ -62,7 +62,7 @@ public:
         return nullptr;
     }
 
-    /// \return what a word in any letter case means, or a_unknown.
+    /// \return the meaning of a word in any letter case, or a_unknown.
     Value Of( std::string_view a_word, Value a_unknown ) const
     {
         const WordRow<Value>* const row = Find( a_word );

@@ -1,5 +1,5 @@
 /// \file
-/// Decodes values that say they are BASE64.
+/// Decodes values that are declared as BASE64.
 
 #pragma once
 
@@ -17,15 +17,15 @@ namespace PimManager::Contacts
 /// Decodes the value of a line as BASE64.
 ///
 /// \param[out] a_bytes the bytes up to the first fault, after what it contains already.
-/// \return the position of the fault, see Base64Decoder; -1 without one.
+/// \return the position of the fault, see Base64Decoder; -1 if there is none.
 qint64 DecodeBase64Value( const IndexedLine& a_line, QByteArray& a_bytes );
 
-/// Decodes a value that is the BASE64 of text. Some phones write names so. It is if all of these are true:
+/// Decodes a value that is text in BASE64, as some phones write names. The value is text if all of these are true:
 ///
 /// - The BASE64 has no fault.
 /// - The bytes are text without malformed characters, in the character set that the line names, or else in UTF-8. The
-///   caller's default does not count, because in many character sets almost any bytes are text.
-/// - The text has no control characters, U+007F to U+009F included, except for tabs, CR and LF.
+///   caller's default is not used, because almost any bytes are valid text in many character sets.
+/// - The text has no control characters (including U+007F to U+009F) except tabs, CR and LF.
 ///
 /// The name of the property is not checked.
 ///

@@ -1,5 +1,5 @@
 /// \file
-/// Values that are bytes.
+/// Binary values.
 
 #pragma once
 
@@ -19,7 +19,7 @@ namespace PimManager::Contacts
 
 class ValueDecoder;
 
-/// What PimContactBinary reports.
+/// The result that PimContactBinary returns.
 struct BinaryData
 {
     bool m_isNull = true;
@@ -35,23 +35,24 @@ public:
     static PimContactBinary Create( const BinaryData& a_data );
 };
 
-/// Determines whether the value of a line is bytes. It is if one of these is true:
+/// Determines whether the value of a line is binary. It is if one of these is true:
 ///
-/// - The line says BASE64, and the value is not text, see DecodeBase64Text().
+/// - The line declares BASE64, and the value is not text, see DecodeBase64Text().
 /// - The value is a `data:` URI. `data:base64,` without a media type is accepted, and so are escapes in it.
-/// - The property is PHOTO, LOGO, SOUND or KEY, and the value is the BASE64 of an image, a sound or a key, by the first
-///   bytes of it.
+/// - The property is PHOTO, LOGO, SOUND or KEY, and the value is the BASE64 of an image, a sound or a key according to
+///   its first bytes.
 ///
 /// Only the start of the value is read, except for the BASE64 of a property whose value should be text.
 bool IsBinary( const IndexedLine& a_line );
-/// The same for a caller who also decodes the value.
-/// \param a_decoder has decoded the value of the line: by Decode(), or as far as DecodeBase64Text() does.
+/// The same for a caller that also decodes the value.
+/// \param a_decoder must have decoded the value of the line with Decode() or DecodeBase64Text().
 bool IsBinary( const IndexedLine& a_line, const ValueDecoder& a_decoder );
-/// The same for a caller who knows the name as well.
+/// The same for a caller that also knows the name.
 /// \param a_isMedia IsMediaName() of the name of the line.
 bool IsBinary( const IndexedLine& a_line, const ValueDecoder& a_decoder, bool a_isMedia );
 
-/// \return true for the letter, and for all that is left out before it: blanks, backslashes, and breaks between lines.
+/// \return true for the letter, and for the bytes that are ignored before it: blanks, backslashes, and breaks between
+///         lines.
 inline bool MayBeLetterOfScheme( char a_byte, char a_letter )
 {
     return Upper( a_byte ) == a_letter || IsBlank( a_byte ) || a_byte == '\\' || a_byte == '=' ||
@@ -68,8 +69,8 @@ inline bool MayBeBinary( const IndexedLine& a_line, bool a_isMedia )
     return value.size() > 1 && MayBeLetterOfScheme( value[0], 'D' ) && MayBeLetterOfScheme( value[1], 'A' );
 }
 
-/// \return the media type of a value that is binary, by its first bytes; empty if they are not known. No more than the
-///         start is decoded, unless it is a `data:` URI.
+/// \return the media type of a binary value according to its first bytes. Empty if it is unknown. Only the start is
+///         decoded, unless it is a `data:` URI.
 QByteArray DetectedTypeOf( const IndexedLine& a_line );
 
 /// \return the media type that a `data:` URI names, as written; empty for any other value.

@@ -10,11 +10,11 @@
 namespace PimManager::Contacts
 {
 
-/// The parameter that some phones write for a label. Version 2.1 cannot encode parameters, so they write how the label
-/// is encoded inside parentheses: `X-CUSTOM(CHARSET=UTF-8,ENCODING=QUOTED-PRINTABLE,=42=6F=61=74)`.
+/// The parameter that some phones write for a label. Version 2.1 cannot encode parameters, so they write the encoding
+/// of the label in parentheses: `X-CUSTOM(CHARSET=UTF-8,ENCODING=QUOTED-PRINTABLE,=42=6F=61=74)`.
 constexpr std::string_view s_kCustomParameter = "X-CUSTOM";
 
-/// \param a_parameter what is between two semicolons, without blanks around it.
+/// \param a_parameter the text between two semicolons, without blanks around it.
 /// \return true for X-CUSTOM with parentheses, in any letter case.
 bool IsEncodedLabel( std::string_view a_parameter );
 

@@ -1,5 +1,5 @@
 /// \file
-/// Collects what is found while a value is decoded.
+/// Collects the problems that are found while a value is decoded.
 
 #pragma once
 
@@ -15,7 +15,7 @@
 namespace PimManager::Contacts
 {
 
-/// What PimContactDecoding reports. Clearing it is cheap, because a count is valid only if its problem is set.
+/// The data that PimContactDecoding returns. Clearing it is cheap, because a count is valid only if its problem is set.
 class Findings
 {
 public:
@@ -24,7 +24,7 @@ public:
         m_problems = {};
         m_charset = Charset( Charset::Id::Utf8 );
     }
-    /// \param a_place -1 without a position.
+    /// \param a_place the position; -1 if there is none.
     void Add( PimContactDecodingProblem a_problem, qint64 a_place, qint64 a_count = 1 );
     void SetCharset( Charset a_charset ) { m_charset = a_charset; }
 

@@ -1,5 +1,5 @@
 /// \file
-/// Remembers what plain parameters mean.
+/// Caches the meanings of plain parameters.
 
 #pragma once
 
@@ -17,15 +17,15 @@ namespace PimManager::Contacts
 /// The lines of a book have one of a few lists of parameters, such as `;TYPE=HOME,VOICE`. Reading them takes longer
 /// than reading the number after them, so each thread remembers what the last ones have meant.
 ///
-/// \tparam Meaning holds no memory.
+/// \tparam Meaning must not own memory.
 template <class Meaning>
 class ParameterMemory
 {
 public:
-    /// What distinguishes readers that find different meanings; null if there is one only.
+    /// Distinguishes readers that find different meanings; null if there is only one.
     using Reader = quint32 ( * )( std::string_view );
 
-    /// \return what the parameters have meant to the reader; null if they are not remembered.
+    /// \return the meaning of the parameters for the reader; null if they are not cached.
     const Meaning* Find( std::string_view a_parameters, Reader a_reader ) const
     {
         const Slot* const first = &m_slots[SlotOf( a_parameters, a_reader )];
@@ -35,7 +35,7 @@ public:
         return second->IsFor( a_parameters, a_reader ) ? &second->m_meaning : nullptr;
     }
 
-    /// Long parameters are not remembered.
+    /// Long parameters are not cached.
     void Remember( std::string_view a_parameters, Reader a_reader, const Meaning& a_meaning )
     {
         if ( a_parameters.size() > s_kLongest )
@@ -68,7 +68,7 @@ private:
     };
 
     // The first of two slots for the same lists, so that two lists do not replace each other in turn. The parameters
-    // are not empty. Phones, mails and addresses have the same ones, and a reader each.
+    // are not empty. Phones, mails and addresses have the same parameters, but each has its own reader.
     static size_t SlotOf( std::string_view a_parameters, Reader a_reader )
     {
         const auto at = [a_parameters]( size_t a_place ) { return static_cast<uchar>( a_parameters[a_place] ); };

@@ -1,5 +1,5 @@
 /// \file
-/// The names of the parameters that say how a value is read.
+/// The names of the parameters that determine how a value is read.
 
 #pragma once
 

@@ -1,5 +1,5 @@
 /// \file
-/// The parameters of a line by their meaning.
+/// Reads the parameters of a line.
 
 #pragma once
 
@@ -59,7 +59,7 @@ private:
     ParameterSplitter m_splitter;
     bool m_areCaretsText;
 
-    // Of the parameter: its name, empty if it is bare, and the elements that follow.
+    // The name of the parameter, empty if it is bare, and its remaining elements.
     std::string_view m_parameterName;
     bool m_isType = false;
     bool m_isLabel = false;
@@ -68,7 +68,7 @@ private:
     bool m_hasRest = false;
     bool m_hasElement = false;
     bool m_isNoQuoteClosed = false;
-    // The elements that follow inside a quoted TYPE.
+    // The remaining elements of a quoted TYPE.
     std::string_view m_quoted;
     bool m_isInQuotes = false;
 

@@ -23,7 +23,7 @@ struct EscapedText
     const std::vector<quint32>* m_literals = nullptr;
 };
 
-/// What splits a value.
+/// The delimiters of a value.
 enum class Delimiters : quint8
 {
     None = 0,
@@ -35,7 +35,7 @@ enum class Delimiters : quint8
 /// Reads the parts of a value one after the other, without their escapes. An empty value has one empty part.
 ///
 /// A backslash before `n` or `N` becomes a line feed, and a backslash before a backslash, comma, semicolon, colon,
-/// quote or apostrophe is removed (RFC 2426, section 4; RFC 6350, section 3.4). Any other backslash is kept, and so is
+/// quote or apostrophe is removed (RFC 2426, section 4; RFC 6350, section 3.4). Any other backslash is kept, including
 /// one at the end. The rules are the same for every version: 2.1 defines the escaped semicolon only, but programs that
 /// write 2.1 use the others too.
 class PartReader
@@ -65,7 +65,7 @@ private:
     void EndPart( size_t a_begin, size_t a_end );
 
     std::string_view m_text;
-    // The literals that follow.
+    // The remaining literals.
     const quint32* m_literal = nullptr;
     const quint32* m_literalsEnd = nullptr;
     uint m_specials;
@@ -73,7 +73,7 @@ private:
     Findings& m_findings;
 
     size_t m_place = 0;
-    // If the part has escapes, what precedes this is in the buffer, up to its end.
+    // If the part has escapes, the text before this position is in the buffer, up to its end.
     size_t m_copied = 0;
     char* m_end = nullptr;
     bool m_isAtEnd = false;

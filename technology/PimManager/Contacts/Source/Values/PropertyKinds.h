@@ -11,7 +11,7 @@
 namespace PimManager::Contacts
 {
 
-/// Determines what divides the value of a property.
+/// Determines the delimiters of the value of a property.
 ///
 /// | property | 2.1 | 3.0, and without a version | 4.0 |
 /// |---|---|---|---|

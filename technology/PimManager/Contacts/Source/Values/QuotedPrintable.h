@@ -19,7 +19,7 @@ struct EncodedRun
     quint32 m_end = 0;
 };
 
-/// Each "=" that no two hexadecimal digits follow.
+/// Each "=" without two hexadecimal digits after it.
 struct QuotedPrintableFaults
 {
     qint64 m_count = 0;

@@ -1,5 +1,5 @@
 /// \file
-/// From the bytes of a line to text in UTF-8.
+/// Decodes the bytes of a line to text in UTF-8.
 
 #pragma once
 
@@ -25,8 +25,8 @@ namespace PimManager::Contacts
 /// delimiter, and neither is 0x5C in the character `83 5C` of Shift_JIS. BASE64 encodes a value as a whole, so its
 /// delimiters and escapes are those of the decoded text.
 ///
-/// A text that needs no decoding is not copied. Otherwise the decoder holds the text, and uses the same memory for
-/// the next line.
+/// A text that needs no decoding is not copied. Any other text is kept in the decoder, which reuses the memory for the
+/// next line.
 class ValueDecoder
 {
 public:
@@ -42,12 +42,12 @@ public:
                !a_line.m_card.m_record.Has( CardRecord::IsOtherCharset );
     }
 
-    /// Decodes the value of a line like Decode() if the line says BASE64, its property is a known one whose value is
-    /// text, and the value is text (see Base64Value.h). This is the only place that decides it.
-    /// \return false for any other line, whose value is not decoded then.
+    /// Decodes the value of a line like Decode() if the line declares BASE64, if its property is a known one whose
+    /// value is text, and if the value is text (see Base64Value.h). Only this function makes that decision.
+    /// \return false for any other line. Then its value is not decoded.
     bool DecodeBase64Text( const IndexedLine& a_line );
 
-    /// What DecodeBase64Text() returns for the line that was passed last to it or to Decode().
+    /// The result of DecodeBase64Text() for the last line that was passed to it or to Decode().
     bool IsBase64Text() const { return m_isBase64Text; }
 
     /// Decodes the character set of a part of a line, and nothing else.
@@ -77,7 +77,7 @@ public:
     /// \return true if it keeps much memory.
     bool IsLarge() const { return m_isLarge; }
 
-    /// What was found in the value: by Decode(), and in the parts that were read.
+    /// The problems in the value: those found by Decode() and in the parts that were read.
     const Findings& Found() const { return m_findings; }
 
 private:
@@ -103,7 +103,7 @@ private:
     // The first run that does not end before the position that NoteLiterals() has reached.
     size_t m_run = 0;
     bool m_isBase64Text = false;
-    // A value was long, and so may be the memory.
+    // A value was long, so the memory may be large.
     bool m_isLarge = false;
 };
 

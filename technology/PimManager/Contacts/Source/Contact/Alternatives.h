@@ -1,5 +1,5 @@
 /// \file
-/// Fields that say the same in several languages.
+/// Fields that are the same in several languages.
 
 #pragma once
 
@@ -18,16 +18,16 @@
 namespace PimManager::Contacts
 {
 
-/// How much each language is wanted.
+/// The ranks of languages by preference.
 class LanguageRanks
 {
 public:
-    /// \param a_wanted languages (RFC 5646), the best one first.
+    /// \param a_wanted languages (RFC 5646), the preferred one first.
     explicit LanguageRanks( const QStringList& a_wanted );
 
-    /// \return a number that is lower for a language that is wanted more: for the language itself, and then for one of
-    ///         its variants, such as `de-CH` for `de` (RFC 4647, section 3.3.1). Linear in the length of the longest
-    ///         wanted language, not in their number.
+    /// \return a number that is lower for a preferred language. A language ranks before its variants, such as `de`
+    ///         before `de-CH` (RFC 4647, section 3.3.1). Linear in the length of the longest language in the list, not
+    ///         in their number.
     int Of( const QString& a_language ) const;
 
 private:
@@ -36,7 +36,7 @@ private:
 };
 
 /// Determines which fields are alternatives of each other: those of one property with the same ALTID (RFC 6350, section
-/// 5.4). The elements of a list are alternatives of those with the same position in other lists.
+/// 5.4). The elements of a list are alternatives of the elements with the same position in other lists.
 class AlternativeGroups
 {
 public:
@@ -45,11 +45,11 @@ public:
     /// A field that remains.
     struct Group
     {
-        /// The chosen one: that of the first wanted language that is there, or else the first one.
+        /// The chosen field: the one in the most preferred language, or else the first one.
         size_t m_chosen = 0;
-        /// How much it is wanted, see LanguageRanks.
+        /// Its rank, see LanguageRanks.
         int m_rank = 0;
-        /// All of them in their order.
+        /// All fields in their order.
         std::vector<size_t> m_all;
     };
 
@@ -60,7 +60,7 @@ private:
     std::vector<Group> m_groups;
 };
 
-/// Replaces the fields of each group by the chosen one, which knows the others.
+/// Replaces the fields of each group by the chosen one, which refers to the others.
 template <class Field>
 void MergeAlternatives( PimContactList<Field>& a_fields, const QStringList& a_languages )
 {

@@ -14,7 +14,7 @@ namespace PimManager::Contacts
 class AndroidLine
 {
 public:
-    /// \param a_reader must remain at the line as long as its texts are needed.
+    /// \param a_reader must not leave the line as long as its texts are needed.
     explicit AndroidLine( FieldReader& a_reader )
     {
         AndroidCustomParts parts;
@@ -29,7 +29,7 @@ public:
     }
 
     const AndroidCustom& Custom() const { return m_custom; }
-    /// \return true if it is this item and has a text.
+    /// \return true if the line is this item and has a text.
     bool Is( AndroidCustom::Item a_item ) const { return m_custom.m_item == a_item && !m_custom.m_text.empty(); }
 
 private:

@@ -1,5 +1,5 @@
 /// \file
-/// Objects that are used again.
+/// Reusable objects.
 
 #pragma once
 
@@ -10,8 +10,8 @@
 namespace PimManager::Contacts
 {
 
-/// Borrows an object whose memory is worth keeping. Each thread keeps one that nobody uses, as long as its memory is
-/// small; whoever needs a second one at the same time gets a new one.
+/// Borrows an object whose memory is worth keeping. Each thread keeps one spare object as long as its memory is small.
+/// A second object that is borrowed at the same time is a new one.
 ///
 /// \tparam Object has Reset(), which prepares it for the next use, and IsLarge().
 template <class Object>
@@ -56,7 +56,7 @@ private:
         s_spare = m_object;
     }
 
-    // Neither needs a constructor, so a thread reads them without asking whether they exist.
+    // Neither has a dynamic constructor, so a thread can read them without a check for initialisation.
     static thread_local Object* s_spare;
     static thread_local bool s_isThreadEnding;
 

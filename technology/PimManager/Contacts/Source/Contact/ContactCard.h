@@ -1,5 +1,5 @@
 /// \file
-/// Cards from the lines of a contact, and lines from text.
+/// Creates cards from the lines of a contact, and lines from text.
 
 #pragma once
 
@@ -10,16 +10,16 @@
 namespace PimManager::Contacts
 {
 
-/// \return a card with the lines of a contact, which has a card.
+/// \return a card with the lines of a contact. The contact must have a card.
 PimContactCard CardOf( const ContactLines& a_lines );
 
 /// \return an empty card of version 3.0.
 PimContactCard EmptyCard();
 
 /// \param a_line  a content line without a line ending.
-/// \param a_lines of the contact that the line is for: it is read by their version and has their indentation.
-/// \return a card whose last line it is; a null card if it is not exactly one property in UTF-8, whatever lines are
-///         before and after it, or if it is VERSION.
+/// \param a_lines the lines of the contact that the line is for. It is read by their version and has their indentation.
+/// \return a card with this line as the last one. A null card if the line is VERSION, or if it is not exactly one
+///         property in UTF-8 regardless of the lines before and after it.
 PimContactCard CardWithLine( const QByteArray& a_line, const ContactLines& a_lines );
 
 } // namespace PimManager::Contacts

@@ -1,5 +1,5 @@
 /// \file
-/// What a contact holds.
+/// The data of a contact.
 
 #pragma once
 
@@ -28,7 +28,7 @@ public:
     ContactLines m_lines;
     QStringList m_languages;
 
-    /// The labels of the groups. They are read when they are needed for the first time.
+    /// The labels of the groups. They are read at their first use.
     const GroupLabels& Labels() const;
     /// Call this after the lines have changed.
     void ForgetLabels() { m_labels.Clear(); }

@@ -17,7 +17,7 @@
 namespace PimManager::Contacts
 {
 
-/// Edits one contact. Each function is linear in the number of its lines and in what is written.
+/// Edits one contact. Each function is linear in the number of its lines and in the length of the written text.
 class ContactEditor
 {
 public:
@@ -28,15 +28,15 @@ public:
 
     FieldWriter Writer( std::string_view a_name ) const { return FieldWriter( m_contact.m_lines.Version(), a_name ); }
 
-    /// Adds a field, and lines for its label and for what its line cannot hold.
-    /// \param a_name of the property; may be empty, then the field knows it.
+    /// Adds a field, with further lines for its label and for data that its own line cannot contain.
+    /// \param a_name the name of the property; if empty, that of the field.
     /// \return the id of its line; 0 if it is empty.
     int Add( const PimContactField& a_field, std::string_view a_name = std::string_view() );
 
     bool Replace( const PimContactField& a_field, const PimContactField& a_by );
     bool Remove( const PimContactField& a_field );
 
-    /// Replaces all properties with an id by one line, or by none if the writer has no value.
+    /// Replaces all properties with an id by one line, or removes them if the writer has no value.
     void SetOnly( PropertyId a_property, const FieldWriter& a_writer );
     /// Replaces all properties with an id by lines.
     void SetAll( PropertyId a_property, const std::vector<FieldWriter>& a_writers );

@@ -1,5 +1,5 @@
 /// \file
-/// The fields of a contact that are made of several lines.
+/// The fields of a contact that are read from several lines.
 
 #pragma once
 
@@ -14,20 +14,20 @@
 namespace PimManager::Contacts
 {
 
-// Each is the function of PimContact with that name.
+// Each implements the function of PimContact with the same name.
 PimContactList<PimContactAddress> ReadAddresses( const PimContactPrivate& a_contact );
 PimContactList<PimContactEvent> ReadEvents( const PimContactPrivate& a_contact );
 PimContactList<PimContactMessenger> ReadMessengers( const PimContactPrivate& a_contact );
 PimContactList<PimContactRelation> ReadRelations( const PimContactPrivate& a_contact );
 PimContactName ReadNames( const PimContactPrivate& a_contact );
 
-/// The elements of NICKNAME or CATEGORIES, each a field.
+/// One field for each element of NICKNAME or CATEGORIES.
 PimContactList<PimContactText> ReadElements( const PimContactPrivate& a_contact, PropertyId a_property );
 
 /// The texts of a property.
 PimContactList<PimContactText> ReadTexts( const PimContactPrivate& a_contact, PropertyId a_property );
 
-/// \param a_text of a CLIENTPIDMAP, such as `1;urn:uuid:…`.
+/// \param a_text the text of a CLIENTPIDMAP, such as `1;urn:uuid:…`.
 /// \return nothing if it does not begin with a number from 1.
 std::optional<QPair<int, QString>> PidEntryOf( std::string_view a_text );
 

@@ -16,7 +16,7 @@
 namespace PimManager::Contacts
 {
 
-/// Which properties are meant.
+/// A set of properties.
 using PropertySet = std::bitset<s_kProperties>;
 
 inline PropertySet SetOf( std::initializer_list<PropertyId> a_properties )
@@ -34,15 +34,15 @@ PropertyId PropertyNamed( std::string_view a_name );
 /// A line of a contact.
 struct ContactLine
 {
-    /// From 1. Edits do not change it.
+    /// The id, from 1. Edits do not change it.
     int m_id = 0;
-    /// Which of the cards it is in: 0 for the card of the contact, else one more than the index of an added one.
+    /// The card that contains it: 0 for the card of the contact, else the index of an added card plus one.
     quint32 m_card = 0;
     LinePlace m_place;
     PropertyId m_property = PropertyId::Other;
 };
 
-/// The lines in their order. An added line is in a card of its own, so that all lines are read in the same way.
+/// The lines in their order. Each added line is in its own card, so that all lines are read in the same way.
 class ContactLines
 {
 public:
@@ -51,7 +51,7 @@ public:
 
     const PimContactCard& Card() const { return m_card; }
     bool IsEdited() const { return m_isEdited; }
-    /// The version by which lines are read and added: 3.0 without a card.
+    /// The version by which lines are read and added. It is 3.0 if there is no card.
     PimContactVersion Version() const;
 
     /// \return the blanks before each line of an indented card; empty for other cards.
@@ -62,7 +62,7 @@ public:
     bool Has( PropertyId a_property ) const { return m_properties[static_cast<size_t>( a_property )]; }
     bool Has( const PropertySet& a_properties ) const { return ( m_properties & a_properties ).any(); }
 
-    /// \return the index of the first line from a_from on with a property; Size() if there is none.
+    /// \return the index of the first line with a property, from a_from on; Size() if there is none.
     size_t Next( PropertyId a_property, size_t a_from ) const
     {
         size_t index = a_from;
@@ -84,7 +84,7 @@ public:
     size_t EndOf( PropertyId a_property ) const;
 
     /// Reads the entry of a line.
-    /// \param a_line keeps what it knows of the card for the next line.
+    /// \param a_line keeps the data of the card for the next line.
     void Read( size_t a_index, IndexedLine& a_line ) const
     {
         const ContactLine& line = m_lines[a_index];
@@ -92,7 +92,7 @@ public:
             a_line.m_card = ViewOf( line );
         PimContactCardPrivate::LineView::Read( line.m_place, a_line );
     }
-    /// Finds a value that is text in UTF-8 as written, except for its escapes.
+    /// Finds a value that is UTF-8 text as written, except for its escapes.
     /// \param[out] a_value the value, with the line ending.
     /// \return false for any other value.
     bool FindPlainValue( size_t a_index, std::string_view& a_value ) const
@@ -108,20 +108,20 @@ public:
         SetLine( a_index, line );
         return line;
     }
-    /// Sets a line to one of these.
+    /// Sets a line to one of these lines.
     void SetLine( size_t a_index, PimContactLine& a_line ) const
     {
         const ContactLine& line = m_lines[a_index];
         PimContactCardPrivate::LineView::SetLine( CardOf( line ), line.m_place, a_line );
     }
 
-    /// Inserts a line. There is a card.
-    /// \param a_line a card whose last line it is.
+    /// Inserts a line. There must be a card.
+    /// \param a_line a card with the line as its last one.
     /// \return its id.
     int Insert( size_t a_index, const PimContactCard& a_line );
     void Replace( size_t a_index, const PimContactCard& a_line );
     void Remove( size_t a_index );
-    /// Removes all lines that a function wants removed, in one pass.
+    /// Removes all lines that a function selects, in one pass.
     template <class IsUnwanted>
     void RemoveIf( IsUnwanted a_isUnwanted )
     {
@@ -131,12 +131,12 @@ public:
         NoteAll();
     }
     /// Replaces the lines with a property, in one pass: the first ones keep their ids, and the others are removed.
-    /// \param a_place where lines are inserted if there is none with the property.
-    /// \param a_by    cards whose last lines they are.
+    /// \param a_place the position where lines are inserted if there is none with the property.
+    /// \param a_by    cards with the new lines as their last ones.
     void ReplaceAll( PropertyId a_property, size_t a_place, const std::vector<PimContactCard>& a_by );
 
-    /// Puts all lines into one card. Their ids do not change.
-    /// \param a_card has the same lines.
+    /// Moves all lines to one card. Their ids do not change.
+    /// \param a_card a card with the same lines.
     void MoveTo( const PimContactCard& a_card );
 
 private:
@@ -156,7 +156,7 @@ private:
     CardView m_view;
     std::vector<PimContactCard> m_added;
     std::vector<ContactLine> m_lines;
-    // Those that there are.
+    // The properties that the lines have.
     PropertySet m_properties;
     int m_nextId = 1;
     bool m_isEdited = false;

@@ -1,5 +1,5 @@
 /// \file
-/// The part of a picture that is shown.
+/// The visible part of a picture.
 
 #pragma once
 

@@ -11,11 +11,11 @@ namespace PimManager::Contacts
 class FieldReader;
 class FieldWriter;
 
-/// \return the date of a line whose parameters were read. VALUE and X-APPLE-OMIT-YEAR count.
+/// \return the date of a line whose parameters were read. VALUE and X-APPLE-OMIT-YEAR are taken into account.
 PimContactDate ReadDateField( FieldReader& a_reader );
 
-/// Writes a date as the version has it: in the basic format for 4.0 (RFC 6350, section 4.3), in the extended one for
-/// the others.
+/// Writes a date in the form of the version: in the basic format for 4.0 (RFC 6350, section 4.3), and in the extended
+/// format for the others.
 void WriteDate( const PimContactDate& a_date, FieldWriter& a_writer );
 
 } // namespace PimManager::Contacts

@@ -8,7 +8,7 @@
 namespace PimManager::Contacts
 {
 
-/// Each part may be open.
+/// Each part may be unknown.
 struct DateFields
 {
     std::optional<int> m_year;
@@ -23,7 +23,7 @@ struct DateFields
     bool HasTime() const { return m_hour || m_minute || m_second; }
 
     /// \return true if the parts make up a date-and-or-time (RFC 6350, section 4.3.4) and the day exists. 29 February
-    ///         exists if the year is open, and a second may be 60.
+    ///         exists if the year is unknown, and a second may be 60.
     bool IsValid() const;
 };
 

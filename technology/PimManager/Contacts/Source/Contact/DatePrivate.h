@@ -1,5 +1,5 @@
 /// \file
-/// What PimContactDate holds, and how the library makes one from a value.
+/// The data of PimContactDate, and its creation from a value.
 
 #pragma once
 
@@ -34,8 +34,8 @@ public:
     static const PimContactDate& Null();
 
     /// \param a_text a decoded value in UTF-8.
-    /// \param a_omittedYear the value of X-APPLE-OMIT-YEAR: this year is open.
-    /// \return the date, or the text if it is none; null for white space only.
+    /// \param a_omittedYear the value of X-APPLE-OMIT-YEAR. This year means that the year is unknown.
+    /// \return the date, or a text if it is not a date. Null if there is only white space.
     static PimContactDate Read( std::string_view a_text, DateHint a_hint = DateHint::Any,
                                 const std::optional<int>& a_omittedYear = std::nullopt );
 

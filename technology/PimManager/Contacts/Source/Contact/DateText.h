@@ -18,15 +18,15 @@ enum class DateFormat
     Extended, ///< with separators, as vCard 3.0 and people have it: `1985-04-12T10:22:00Z`
 };
 
-/// The text of a date, in itself: nothing is allocated.
+/// The text of a date. The object contains the text, so nothing is allocated.
 class DateText
 {
 public:
-    /// \param a_fields valid, or without any part.
+    /// \param a_fields valid fields, or no known part at all.
     DateText( const DateFields& a_fields, DateFormat a_format );
 
-    /// \return a date-and-or-time (RFC 6350, section 4.3.4); a time begins with `T`. Empty without any part. ReadDate()
-    ///         reads it back. The text lives as long as this object.
+    /// \return a date-and-or-time (RFC 6350, section 4.3.4), in which a time begins with `T`. Empty if no part is
+    ///         known. ReadDate() reads it back. The text is valid as long as this object exists.
     std::string_view Text() const { return std::string_view( m_text.data(), m_size ); }
 
 private:

@@ -10,8 +10,8 @@
 namespace PimManager::Contacts
 {
 
-/// Decodes parts of one text into one buffer, which does not move meanwhile. A part without anything to decode is not
-/// copied.
+/// Decodes parts of one text into one buffer, which does not move in the meantime. A part without anything to decode is
+/// not copied.
 class DecodedParts
 {
 public:

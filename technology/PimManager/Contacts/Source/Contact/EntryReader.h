@@ -1,5 +1,5 @@
 /// \file
-/// Properties as people read them.
+/// Reads properties as text for people.
 
 #pragma once
 
@@ -18,12 +18,12 @@
 namespace PimManager::Contacts
 {
 
-/// Reads one line after the other, as PimContactEntry shows it. Keeps its memory.
+/// Reads lines, one after the other, as text for people. Keeps its memory.
 class EntryReader
 {
 public:
     /// Reads the name of a line. Its value is decoded when it is needed.
-    /// \param a_line must exist as long as something of it is needed.
+    /// \param a_line must exist as long as any part of it is needed.
     void Read( const IndexedLine& a_line );
 
     PropertyId Property() const { return m_property; }

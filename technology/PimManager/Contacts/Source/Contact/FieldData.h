@@ -1,5 +1,5 @@
 /// \file
-/// What the fields of a contact hold.
+/// The data of the fields of a contact.
 
 #pragma once
 
@@ -24,21 +24,21 @@
 namespace PimManager::Contacts
 {
 
-/// What few fields have.
+/// Data that few fields have.
 struct FieldExtras
 {
     /// Lines of its label and other additions.
     QVector<int> m_moreIds;
     QString m_language;
     QString m_altId;
-    /// The words of TYPE that are no kinds, if a program has set the kinds.
+    /// The words of TYPE that are not kinds, if a program has set the kinds.
     QStringList m_ownTypes;
     bool m_areTypesOwn = false;
-    /// All fields that say the same in other languages; empty if there is one only.
+    /// The fields in all languages; empty if there is only one.
     std::vector<PimContactField> m_alternatives;
 };
 
-/// The data of PimContactField. Those of its classes add the typed value.
+/// The data of PimContactField. Derived classes add the typed value.
 class PimContactFieldPrivate : public QSharedData
 {
 public:
@@ -49,38 +49,38 @@ public:
 
     virtual PimContactFieldPrivate* Clone() const = 0;
 
-    /// \return true if the typed values are equal. \param a_other is of the same class.
+    /// \return true if the typed values are equal. \param a_other must have the same class.
     virtual bool IsSameValue( const PimContactFieldPrivate& a_other ) const = 0;
     /// \return true if there is nothing to write.
     virtual bool IsEmpty() const = 0;
-    /// \return the name of the property to write. Texts and media have that of the line, or none.
+    /// \return the name of the property to write. For texts and media, that of their line, or an empty name.
     virtual std::string_view Name( PimContactVersion a_version ) const = 0;
-    /// \return true if a line with another name can hold the field as well.
+    /// \return true if a line with another name can contain the field as well.
     virtual bool FitsName( std::string_view a_name ) const { return PropertyOf( a_name ) != PropertyId::AndroidCustom; }
-    /// Writes the value by the name of the writer, and the parameters of the class.
+    /// Writes the value in the form for the writer's name, and the parameters of the class.
     virtual void Write( FieldWriter& a_writer ) const = 0;
     /// \return the name of another property that contains a part of the field, such as LABEL of an address; empty if
     ///         all of it is in one line.
     virtual std::string_view AdditionName( PimContactVersion /*a_version*/ ) const { return {}; }
     /// Writes that part.
     virtual void WriteAddition( FieldWriter& /*a_writer*/ ) const {}
-    /// Takes out what another line of the field says already, so that it is not written twice.
-    /// \param a_old what is replaced, with its lines.
-    /// \return false if the line says something else.
+    /// Removes data that another line of the field already contains, so that it is not written twice.
+    /// \param a_old the field that is replaced, with its lines.
+    /// \return false if the line contains something else.
     virtual bool TakeAddition( PropertyId /*a_addition*/, const PimContactFieldPrivate& /*a_old*/ ) { return true; }
     /// \return true if the words of TYPE are those of the field, and not a part of its value.
     virtual bool HasTypes() const { return true; }
 
-    /// Compares all that fields have in common, and the typed values.
+    /// Compares the common data of fields, and the typed values.
     bool IsEqual( const PimContactFieldPrivate& a_other ) const;
 
     /// \return the words of TYPE, see PimContactField::Types().
     QStringList Types() const;
-    /// \return the words of TYPE that are no kinds of the class.
+    /// \return the words of TYPE that are not kinds of the class.
     QStringList OtherTypes() const;
-    /// Removes the word of TYPE that is the label.
+    /// Removes the TYPE word that is the label.
     void DropLabelType();
-    /// Keeps only the words of TYPE that are no kinds, because the kinds are about to change.
+    /// Keeps only the words of TYPE that are not kinds, because the kinds are about to change.
     void DropKindTypes();
     /// \return the words to write for the kinds of the field.
     virtual QStringList KindTypes( PimContactVersion /*a_version*/ ) const { return {}; }
@@ -115,17 +115,17 @@ public:
         return *m_extras;
     }
 
-    /// Null for a field that a program made.
+    /// Null for a field that a program created.
     PimContactLine m_line;
-    /// Of the line.
+    /// The id of the line.
     PropertyId m_property = PropertyId::Other;
     int m_id = 0;
     QString m_label;
     /// 0 for none.
     int m_preference = 0;
-    /// Of a nickname or category: which element of the line.
+    /// For a nickname or category: the index of the element in the line.
     int m_element = -1;
-    /// True if the label is that of a group, or a word of TYPE.
+    /// True if the label is that of a group or a TYPE word.
     bool m_hasGroupLabel = false;
     bool m_isLabelOfType = false;
 
@@ -135,7 +135,7 @@ private:
     std::unique_ptr<FieldExtras> m_extras;
 };
 
-/// Adds what is the same for all classes.
+/// Implements the functions that are the same for all classes.
 template <class Derived>
 class FieldData : public PimContactFieldPrivate
 {
@@ -146,7 +146,7 @@ public:
         return static_cast<const Derived&>( *this ).IsSame( static_cast<const Derived&>( a_other ) );
     }
 
-    /// The data of fields without a value, which share it.
+    /// The shared data of all fields without a value.
     static PimContactFieldPrivate* Null()
     {
         static const QSharedDataPointer<PimContactFieldPrivate> s_null( new Derived );
@@ -154,7 +154,7 @@ public:
     }
 };
 
-/// \return true if a word of TYPE is the label of its field, which is without `X-`, in any letter case.
+/// \return true if a TYPE word is the label of its field, in any letter case. The label is without `X-`.
 bool IsLabelType( const QString& a_type, const QString& a_label );
 
 /// \return the words as texts.

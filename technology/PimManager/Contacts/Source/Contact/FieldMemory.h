@@ -12,7 +12,7 @@
 namespace PimManager::Contacts
 {
 
-/// What a FieldReader works in. It is borrowed, because most cards have a few lines of each property only.
+/// The buffers of a FieldReader. They are borrowed, because most cards have only a few lines of each property.
 struct FieldMemory
 {
     void Reset()
@@ -20,7 +20,7 @@ struct FieldMemory
         m_line.m_card = CardView();
         m_parameters.Clear();
     }
-    /// \return true if it contains more than any usual line needs.
+    /// \return true if it has more memory than a usual line needs.
     bool IsLarge() const { return m_decoder.IsLarge() || m_parameters.IsLarge(); }
 
     IndexedLine m_line;

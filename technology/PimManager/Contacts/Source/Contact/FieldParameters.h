@@ -1,5 +1,5 @@
 /// \file
-/// The parameters of a line that a typed field is made of.
+/// The parameters of a line for a typed field.
 
 #pragma once
 
@@ -16,7 +16,7 @@
 namespace PimManager::Contacts
 {
 
-/// The parameters that mean something to a typed field.
+/// The parameters that a typed field uses.
 enum class FieldParameter : quint8
 {
     Type,
@@ -42,11 +42,11 @@ enum class FieldParameter : quint8
 
 FieldParameter FieldParameterOf( std::string_view a_name );
 
-/// Reads the parameters of one line after the other, each of them once, and keeps its memory.
+/// Reads the parameters of lines, one line after the other. Each parameter is read once. Keeps its memory.
 class FieldParameters
 {
 public:
-    /// \return the kinds that a word of TYPE means, as the value of flags.
+    /// \return the kinds of a TYPE word, as the value of flags.
     using KindsOf = quint32 ( * )( std::string_view a_word );
 
     /// \param a_line must exist as long as its parameters are needed.
@@ -59,10 +59,10 @@ public:
         m_customType = std::string_view();
         m_meaning = Meaning();
     }
-    /// \return true if it keeps more memory than the parameters of any usual line need.
+    /// \return true if it keeps more memory than the parameters of a usual line need.
     bool IsLarge() const { return m_isLarge; }
 
-    /// \return the first value of a parameter; empty without it.
+    /// \return the first value of a parameter. Empty if there is none.
     std::string_view First( FieldParameter a_parameter ) const;
     /// All values, in their order. TYPE and PREF are left out.
     const std::vector<std::pair<FieldParameter, std::string_view>>& Values() const { return m_values; }
@@ -79,7 +79,7 @@ public:
     }
 
 private:
-    // What the words of TYPE and PREF mean.
+    // The meanings of the words of TYPE and of PREF.
     struct Meaning
     {
         quint32 m_kinds = 0;
@@ -94,13 +94,13 @@ private:
     void TakeType( std::string_view a_word, KindsOf a_kindsOf );
     void TakePreference( std::string_view a_value );
 
-    // Of parameters that are not plain, which are rare.
+    // For parameters that are not plain, which are rare.
     std::optional<ValueDecoder> m_decoder;
     KeptTexts m_texts;
     std::vector<std::pair<FieldParameter, std::string_view>> m_values;
     std::string_view m_customType;
     Meaning m_meaning;
-    // There were long parameters, and so may be the memory.
+    // There were long parameters, so the memory may be large.
     bool m_isLarge = false;
 };
 

@@ -1,5 +1,5 @@
 /// \file
-/// Reads the lines of a contact that a typed field is made of.
+/// Reads the lines of a contact for typed fields.
 
 #pragma once
 
@@ -20,7 +20,7 @@
 namespace PimManager::Contacts
 {
 
-/// Steps over the lines with certain properties. Nothing is decoded before it is wanted.
+/// Iterates over the lines with certain properties. Nothing is decoded before it is needed.
 class FieldReader
 {
 public:
@@ -51,7 +51,7 @@ public:
     PimContactLine PublicLine() const { return m_contact.m_lines.LineOf( m_index ); }
     PimContactVersion Version() const { return Line().m_card.m_record.Version(); }
     std::string_view Name() { return Line().Name( m_memory->m_name ); }
-    /// The group; empty without one.
+    /// The group. Empty if there is none.
     std::string_view Group() { return Line().Group( m_memory->m_group ); }
 
     /// \return the value as one text, without white space at both ends. Valid until the next line or part.
@@ -59,10 +59,10 @@ public:
     /// \return the value with its escapes.
     ValueDecoder& Value();
     PartReader Parts( Delimiters a_delimiters ) { return Value().Parts( a_delimiters ); }
-    /// What divides the value, by the property and the version.
+    /// The delimiters of the value, by the property and the version.
     Delimiters ValueDelimiters() const;
 
-    /// Reads the parameters and the label. Call this once for each line. Without kinds, no word of TYPE is a label.
+    /// Reads the parameters and the label. Call this once for each line. Without kinds, no TYPE word is a label.
     void ReadParameters( FieldParameters::KindsOf a_kindsOf );
     const FieldParameters& Parameters() const { return m_memory->m_parameters; }
     /// \return the kinds of all words of TYPE and of a built-in label.
@@ -76,34 +76,34 @@ public:
     /// \return the texts of SORT-AS.
     QStringList SortAs() const;
 
-    /// The words of TYPE mean something else in this line.
+    /// The words of TYPE have another meaning in this line.
     void SetNoTypeLabel() { m_isTypeLabel = false; }
 
-    /// Sets what all fields have in common. The parameters were read.
+    /// Sets the data that all fields have. The parameters must have been read.
     void SetCommon( PimContactFieldPrivate& a_data );
 
 private:
     void SetRare( PimContactFieldPrivate& a_data ) const;
 
     const PimContactPrivate& m_contact;
-    // Of the line, and of the next one.
+    // The positions of the line and of the next one.
     size_t m_index = 0;
     size_t m_next = 0;
     Borrowed<FieldMemory> m_memory;
     bool m_isDecoded = false;
     quint32 m_kinds = 0;
-    // A word of TYPE that is not a kind is a label.
+    // A TYPE word that is not a kind is a label.
     bool m_isTypeLabel = false;
     GroupLabels::Label m_label;
 };
 
-/// No word of TYPE is a kind.
+/// No TYPE word is a kind.
 quint32 NoKinds( std::string_view a_word );
 
-/// Makes the fields of a class.
+/// Creates the fields of a class.
 ///
 /// \param a_properties a PropertyId or a PropertySet.
-/// \param a_read makes the data of a field from the line of the reader; it returns null if there is no value.
+/// \param a_read creates the data of a field from the line of the reader. It returns null if there is no value.
 template <class Field, class Properties>
 PimContactList<Field> ReadFields( const PimContactPrivate& a_contact, const Properties& a_properties,
                                   PimContactFieldPrivate* ( *a_read )( FieldReader& a_reader ) )

@@ -1,5 +1,5 @@
 /// \file
-/// The typed fields of a contact, each from one line.
+/// Reads typed fields from one line each.
 
 #pragma once
 
@@ -9,8 +9,8 @@ namespace PimManager::Contacts
 class FieldReader;
 class PimContactFieldPrivate;
 
-// Each makes the data of a field from the line of the reader, and reads its parameters. Each returns null if the line
-// has no value.
+// Each function creates the data of a field from the line of the reader and reads its parameters. It returns null if
+// the line has no value.
 PimContactFieldPrivate* ReadAddress( FieldReader& a_reader );
 PimContactFieldPrivate* ReadEvent( FieldReader& a_reader );
 PimContactFieldPrivate* ReadGender( FieldReader& a_reader );

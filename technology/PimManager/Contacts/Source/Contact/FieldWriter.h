@@ -18,16 +18,16 @@
 namespace PimManager::Contacts
 {
 
-/// Builds one content line of a version, without folds and without the line ending. Whatever the texts contain, they
-/// end neither the line nor a parameter.
+/// Builds one content line of a version, without folds and without the line ending. No text can end the line or a
+/// parameter.
 ///
 /// In 2.1, a value that is not ASCII or has line breaks is QUOTED-PRINTABLE in UTF-8. Control characters other than
-/// tabs and line breaks are left out, because no version can hold them. In parameters of 2.1, which can hold neither
-/// quotes nor line breaks, a quote becomes an apostrophe and a line break a blank.
+/// tabs and line breaks are left out, because no version can express them. Parameters of 2.1 can contain neither quotes
+/// nor line breaks, so a quote becomes an apostrophe and a line break a blank.
 class FieldWriter
 {
 public:
-    /// \param a_name of the property; must outlive the writer.
+    /// \param a_name the name of the property; must outlive the writer.
     FieldWriter( PimContactVersion a_version, std::string_view a_name );
 
     PimContactVersion Version() const { return m_version; }
@@ -40,13 +40,13 @@ public:
     void AddParameter( const char* a_name, const QString& a_value );
     /// Adds a parameter whose value is a list. Empty values are left out.
     void AddParameter( const char* a_name, const QStringList& a_values );
-    /// Adds words of TYPE: in 2.1 a parameter for each, in the other versions a list.
+    /// Adds words of TYPE: in 2.1 one parameter for each, in the other versions a list.
     void AddTypes( const QStringList& a_words );
 
     /// Sets the value to a text, in which all delimiters are escaped.
     void SetText( const QString& a_text );
-    /// Sets the value to something whose commas and semicolons are no delimiters, such as a URI or a date. They are not
-    /// escaped.
+    /// Sets the value to a text whose commas and semicolons are not delimiters and are not escaped, such as a URI or a
+    /// date.
     void SetPlain( const QString& a_value );
     /// Sets the value to one value of the property: a URI, the only element of a list, or a text.
     void SetSingle( const QString& a_value );
@@ -59,7 +59,7 @@ public:
     /// Adds the parameter for the media type of an address. \param a_mediaType may be empty.
     void AddMediaType( const QString& a_mediaType );
 
-    /// True if a value was set that is not empty.
+    /// True if the value was set and is not empty.
     bool HasValue() const { return !m_value.isEmpty(); }
 
     /// \param a_group may be empty.

@@ -13,11 +13,11 @@ namespace PimManager::Contacts
 class FreeGroups
 {
 public:
-    /// Takes note of a group of the card. \param a_group in any letter case; may be empty.
+    /// Registers a group of the card. \param a_group the name in any letter case; may be empty.
     void Add( const QByteArray& a_group ) { m_used.insert( a_group.toLower() ); }
 
-    /// \return the next name that is free. It is not returned again. All calls together take time in proportion to the
-    ///         groups of the card and to the calls.
+    /// \return the next unused name. It is not returned again. All calls together are linear in the number of groups of
+    ///         the card and of calls.
     QByteArray Take()
     {
         QByteArray group;

@@ -14,13 +14,13 @@
 namespace PimManager::Contacts
 {
 
-/// Reads the text of a GEO, in every locale the same:
+/// Reads the text of a GEO, independently of the locale:
 ///
 /// - `geo:37.386013,-122.082932;u=10` (RFC 5870)
 /// - `37.386013;-122.082932` (RFC 2426, section 3.4.2)
 /// - in version 2.1, `-122.082932,37.386013` with the longitude first
 ///
-/// \param a_version of the card.
+/// \param a_version the version of the card.
 /// \return nothing for any other text, for another reference system than WGS 84, and for a latitude beyond 90 or a
 ///         longitude beyond 180 degrees.
 std::optional<PimContactPosition> GeoPositionOf( std::string_view a_text, PimContactVersion a_version );

@@ -1,5 +1,5 @@
 /// \file
-/// The labels that a card has for groups of properties.
+/// The labels of the groups of a card.
 
 #pragma once
 
@@ -16,7 +16,8 @@ namespace PimManager::Contacts
 
 class ContactLines;
 
-/// The labels of the groups of one card: the values of X-ABLabel. The first one of a group counts. Keeps its memory.
+/// The labels of the groups of one card: the values of X-ABLabel. If a group has several, the first one is used. Keeps
+/// its memory.
 class GroupLabels
 {
 public:
@@ -24,17 +25,17 @@ public:
     struct Label
     {
         std::string_view m_text;
-        /// Of its line in the contact; 0 if it was read from a card.
+        /// The id of its line in the contact; 0 if it was read from a card.
         int m_id = 0;
     };
 
     /// Reads the labels of a card.
-    /// \param a_first is at the first line of the card that has a group.
+    /// \param a_first a cursor at the first line of the card that has a group.
     void Read( const LineCursor& a_first );
     /// Reads the labels of a contact.
     void Read( const ContactLines& a_lines );
 
-    /// \param a_group in any letter case, as written.
+    /// \param a_group the group as written, in any letter case.
     /// \return the label without marks (see LabelMarks.h); empty if there is none.
     std::string_view Of( std::string_view a_group ) const;
     /// The same with marks, and the line.

@@ -1,5 +1,5 @@
 /// \file
-/// The words of TYPE for what a phone, an address or a messenger is for.
+/// The TYPE words for the kinds of phones, addresses and messengers.
 
 #pragma once
 
@@ -14,7 +14,7 @@ namespace PimManager::Contacts
 {
 
 /// \param a_word a word of TYPE, or the text of a built-in label (see BuiltInLabel()), in any letter case. `X-` and
-///               `X-EVOLUTION-` before the word make no difference.
+///               `X-EVOLUTION-` before the word are ignored.
 /// \return the kinds that PimContactKinds.h lists for the word. No kind for any other word.
 PimContactPhoneKinds PhoneKindsOf( std::string_view a_word );
 PimContactAddressKinds AddressKindsOf( std::string_view a_word );
@@ -22,11 +22,11 @@ PimContactAddressKinds AddressKindsOf( std::string_view a_word );
 /// The same for mail addresses, messengers and web pages.
 PimContactKinds KindsOf( std::string_view a_word );
 
-/// \return true for INTERNET, which adds nothing to what an EMAIL is (RFC 2426, section 3.3.2).
+/// \return true for INTERNET, which is the default type of an EMAIL (RFC 2426, section 3.3.2).
 bool IsMailDefault( std::string_view a_word );
 
-/// \param a_word a word of TYPE that is not a kind.
-/// \return the label that it means: `Boat` for `X-Boat`, and any other word as it is.
+/// \param a_word a TYPE word that is not a kind.
+/// \return the label: `Boat` for `X-Boat`, and any other word unchanged.
 std::string_view CustomLabelOf( std::string_view a_word );
 
 /// \return a word of TYPE for each kind, in the order of the enum. A word that the version does not define begins with

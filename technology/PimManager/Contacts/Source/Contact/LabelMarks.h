@@ -8,7 +8,7 @@
 namespace PimManager::Contacts
 {
 
-/// \return the text between two marks; the whole text if it has not both of them.
+/// \return the text between two marks. The whole text unless it has both of them.
 std::string_view Unwrapped( std::string_view a_text, std::string_view a_begin, std::string_view a_end );
 
 /// \return a label without the marks of a built-in one: `Home` for `_$!<Home>!$_`. White space at both ends is removed.

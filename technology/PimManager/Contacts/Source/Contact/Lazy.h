@@ -1,5 +1,5 @@
 /// \file
-/// What is made when it is needed for the first time.
+/// Values that are created at their first use.
 
 #pragma once
 
@@ -8,8 +8,8 @@
 namespace PimManager::Contacts
 {
 
-/// Holds a value that is made at its first use. Several threads may use it at once: each may make the value, and one of
-/// them is kept. A copy is empty.
+/// Contains a value that is created at its first use. Several threads may use it at once. Each of them may create the
+/// value, and one of these is kept. A copy is empty.
 template <class Value>
 class Lazy
 {
@@ -33,7 +33,7 @@ public:
         return *value;
     }
 
-    /// Not at the same time as other functions.
+    /// Must not be called at the same time as other functions.
     void Clear() { delete m_value.fetchAndStoreOrdered( nullptr ); }
 
 private:

@@ -15,14 +15,14 @@
 namespace PimManager::Contacts
 {
 
-/// Reads the parameters of one line after the other, each of them once, and keeps its memory.
+/// Reads the parameters of lines, one line after the other. Each parameter is read once. Keeps its memory.
 class LineParameters
 {
 public:
     /// \param a_line must exist as long as its parameters are needed.
     void Read( const IndexedLine& a_line );
 
-    /// \return the words of TYPE and the bare words, as written, but without quotes, backslashes, a second "=", and the
+    /// \return the words of TYPE and the bare words as written, but without quotes, backslashes, a second "=", and the
     ///         marks of labels. PREF is left out.
     const WordGroups& Types() const { return m_types; }
 
@@ -34,8 +34,7 @@ public:
     /// \return the value that has this position in Names().
     std::string_view Value( size_t a_index ) const { return m_values[a_index]; }
 
-    /// \return what X-CUSTOM says the line is for, as some phones write it; empty if there is none. The first one
-    /// counts.
+    /// \return the label in the first X-CUSTOM, as some phones write it. Empty if there is none.
     std::string_view CustomLabel() const;
 
 private:

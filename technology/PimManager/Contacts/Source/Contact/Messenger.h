@@ -1,5 +1,5 @@
 /// \file
-/// Messengers and social networks: who somebody is there.
+/// Accounts in messengers and social networks.
 
 #pragma once
 
@@ -12,10 +12,10 @@
 namespace PimManager::Contacts
 {
 
-/// A service with what a writer needs. A part that the service does not have is empty.
+/// A service with the data that a writer needs. A part that the service does not have is empty.
 struct MessengerService
 {
-    std::string_view m_name;     ///< as people write it, such as `Google Talk`
+    std::string_view m_name;     ///< for people, such as `Google Talk`
     std::string_view m_scheme;   ///< of a URI in IMPP, with the colon, such as `xmpp:`
     std::string_view m_property; ///< for versions without IMPP, such as `X-JABBER`
 };
@@ -43,12 +43,11 @@ struct MessengerParts
 
 /// Reads a line whose name IsMessengerName() accepts.
 ///
-/// The service is the one of X-SERVICE-TYPE or SERVICE-TYPE, else of the property name, of a TYPE, of the URI scheme,
-/// or of a web address such as `https://twitter.com/omega`. In X-SOCIALPROFILE, any TYPE that is not a kind is a
-/// service.
+/// The service is that of X-SERVICE-TYPE or SERVICE-TYPE, else of the property name, of a TYPE, of the URI scheme, or
+/// of a web address such as `https://twitter.com/omega`. In X-SOCIALPROFILE, any TYPE that is not a kind is a service.
 ///
-/// The user name is the one of X-USER or USERNAME, else of the value, else of X-USERID. A web address has a user name
-/// only if it is the address of a profile in a known service.
+/// The user name is that of X-USER or USERNAME, else of the value, else of X-USERID. A web address has a user name only
+/// if it is the address of a profile in a known service.
 ///
 /// \param a_property   the name of the property.
 /// \param a_value      the text of the value.

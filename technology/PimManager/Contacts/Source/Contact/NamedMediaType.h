@@ -13,12 +13,12 @@
 namespace PimManager::Contacts
 {
 
-/// \return the first part of the media types that a property has without saying it, such as `image/` of PHOTO.
+/// \return the implied first part of the media types of a property, such as `image/` for PHOTO.
 std::string_view MainTypeOf( PropertyId a_property );
 
-/// \param a_property   of the line: a TYPE such as JPEG belongs to it, because a PHOTO is an image.
-/// \param a_parameters read with kinds that are no media types, such as HOME.
-/// \return MEDIATYPE as written, or else a media type by the first word of TYPE; empty without both.
+/// \param a_property   the property of the line. It completes a TYPE such as JPEG, because a PHOTO is an image.
+/// \param a_parameters the parameters, read with kinds that are not media types, such as HOME.
+/// \return MEDIATYPE as written, or else a media type from the first word of TYPE. Empty if there is neither.
 QString NamedMediaType( PropertyId a_property, const FieldParameters& a_parameters );
 
 } // namespace PimManager::Contacts

@@ -10,7 +10,7 @@
 namespace PimManager::Contacts
 {
 
-/// What the text of a TEL consists of. A part that is not there is empty.
+/// The parts of the text of a TEL. A missing part is empty.
 struct NumberParts
 {
     std::string_view m_number;
@@ -19,9 +19,9 @@ struct NumberParts
     bool m_isUri = false;       ///< true for a `tel:` URI
 };
 
-/// Takes the text of a TEL apart.
+/// Splits the text of a TEL into its parts.
 ///
-/// The parameters of a `tel:` URI may have any order and letter case; the first one of a name counts. In any other
+/// The parameters of a `tel:` URI may have any order and letter case; the first one of a name is used. In any other
 /// text, digits at the end are the extension if `x`, `ext`, `extn` or `extension` precedes them and a number precedes
 /// this word: `555 ext. 12`, `555;ext=12`, `555x12`. Pauses such as `555,12`, `555p12` and `555w12` are a part of the
 /// number.
@@ -33,18 +33,18 @@ NumberParts NumberPartsOf( std::string_view a_text, QByteArray& a_buffer );
 
 /// \param a_text   the text of a TEL.
 /// \param a_buffer receives the number if it is not a part of the text.
-/// \return the number. Of a `tel:` URI (RFC 3966) this is the number and `;ext=` with the extension, without other
+/// \return the number. For a `tel:` URI (RFC 3966), it is the number and `;ext=` with the extension, without other
 ///         parameters and without percent-encoding. Any other text is returned without white space at both ends.
 std::string_view NumberOf( std::string_view a_text, QByteArray& a_buffer );
 
-/// What the text of an EMAIL consists of.
+/// The parts of the text of an EMAIL.
 struct MailParts
 {
     std::string_view m_address;
     std::string_view m_name; ///< of the person, empty if there is none
 };
 
-/// Takes the text of an EMAIL apart: `omega@example.com`, `mailto:omega@example.com?subject=x` (RFC 6068) or
+/// Splits the text of an EMAIL into its parts: `omega@example.com`, `mailto:omega@example.com?subject=x` (RFC 6068) or
 /// `"Omega Iota" <omega@example.com>` (RFC 5322, section 3.4).
 ///
 /// \param a_text   the text of an EMAIL.

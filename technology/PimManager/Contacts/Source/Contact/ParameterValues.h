@@ -1,5 +1,5 @@
 /// \file
-/// The values of TYPE and PREF as programs write them.
+/// Reads values of TYPE and PREF in the forms that programs write.
 
 #pragma once
 
@@ -19,7 +19,7 @@ std::string_view TypeWordIn( std::string_view a_value, QByteArray& a_buffer );
 bool IsPreferredType( std::string_view a_word );
 
 /// \param a_value a value of PREF.
-/// \return from 1 (most preferred) to 100; 0 if it is no such number.
+/// \return from 1 (most preferred) to 100; 0 if it is not such a number.
 int PreferenceIn( std::string_view a_value );
 
 } // namespace PimManager::Contacts

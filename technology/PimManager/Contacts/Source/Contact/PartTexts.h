@@ -19,14 +19,14 @@ namespace PimManager::Contacts
 
 class FieldReader;
 
-/// The texts of the components of one value, in one piece of memory. Empty texts are not kept.
+/// The texts of the components of one value, in one block of memory. Empty texts are not kept.
 class PartTexts
 {
 public:
-    /// Reads the parts of a value: a semicolon ends a component, and a comma a text of it. White space at both ends of
-    /// a text is removed.
-    /// \param a_reader    is at a line. These texts refer to its card, and the field that contains them keeps the card.
-    /// \param a_mostParts components after that number are texts of the last one.
+    /// Reads the parts of a value: a semicolon ends a component, and a comma ends a text of it. White space at both
+    /// ends of a text is removed.
+    /// \param a_reader    a reader at a line. The texts refer to its card, which the field that contains them keeps.
+    /// \param a_mostParts the largest number of components. Further components become texts of the last one.
     void Read( FieldReader& a_reader, int a_mostParts );
 
     /// \return the texts of a component, from 0.
@@ -70,13 +70,13 @@ private:
     void Add( int a_component, const QString& a_text );
     void AddRange( int a_component, int a_begin, int a_length );
 
-    // The value in the card, if it is ASCII without escapes, so that nothing is copied before somebody asks for it.
+    // The value in the card if it is ASCII without escapes, so that nothing is copied before it is needed.
     const char* m_written = nullptr;
-    // The texts of the parts otherwise.
+    // Otherwise the texts of the parts.
     QString m_texts;
-    // In the order of their components. Most values have no more than these.
+    // The texts in the order of their components. Most values have no more than these.
     QVarLengthArray<Part, 8> m_parts;
-    // Those that have a text. No value has more than 32 components.
+    // The components that have a text. No value has more than 32 components.
     quint32 m_components = 0;
 };
 

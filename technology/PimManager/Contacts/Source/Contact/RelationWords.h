@@ -1,5 +1,5 @@
 /// \file
-/// The words for what somebody is to a contact.
+/// The words for the relations of a contact.
 
 #pragma once
 
@@ -14,7 +14,7 @@ namespace PimManager::Contacts
 {
 
 /// \param a_word a word of TYPE in RELATED, or the text of a built-in label (see BuiltInLabel()), in any letter case.
-///               `X-` before the word makes no difference.
+///               `X-` before the word is ignored.
 /// \return the kind that PimContactKinds.h lists for the word. No kind for any other word.
 PimContactRelationKinds RelationKindsOf( std::string_view a_word );
 

@@ -43,7 +43,7 @@ private:
     size_t m_size = 0;
 };
 
-/// A kind, its word with `X-` before it, and the versions that define the word without `X-`.
+/// A kind, its word with the prefix `X-`, and the versions that define the word without the prefix.
 template <typename Kind>
 struct VersionWord
 {
@@ -52,7 +52,7 @@ struct VersionWord
     unsigned m_versions;
 };
 
-constexpr size_t s_kExtensionMarkLength = 2; // of "X-"
+constexpr size_t s_kExtensionMarkLength = 2; // the length of "X-"
 
 template <typename Kind, size_t s_kSize>
 KindWords WordsIn( const std::array<VersionWord<Kind>, s_kSize>& a_table, QFlags<Kind> a_kinds,
@@ -68,7 +68,7 @@ KindWords WordsIn( const std::array<VersionWord<Kind>, s_kSize>& a_table, QFlags
     return words;
 }
 
-/// \return a word without `X-` and `X-EVOLUTION-` at its start, in any letter case.
+/// \return a word without the prefixes `X-` and `X-EVOLUTION-`, which may be in any letter case.
 inline std::string_view WithoutExtensionMark( std::string_view a_word )
 {
     constexpr std::string_view s_kVendor = "EVOLUTION-";

@@ -1,5 +1,5 @@
 /// \file
-/// Fields that are private or of the work.
+/// Fields with kinds such as home and work.
 
 #pragma once
 

@@ -1,5 +1,5 @@
 /// \file
-/// Looks at a card before it is written.
+/// Examines a card before it is written.
 
 #pragma once
 
@@ -32,13 +32,13 @@ struct SurveyedPart
     bool m_isPlain = false;
 };
 
-/// What a look at all parts of a card finds. Keeps its memory.
+/// The results of examining all parts of a card. Keeps its memory.
 class CardSurvey
 {
 public:
-    /// \param a_card      is not null, and must exist as long as the survey is used.
-    /// \param a_target    the version that is to be written.
-    /// \param a_isCopying lines of the card may be copied: it has this version.
+    /// \param a_card      not null; must exist as long as the survey is used.
+    /// \param a_target    the version to write.
+    /// \param a_isCopying true if lines of the card may be copied, because it has this version.
     void Read( const PimContactCard& a_card, PimContactVersion a_target, bool a_isCopying );
 
     /// The lines and the parts that were dropped, in their order.
@@ -53,7 +53,7 @@ public:
     {
         return IndexReader( m_card.m_index, a_part.m_place.m_entry, a_part.m_place.m_entry ).SkipPlain();
     }
-    /// \return what the head of a plain line means. Valid until a head is asked for again.
+    /// \return the meaning of the head of a plain line. Valid until the next call.
     HeadMeaning& MeaningOf( std::string_view a_bytes, const IndexReader::PlainLine& a_line ) const
     {
         const std::string_view head = HeadOf( a_bytes, a_line );
@@ -64,10 +64,10 @@ public:
 
     const PropertySet& Properties() const { return m_properties; }
     bool Has( PropertyId a_property ) const { return m_properties[static_cast<size_t>( a_property )]; }
-    /// \return true if the card has the names that the target wants.
+    /// \return true if the card has the names that the target requires.
     bool HasNames() const;
     bool HasVersion() const { return m_versions > 0; }
-    /// The first line is VERSION.
+    /// \return true if the first line is VERSION.
     bool IsVersionFirst() const { return m_isVersionFirst; }
     /// \return true if the whole card may be copied.
     bool IsCopy() const;
@@ -93,9 +93,9 @@ private:
     CardView m_card;
     VersionStep m_step;
     bool m_isCopying = false;
-    // Of the whole card.
+    // For the whole card.
     ByteFlags m_bytes;
-    // Each part may be copied as it is.
+    // Each part may be copied unchanged.
     bool m_isClean = true;
     std::vector<SurveyedPart> m_parts;
     PropertySet m_properties;

@@ -20,11 +20,11 @@
 namespace PimManager::Contacts
 {
 
-/// Writes one card after the other, in one version. Lines that are clean and keep their version are copied.
+/// Writes cards in one version, one after the other. Lines that are clean and already have this version are copied.
 class CardWriter
 {
 public:
-    /// Writes vCards. All must outlive the object.
+    /// Writes vCards. The arguments must outlive the object.
     CardWriter( VCardText& a_text, WriteNotes& a_notes ) :
         m_target( a_text.Version() ),
         m_sink( a_text ),
@@ -35,7 +35,7 @@ public:
     {
     }
 
-    /// Passes the properties of version 4.0 to something else.
+    /// Passes the properties in version 4.0 to another sink.
     CardWriter( PropertySink& a_sink, WriteNotes& a_notes ) :
         m_target( PimContactVersion::V40 ),
         m_sink( a_sink ),
@@ -44,10 +44,10 @@ public:
     {
     }
 
-    /// \param a_card is not null.
+    /// \param a_card not null.
     void Write( const PimContactCard& a_card );
 
-    /// Writes every line again. \param a_depth how many cards are around the card.
+    /// Writes every line from its decoded value. \param a_depth the number of cards around the card.
     void WriteNested( const PimContactCard& a_card, int a_depth );
 
 private:
@@ -73,15 +73,15 @@ private:
     VCardText* m_text = nullptr;
     WriteNotes& m_notes;
     VersionChanges m_changes;
-    // Of vCards that go to another version.
+    // For vCards that are written in another version.
     std::optional<PlainChange> m_plain;
     PropertyReader m_reader;
     CardSurvey m_survey;
-    // Of the card, once a line is written again.
+    // For the card, once a line is written from its decoded value.
     std::optional<LineCursor> m_lines;
-    // Lines that are to be copied.
+    // Lines to copy.
     std::string_view m_run;
-    // Of the property, as it was found.
+    // For the property as it was found.
     bool m_isVersionWritten = false;
     bool m_isVersionLineFound = false;
     int m_depth = 0;

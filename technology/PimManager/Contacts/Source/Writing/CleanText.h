@@ -11,17 +11,17 @@
 namespace PimManager::Contacts
 {
 
-/// What a byte of a text is to a writer.
+/// The kind of a byte for a writer.
 enum class TextUnit : quint8
 {
-    Byte,      ///< to be written, escaped if need be
+    Byte,      ///< to be written, escaped if necessary
     LineBreak, ///< a line break of any kind: CR LF, CR, LF, or one of U+0085, U+2028 and U+2029
-    Lost,      ///< a control character, which no version can hold
+    Lost,      ///< a control character, which no version can express
 };
 
-/// Reads the units of a text one after the other.
+/// Reads the units of a text, one after the other.
 ///
-/// Programs take any of these line breaks for the end of a line, so a writer writes all of them as an escaped line
+/// Programs treat any of these line breaks as the end of a line, so a writer writes all of them as an escaped line
 /// feed. Control characters other than tabs are lost.
 class TextUnits
 {
@@ -33,10 +33,10 @@ public:
     }
 
     bool AtEnd() const { return m_place == m_end; }
-    /// How many bytes follow.
+    /// The number of remaining bytes.
     size_t Left() const { return static_cast<size_t>( m_end - m_place ); }
 
-    /// \param[out] a_byte of Byte.
+    /// \param[out] a_byte the byte if the unit is a Byte.
     TextUnit Next( char& a_byte )
     {
         a_byte = *m_place++;

@@ -13,7 +13,7 @@ namespace PimManager::Contacts
 /// The longest physical line in octets, without its line ending (RFC 2426, section 2.6; RFC 6350, section 3.2).
 constexpr size_t s_kLineLength = 75;
 
-/// \return true for a byte of UTF-8 that is not the first one of its character.
+/// \return true for a byte of UTF-8 that is not the first byte of its character.
 inline bool IsInsideCharacter( char a_byte )
 {
     return ( static_cast<unsigned char>( a_byte ) & 0xC0U ) == 0x80;
@@ -29,7 +29,7 @@ void AppendFolded( std::string_view a_line, QByteArray& a_out );
 
 /// Appends a line whose value is QUOTED-PRINTABLE. A line that is too long is divided by soft line breaks in its value,
 /// never inside an encoded byte.
-/// \param a_head up to the colon, colon included.
+/// \param a_head the line up to and including the colon.
 void AppendSoftBroken( std::string_view a_head, std::string_view a_value, QByteArray& a_out );
 
 } // namespace PimManager::Contacts

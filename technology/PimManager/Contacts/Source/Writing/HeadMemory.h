@@ -1,5 +1,5 @@
 /// \file
-/// Remembers what the heads of lines mean to a writer.
+/// Caches the meanings of the heads of lines for a writer.
 
 #pragma once
 
@@ -29,23 +29,23 @@ private:
     quint8 m_length = 0;
 };
 
-/// What the name and the parameters of a line mean.
+/// The meaning of the name and the parameters of a line.
 struct HeadMeaning
 {
     PropertyId m_property = PropertyId::Other;
-    /// The version of the line has all of its parameters, and they are written as it wants them.
+    /// The version of the line has all of its parameters, and they are written in its form.
     bool m_isLegal = false;
     /// See HasEscapedSemicolons().
     bool m_hasEscapedSemicolons = false;
     /// The property is a picture, a sound or a key.
     bool m_isMedia = false;
-    /// Of a line that goes to another version.
+    /// For a line that is written in another version.
     PlainChangeRule m_rule;
-    /// What the head becomes there, once a line has been written.
+    /// The head in that version, once a line has been written.
     WrittenHead m_written;
 };
 
-/// The first and the last eight bytes of a head, which are most of it. They may overlap.
+/// The first and the last eight bytes of a head, usually most of it. They may overlap.
 struct HeadEnds
 {
     explicit HeadEnds( std::string_view a_head )
@@ -77,8 +77,8 @@ private:
     }
 };
 
-/// The lines of a book have one of a few heads, such as `TEL;TYPE=HOME,VOICE`. Determining what one means takes longer
-/// than copying its line, so each thread remembers the last ones.
+/// The lines of a book have one of a few heads, such as `TEL;TYPE=HOME,VOICE`. Determining the meaning of a head takes
+/// longer than copying its line, so each thread caches the last ones.
 class HeadMemory
 {
 public:
@@ -86,7 +86,7 @@ public:
     static HeadMemory& OfThread();
 
     /// \param a_head the name and the parameters, without the group and without the colon.
-    /// \return what the head means. Valid until the next call.
+    /// \return the meaning of the head. Valid until the next call.
     HeadMeaning& Of( std::string_view a_name, std::string_view a_head, VersionStep a_step )
     {
         const HeadEnds ends( a_head );
@@ -130,11 +130,11 @@ private:
         const quint64 bytes = a_ends.m_first * 0x9E3779B97F4A7C15ULL + a_ends.m_last + a_length;
         return static_cast<size_t>( ( bytes * 0xD6E8FEB86659FD93ULL ) >> s_kUnused ) * 2;
     }
-    // Replaces what is in a slot and its neighbour.
+    // Replaces the entry of a slot or of its neighbour.
     HeadMeaning& OfOther( Slot& a_slot, std::string_view a_name, std::string_view a_head, VersionStep a_step );
 
     std::array<Slot, s_kSlots> m_slots;
-    // Of a head that is too long to be remembered.
+    // For a head that is too long to be cached.
     HeadMeaning m_long;
 };
 

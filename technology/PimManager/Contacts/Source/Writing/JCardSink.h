@@ -17,20 +17,20 @@ namespace PimManager::Contacts
 {
 
 /// Writes cards as jCards (RFC 7095), each on one line and without a line ending. The properties are those of version
-/// 4.0, and what PropertyConverter makes of them is what VCardText writes in that version.
+/// 4.0, and PropertyConverter converts the result to what VCardText writes in that version.
 ///
 /// - Names and groups are in lower case. A group is the parameter `group`. VALUE is the type of the value.
-/// - N and ADR have all components that they must have, also the empty ones after the last text.
-/// - Bytes are a `data:` URI, of type `unknown` in a property that has no URI. Dates and times are in the extended
-///   form. A boolean is `true` or `false`. A number is a number of JSON, so without a plus sign and without zeros
-///   before it.
-/// - A property of no standard without VALUE has the type `unknown`; its value is that of version 4.0 with all its
+/// - N and ADR have all required components, including the empty ones after the last text.
+/// - Binary values are a `data:` URI, with type `unknown` if the property does not allow a URI. Dates and times are in
+///   the extended form. A boolean is `true` or `false`. A number is a JSON number, so it has neither a plus sign nor
+///   leading zeros.
+/// - A non-standard property without VALUE has the type `unknown`. Its value is that of version 4.0 with all its
 ///   escapes (section 5).
-/// - Control characters are kept, but a carriage return is a line feed.
+/// - Control characters are kept, but a carriage return becomes a line feed.
 class JCardSink : public PropertySink
 {
 public:
-    /// \param a_out must outlive the object, and is not complete between BeginCard() and EndCard().
+    /// \param a_out must outlive the object. It is not complete between BeginCard() and EndCard().
     explicit JCardSink( QByteArray& a_out ) :
         m_out( a_out )
     {
@@ -64,10 +64,10 @@ private:
 
     QByteArray& m_out;
     std::optional<JsonText> m_json;
-    // Of the property; null if it is of no standard.
+    // The rule of the property; null if it is not a standard property.
     const PropertyRule* m_rule = nullptr;
     std::vector<const ParameterText*> m_parameters;
-    // Of one parameter.
+    // For one parameter.
     std::vector<std::string_view> m_values;
     std::string m_buffer;
     std::string m_text;

@@ -19,9 +19,9 @@
 namespace PimManager::Contacts
 {
 
-/// Writes lines of one version in another one, without making properties of them: the head as it was written for a line
-/// before, and the value as it is. Writes what PropertyReader, VersionChanges and VCardText together would write, or
-/// leaves the line to them.
+/// Writes lines of one version in another one without making properties of them. The head is copied from an earlier
+/// line, and the value is copied unchanged. The output is what PropertyReader, VersionChanges and VCardText would write
+/// together. Any other line is left to them.
 class PlainChange
 {
 public:
@@ -36,9 +36,9 @@ public:
     /// \return false if the lines of a property must take the slow path in this card.
     bool MayTake( PropertyId a_property ) const;
 
-    /// Writes a line of such a property. Its head is known, and its rule allows it.
-    /// \param a_bytes with the line endings.
-    /// \return false if the line must take the slow path. Nothing is written then.
+    /// Writes a line of such a property. Its head must be known, and its rule must allow it.
+    /// \param a_bytes the line with its line endings.
+    /// \return false if the line must take the slow path. Then nothing is written.
     bool Take( std::string_view a_bytes, const IndexReader::PlainLine& a_line, const HeadMeaning& a_meaning );
 
 private:

@@ -1,5 +1,5 @@
 /// \file
-/// Which values are the same in another version.
+/// Rules for values that are the same in another version.
 
 #pragma once
 
@@ -15,7 +15,7 @@
 namespace PimManager::Contacts
 {
 
-/// From which version to which one a card is written.
+/// The version of a card and the version in which it is written.
 struct VersionStep
 {
     PimContactVersion m_source = PimContactVersion::V30;
@@ -36,15 +36,15 @@ struct PlainChangeRule
     static PlainChangeRule Of( PropertyId a_property, std::string_view a_name, std::string_view a_parameters,
                                VersionStep a_step );
 
-    /// \return true if a value is written in the target as it is, unless 2.1 must encode it.
-    /// \param a_value without continuation lines; it is clean text.
+    /// \return true if a value is written unchanged in the target, unless 2.1 must encode it.
+    /// \param a_value clean text without continuation lines.
     bool Keeps( std::string_view a_value ) const;
 
-    /// \return true if the target has so many components.
+    /// \return true if the target has this many components.
     bool MayHave( quint32 a_components ) const { return a_components >= m_least && a_components <= m_most; }
 
     bool m_isAllowed = false;
-    /// Of the value in its version.
+    /// For the value in its version.
     ValueShape m_shape = ValueShape::Single;
     /// The number of components in the target.
     quint32 m_least = 0;

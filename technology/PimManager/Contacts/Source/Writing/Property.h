@@ -1,5 +1,5 @@
 /// \file
-/// A property apart from how a version writes it.
+/// A property, independent of the form of any version.
 
 #pragma once
 
@@ -20,9 +20,9 @@ namespace PimManager::Contacts
 /// One value of a parameter.
 struct ParameterText
 {
-    /// Of a standard parameter in upper case, else as written.
+    /// The name. Upper case for a standard parameter, otherwise as written.
     std::string_view m_name;
-    /// Decoded, in UTF-8. It may have any line breaks and control characters.
+    /// The decoded value in UTF-8. It may contain any line breaks and control characters.
     std::string_view m_value;
     StandardParameter m_parameter = StandardParameter::Other;
 
@@ -32,44 +32,45 @@ struct ParameterText
 /// One text of a value.
 struct ValueText
 {
-    /// Without escapes, in UTF-8. It may have any line breaks and control characters.
+    /// The text in UTF-8 without escapes. It may contain any line breaks and control characters.
     std::string_view m_text;
-    /// Which component it belongs to, from 0. Each component has one text at least, which may be empty.
+    /// The number of its component, from 0. Each component has at least one text, which may be empty.
     quint32 m_component = 0;
 };
 
-/// A property. All texts refer to memory of what made it, and are valid until that makes the next one.
+/// A property. All texts refer to the memory of the object that created it, and are valid until that object creates the
+/// next one.
 ///
-/// - ENCODING, CHARSET and VALUE are no parameters here: the value is decoded, and its type is known. A bare word of
-///   2.1 is a TYPE.
-/// - The values of one parameter follow each other, in the order in which the line has them.
-/// - A Single value has one text; a List one for each element, all of component 0; Components one for each component;
-///   and ComponentLists one or more for each component.
-/// - A value that is bytes has no texts, and neither has one that is a card of its own.
+/// - ENCODING, CHARSET and VALUE are not among the parameters, because the value is decoded and its type is known. A
+///   bare word of 2.1 is a TYPE.
+/// - The values of one parameter follow each other in the order of the line.
+/// - A Single value has one text. A List has one for each element, all in component 0. Components have one for each
+///   component, and ComponentLists one or more for each component.
+/// - A binary value has no texts, and neither has a value that is a nested card.
 struct Property
 {
-    /// As written; empty without one. It has name bytes only.
+    /// The group as written. Empty if there is none. It has only name bytes.
     std::string_view m_group;
-    /// As written; it has name bytes only, and is not empty.
+    /// The name as written. It has only name bytes and is not empty.
     std::string_view m_name;
     /// PropertyNamed() of the name.
     PropertyId m_property = PropertyId::Other;
     std::vector<ParameterText> m_parameters;
 
-    /// Of the texts. Other for a property of no standard without VALUE: its texts are what is between unescaped
-    /// semicolons and commas.
+    /// The type of the texts. Other for a non-standard property without VALUE. Its texts are then the parts between
+    /// unescaped semicolons and commas.
     ValueType m_type = ValueType::Text;
     ValueShape m_shape = ValueShape::Single;
     std::vector<ValueText> m_texts;
 
     bool m_isBinary = false;
     std::string_view m_bytes;
-    /// Of the bytes, such as `image/jpeg`; empty if it is unknown.
+    /// The media type of the bytes, such as `image/jpeg`. Empty if it is unknown.
     std::string_view m_mediaType;
-    /// A card inside the card, as AGENT has; null for other properties.
+    /// The nested card, as in AGENT. Null for other properties.
     PimContactCard m_nested;
 
-    /// Its number among the lines of the card, from 1; 0 for a property that was added.
+    /// The number of its line in the card, from 1; 0 for a property that was added.
     int m_line = 0;
 
     void Clear()
@@ -87,10 +88,10 @@ struct Property
 
     bool IsText() const { return !m_isBinary && m_nested.IsNull(); }
 
-    /// \return the first text; empty without one.
+    /// \return the first text. Empty if there is none.
     std::string_view Text() const { return m_texts.empty() ? std::string_view() : m_texts.front().m_text; }
 
-    /// \return the first value of a parameter; empty without it.
+    /// \return the first value of a parameter. Empty if there is none.
     std::string_view First( StandardParameter a_parameter ) const
     {
         for ( const ParameterText& parameter : m_parameters )
@@ -108,7 +109,7 @@ struct Property
     }
 };
 
-/// Receives the properties of one card after the other, in the version that is to be written.
+/// Receives the properties of cards, one card after the other, in the version to write.
 class PropertySink
 {
 public:
@@ -118,13 +119,14 @@ public:
     virtual ~PropertySink() = default;
 
     virtual void BeginCard() = 0;
-    /// The card has VERSION here. Never called for 4.0, where it follows BEGIN.
+    /// The card has VERSION at this position. Never called for 4.0, where VERSION follows BEGIN.
     virtual void TakeVersion() {}
-    /// Never BEGIN, VERSION or END.
+    /// Receives a property, but never BEGIN, VERSION or END.
     virtual void Take( const Property& a_property ) = 0;
     virtual void EndCard() = 0;
 
-    /// Nothing is lost before the next property is taken. Call this for a line that may become a part of another one.
+    /// Clears the lost characters until the next property is taken. Call this for a line that may become a part of
+    /// another one.
     void ForgetLosses()
     {
         m_isTextLost = false;

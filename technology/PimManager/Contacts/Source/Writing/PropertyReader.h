@@ -1,5 +1,5 @@
 /// \file
-/// From a line of a card to a property.
+/// Converts a line of a card to a property.
 
 #pragma once
 
@@ -15,22 +15,22 @@
 namespace PimManager::Contacts
 {
 
-/// Reads one line after the other. Keeps its memory: most lines need none of their own.
+/// Reads lines, one after the other. Keeps its memory. Most lines need none.
 class PropertyReader
 {
 public:
     /// Reads a line.
-    /// \param a_line     a line whose card names a version, or else is read as 3.0; it must outlive the property.
-    /// \param a_property PropertyNamed() of its name.
-    /// \param a_number   of the line in its card, from 1.
+    /// \param a_line     a line; must outlive the property. If its card names no version, it is read as 3.0.
+    /// \param a_property the result of PropertyNamed() for its name.
+    /// \param a_number   the number of the line in its card, from 1.
     /// \return the property, which the caller may change. Valid until the next call. The nested card is not set.
     Property& Read( const IndexedLine& a_line, PropertyId a_property, int a_number );
 
     /// True if a part of the value could not be decoded: malformed characters, QUOTED-PRINTABLE or BASE64.
     bool IsDamaged() const { return m_isDamaged; }
-    /// True if the name or the group was changed, because it had characters that no version allows.
+    /// True if the name or the group was changed because it had characters that no version allows.
     bool IsNameMended() const { return m_isNameMended; }
-    /// The name of a parameter that has no value, and was left out; empty if there is none.
+    /// The name of a parameter without a value, which was left out. Empty if there is none.
     std::string_view EmptyParameter() const { return m_emptyParameter; }
 
 private:
@@ -50,7 +50,7 @@ private:
     void SetContentIdType();
 
     Property m_property;
-    // Of the property, by the version of the line; null for a property of no standard.
+    // The rule of the property in the version of the line; null for a non-standard property.
     const PropertyRule* m_rule = nullptr;
     bool m_isMedia = false;
     std::string_view m_valueName;
@@ -68,22 +68,22 @@ private:
     bool m_isNameMended = false;
 };
 
-/// \return the version by which a card is read and written again: 3.0 if it names none.
+/// \return the version by which a card is read and written; 3.0 if it names none.
 inline PimContactVersion KnownVersion( PimContactVersion a_version )
 {
     return a_version == PimContactVersion::Unknown ? PimContactVersion::V30 : a_version;
 }
 
-/// \return the delimiters of values that are divided in a way.
+/// \return the delimiters of values of a shape.
 Delimiters DelimitersOf( ValueShape a_shape );
 
-/// \return the rule by which a version divides the value of a property. A property that the version does not have is
-///         divided as in another one. Null for properties of no standard.
+/// \return the rule by which a version divides the value of a property. If the version does not have the property, the
+///         rule of another version. Null for non-standard properties.
 const PropertyRule* ShapeRuleOf( PropertyId a_property, PimContactVersion a_version );
 
 /// \return the type that the value of a property has in a version without VALUE.
 ValueType DefaultTypeOf( std::string_view a_name, PropertyId a_property, PimContactVersion a_version );
-/// The same by ShapeRuleOf().
+/// The same with a rule from ShapeRuleOf().
 ValueType DefaultTypeOf( std::string_view a_name, PropertyId a_property, const PropertyRule* a_rule );
 
 } // namespace PimManager::Contacts

@@ -15,10 +15,10 @@
 namespace PimManager::Contacts
 {
 
-/// The head of a line as it is written.
+/// The head of a line in its written form.
 struct LineHeadText
 {
-    /// With its dot; empty without one.
+    /// The group with its dot. Empty if there is none.
     std::string_view m_group;
     /// The name and the parameters, without ENCODING and CHARSET.
     std::string_view m_text;
@@ -26,8 +26,8 @@ struct LineHeadText
     size_t Size() const { return m_group.size() + m_text.size(); }
 };
 
-/// Writes cards in one version: UTF-8, CR LF, and physical lines of 75 octets at most, unless the name and the
-/// parameters of a line of 2.1 are longer. Whatever the texts contain, they end neither a line nor a parameter.
+/// Writes cards in one version: UTF-8, CR LF, and physical lines of at most 75 octets, unless the name and the
+/// parameters of a line in 2.1 are longer. No text can end a line or a parameter.
 ///
 /// In 2.1, a text is QUOTED-PRINTABLE in UTF-8 if it is not ASCII, or has line breaks or backslashes, or is too long
 /// for a line. Its BASE64 ends in an empty line.
@@ -46,21 +46,22 @@ public:
     void Take( const Property& a_property ) override;
     void EndCard() override;
 
-    /// Appends what is written already.
+    /// Appends text that is already written.
     void TakeWritten( std::string_view a_text );
-    /// Appends a line that is written already, except for its folds and its line ending.
+    /// Appends a line that is already written, except for its folds and its line ending.
     void TakeLong( std::string_view a_line );
-    /// Appends a line whose value is written as it is. In 2.1, IsShort() must accept the line.
+    /// Appends a line whose value is written unchanged. In 2.1, IsShort() must accept the line.
     void TakeValue( const LineHeadText& a_head, std::string_view a_value );
-    /// \return true if 2.1 need not encode a value, which consists of visible ASCII and blanks, without backslashes.
+    /// \return true if 2.1 need not encode a value, because it consists of visible ASCII and blanks without
+    ///         backslashes.
     static bool IsShort( const LineHeadText& a_head, std::string_view a_value, ValueShape a_shape );
-    /// Appends a line of 2.1 with these texts, which are clean.
+    /// Appends a line of 2.1 with these texts, which must be clean.
     void TakeOldTexts( const LineHeadText& a_head, const std::vector<ValueText>& a_texts, ValueShape a_shape );
     /// The head of the property that was taken last, without its group.
     std::string_view Head() const { return ViewOf( m_line ).substr( m_headBegin, m_headLength ); }
-    /// Appends the line of a property that contains a card, which follows.
+    /// Appends the line of a property that contains the card that follows.
     void TakeHolder( const Property& a_property );
-    /// Lines are not folded, because they are to be a text.
+    /// Lines are not folded, because they become a text.
     void SetUnfolded() { m_isFolded = false; }
 
     PimContactVersion Version() const { return m_version; }
@@ -92,7 +93,7 @@ private:
 
     PimContactVersion m_version;
     QByteArray& m_out;
-    // The line, and for QUOTED-PRINTABLE its value.
+    // The line, and its value if it is QUOTED-PRINTABLE.
     QByteArray m_line;
     QByteArray m_value;
     size_t m_headBegin = 0;
@@ -102,15 +103,14 @@ private:
     bool m_isFolded = true;
 };
 
-/// \return true if the value of a property has another type than the one that a reader of the version assumes, so that
-///         VALUE names it.
+/// \return true if VALUE must name the type of a value, because a reader of the version would assume another type.
 bool NeedsTypeName( const Property& a_property, PimContactVersion a_version );
 
-/// \return true if a value of this type is text, in which delimiters are escaped. Those of other types, such as URIs,
-///         are written as they are.
+/// \return true if a value of this type is text, in which delimiters are escaped. Values of other types, such as URIs,
+///         are written unchanged.
 bool IsEscapedType( ValueType a_type );
 
-/// \return the line of a version, such as `VERSION:3.0`, with its line ending.
+/// \return the VERSION line of a version, such as `VERSION:3.0`, with its line ending.
 std::string_view VersionLineOf( PimContactVersion a_version );
 
 } // namespace PimManager::Contacts

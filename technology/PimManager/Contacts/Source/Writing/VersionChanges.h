@@ -1,5 +1,5 @@
 /// \file
-/// From the properties of a card to those of another version.
+/// Converts the properties of a card to those of another version.
 
 #pragma once
 
@@ -19,12 +19,12 @@
 namespace PimManager::Contacts
 {
 
-/// Changes the properties of one card after the other so that a version can write them, by VersionTable. Whatever the
-/// version does not have is noted.
+/// Changes the properties of cards, one card after the other, so that a version can express them (see VersionTable).
+/// Everything that the version does not have is noted.
 class VersionChanges
 {
 public:
-    /// \param a_sink receives the changed properties. Both must outlive the object.
+    /// \param a_sink receives the changed properties. Both arguments must outlive the object.
     VersionChanges( PimContactVersion a_target, PropertySink& a_sink, WriteNotes& a_notes ) :
         m_target( a_target ),
         m_sink( a_sink ),
@@ -33,11 +33,11 @@ public:
     }
 
     /// \param a_card       must exist as long as its properties are passed.
-    /// \param a_properties those that it has.
+    /// \param a_properties the properties that it has.
     void BeginCard( const PimContactCard& a_card, const PropertySet& a_properties );
 
-    /// Changes a property and passes it to the sink, with others that it becomes.
-    /// \param a_property valid until the end of the call; it is changed.
+    /// Changes a property and passes it to the sink, with further properties that it becomes.
+    /// \param a_property the property. It is changed, and needs to be valid only during the call.
     void Take( Property& a_property );
 
 private:
@@ -85,34 +85,34 @@ private:
     PropertySink& m_sink;
     WriteNotes& m_notes;
     PimContactCard m_card;
-    // Texts that were made for the property.
+    // Texts that were created for the property.
     std::vector<QByteArray> m_texts;
     std::string_view m_oldName;
     Property m_part;
 
-    // Of an address: what becomes a line of its group.
+    // For an address: the parts that become lines of its group.
     std::string_view m_label;
     std::string_view m_position;
     std::string_view m_timeZone;
     std::string_view m_country;
-    // Of a name.
+    // For a name.
     QByteArray m_sortAs;
-    // The property has PREF, or gets it.
+    // The property has PREF or receives it.
     bool m_hasPref = false;
-    // PREF=1 was taken out.
+    // PREF=1 was removed.
     bool m_addsPref = false;
 
-    // Of the card: the line that takes SORT-STRING as a parameter, and its text.
+    // For the card: the line that receives SORT-STRING as a parameter, and the text of SORT-STRING.
     int m_sortLine = 0;
     QByteArray m_sortText;
     bool m_hasSortString = false;
-    // The text that the address in a line takes as a parameter, and the lines that it is taken from.
+    // The text that the address in a line receives as a parameter, and the lines that it comes from.
     QHash<int, QByteArray> m_labels;
     QHash<int, bool> m_labelLines;
-    // The names of the contacts in lines that hold a card, once they are wanted.
+    // The names of the contacts in lines that contain a card, once they are needed.
     QHash<int, QByteArray> m_agents;
     bool m_hasAgents = false;
-    // Once a new group is wanted.
+    // Created when the first new group is needed.
     std::optional<FreeGroups> m_groups;
 };
 

@@ -1,5 +1,5 @@
 /// \file
-/// What each version keeps of each property.
+/// The parts of each property that each version keeps.
 
 #pragma once
 
@@ -20,7 +20,7 @@ struct VersionCell
 {
     /// The name in the version; empty if the property keeps its name.
     std::string_view m_name;
-    /// What is kept, for docs/vcard-support.md; empty for everything.
+    /// The part that is kept, for docs/vcard-support.md; empty if everything is kept.
     std::string_view m_kept;
 };
 
@@ -28,7 +28,7 @@ struct VersionCell
 struct VersionRow
 {
     PropertyId m_property = PropertyId::Other;
-    /// Of versions 2.1, 3.0, and 4.0, which is also that of jCard.
+    /// For versions 2.1, 3.0 and 4.0. jCard uses that of 4.0.
     std::array<VersionCell, 3> m_cells;
 
     const VersionCell& In( PimContactVersion a_version ) const
@@ -37,13 +37,13 @@ struct VersionRow
     }
 };
 
-/// \return the row of a property. One that no version changes has a row without names.
+/// \return the row of a property. A property that no version changes has a row without names.
 const VersionRow& VersionRowOf( PropertyId a_property );
 
-/// \return the name that a property has in a version. Names that are not in the row, such as those of vendors, remain.
+/// \return the name of a property in a version. Names that are not in the row, such as those of vendors, do not change.
 std::string_view NameIn( std::string_view a_name, PropertyId a_property, PimContactVersion a_version );
 
-/// \return the rows as a table in Markdown, as docs/vcard-support.md has it.
+/// \return the rows as the Markdown table in docs/vcard-support.md.
 QByteArray VersionTableText();
 
 } // namespace PimManager::Contacts

@@ -1,5 +1,5 @@
 /// \file
-/// Collects what PimContactWriteReport reports.
+/// Collects the data of PimContactWriteReport.
 
 #pragma once
 
@@ -49,17 +49,17 @@ public:
     }
 
     void BeginContact();
-    /// The notes that follow are about a line.
+    /// Sets the line of the next notes.
     /// \param a_number from 1; 0 for the whole card.
     void SetLine( int a_number ) { m_line = a_number; }
     int Line() const { return m_line; }
 
-    /// \param a_property as written; letters, digits and hyphens.
+    /// \param a_property the name as written; only letters, digits and hyphens.
     void Add( PimContactWriteCode a_code, std::string_view a_property = {}, std::string_view a_detail = {} );
 
     void SetError( const QString& a_text ) { PimContactWriteReportPrivate::DataOf( m_report ).m_error = a_text; }
 
-    /// How often something was added.
+    /// The number of things that were added.
     qint64 Count() const { return m_count; }
 
     const PimContactWriteReport& Report() const { return m_report; }

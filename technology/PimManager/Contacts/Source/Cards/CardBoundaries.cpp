@@ -58,13 +58,13 @@ ByteRange RangeOf( std::string_view a_line, std::string_view a_part )
     return { static_cast<quint32>( a_part.data() - a_line.data() ), static_cast<quint32>( a_part.size() ) };
 }
 
-// What is left of a part without blanks around it.
+// A part without the blanks around it.
 ByteRange TextIn( std::string_view a_line, ByteRange a_part )
 {
     return RangeOf( a_line, WithoutPadding( a_part.In( a_line ) ) );
 }
 
-// What else is on a line that is a boundary by its name and value.
+// Fills in the other parts of a line that is a boundary by its name and value.
 void FillParts( CardBoundary& a_boundary, std::string_view a_line, std::string_view a_text, const LineHead& a_head )
 {
     const auto shift = [place = static_cast<quint32>( a_text.data() - a_line.data() )]( ByteRange a_range ) {
@@ -118,7 +118,7 @@ size_t PlaceOfBegin( std::string_view a_text )
     return IsBegin( rest ) ? static_cast<size_t>( rest.data() - a_text.data() ) : 0;
 }
 
-// What the first bytes of a line are, and the rest.
+// The boundary in the first bytes of a line, with the rest of the line.
 CardBoundary WithTextBehind( std::string_view a_line, size_t a_length )
 {
     CardBoundary boundary = CardBoundary::Of( a_line.substr( 0, a_length ) );
@@ -171,7 +171,7 @@ CardBoundary CardBoundary::Of( std::string_view a_line )
         FillParts( boundary, a_line, text, head );
     else if ( boundary.m_kind == Kind::AgentBegin )
     {
-        // Before the name of a property only byte order marks and then blanks are passed over.
+        // Before the name of a property, only byte order marks and then blanks are ignored.
         if ( TrimmedLeft( a_line.substr( LengthOfMarks( a_line ) ) ).data() != text.data() )
             return CardBoundary();
         const std::string_view value = WithoutPaddingLeft( text.substr( head.m_valueBegin ) );

@@ -3,7 +3,7 @@
 namespace PimManager::Contacts
 {
 
-// Calls itself for nested cards, so at most as deeply as the limit of nesting allows.
+// Recursive for nested cards, so the nesting limit bounds the depth.
 CardIndex CardCopy::Copy( quint32 a_record )
 {
     CardRecord record = CardRecord::At( m_index + a_record );

@@ -70,7 +70,7 @@ void CardCutter::Take( const Line& a_line )
 
 bool CardCutter::BeginPlainCard()
 {
-    // The first line ending of a kind is told, where it is.
+    // The first line ending of each kind is reported with its position, which the fast path does not do.
     return m_state == State::Outside && m_mayTakePlainCards && !m_scanner.IsLong() &&
            m_plainCard.Begin( m_scanner.Rest() ) &&
            m_ledger.Data().m_lineEnds[static_cast<size_t>( m_plainCard.LineEnd() )] > 0 && !m_delivery.IsFull();
@@ -187,7 +187,7 @@ bool CardCutter::MayBeHeld( const Line& a_line ) const
     return !a_line.m_isLong && a_line.m_length + a_line.m_endLength <= m_limits.m_bytes;
 }
 
-// What was held in case that it is a card is text outside.
+// The text that was held back is not a card.
 void CardCutter::ReleaseHeld( qint64 a_end )
 {
     m_state = State::Outside;
@@ -242,7 +242,7 @@ void CardCutter::TakeInside( const Line& a_line )
         TakeContent( a_line );
 }
 
-// An AGENT line, unless it continues the line before.
+// True for an AGENT line, unless it continues the line before it.
 bool CardCutter::MayHoldCard( const Line& a_line ) const
 {
     const size_t indentation = m_card.IsIndented() ? m_card.m_indentation : 0;
@@ -251,7 +251,7 @@ bool CardCutter::MayHoldCard( const Line& a_line ) const
     return !m_card.m_knowledge.m_isFlatAgent && !( isIndented && m_stack.MayFold() );
 }
 
-// The words of a boundary, indented after a line that is not: the line before continues with them. Text that is held
+// The words of a boundary are a fold if they are indented and the line before them is not. Text that is held back
 // outside cards does not continue with BEGIN.
 bool CardCutter::IsFold( const Line& a_line, Kind a_kind ) const
 {
@@ -282,7 +282,7 @@ void CardCutter::TakeBoundary( const Line& a_line, const CardBoundary& a_boundar
 void CardCutter::TakeBegin( const Line& a_line )
 {
     if ( !m_card.m_hasBegin )
-        // A card that begins is worth more than text that may be one.
+        // A BEGIN has priority over text that may be a card.
         EndAndTake( a_line );
     else if ( !m_stack.IsBehindAgent() )
     {
@@ -362,8 +362,8 @@ bool CardCutter::TakeContent( const Line& a_line )
     return true;
 }
 
-// All lines of an indented card have the indentation of its BEGIN line. If one has not, the card is read again without
-// it. \return false if the line has been taken.
+// All lines of an indented card have the indentation of its BEGIN line. If a line has not, the card is read again
+// without indentation. \return false if the line has been taken.
 bool CardCutter::CheckIndentation( const Line& a_line )
 {
     if ( !m_card.IsIndented() || m_stack.IsTooDeep() )
@@ -390,7 +390,7 @@ void CardCutter::TakeOverLimit( const Line& a_line )
     Take( line );
 }
 
-// What looks ahead looks no further than the limit of a card.
+// The look-ahead ends at the limit of a card.
 void CardCutter::LeaveOverLimit( const Line& a_line )
 {
     if ( m_card.m_lookahead.IsPending() && m_stack.IsOutermost() )
@@ -403,7 +403,7 @@ void CardCutter::LeaveOverLimit( const Line& a_line )
 
 // --- The end of cards
 
-// A card whose END is missing, and the cards in it.
+// Ends a card whose END is missing, with its nested cards.
 void CardCutter::EndOpenCard( qint64 a_end )
 {
     m_stack.RefreshBytes();
@@ -425,7 +425,7 @@ void CardCutter::EndAndTake( const Line& a_line )
     Take( a_line );
 }
 
-// A line that the scanner has already returned. The first one may be only a part of its line.
+// Returns a line that the scanner has already returned. The first one may be only a part of its line.
 CardCutter::Line CardCutter::LineAt( qint64 a_offset, qint64 a_end, qint64 a_number ) const
 {
     Line line = m_scanner.LineAt( a_offset, a_end, a_number );
@@ -434,7 +434,7 @@ CardCutter::Line CardCutter::LineAt( qint64 a_offset, qint64 a_end, qint64 a_num
     return line;
 }
 
-// Takes the lines of a part of the text once more.
+// Takes the lines of a part of the text again.
 void CardCutter::TakeAll( qint64 a_begin, qint64 a_end, qint64 a_number )
 {
     qint64 number = a_number;
@@ -463,7 +463,8 @@ void CardCutter::EndAtPendingEnd( qint64 a_end )
     TakeAll( end.End(), a_end, end.m_number + 1 );
 }
 
-// What looked like folds were cards: BEGIN and END and all between are indented, and no other END came.
+// The lines that looked like folds are a card: BEGIN, END and all lines between them are indented, and no other END
+// followed.
 void CardCutter::EndBeforeFoldedBegin( qint64 a_end )
 {
     const Line begin = m_card.m_lookahead.FoldedBegin();
@@ -500,7 +501,7 @@ void CardCutter::SkipFromBegin( Code a_code, const Line& a_line )
     TakeSkipped( a_line );
 }
 
-// The lines before this one are refused, too.
+// The lines before this one are refused as well.
 void CardCutter::SkipFromInside( const Line& a_line )
 {
     const qint64 begin = m_card.m_first.m_offset;
@@ -537,7 +538,7 @@ void CardCutter::LeaveSkipped( qint64 a_end )
     m_ledger.FlushUpTo( a_end );
 }
 
-// --- Lines whose end has not come
+// --- Lines whose end is not yet available
 
 CardCutter::Line CardCutter::OpenLine() const
 {

@@ -80,7 +80,7 @@ PimContactCard CardDelivery::CardOf( const CardIndex& a_index, const TextPlace& 
     return PimContactCardPrivate::Create( origin, filtered.m_index.Bytes(), ViewOf( filtered.m_bytes ) );
 }
 
-// For most cards nothing but numbers is added.
+// For most cards only numbers are added.
 void CardDelivery::Report( const CardIndex& a_index, const CardFacts& a_facts, const TextPlace& a_begin,
                            std::string_view a_bytes )
 {
@@ -122,7 +122,7 @@ void CardDelivery::Count( const CardIndex& a_index, const CardFacts& a_facts )
         NoteEvidence( a_index, a_facts );
 }
 
-// The first card that is not UTF-8 decides about the character set of the report.
+// The first card that is not UTF-8 determines the character set of the report.
 void CardDelivery::NoteEvidence( const CardIndex& a_index, const CardFacts& a_facts )
 {
     ReportData& data = m_ledger.Data();

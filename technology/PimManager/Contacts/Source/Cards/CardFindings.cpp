@@ -19,7 +19,7 @@ using Oddity = PimContactOddity;
 
 static_assert( static_cast<int>( Code::UnknownEscape ) - static_cast<int>( Code::LineJoined ) == s_kOddities - 1 );
 
-// An oddity of a line, where it is.
+// An oddity of a line, with its position.
 struct Finding
 {
     Code m_code = Code::LineJoined;
@@ -154,7 +154,7 @@ void CardFindings::Tell( bool a_isEndOfFile )
     TellCard( 0 );
 }
 
-// Calls itself for nested cards, so at most as deeply as the limit of nesting allows.
+// Recursive for nested cards, so the nesting limit bounds the depth.
 void CardFindings::TellCard( quint32 a_record )
 {
     const CardRecord record = CardRecord::At( m_index.Base() + a_record );

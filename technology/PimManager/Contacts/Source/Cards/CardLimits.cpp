@@ -17,7 +17,7 @@ Number Bounded( Number a_limit, Number a_most )
     return a_limit > 0 ? std::min( a_limit, a_most ) : a_most;
 }
 
-// The index of a card of shorter lines takes more memory than the limit of a card allows for.
+// With shorter lines, the index of a card would exceed the memory that the limit of a card allows for.
 qint64 MostLinesIn( qint64 a_bytes )
 {
     constexpr qint64 s_kLeastBytesOfLine = 5;

@@ -40,7 +40,7 @@ public:
     quint32 Begin() const { return m_begin; }
     std::string_view Line() const { return WithoutLineEnd( m_bytes.substr( m_begin, m_entry.m_length ) ); }
     bool IsLine() const { return m_entry.m_kind == EntryKind::Line; }
-    // As they are written.
+    // The entries as stored.
     IndexBytes Raw() const { return { m_entries.m_data + m_from, m_reader.Place() - m_from }; }
 
 private:
@@ -53,7 +53,7 @@ private:
     quint32 m_next;
 };
 
-/// Decides about the character sets of the lines of a card.
+/// Chooses the character sets of the lines of a card.
 class LineCharsets
 {
 public:

@@ -84,7 +84,7 @@ private:
             m_copy.Skip( a_entry.m_length );
     }
 
-    // The lines of other cards that follow.
+    // The remaining lines of other cards.
     void AddOthers()
     {
         while ( m_next < m_lines.size() && !LineView::IsOf( m_lines[m_next], m_card ) )
@@ -112,7 +112,7 @@ private:
     CardCopy m_copy;
     IndexWriter m_writer;
     size_t m_next = 0;
-    // Of the last line of the card. Its nested card is kept or left out like the line.
+    // Whether the last line of the card is kept. Its nested card is treated like the line.
     bool m_isLineKept = false;
     // After BEGIN.
     bool m_isInside;

@@ -17,7 +17,7 @@ std::string_view IndexedLine::Unfolded( std::string_view a_part, ByteRange a_ran
 namespace
 {
 
-// Of the line that precedes the next entry; blank lines may follow it.
+// The line before the next entry. Blank lines may follow it.
 bool FindNested( IndexReader a_reader, IndexEntry& a_nested )
 {
     while ( !a_reader.AtEnd() && a_reader.NextKind() == EntryKind::Blank )

@@ -32,7 +32,7 @@ ByteRange AllOf( const IndexedLine& a_line )
 
 } // namespace
 
-// Remembers where the name is, unless that is unusual.
+// Stores the position of the name, unless that is unusual.
 void PimContactCardPrivate::SetName( PimContactLine& a_line, const IndexReader::Outline& a_outline )
 {
     const ByteRange name = a_outline.m_name;

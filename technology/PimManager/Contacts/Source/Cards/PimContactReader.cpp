@@ -22,12 +22,13 @@ namespace
 
 using Code = PimContactDiagnosticCode;
 
-// What is in memory beyond the card. A card that is whole in a piece is read faster.
+// The length of the pieces, which are in memory in addition to the card. A card that is complete in one piece is read
+// faster.
 constexpr qint64 s_kLeastPiece = qint64( 4 ) * 1024;
 constexpr qint64 s_kMostPiece = qint64( 256 ) * 1024;
 constexpr qint64 s_kPieceOfLimit = 8;
 constexpr qint64 s_kRefusedPiece = qint64( 64 ) * 1024;
-// Of a card, if the options do not limit it.
+// The limit of a card if the options do not limit it.
 constexpr qint64 s_kMostBytes = qint64( 1024 ) * 1024 * 1024;
 
 qint64 PieceFor( qint64 a_mostCardBytes )
@@ -49,7 +50,7 @@ Code CodeOf( PimContactFileKind a_refusedKind )
     }
 }
 
-// What is told if no card was found.
+// The diagnostic if no card was found.
 Code CodeOfText( PimContactFileKind a_kind )
 {
     switch ( a_kind )
@@ -97,7 +98,7 @@ public:
     bool m_isInCall = false;
     bool m_isBroken = false;
     bool m_isFinished = false;
-    // The text is read as it comes, and more of it is wanted.
+    // The text is being read, and more of it is accepted.
     bool m_mayTakeBytes = false;
 
 private:
@@ -128,7 +129,7 @@ private:
     void CountLineEnd( const PhysicalLine& a_line );
     void TakeRefused( bool a_isAll );
     void TakeCard( PimContactCard a_card );
-    // The bytes of the file are the text.
+    // The bytes of the file are the text without conversion.
     bool IsUnchanged() const { return m_isBegun && m_decoder.IsUnchanged() && m_jcards.IsUnchanged(); }
     bool IsRefused() const { return m_decoder.RefusedKind() != PimContactFileKind::Unknown; }
     void LeaveDevice();
@@ -141,13 +142,13 @@ private:
 
     CardCutter m_cutter;
     bool m_isBegun = false;
-    // Cards of Next(): it takes lines until there is one. A line can complete several cards.
+    // The cards for Next(), which takes lines until there is a card. One line can complete several cards.
     bool m_isPulling = false;
     std::vector<PimContactCard> m_pulled;
     size_t m_nextPulled = 0;
     bool m_isTextEnded = false;
     PhysicalLine m_lastLine;
-    // Of the device of Next(): whether it has said that nothing follows.
+    // True if the device of Next() has signalled that nothing follows.
     QMetaObject::Connection m_connection;
     bool m_isDeviceFinished = false;
 };
@@ -177,7 +178,7 @@ void PimContactReaderPrivate::LeaveDevice()
     m_isDeviceFinished = false;
 }
 
-// As soon as the first bytes have decided what the file is.
+// Called as soon as the first bytes have determined the kind of the file.
 void PimContactReaderPrivate::Begin()
 {
     m_isBegun = true;
@@ -197,7 +198,7 @@ void PimContactReaderPrivate::Begin()
     m_ledger.Report( CodeOf( data.m_fileKind ), 0, TextPlace() );
 }
 
-// jCards become vCards.
+// Converts jCards to vCards.
 void PimContactReaderPrivate::TakeDecoded( std::string_view a_text )
 {
     if ( m_jcards.IsUnchanged() )
@@ -269,7 +270,7 @@ void PimContactReaderPrivate::CountLineEnd( const PhysicalLine& a_line )
         m_ledger.Announce( Code::LineEnd, end );
 }
 
-// A file of a kind that is refused, in pieces of one length.
+// Adds the bytes of a refused file in extents of equal length.
 void PimContactReaderPrivate::TakeRefused( bool a_isAll )
 {
     for ( ;; )
@@ -400,7 +401,7 @@ PimContactNext PimContactReaderPrivate::Next( QIODevice& a_device, PimContactCar
     return PimContactNext::Card;
 }
 
-// A text that passes unchanged is read to where its lines are found, without a copy.
+// A text that is not converted is read directly into the buffer of the scanner, without a copy.
 qint64 PimContactReaderPrivate::TakeFrom( QIODevice& a_device )
 {
     if ( IsUnchanged() && !IsRefused() )
@@ -445,7 +446,7 @@ bool PimContactReaderPrivate::ReadFrom( QIODevice& a_device )
     return true;
 }
 
-// What came before is delivered.
+// The cards before the error are delivered.
 void PimContactReaderPrivate::Fail( const QString& a_text )
 {
     m_ledger.Data().m_errorText = a_text;

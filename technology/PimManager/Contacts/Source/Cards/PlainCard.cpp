@@ -19,7 +19,8 @@ constexpr std::string_view s_kEnd = "END:VCARD";
 constexpr std::string_view s_kAgent = "AGENT";
 constexpr size_t s_kLongestBegin = CardBoundary::s_kLongest;
 
-// No line around it changes what the line is. A name that is not a name, or words for parameters, may be text.
+// True if the neighbouring lines cannot change the kind of the line. A line with an odd name or with words for
+// parameters may be text.
 bool IsSurelyProperty( const LineHead& a_head )
 {
     return a_head.m_hasColon && !a_head.m_hasWordsForParameters && !( a_head.m_oddities & PimContactOddity::OddName );
@@ -68,7 +69,7 @@ PlainCard::Step PlainCard::TakeContinuation( const Line& a_line )
         NoteFold( a_line );
     m_hasFolds = true;
     m_lastBegin = a_line.m_begin + 1;
-    // An ASCII character ends one that was not finished.
+    // An ASCII character ends an unfinished one.
     if ( a_line.m_isWide || m_isWide )
         m_census.Take( a_line.m_text.substr( 1, a_line.m_isWide ? std::string_view::npos : 1 ) );
     m_isWide = m_isWide || a_line.m_isWide;
@@ -249,7 +250,7 @@ void PlainCard::WaitForLineEnd( const LineEndSearch& a_search, size_t a_next, si
     m_searched = a_searched;
 }
 
-// The folds of a line that is not closed do not count if another reader continues.
+// The folds of a line that is not closed are not counted if another reader continues.
 void PlainCard::NoteFold( const Line& a_line )
 {
     if ( !m_hasFolds )

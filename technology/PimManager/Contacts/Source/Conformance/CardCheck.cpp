@@ -14,7 +14,7 @@ using Code = PimContactFindingCode;
 constexpr StandardSection s_kVersion40 = { Standard::Rfc6350, "6.7.9" };
 constexpr std::string_view s_kVendorMark = "VND-";
 
-// Where the standards say what a line consists of.
+// The sections that define the form of a line.
 StandardSection SectionOfForm( PimContactVersion a_version )
 {
     switch ( a_version )
@@ -28,7 +28,7 @@ StandardSection SectionOfForm( PimContactVersion a_version )
     }
 }
 
-// Where the standards say how further properties are named.
+// The sections that define the names of other properties.
 StandardSection SectionOfExtensions( PimContactVersion a_version )
 {
     switch ( a_version )
@@ -49,7 +49,7 @@ bool IsExtension( std::string_view a_name, PimContactVersion a_version )
     return isVendor || IsExtensionName( a_name );
 }
 
-// Version 2.1 allows blanks round names and parameters.
+// Version 2.1 allows blanks around names and parameters.
 bool IsMalformed( PimContactOddities a_oddities, PimContactVersion a_version )
 {
     a_oddities.setFlag( PimContactOddity::UnknownEscape, false );
@@ -190,7 +190,7 @@ void CardCheck::CheckBoundaries( const CardRecord& a_record )
                                 NameOf( PropertyId::End ) );
 }
 
-// BEGIN and END are no lines of the card.
+// BEGIN and END are not among the lines of the card.
 void CardCheck::CheckMissing()
 {
     for ( const PropertyRule& rule : RulesOf( m_version ) )

@@ -57,7 +57,7 @@ struct Moment
             SetTime( a_text.substr( m_designator + 1 ) );
     }
 
-    /// A sign after a digit begins the offset. One at the start means an open hour.
+    /// A sign after a digit begins the offset. One at the start means an unknown hour.
     void SetTime( std::string_view a_text )
     {
         const size_t digit = std::min( a_text.find_first_of( "0123456789" ), a_text.size() );
@@ -145,7 +145,7 @@ bool HasForm30( std::string_view a_text, ValueType a_type )
                          moment.HasZone( s_kOffsetsOfTimes30 ) );
 }
 
-/// \return false if the month or the day is zero, which DateParser reads as open.
+/// \return false if the month or the day is zero, which DateParser reads as unknown.
 bool AreDateDigitsRead( std::string_view a_text, const DateFields& a_fields )
 {
     const std::string_view date = Moment( a_text ).m_date;

@@ -21,7 +21,7 @@ constexpr std::array s_kIrregular = {
     "i-tay"sv,     "i-tsu"sv, "sgn-BE-FR"sv, "sgn-BE-NL"sv, "sgn-CH-DE"sv,
 };
 
-/// Reads the subtags of a tag one after the other.
+/// Reads the subtags of a tag, one after the other.
 class Subtags
 {
 public:

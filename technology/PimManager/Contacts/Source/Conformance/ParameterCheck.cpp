@@ -27,7 +27,7 @@ constexpr std::array s_kLevels = { "beginner"sv, "average"sv, "expert"sv, "high"
 constexpr int s_kLeastPreference = 100;
 constexpr size_t s_kLongestPropId = 255;
 
-// Where the standards say which parameters there are, and that each has a name.
+// The sections that define the parameters, and that each has a name.
 constexpr StandardSection s_kNames21 = { Standard::VCard21, "2.9" };
 constexpr StandardSection s_kNames30 = { Standard::Rfc2426, "5" };
 constexpr StandardSection s_kNames40 = { Standard::Rfc6350, "5" };
@@ -71,7 +71,7 @@ bool IsPropId( std::string_view a_text )
 }
 
 // RFC 6350 restricts these two, and allows any other parameter with any property. In 3.0, the grammar of each property
-// lists its parameters. That of 2.1 allows all.
+// lists its parameters. The grammar of 2.1 allows all.
 bool IsRestricted( StandardParameter a_parameter, PimContactVersion a_version )
 {
     switch ( a_version )

@@ -22,7 +22,7 @@ bool IsScheme( std::string_view a_text )
     return !a_text.empty() && IsLetter( a_text.front() ) && std::all_of( a_text.begin(), a_text.end(), IsSchemeByte );
 }
 
-// Any of RFC 3986, section 2, except for "%".
+// Any character of RFC 3986, section 2, except "%".
 bool IsUriByte( char a_byte )
 {
     return a_byte > ' ' && IsAsciiByte( a_byte ) &&

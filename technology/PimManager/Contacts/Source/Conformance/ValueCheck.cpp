@@ -34,7 +34,7 @@ bool IsDateType( ValueType a_type )
     }
 }
 
-// Where the standards list the types.
+// The sections that list the types.
 StandardSection SectionOfTypes( PimContactVersion a_version )
 {
     switch ( a_version )
@@ -221,7 +221,7 @@ void ValueCheck::CheckComponents()
         m_violations.Add( Code::ComponentCount, m_rule->m_section, NameOf( m_rule->m_property ) );
 }
 
-// What a property demands beyond its type.
+// The requirements of a property beyond its type.
 void ValueCheck::CheckOwnForm()
 {
     std::string_view rest = Text();

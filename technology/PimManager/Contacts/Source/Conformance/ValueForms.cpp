@@ -28,7 +28,7 @@ std::string_view WithoutSign( std::string_view a_text )
     return a_text.substr( hasSign ? 1 : 0 );
 }
 
-// What precedes and what follows the first occurrence of a byte. Without it nothing follows.
+// The parts before and after the first occurrence of a byte. Without the byte, the second part is empty.
 struct Halves
 {
     Halves( std::string_view a_text, char a_byte ) :

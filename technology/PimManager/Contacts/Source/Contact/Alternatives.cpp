@@ -14,7 +14,7 @@ namespace
 
 constexpr int s_kUnwanted = std::numeric_limits<int>::max();
 
-// What alternatives have in common.
+// The data that alternatives have in common.
 using Key = QPair<QString, QPair<int, int>>;
 
 Key KeyOf( const PimContactFieldPrivate& a_field )

@@ -30,7 +30,7 @@ QByteArray VersionLine( PimContactVersion a_version )
     }
 }
 
-/// \param a_indentation of all lines.
+/// \param a_indentation the indentation of all lines.
 PimContactCard CardWith( const QByteArray& a_lines, const QByteArray& a_indentation )
 {
     PimContactCard card;
@@ -54,13 +54,13 @@ PimContactLine LastLineOf( const PimContactCard& a_card )
     return last;
 }
 
-/// \return true for the lines that say where a card begins and ends, and how it is read.
+/// \return true for BEGIN and END, and for the line that determines how a card is read.
 bool IsOfCard( PropertyId a_property )
 {
     return a_property == PropertyId::Begin || a_property == PropertyId::End || a_property == PropertyId::Version;
 }
 
-/// \return true if a line is a property between any others, and does not take the next one for its own.
+/// \return true if a line is a property between any other lines and does not absorb the next one.
 bool IsAlone( const PimContactLine& a_line, std::string_view a_text )
 {
     const bool isOpen =

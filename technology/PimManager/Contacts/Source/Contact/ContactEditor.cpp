@@ -18,13 +18,13 @@ namespace
 
 constexpr std::string_view s_kLabelName = "X-ABLabel";
 
-// A label that is a word of TYPE is written there.
+// A label that is a TYPE word is written in TYPE.
 bool NeedsLabelLine( const PimContactFieldPrivate& a_data )
 {
     return !a_data.m_label.isEmpty() && !a_data.m_isLabelOfType;
 }
 
-/// \return true if the lines with the label say the same about both.
+/// \return true if the lines with the label mean the same for both.
 bool IsLabelKept( const PimContactFieldPrivate& a_old, const PimContactFieldPrivate& a_by )
 {
     return a_old.m_hasGroupLabel && !a_old.m_isLabelOfType && !a_by.m_isLabelOfType && a_old.m_label == a_by.m_label &&
@@ -77,7 +77,7 @@ void WritePreference( int a_preference, FieldWriter& a_writer, QStringList& a_ty
         a_types.append( QStringLiteral( "PREF" ) );
 }
 
-/// \return the words of TYPE that are no kinds, with the label in its letter case.
+/// \return the words of TYPE that are not kinds, with the label in its letter case.
 QStringList OtherTypesOf( const PimContactFieldPrivate& a_data )
 {
     QStringList types = a_data.OtherTypes();
@@ -101,7 +101,7 @@ void WriteCommon( const PimContactFieldPrivate& a_data, FieldWriter& a_writer )
     a_writer.AddParameter( "LANGUAGE", a_data.Extras().m_language );
 }
 
-// Those that no field knows.
+// The parameters that no field reads.
 void WriteOtherParameters( const PimContactLine& a_line, FieldWriter& a_writer )
 {
     const QList<QPair<QString, QString>> parameters = a_line.NamedParameters();
@@ -252,7 +252,7 @@ void ContactEditor::RemoveLines( const QSet<int>& a_ids )
     m_contact.m_lines.RemoveIf( [&a_ids]( const ContactLine& a_line ) { return a_ids.contains( a_line.m_id ); } );
 }
 
-// The id of a field of another contact may exist here, too. An element may have another position in its line now.
+// The id of a field of another contact may exist here as well. An element may have moved in its line.
 size_t ContactEditor::FindLineOf( const PimContactFieldPrivate& a_data ) const
 {
     const ContactLines& lines = m_contact.m_lines;

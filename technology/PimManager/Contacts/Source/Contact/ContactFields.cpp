@@ -40,7 +40,7 @@ void AddToName( FieldReader& a_reader, NameData& a_data )
     }
 }
 
-/// \return the first N with a text, or what it says in the caller's language.
+/// \return the first N with a text, or its alternative in the caller's language.
 PimContactName FirstName( const PimContactPrivate& a_contact )
 {
     PimContactFieldPrivate* data = nullptr;

@@ -20,7 +20,7 @@ bool IsManyNamed( std::string_view a_name )
     return a_name.find( '/' ) != std::string_view::npos && IsMessengerName( a_name );
 }
 
-// The name is the beginning of the text.
+// The text begins with the name.
 PropertyId PropertyNamedAt( std::string_view a_text, size_t a_length )
 {
     const PropertyId property = PropertyAt( a_text, a_length );
@@ -56,7 +56,7 @@ ContactLines::ContactLines( const PimContactCard& a_card ) :
         const IndexReader::Outline outline = reader.Skip();
         if ( outline.m_kind == EntryKind::Line )
         {
-            // An unusual name must be looked for.
+            // An unusual name must be searched.
             const std::string_view rest = m_view.m_bytes.substr( begin + outline.m_name.m_begin );
             const std::string_view name = rest.substr( 0, outline.m_name.m_length );
             const bool isPlain =

@@ -9,7 +9,7 @@ namespace PimManager::Contacts
 namespace
 {
 
-// More than any date with a fraction of nanoseconds has.
+// More characters than any date with nanoseconds.
 constexpr size_t s_kLongest = 64;
 
 /// One function for each construct. Each reads it at the start of the rest of the text, and returns false if it is not
@@ -140,7 +140,7 @@ private:
 
     bool IsAtDigit() const { return !m_rest.empty() && IsDigit( m_rest.front() ); }
 
-    /// \param a_mark a letter is one of either case.
+    /// \param a_mark a letter matches in either case.
     bool Skip( char a_mark )
     {
         const bool isThere = !m_rest.empty() && Upper( m_rest.front() ) == a_mark;

@@ -83,7 +83,7 @@ const LineParameters& EntryReader::Parameters()
     return m_parameters;
 }
 
-// The order in which most countries write an address, from the most particular part to the country.
+// The order in which most countries write an address, from the most specific part to the country.
 std::string_view EntryReader::AddressText()
 {
     const NamedParts& parts = Parts();

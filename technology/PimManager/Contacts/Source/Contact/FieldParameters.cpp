@@ -69,7 +69,7 @@ FieldParameter FieldParameterOf( StandardParameter a_parameter )
     }
 }
 
-// Words of TYPE that are neither kinds nor what an owner calls something.
+// Words of TYPE that are neither kinds nor labels.
 constexpr std::array<std::string_view, 3> s_kStandardWords = { "INTERNET", "VOICE", "X400" };
 
 bool IsStandardWord( std::string_view a_word )
@@ -167,7 +167,7 @@ void FieldParameters::TakeType( std::string_view a_word, KindsOf a_kindsOf )
         m_customType = m_texts.Keep( a_word );
 }
 
-// The first one counts, also if it is no preference.
+// The first one is used, even if it is not a preference.
 void FieldParameters::TakePreference( std::string_view a_value )
 {
     if ( !m_meaning.m_hasPreference )

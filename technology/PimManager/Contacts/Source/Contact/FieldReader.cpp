@@ -50,7 +50,7 @@ QString FieldReader::ParameterText( FieldParameter a_parameter ) const
     return StringOf( WithoutOuterSpace( Parameters().First( a_parameter ) ) );
 }
 
-// Quotes do not keep a list together (RFC 6350, section 5.9).
+// Commas divide the list even in quotes (RFC 6350, section 5.9).
 QStringList FieldReader::SortAs() const
 {
     QStringList texts;
@@ -83,7 +83,7 @@ void FieldReader::SetCommon( PimContactFieldPrivate& a_data )
     }
 }
 
-// What needs a labelled group, or parameters other than TYPE and PREF.
+// The data that come from a labelled group or from parameters other than TYPE and PREF.
 void FieldReader::SetRare( PimContactFieldPrivate& a_data ) const
 {
     std::string_view label = WithoutLabelMarks( m_label.m_text );

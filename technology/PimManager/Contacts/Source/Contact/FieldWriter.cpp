@@ -15,7 +15,7 @@ namespace
 {
 
 constexpr std::string_view s_kQuotedPrintable = ";ENCODING=QUOTED-PRINTABLE;CHARSET=UTF-8";
-// What a parameter value needs quotes for.
+// The characters for which a parameter value needs quotes.
 constexpr std::string_view s_kParameterDelimiters = ";:,= \t";
 
 bool IsLost( QChar a_character )
@@ -45,7 +45,7 @@ bool NeedsEncoding( char a_byte )
     return !IsAsciiByte( a_byte ) || a_byte == '\n' || a_byte == '\\';
 }
 
-/// Of a text that is to be QUOTED-PRINTABLE.
+/// For a text in QUOTED-PRINTABLE.
 void AppendEncoded( QByteArray& a_out, char a_byte, bool a_isDelimiter )
 {
     if ( a_byte == '\n' )
@@ -58,7 +58,7 @@ void AppendEncoded( QByteArray& a_out, char a_byte, bool a_isDelimiter )
         a_out.append( a_byte );
 }
 
-/// \return true for a property whose value is a URI unless VALUE says something else.
+/// \return true for a property whose value is a URI unless VALUE names another type.
 bool IsUriProperty( PropertyId a_property )
 {
     const PropertyRule* const rule = FindRule( a_property, PimContactVersion::V40 );
@@ -71,7 +71,7 @@ bool IsMediaTypeCharacter( QChar a_character )
     return isName || QStringLiteral( "/+._!#$&" ).contains( a_character );
 }
 
-/// \return the media type without what a `data:` URI could not hold; empty if it is none.
+/// \return the media type without characters that a `data:` URI cannot contain. Empty if it is not a media type.
 QString CleanMediaType( const QString& a_mediaType )
 {
     const bool isClean = std::all_of( a_mediaType.begin(), a_mediaType.end(), IsMediaTypeCharacter );
@@ -103,7 +103,7 @@ void AppendCaretEncoded( QByteArray& a_out, char a_byte )
 
 } // namespace
 
-/// Writes one text after the other into a value of version 2.1, which is encoded as a whole or not at all.
+/// Writes the texts of a value of version 2.1, which is encoded as a whole or not at all.
 class FieldWriter::OldValue
 {
 public:
@@ -123,7 +123,7 @@ public:
             else
                 m_value.append( isDelimiter ? "\\" : "" ).append( byte );
         }
-        // A blank at the end of a line may get lost on the way.
+        // A blank at the end of a line may be lost in transit.
         if ( m_isEncoded && m_value.endsWith( ' ' ) )
             m_value.replace( m_value.size() - 1, 1, "=20" );
     }
@@ -229,7 +229,7 @@ void FieldWriter::SetComponents( const QVector<QStringList>& a_components )
     SetTexts( a_components, ';' );
 }
 
-// In 2.1 a value has one delimiter: the one that is passed.
+// In 2.1, a value has only the delimiter that is passed.
 void FieldWriter::SetTexts( const QVector<QStringList>& a_components, char a_delimiter )
 {
     QVector<QList<QByteArray>> components;
@@ -292,7 +292,7 @@ void FieldWriter::AddMediaType( const QString& a_mediaType )
         AddParameter( "TYPE", MediaSubtype( a_mediaType ) );
 }
 
-// Such as JPEG for a picture; of another kind of file the whole media type.
+// For example JPEG for a picture. For any other kind of file, the whole media type.
 QString FieldWriter::MediaSubtype( const QString& a_mediaType ) const
 {
     const QString type = CleanMediaType( a_mediaType );

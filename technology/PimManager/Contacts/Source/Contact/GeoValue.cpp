@@ -42,7 +42,7 @@ std::optional<PimContactPosition> PositionOf( std::string_view a_latitude, std::
     return PimContactPosition{ *latitude, *longitude };
 }
 
-/// \param a_parameters of a `geo:` URI. \return true if they name no other reference system.
+/// \param a_parameters the parameters of a `geo:` URI. \return true if they name no other reference system.
 bool IsWgs84( std::string_view a_parameters )
 {
     std::string_view rest = a_parameters;

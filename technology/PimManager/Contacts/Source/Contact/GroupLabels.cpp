@@ -74,7 +74,7 @@ void GroupLabels::Add( const IndexedLine& a_line, int a_id )
     m_entries.push_back( { label, Add( a_line.Group( buffer ) ), a_id } );
 }
 
-// Only now the texts do not move any more.
+// From here on the texts do not move.
 void GroupLabels::Finish()
 {
     for ( const Entry& entry : m_entries )

@@ -67,7 +67,7 @@ void LineParameters::TakeType( std::string_view a_type )
         m_types.Add( m_texts.Keep( type ) );
 }
 
-// The first one counts, also if it is no preference.
+// The first one is used, even if it is not a preference.
 void LineParameters::TakePreference( std::string_view a_value )
 {
     if ( !m_hasPreference )

@@ -73,7 +73,7 @@ constexpr WordTable s_kServices( std::array{
 } );
 static_assert( s_kServices.HasAllWords() );
 
-// Where the user name is after a scheme.
+// The position of the user name after a scheme.
 enum class Form
 {
     Path,   // skype:omega?chat
@@ -121,7 +121,7 @@ constexpr std::array s_kProfiles = {
 
 constexpr std::array s_kUserFields = { "screenname"sv, "contact"sv, "uin"sv, "jid"sv, "domain"sv, "phone"sv };
 
-// Names that say nothing about the service.
+// Names that do not name a service.
 constexpr std::array s_kGeneralNames = { "IMPP"sv,           "SOCIALPROFILE"sv, "X-SOCIALPROFILE"sv,
                                          "X-MS-IMADDRESS"sv, "X-IMPP"sv,        "X-KADDRESSBOOK-X-IMADDRESS"sv };
 
@@ -148,7 +148,7 @@ const Service* ServiceOfProperty( std::string_view a_property )
     return MessengerServiceOf( service );
 }
 
-/// \return the value of the first of these parameters that there is, without white space at both ends.
+/// \return the value of the first of these parameters that exists, without white space at both ends.
 std::string_view ParameterOf( const LineParameters& a_parameters, std::initializer_list<std::string_view> a_names )
 {
     for ( const std::string_view name : a_names )
@@ -178,7 +178,7 @@ std::string_view ServiceOfTypes( bool a_isSocialProfile, const LineParameters& a
     return std::string_view();
 }
 
-/// \return the service in what precedes the value, empty if there is none.
+/// \return the service in the part before the value, empty if there is none.
 std::string_view ServiceName( std::string_view a_property, const LineParameters& a_parameters )
 {
     const std::string_view name = ParameterOf( a_parameters, { "X-SERVICE-TYPE", "SERVICE-TYPE" } );
@@ -189,7 +189,7 @@ std::string_view ServiceName( std::string_view a_property, const LineParameters&
     return ServiceOfTypes( IsSocialProfile( a_property ), a_parameters );
 }
 
-/// What an address says. A part that it does not say is empty.
+/// The parts of an address. A missing part is empty.
 struct Address
 {
     const Service* m_service = nullptr;
@@ -213,7 +213,7 @@ std::string_view UserInQuery( std::string_view a_query )
     return std::string_view();
 }
 
-// xmpp://account@example.net/omega@example.com says first who writes (RFC 5122, section 2.4).
+// xmpp://account@example.net/omega@example.com begins with the sender (RFC 5122, section 2.4).
 std::string_view WithoutAuthority( std::string_view a_text )
 {
     if ( a_text.substr( 0, 2 ) != "//" )
@@ -240,7 +240,7 @@ bool IsSchemeByte( char a_byte )
     return IsNameByte( a_byte ) || a_byte == '+' || a_byte == '.';
 }
 
-/// \return the length of a scheme with its colon; 0 without one.
+/// \return the length of a scheme with its colon; 0 if there is none.
 size_t LengthOfScheme( std::string_view a_text )
 {
     const auto* const end = std::find_if_not( a_text.begin(), a_text.end(), IsSchemeByte );
@@ -267,7 +267,7 @@ Address ProfileOf( std::string_view a_text )
     return address;
 }
 
-/// \param a_isUri true if the value is a URI also if its scheme is unknown.
+/// \param a_isUri true if the value is a URI even if its scheme is unknown.
 Address AddressOf( std::string_view a_value, bool a_isUri )
 {
     Address address;

@@ -26,7 +26,7 @@ bool IsExtensionWord( std::string_view a_word )
                         [a_word]( std::string_view a_other ) { return IsSameWord( a_word, a_other ); } );
 }
 
-// What may be between the word and the digits of an extension.
+// The characters allowed between the word and the digits of an extension.
 bool IsBetween( char a_byte )
 {
     return a_byte == ' ' || a_byte == '\t' || a_byte == '.' || a_byte == ':' || a_byte == '=';
@@ -45,7 +45,7 @@ bool IsNumber( std::string_view a_text )
            a_text.find_first_not_of( s_kNumberBytes ) == std::string_view::npos;
 }
 
-/// Removes all bytes of a kind from the end. \return what was removed.
+/// Removes all bytes of a kind from the end. \return the removed bytes.
 template <bool ( *a_isOfKind )( char )>
 std::string_view TakeLastOf( std::string_view& a_text )
 {
@@ -100,7 +100,7 @@ NumberParts PartsOfUri( std::string_view a_uri, DecodedParts& a_decoder )
     return parts;
 }
 
-/// \return the text between quotes that belong together; the whole text if there are none.
+/// \return the text between matching quotes; the whole text if there are none.
 std::string_view NameOf( std::string_view a_phrase, DecodedParts& a_decoder )
 {
     const std::string_view phrase = WithoutOuterSpace( a_phrase );
@@ -139,7 +139,7 @@ std::string_view NumberOf( std::string_view a_text, QByteArray& a_buffer )
 MailParts MailPartsOf( std::string_view a_text, QByteArray& a_buffer )
 {
     std::string_view mail = WithoutOuterSpace( a_text );
-    // Most addresses are nothing else.
+    // The usual case: only an address.
     if ( mail.find( '<' ) == std::string_view::npos && mail.find( ':' ) == std::string_view::npos )
         return { mail, {} };
     DecodedParts decoder( mail, a_buffer );

@@ -1,4 +1,4 @@
-// The lines of a contact that no typed field is made of.
+// The lines of a contact that no typed field is read from.
 
 #include "Contact/ContactData.h"
 #include "Contact/ContactFields.h"
@@ -101,7 +101,7 @@ private:
     std::vector<bool> m_isRead;
 };
 
-/// \return true if a contact reads the property, but there is nothing in the line.
+/// \return true if a contact reads the property, but the line is empty.
 bool IsEmptyLine( PropertyId a_property, const IndexedLine& a_line, EntryReader& a_reader )
 {
     if ( a_property == PropertyId::Other )
@@ -110,7 +110,7 @@ bool IsEmptyLine( PropertyId a_property, const IndexedLine& a_line, EntryReader&
     return a_reader.Text().empty();
 }
 
-/// When a line with a property is read, as far as the property says.
+/// The conditions under which a line is read, by its property.
 enum class Reading : quint8
 {
     Unknown,

@@ -38,7 +38,7 @@ QString FormattedName( const PimContactPrivate& a_contact )
     return QString();
 }
 
-/// \return the best name that the lines of a property give; empty if they give none.
+/// \return the best name in the lines of a property. Empty if there is none.
 QString NameFrom( const PimContactPrivate& a_contact, PropertyId a_property )
 {
     EntryReader reader;
@@ -60,7 +60,7 @@ QString NameFrom( const PimContactPrivate& a_contact, PropertyId a_property )
     return StringOf( name.Text() );
 }
 
-// Most contacts have few of the properties, so what they do not have must cost nothing.
+// Most contacts have few of the properties, so missing ones must cost nothing.
 
 PimContactList<PimContactText> TextsOf( const PimContactPrivate& a_contact, PropertyId a_property )
 {

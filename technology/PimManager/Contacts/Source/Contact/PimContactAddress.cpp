@@ -70,7 +70,7 @@ std::string_view AddressData::Name( PimContactVersion a_version ) const
     return m_parts.IsEmpty() && a_version != PimContactVersion::V40 ? "LABEL" : "ADR";
 }
 
-// The delivery text of 2.1 and 3.0 is a line of its own.
+// The delivery text of 2.1 and 3.0 is a separate line.
 void AddressData::Write( FieldWriter& a_writer ) const
 {
     a_writer.AddParameter( "CC", m_countryCode );
@@ -105,7 +105,7 @@ void AddressData::WriteAddition( FieldWriter& a_writer ) const
     a_writer.SetText( m_deliveryText );
 }
 
-// A parameter of the line counts before another line. A LABEL without a group is found by its types.
+// A parameter of the line has priority over another line. A LABEL without a group is found by its types.
 bool AddressData::TakeAddition( PropertyId a_addition, const PimContactFieldPrivate& a_old )
 {
     const auto& old = static_cast<const AddressData&>( a_old );
@@ -196,7 +196,7 @@ void PimContactAddress::SetDeliveryText( const QString& a_text )
     ChangedDataOf( *this ).m_deliveryText = a_text;
 }
 
-// The order in which most countries write an address, from the most particular part to the country.
+// The order in which most countries write an address, from the most specific part to the country.
 QString PimContactAddress::Text() const
 {
     if ( !DeliveryText().isEmpty() )

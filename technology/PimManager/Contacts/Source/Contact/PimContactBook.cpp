@@ -20,7 +20,7 @@ namespace
 
 constexpr int s_kMostWait = 30000;
 
-/// \return a UID as it is compared.
+/// \return a UID in the form for comparisons.
 QString KeyOf( const QString& a_uid )
 {
     const QString prefix = QStringLiteral( "urn:uuid:" );
@@ -72,7 +72,7 @@ PimContactBook PimContactBook::Read( QIODevice& a_device, const PimContactOption
             return true;
         } );
     PimContactCard card;
-    // A connection that was closed while we waited says so the next time.
+    // A connection that was closed while waiting reports it in the next call.
     bool isLastTry = false;
     PimContactNext next = PimContactNext::Card;
     while ( next == PimContactNext::Card || ( next == PimContactNext::Waiting && !isLastTry ) )

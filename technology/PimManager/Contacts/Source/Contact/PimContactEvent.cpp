@@ -49,7 +49,7 @@ Kind KindOf( PropertyId a_property )
     }
 }
 
-// What the label of an X-ABDATE, or a word of its TYPE, makes of it.
+// The kind of an X-ABDATE, from its label or a word of its TYPE.
 enum class LabelKind : quint32
 {
     Birth = 1U << 0U,

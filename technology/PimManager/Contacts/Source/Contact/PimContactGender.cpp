@@ -69,7 +69,7 @@ void GenderData::Write( FieldWriter& a_writer ) const
 
 } // namespace
 
-// A card that is not 4.0 may have it, too. A word instead of the letter is the text.
+// Cards of other versions than 4.0 may have it too. A word instead of the letter is the text.
 PimContactFieldPrivate* ReadGender( FieldReader& a_reader )
 {
     PartReader parts = a_reader.Parts( Delimiters::Semicolons );

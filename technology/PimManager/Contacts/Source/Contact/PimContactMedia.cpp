@@ -45,7 +45,7 @@ public:
     // An address or a text.
     QString m_text;
     bool m_isAddress = false;
-    // What the line or the program says.
+    // The media type from the line or the program.
     QString m_mediaType;
     std::optional<QRect> m_crop;
 };
@@ -68,7 +68,7 @@ QString MediaData::MediaType() const
         return m_mediaType;
     QByteArray type = m_isOwn ? BytesOf( MediaTypeBySignature( ViewOf( m_bytes ).substr( 0, s_kSignatureBytes ) ) )
                               : DetectedTypeOf( LineView::LineOf( m_line ) );
-    // The one that a `data:` URI names.
+    // The media type of a `data:` URI.
     if ( type.isEmpty() && !m_isOwn )
         type = MediaTypeNamed( ViewOf( NamedTypeOf( LineView::LineOf( m_line ) ) ) );
     return type.isEmpty() ? m_mediaType : QString::fromLatin1( type );
@@ -115,7 +115,7 @@ PimContactFieldPrivate* ReadMedia( FieldReader& a_reader )
     auto* const data = new MediaData;
     data->m_isBinary = isBinary;
     data->m_text = StringOf( text );
-    // HOME and WORK say nothing about the bytes, and other words are no labels.
+    // HOME and WORK do not name a media type, and other words are not labels.
     a_reader.ReadParameters( PlainKindsOf );
     a_reader.SetNoTypeLabel();
     const std::string_view value = a_reader.Parameters().First( FieldParameter::Value );

@@ -25,7 +25,7 @@ const MessengerData& DataOf( const PimContactMessenger& a_messenger )
 // Between the values of properties such as `X-messaging/xmpp-All`: the character U+E000.
 constexpr std::string_view s_kBetweenValues = "\xEE\x80\x80";
 
-/// Takes the text up to the next mark, and the mark.
+/// Removes the text up to and including the next mark.
 std::string_view TakeValue( std::string_view& a_rest )
 {
     const size_t place = std::min( a_rest.find( s_kBetweenValues ), a_rest.size() );
@@ -34,7 +34,7 @@ std::string_view TakeValue( std::string_view& a_rest )
     return value;
 }
 
-/// The accounts in the line of a reader: one, except in properties that hold all accounts of a service.
+/// The accounts in the line of a reader: one, except in properties that contain all accounts of a service.
 class MessengerLine
 {
 public:
@@ -84,7 +84,7 @@ struct Account
     QString m_handle;
 };
 
-/// \return what a line without parameters says.
+/// \return the account in a line without parameters.
 Account AccountIn( std::string_view a_name, const QString& a_value )
 {
     const QByteArray value = a_value.toUtf8();

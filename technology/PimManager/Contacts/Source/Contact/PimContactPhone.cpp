@@ -67,7 +67,7 @@ bool IsReadAs( const QString& a_text, const QString& a_number, const QString& a_
     return StringOf( parts.m_number ) == a_number && StringOf( parts.m_extension ) == a_extension;
 }
 
-// An extension needs a URI in 4.0; as text it is written as phones do, if it can be read from that.
+// In 4.0, an extension needs a URI. In a text it is written in the form of phones, if it can be read back from that.
 void PhoneData::Write( FieldWriter& a_writer ) const
 {
     const bool isNew = a_writer.IsVersion( PimContactVersion::V40 );

@@ -14,7 +14,7 @@ struct Form
     // A digit is 0.
     std::string_view m_basic;
     std::string_view m_delimiters;
-    // Where each delimiter is inserted.
+    // The positions of the delimiters.
     std::array<size_t, 2> m_places;
 };
 

@@ -201,7 +201,7 @@ void JCardText::TakeInOpened()
     }
 }
 
-// It is empty, or no card.
+// The array is empty or not a card.
 void JCardText::LeaveArray()
 {
     m_state = State::Outside;
@@ -257,7 +257,7 @@ void JCardText::BeforeValue()
     m_comma = Comma::Wanted;
 }
 
-// Most properties are whole in the piece.
+// Most properties are complete in one piece.
 bool JCardText::TakeProperty()
 {
     const std::string_view rest( m_place, static_cast<size_t>( m_end - m_place ) );
@@ -286,7 +286,7 @@ bool JCardText::AppendProperty( std::string_view a_json )
     return true;
 }
 
-// \param a_first its first byte, which has been passed.
+// \param a_first its first byte, which has already been read.
 void JCardText::BeginValue( char a_first )
 {
     m_isInValue = true;
@@ -415,7 +415,7 @@ void JCardText::Report( PimContactDiagnosticCode a_code, const JsonPlace& a_plac
     m_findings.push_back( finding );
 }
 
-// Of the strings of a property.
+// Reports the errors in the strings of a property.
 void JCardText::ReportErrors( const JsonPlace& a_place, std::string_view a_json )
 {
     const JsonPlace first = Advanced( a_place, a_json.substr( 0, m_converter.FirstError() ) );

@@ -22,7 +22,7 @@ constexpr quint64 ZeroBytes( quint64 a_word )
     return ( a_word - s_kOnes ) & ~a_word & s_kHighBits;
 }
 
-// Bytes that a string contains in all forms as they are.
+// Bytes that are the same in all forms of a string.
 constexpr std::array<bool, 256> FindPlain( bool a_isEscaped )
 {
     std::array<bool, 256> plain = {};
@@ -133,7 +133,7 @@ bool JsonCursor::AppendString( std::string& a_out, StringForm a_form )
     return false;
 }
 
-// \return the first byte that is not copied as it is.
+// \return the first byte that is not copied unchanged.
 const char* JsonCursor::CopyPlain( const char* a_place, std::string& a_out, StringForm a_form ) const
 {
     const bool isEscaped = a_form == StringForm::Escaped;
@@ -185,7 +185,7 @@ const char* JsonCursor::TakeEscape( const char* a_place, std::string& a_out, Str
         AppendByte( s_kCharacters[index], a_out, a_form );
         return name + 1;
     }
-    // The character is read once more, without its backslash.
+    // The character is read again, without its backslash.
     AddError( a_place );
     return name;
 }

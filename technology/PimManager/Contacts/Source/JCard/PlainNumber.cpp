@@ -13,10 +13,10 @@ namespace PimManager::Contacts
 namespace
 {
 
-// More would make a short text a long one.
+// A larger exponent would make a short text long.
 constexpr int s_kGreatestExponent = 30;
 
-// Of an exponent, with the letter before it.
+// The longest exponent, with the letter before it.
 std::optional<int> ExponentIn( std::string_view a_text )
 {
     if ( a_text.empty() )

@@ -74,7 +74,8 @@ bool PropertyConverter::Convert( std::string_view a_json, std::string& a_out )
     return true;
 }
 
-// BEGIN and END are lines of their own. The version is that of the vCard that the jCard was made of (section 3.3.1.1).
+// BEGIN and END are separate lines. The version is that of the vCard that the jCard was converted from (section
+// 3.3.1.1).
 bool PropertyConverter::IsAllowed( std::string_view a_value ) const
 {
     switch ( m_property )
@@ -232,7 +233,7 @@ void PropertyConverter::AppendHead( std::string& a_out ) const
     a_out += ':';
 }
 
-// A reader without VALUE takes what is not a URI for a text, also in a picture.
+// Without VALUE, a reader treats a value that is not a URI as a text, even in a picture.
 void PropertyConverter::CompleteType( size_t a_value, std::string& a_out ) const
 {
     const std::string_view text = std::string_view( a_out ).substr( a_value );
@@ -269,7 +270,7 @@ bool PropertyConverter::TakeValue( JsonCursor& a_json, std::string& a_out )
     return TakeText( a_json, a_out, m_isUnknown ? StringForm::OneLine : form );
 }
 
-// Of an array that has been begun.
+// Reads the rest of an array.
 bool PropertyConverter::TakeComponents( JsonCursor& a_json, std::string& a_out )
 {
     if ( a_json.Take( ']' ) )
@@ -284,7 +285,7 @@ bool PropertyConverter::TakeComponents( JsonCursor& a_json, std::string& a_out )
     }
 }
 
-// Of a component; its array has been begun.
+// Reads the rest of the array of a component.
 bool PropertyConverter::TakeTexts( JsonCursor& a_json, std::string& a_out )
 {
     if ( a_json.Take( ']' ) )
@@ -307,7 +308,7 @@ bool PropertyConverter::TakeText( JsonCursor& a_json, std::string& a_out, String
     return isDate ? TakeDate( a_json, a_out ) : a_json.AppendString( a_out, a_form );
 }
 
-// What is not a date is written as text.
+// A value that is not a date is written as text.
 bool PropertyConverter::TakeDate( JsonCursor& a_json, std::string& a_out )
 {
     m_buffer.clear();

@@ -18,7 +18,7 @@ namespace
 constexpr size_t s_kGroup = 4;
 constexpr size_t s_kBytesOfGroup = 3;
 
-/// 0 for the letters, digits and signs of BASE64, and 1 for all other bytes, padding included.
+/// 0 for the letters, digits and signs of BASE64, and 1 for all other bytes, including padding.
 constexpr std::array<uchar, 256> FindOthers()
 {
     std::array<uchar, 256> others = {};
@@ -57,7 +57,7 @@ size_t RemovePadding( std::string_view& a_text )
     return before - a_text.size();
 }
 
-/// Copies BASE64, as long as it is complete groups of letters, and padding at the end only. Line endings, and blanks at
+/// Copies BASE64 as long as it consists of complete groups, with padding only at the end. Line endings, and blanks at
 /// both ends of a line, are left out.
 /// \return false for any other text.
 bool CopyBase64( const IndexedLine& a_line, JsonText& a_json )
@@ -89,7 +89,7 @@ QByteArray StartOf( std::string_view a_base64 )
     return bytes.left( static_cast<int>( s_kSignatureBytes ) );
 }
 
-/// \return true if the bits that the last letter has too many are zero, so that other readers accept them too.
+/// \return true if the excess bits of the last letter are zero, so that other readers accept them.
 bool IsCanonical( std::string_view a_base64 )
 {
     const std::string_view last = a_base64.substr( a_base64.size() - std::min( a_base64.size(), s_kGroup ) );
@@ -106,7 +106,7 @@ size_t SizeOf( std::string_view a_base64 )
     return a_base64.size() / s_kGroup * s_kBytesOfGroup - RemovePadding( letters );
 }
 
-/// Writes what precedes the BASE64, which begins at a position.
+/// Writes the members before the BASE64, which begins at a position.
 /// \return the length of `mediaType` and `size`.
 size_t WriteHead( size_t a_place, const QByteArray& a_mediaType, JsonText& a_json )
 {

@@ -61,7 +61,7 @@ void AddPosition( const PimContactPosition& a_position, JsonObject& a_object )
     add( R"("longitude":)", a_position.m_longitude );
 }
 
-/// Adds what all fields have in common.
+/// Adds the members that all fields have.
 template <class Kinds>
 void AddCommon( const PimContactField& a_field, KindSet a_set, Kinds a_kinds, JsonObject& a_object )
 {

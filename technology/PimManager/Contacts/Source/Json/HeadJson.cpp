@@ -42,7 +42,7 @@ bool SaysDate( std::string_view a_value )
     return !IsSameWord( Trimmed( a_value ), "text" ) && !IsSameWord( Trimmed( a_value ), "time" );
 }
 
-/// \return true if the parameter makes a difference that only PimContact knows. Media are never left to it.
+/// \return true if the effect of the parameter is known only to PimContact. Media are never left to it.
 bool IsUnusual( FieldWay a_way, FieldParameter a_parameter, std::string_view a_value )
 {
     if ( a_way == FieldWay::Media )
@@ -181,7 +181,7 @@ void HeadReader::ReadField( const IndexedLine& a_line, HeadJson& a_head )
     a_head.m_rule = FieldRuleOf( a_head.m_property );
     const FieldWay way = a_head.m_rule.m_way;
     a_head.m_kindSet = KindSetOf( way, a_head.m_property );
-    // HOME and WORK say nothing about the bytes of a picture.
+    // HOME and WORK do not name the media type of a picture.
     const bool isMedia = way == FieldWay::Media;
     m_fieldParameters.Read( a_line, WordReaderOf( isMedia ? KindSet::Kinds : a_head.m_kindSet ) );
     a_head.m_kinds = m_fieldParameters.Kinds();

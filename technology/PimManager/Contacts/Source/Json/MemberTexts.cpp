@@ -6,7 +6,7 @@ namespace PimManager::Contacts
 namespace
 {
 
-/// Appends what ends a member that begins with a text.
+/// Appends the end of a member that begins with a text.
 void EndMember( std::string_view a_begin, JsonText& a_json )
 {
     if ( a_begin.back() == '[' )

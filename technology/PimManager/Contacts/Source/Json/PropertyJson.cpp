@@ -64,7 +64,7 @@ void PropertyJson::Write( const IndexedLine& a_line, const GroupLabels& a_labels
     WriteMeaning( field, a_contact, a_json );
 }
 
-/// Writes a value that is bytes, and decodes any other value.
+/// Writes a binary value, and decodes any other value.
 BinaryJson PropertyJson::DecodeOrWrite( const IndexedLine& a_line, const HeadJson& a_head, JsonText& a_json )
 {
     BinaryJson binary;
@@ -101,7 +101,7 @@ void PropertyJson::WriteGroupAndHead( const IndexedLine& a_line, const HeadJson&
     a_json.Raw( a_head.Rest() );
 }
 
-/// \param a_label with its marks.
+/// \param a_label the label with its marks.
 void PropertyJson::WriteLabel( const HeadJson& a_head, std::string_view a_label, JsonText& a_json )
 {
     const std::string_view text = WithoutLabelMarks( a_label );
@@ -224,8 +224,8 @@ void PropertyJson::WriteParts( const std::array<std::string_view, s_kSize>& a_na
     a_json.Raw( "}" );
 }
 
-/// \param a_written how many components WriteParts() has written.
-/// \param a_most    how many components there may be.
+/// \param a_written the number of components that WriteParts() has written.
+/// \param a_most    the largest number of components.
 FieldParts PropertyJson::ListsOf( const HeadJson& a_head, size_t a_written, size_t a_most, const JsonText& a_json )
 {
     const bool mayHaveLists = a_head.ValueDelimiters() == Delimiters::SemicolonsAndCommas &&

@@ -21,7 +21,7 @@ qint64 CharactersIn( std::string_view a_text )
     return static_cast<qint64>( a_text.size() ) - std::count_if( a_text.begin(), a_text.end(), IsContinuationByte );
 }
 
-// What a program that folds does not take apart: a character, or a backslash with the next one.
+// The units that a folding program does not divide: a character, or a backslash with the next character.
 std::string_view FirstUnit( std::string_view a_text )
 {
     size_t length = a_text.substr( 0, 1 ) == "\\" ? 2 : 1;
@@ -51,7 +51,7 @@ void FoldEvidence::Take( std::string_view a_line, const IndexEntry& a_entry, boo
                        { 0, static_cast<quint32>( a_line.size() ) } );
     pieces.Next();
     std::string_view before = pieces.Text();
-    // The piece before is a continuation line, whose blank is no part of the piece.
+    // The previous piece is a continuation line, whose blank is not a part of the piece.
     bool isContinuation = false;
     while ( pieces.Next() )
     {

@@ -17,7 +17,7 @@ quint32 ReadLongNumber( const uchar*& a_place )
     return number;
 }
 
-// Large indexes grow by a quarter, not to twice their size: they count in the memory that a reader may take.
+// Large indexes grow by a quarter and do not double, because they count towards the memory limit of a reader.
 void IndexBuffer::Grow( size_t a_size )
 {
     constexpr size_t s_kLarge = size_t( 16 ) * 1024;

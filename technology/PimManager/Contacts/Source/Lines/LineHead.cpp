@@ -27,7 +27,7 @@ constexpr quint8 s_kComma = 0x20;
 // A semicolon or colon, and the end of the text.
 constexpr quint8 s_kEnd = 0x40;
 constexpr quint8 s_kOther = 0x80;
-// Odd in a parameter, except the quotes round an element.
+// Odd in a parameter, except the quotes around an element.
 constexpr quint8 s_kOddByte = s_kQuote | s_kControl;
 
 constexpr quint8 FindClass( int a_byte )
@@ -78,7 +78,7 @@ size_t SkipClasses( std::string_view a_text, size_t a_place, int a_classes )
     return a_place;
 }
 
-/// Finds the bytes of a text that are no name bytes, one after the other.
+/// Finds the bytes of a text that are not name bytes, one after the other.
 class DelimiterSearch
 {
 public:
@@ -167,11 +167,11 @@ struct Parameter
 {
     /// Between two semicolons, without blanks around it.
     size_t m_begin = 0;
-    /// What precedes the "=", without blanks; empty for a bare parameter.
+    /// The part before the "=", without blanks. Empty for a bare parameter.
     size_t m_nameBegin = 0;
     size_t m_nameEnd = 0;
-    /// What follows the "=", without blanks; all of a bare parameter. Quotes at its start that nothing closes are left
-    /// out, and at the start of a name too.
+    /// The part after the "=", without blanks; all of a bare parameter. Opening quotes that are never closed are left
+    /// out here and at the start of a name.
     size_t m_valueBegin = 0;
     size_t m_valueEnd = 0;
     /// The position of the delimiter that ends it.
@@ -196,11 +196,11 @@ inline Parameter PlainParameterAt( std::string_view a_text, size_t a_begin )
     return { a_begin, a_begin, isNamed ? wordEnd : a_begin, valueBegin, end, end };
 }
 
-/// Reads one parameter after the other, each byte at most twice.
+/// Reads parameters, one after the other, and each byte at most twice.
 class ParameterReader
 {
 public:
-    /// \param a_isNoQuoteClosed nothing closes a quote that opens in the text.
+    /// \param a_isNoQuoteClosed true if no quote that opens in the text is closed.
     explicit ParameterReader( std::string_view a_text, bool a_isNoQuoteClosed = false ) :
         m_text( a_text ),
         m_isNoQuoteClosed( a_isNoQuoteClosed )
@@ -553,7 +553,7 @@ Q_NEVER_INLINE void NoteParameter( std::string_view a_text, const Parameter& a_p
     HeadReader( a_text, a_head ).NoteParameter( a_parameter );
 }
 
-// Passes over parameters such as `;HOME` and `;TYPE=HOME,WORK`.
+// Skips parameters such as `;HOME` and `;TYPE=HOME,WORK`.
 // \return the position after them.
 inline size_t PassPlainParameters( std::string_view a_text, size_t a_begin, DelimiterSearch& a_delimiters,
                                    LineHead& a_head )

@@ -15,7 +15,7 @@ constexpr uint s_kHasPlaces = IndexHeader::s_kExtraPlaces;
 constexpr uint s_kDoSoftBreaksTakeBlank = 0x80;
 constexpr uint s_kOdditiesShift = 8;
 
-// A join: its length, and in the lowest three bits what it becomes. 1 to 3 are line feeds.
+// A join: its length, and its replacement in the lowest three bits. 1 to 3 are line feeds.
 constexpr uint s_kJoinMask = 0x07;
 constexpr uint s_kJoinShift = 3;
 constexpr uint s_kDirect = 0;
@@ -25,7 +25,7 @@ constexpr uint s_kFold = 5;
 // More than the numbers of a line.
 constexpr size_t s_kMostOfLine = 64;
 
-// As most lines are: group, dot, name, parameters and colon follow each other without a gap.
+// The usual case: group, dot, name, parameters and colon follow each other without a gap.
 bool HasPlainPlaces( const IndexEntry& a_entry )
 {
     const quint32 nameBegin = a_entry.m_group.m_length == 0 ? 0 : a_entry.m_group.m_length + 1;
@@ -233,7 +233,7 @@ inline quint32 IndexReader::Number()
     return number;
 }
 
-// Of a header that says that there are extras.
+// For a header with the flag for extras.
 uint IndexReader::SkipExtras( const uchar*& a_place )
 {
     constexpr int s_kPlaces = 4;

@@ -163,7 +163,7 @@ char* LineScanner::Room( size_t a_size )
     return m_bytes + m_size;
 }
 
-// Bytes that are no longer needed make room if they are half of all: so each byte is moved once on average.
+// Bytes that are no longer needed are removed once they are half of the buffer, so each byte is moved once on average.
 void LineScanner::MakeRoom( size_t a_size )
 {
     const size_t left = m_size - m_kept;

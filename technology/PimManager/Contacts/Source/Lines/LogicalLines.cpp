@@ -244,7 +244,7 @@ bool LogicalLines::HasColonSoFar( OpenLine& a_line ) const
     return a_line.m_isHeadRead;
 }
 
-// In a head the blank of a fold goes, whatever the style of the card.
+// In a head, the blank of a fold is always removed, whatever the style of the card.
 void LogicalLines::JoinFoldsOfHead( OpenLine& a_line ) const
 {
     if ( !a_line.m_isHeadFolded || m_indentation > 0 || !a_line.m_head.m_hasColon )
@@ -286,7 +286,7 @@ bool LogicalLines::TakeBehindEquals( const CardLine& a_line, bool a_isFold )
     return true;
 }
 
-// Also without the parameter nothing else ends in an encoded line break and "=".
+// Even without the parameter, only QUOTED-PRINTABLE ends in an encoded line break and "=".
 bool LogicalLines::IsSoftBreakOpen() const
 {
     if ( !m_current->m_isOpen || !EndsInEquals( *m_current ) )
@@ -358,7 +358,7 @@ bool LogicalLines::IsCandidateProperty() const
     return looks != LineLooks::Text && !( looks == LineLooks::NameOnly && IsCandidateData() );
 }
 
-// In text that was joined, a name that nobody knows is a word of the text.
+// In joined text, an unknown name is a word of the text.
 LineLooks LogicalLines::LooksOfCandidate() const
 {
     const OpenLine& line = *m_candidate;
@@ -378,7 +378,7 @@ bool LogicalLines::IsCandidateData() const
     return m_current->m_isOpen && HoldsBase64() && IsBase64( text ) && text.size() % s_kBase64Group == 0;
 }
 
-// BASE64 continues without indentation, and then with it.
+// BASE64 may continue first without indentation and then with it.
 bool LogicalLines::IsFoldOfData( std::string_view a_text )
 {
     OpenLine& line = *m_candidate;
@@ -390,7 +390,7 @@ bool LogicalLines::IsFoldOfData( std::string_view a_text )
     return !IsCandidateProperty();
 }
 
-// The line before has the length of a folded line, and the blank that would say so is missing.
+// The line before has the length of a folded line, but the blank of the fold is missing.
 bool LogicalLines::IsLostFold() const
 {
     return m_candidate->m_emptyLinesBefore == 0 && !m_current->m_hasFolds &&
@@ -636,7 +636,7 @@ void LogicalLines::InspectCharacters( const OpenLine& a_line, IndexEntry& a_entr
     m_facts.m_isValidUtf8 = m_facts.m_isValidUtf8 && census.IsValid();
 }
 
-// Version 2.1 knows the escaped semicolon alone, and any other backslash is text (vCard 2.1, section 2.1.2).
+// Version 2.1 defines only the escaped semicolon. Any other backslash is text (vCard 2.1, section 2.1.2).
 bool LogicalLines::HasUnknownEscape( const OpenLine& a_line, const IndexEntry& a_entry ) const
 {
     const std::string_view text = TextOf( a_line );

@@ -70,7 +70,7 @@ constexpr StandardSection V21( std::string_view a_number )
     return { Standard::VCard21, a_number };
 }
 
-// Any value may be elsewhere.
+// Any value may be in another part of the message.
 constexpr Types Types21( ValueType a_default, std::initializer_list<ValueType> a_others = {} )
 {
     Types types( a_default, a_others );
@@ -200,12 +200,12 @@ constexpr StandardSection Rfc9554( std::string_view a_number )
     return { Standard::Rfc9554, a_number };
 }
 
-// What RFC 9554 and RFC 9555 allow with every property.
+// The parameters that RFC 9554 and RFC 9555 allow with every property.
 constexpr ParameterSet s_kEverywhere40 = { StandardParameter::Author,  StandardParameter::AuthorName,
                                            StandardParameter::Created, StandardParameter::Derived,
                                            StandardParameter::PropId,  StandardParameter::JsPtr };
 constexpr ParameterSet s_kValue40 = s_kEverywhere40 | ParameterSet{ StandardParameter::Value };
-// Of properties that may occur several times.
+// For properties that may occur several times.
 constexpr ParameterSet s_kRepeated40 =
     s_kValue40 | ParameterSet{ StandardParameter::AltId, StandardParameter::Pid, StandardParameter::Pref };
 constexpr ParameterSet s_kTyped40 = s_kRepeated40 | ParameterSet{ StandardParameter::Type };
@@ -291,7 +291,7 @@ constexpr std::array s_kRules40 = {
     Rule( PropertyId::JsProp, s_kAny, s_kSingle, s_kText, s_kValue40, { Standard::Rfc9555, "3.2.1" } ),
 };
 
-// Where the rule of each property is in the rules of a version.
+// The index of the rule of each property in the rules of a version.
 
 constexpr quint8 s_kNoRule = 0xFF;
 

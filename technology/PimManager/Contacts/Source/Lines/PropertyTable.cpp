@@ -194,7 +194,7 @@ struct Key
         m_bytes = UpperOfEight( m_bytes );
     }
 
-    // Names of vendors begin alike, so their lengths matter.
+    // Many vendor names begin alike, so the length is a part of the hash.
     constexpr size_t Slot() const
     {
         const quint64 mixed = ( m_bytes + m_length * 0x9E3779B97F4A7C15ULL ) * 0xD6E8FEB86659FD93ULL;
@@ -231,7 +231,7 @@ constexpr std::array<quint8, s_kSlots> FilledSlots()
 
 constexpr std::array<quint8, s_kSlots> s_kFilledSlots = FilledSlots();
 
-// The same as the constructor, which must work when the program is compiled.
+// The same as the constructor, which must work at compile time.
 Key KeyOf( std::string_view a_text, size_t a_length )
 {
     Key key;

@@ -20,7 +20,7 @@ constexpr size_t s_kGroup = 4;
 constexpr size_t s_kBytesOfGroup = 3;
 constexpr uint s_kBitsOfCharacter = 6;
 
-/// What a character contributes to the three bytes of its group, if the first byte is the lowest.
+/// The bits of a character in the three bytes of its group, if the first byte is the lowest.
 using Contributions = std::array<quint32, 256>;
 
 constexpr quint32 Contribution( quint32 a_value, size_t a_place )
@@ -67,7 +67,7 @@ inline void Write( quint32 a_group, char* a_place )
 
 /// Decodes complete groups up to the first one that has another character.
 /// \param a_out advances after the output. The byte there is overwritten.
-/// \return the end of what was decoded.
+/// \return the end of the decoded text.
 const char* DecodeGroups( const char* a_text, const char* a_end, char*& a_out )
 {
     constexpr size_t s_kRun = 4 * s_kGroup;
@@ -211,7 +211,7 @@ void Base64Decoder::WriteGroup()
     m_held = 0;
 }
 
-/// Two characters are a byte, and three are two.
+/// Two characters are one byte, and three characters are two bytes.
 void Base64Decoder::WriteRest()
 {
     if ( m_held < 2 )

@@ -16,8 +16,8 @@ using namespace std::string_view_literals;
 
 constexpr size_t s_kLongestLabel = 40;
 
-// The name is the first of the labels. Only letters and digits of a label count, so one of ISO8859-2, ISO_8859-2 and
-// iso-8859-2 is enough.
+// The name is the first of the labels. Only letters and digits of a label are compared, so one of ISO8859-2, ISO_8859-2
+// and iso-8859-2 is enough.
 struct Row
 {
     Charset::Id m_id;
@@ -92,7 +92,7 @@ bool IsPlausible( std::string_view a_label )
                         { return IsNameByte( a_byte ) || "_.:+()"sv.find( a_byte ) != std::string_view::npos; } );
 }
 
-// What counts of a plausible label.
+// The part of a plausible label that is compared.
 class Key
 {
 public:

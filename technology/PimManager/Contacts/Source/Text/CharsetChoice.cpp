@@ -11,7 +11,7 @@ namespace
 
 using namespace std::string_view_literals;
 
-// A known character set, and not UTF-8.
+// True for a known character set other than UTF-8.
 bool IsOther( Charset a_charset )
 {
     return a_charset.IsKnown() && !a_charset.IsUtf8();

@@ -18,8 +18,8 @@ namespace PimManager::Contacts
 namespace
 {
 
-// Decodes a text in which ASCII characters are themselves. a_decodeFirst is called for all others: it appends the one
-// that the rest of the text begins with, and returns its length, or 0 if it is malformed.
+// Decodes a text in which ASCII characters need no decoding. For all others, a_decodeFirst appends the first character
+// of the rest of the text and returns its length, or 0 if it is malformed.
 template <typename DecodeFirst>
 void DecodeAll( std::string_view a_bytes, DecodedText& a_text, DecodeFirst a_decodeFirst )
 {
@@ -41,7 +41,7 @@ void DecodeAll( std::string_view a_bytes, DecodedText& a_text, DecodeFirst a_dec
     }
 }
 
-// The length of the character beyond ASCII that the text begins with, or 0 if it is malformed.
+// The length of the character beyond ASCII at the start of the text, or 0 if it is malformed.
 size_t LengthInUtf8( std::string_view a_bytes )
 {
     Utf8Census census;

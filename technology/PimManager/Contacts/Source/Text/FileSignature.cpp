@@ -42,7 +42,7 @@ void RemoveWhiteSpace( std::string_view& a_text )
     a_text.remove_prefix( std::min( a_text.find_first_not_of( s_kWhiteSpace ), a_text.size() ) );
 }
 
-// Removes what is between the two words, and the words, if the text begins with the first one.
+// If the text begins with the first word, removes everything up to and including the second one.
 bool RemoveEnclosed( std::string_view& a_text, std::string_view a_first, std::string_view a_last )
 {
     if ( a_text.substr( 0, a_first.size() ) != a_first )

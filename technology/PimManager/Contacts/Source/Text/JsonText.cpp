@@ -25,7 +25,7 @@ constexpr int s_kLeastRoom = 4096;
 constexpr size_t s_kLongestNumber = 20;
 // `\udb40\udc7f`
 constexpr size_t s_kLongestEscape = 12;
-// So many bytes of a text are written without looking for room.
+// This many bytes of a text are written without checking the capacity.
 constexpr size_t s_kRun = 256;
 constexpr std::string_view s_kReplacement = "\xEF\xBF\xBD";
 
@@ -243,7 +243,8 @@ void JsonText::Escape( std::string_view a_text )
     }
 }
 
-/// Appends what needs no escape at the start of a run, for which there is room: plain ASCII and most letters.
+/// Appends the characters at the start of a run that need no escape: plain ASCII and most letters. There must be room
+/// for them.
 /// \param a_textEnd the end of the text. A letter may go beyond the end of the run.
 /// \return the position of the first other character, or the end of the run or of the letter there.
 inline const char* JsonText::CopyPlain( const char* a_begin, const char* a_runEnd, const char* a_textEnd )
@@ -268,7 +269,7 @@ inline const char* JsonText::CopyPlain( const char* a_begin, const char* a_runEn
     return place;
 }
 
-/// Appends the first character of a text, for which there is room.
+/// Appends the first character of a text. There must be room for it.
 /// \return its length in the text.
 size_t JsonText::EscapeCharacter( std::string_view a_rest )
 {

@@ -22,8 +22,9 @@ struct Source
     const char* m_name;
 };
 
-// These have what Windows and phones write, and keep the backslash, which vCard needs: SJIS and IBM943 of glibc read it
-// as a yen sign, and EUC-JP lacks the circled digits. Big5-HKSCS has the names of Hong Kong, which BIG5 lacks.
+// These have the characters that Windows and phones write, and keep the backslash, which vCard needs. SJIS and IBM943
+// of glibc read it as a yen sign, and EUC-JP lacks the circled digits. Big5-HKSCS has the names of Hong Kong, which
+// BIG5 lacks.
 constexpr std::array s_kSources = {
     Source{ Charset::Id::ShiftJis, "CP932" },  Source{ Charset::Id::EucJp, "EUC-JP-MS" },
     Source{ Charset::Id::EucKr, "UHC" },       Source{ Charset::Id::Gb18030, "GB18030" },

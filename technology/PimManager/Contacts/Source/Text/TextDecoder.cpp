@@ -52,7 +52,7 @@ std::string_view TextDecoder::Decode( std::string_view a_piece )
 {
     if ( m_form != Form::Undecided )
     {
-        // What the last call may have returned.
+        // The text that the last call may have returned.
         m_first = std::vector<char>();
         return Converted( a_piece );
     }
@@ -141,7 +141,7 @@ std::string_view TextDecoder::ConvertedText() const
     return std::string_view( m_buffer.data(), static_cast<size_t>( m_end - m_buffer.data() ) );
 }
 
-// A unit becomes at most three bytes. An unfinished unit and a surrogate of the previous piece may come in addition.
+// A unit becomes at most three bytes. An unfinished unit and a surrogate of the previous piece may be added to it.
 void TextDecoder::MakeRoomFor( size_t a_bytes )
 {
     const size_t room = 3 * ( a_bytes / 2 + 2 );

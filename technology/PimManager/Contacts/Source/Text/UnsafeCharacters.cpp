@@ -15,7 +15,7 @@ struct Range
     char32_t m_last;
 };
 
-// Beyond Latin-1, in their order. Noncharacters at the end of a plane are not here.
+// Beyond Latin-1, in their order. Noncharacters at the end of a plane are not listed.
 constexpr std::array s_kRanges = {
     Range{ 0x0600, 0x0605 },   Range{ 0x061C, 0x061C },   Range{ 0x06DD, 0x06DD },   Range{ 0x070F, 0x070F },
     Range{ 0x0890, 0x0891 },   Range{ 0x08E2, 0x08E2 },   Range{ 0x180E, 0x180E },   Range{ 0x200B, 0x200B },

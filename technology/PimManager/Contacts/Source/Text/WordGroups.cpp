@@ -10,9 +10,9 @@ namespace PimManager::Contacts
 namespace
 {
 
-// Up to this number, comparing each with each is faster.
+// Up to this number, comparing all pairs is faster.
 constexpr size_t s_kFew = 8;
-// Words that are not chosen for it hardly ever need as many.
+// Words that were not chosen to collide hardly ever need this many.
 constexpr size_t s_kMostTries = 100;
 
 size_t HashOf( std::string_view a_word )

@@ -17,7 +17,7 @@ namespace
 
 using namespace std::string_view_literals;
 
-// What the component can read on every processor.
+// The length that the component can read on every processor.
 constexpr size_t s_kLongestText = 100'000'000;
 
 constexpr std::string_view s_kLineEnd = "\r\n";
@@ -89,7 +89,7 @@ public:
         return m_rest.empty();
     }
 
-    /// By ENCODING. The component does not take a bare word for an encoding.
+    /// The encoding according to ENCODING. The component does not treat a bare word as an encoding.
     PimContactEncoding Encoding() const { return m_encoding; }
 
 private:
@@ -178,7 +178,7 @@ bool IsBase64List( std::string_view a_value )
                         []( char a_byte ) { return a_byte == ';' || IsBase64Byte( a_byte ); } );
 }
 
-/// \param a_value continuation lines joined.
+/// \param a_value the value with its continuation lines joined.
 bool IsPlainValue( std::string_view a_value, PimContactEncoding a_encoding )
 {
     const bool isSoftBreakOpen = a_encoding == PimContactEncoding::QuotedPrintable

@@ -73,7 +73,7 @@ std::string_view WithoutOpenQuotes( std::string_view a_text )
     return a_text.substr( static_cast<size_t>( begin - a_text.begin() ) );
 }
 
-/// Takes what precedes the first comma. \return false if there is no comma.
+/// Reads the part before the first comma. \return false if there is no comma.
 bool TakeUpToComma( std::string_view& a_rest, std::string_view& a_element )
 {
     const size_t comma = a_rest.find( ',' );
@@ -212,7 +212,7 @@ std::string_view ParameterReader::TakeElement()
     return element;
 }
 
-/// \return false if nothing closes the quote.
+/// \return false if the quote is never closed.
 bool ParameterReader::TakeQuoted()
 {
     const size_t close = m_isNoQuoteClosed ? std::string_view::npos : FindClosingQuote( m_rest );

@@ -31,7 +31,7 @@ constexpr quint64 EachByte( char a_byte )
     return 0x0101010101010101ULL * static_cast<uchar>( a_byte );
 }
 
-// Zero if no byte is.
+// Zero if there is no such byte.
 constexpr quint64 HasZeroByte( quint64 a_word )
 {
     return ( a_word - EachByte( 1 ) ) & ~a_word & EachByte( '\x80' );

@@ -11,7 +11,7 @@ namespace PimManager::Contacts
 namespace
 {
 
-// Calls itself for nested cards, so at most as deeply as the limit of nesting allows.
+// Recursive for nested cards, so the nesting limit bounds the depth.
 bool UsesDefault( const CardView& a_card, ValueDecoder& a_decoder )
 {
     CardView nested;

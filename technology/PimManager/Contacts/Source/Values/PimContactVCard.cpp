@@ -154,7 +154,7 @@ void AppendLine( const IndexedLine& a_line, QByteArray& a_text )
     a_text += "\r\n";
 }
 
-// Recursion ends: cards nest 64 deep at most, see PimContactOptions.
+// Recursive for nested cards, at most 64 deep, see PimContactOptions.
 void AppendCard( const PimContactCard& a_card, QByteArray& a_text )
 {
     a_text += "BEGIN:VCARD\r\n";
@@ -192,7 +192,7 @@ PimContactEncoding KeptEncoding( const IndexedLine& a_line, const ValueDecoder& 
     return isKept ? PimContactEncoding::Base64 : PimContactEncoding::None;
 }
 
-/// \param a_decoder has decoded the line.
+/// \param a_decoder must have decoded the line.
 QList<QString> ValuesOf( const PimContactLine& a_line, PimContactEncoding a_kept, ValueDecoder& a_decoder )
 {
     const PimContactCard nested = a_line.NestedCard();

@@ -44,7 +44,7 @@ quint8 KindOf( char a_byte )
 bool PlainParameters::AreIn( std::string_view a_parameters )
 {
     quint8 last = Semicolon;
-    // A name can no longer follow: there is one, or a list has begun.
+    // A name can no longer follow: there is already one, or a list has begun.
     bool isInValues = false;
     for ( const char byte : a_parameters )
     {

@@ -32,7 +32,7 @@ constexpr std::array<quint16, 256> FindDigits()
 
 constexpr std::array<quint16, 256> s_kDigits = FindDigits();
 
-/// \return the byte of two digits; s_kNoDigit or more if they are none.
+/// \return the byte of two digits; s_kNoDigit or more if they are not digits.
 inline uint DigitsAt( const char* a_place )
 {
     const uint high = s_kDigits[static_cast<uchar>( a_place[0] )];

@@ -40,7 +40,7 @@ quint32 FindWide( std::string_view a_text, quint32 a_begin, quint32 a_end )
     return static_cast<quint32>( std::find_if( a_text.data() + a_begin, end, IsWide ) - a_text.data() );
 }
 
-/// \return where the value of the first CHARSET is in plain parameters; empty without one.
+/// \return the position of the value of the first CHARSET in plain parameters. Empty if there is none.
 ByteRange PlaceOfCharset( std::string_view a_parameters )
 {
     for ( PlainParameters parameters( a_parameters ); parameters.Next(); )
@@ -69,7 +69,7 @@ bool FindPlainCharset( std::string_view a_parameters, std::string_view& a_charse
     return true;
 }
 
-// Of the first CHARSET parameter.
+// The value of the first CHARSET parameter.
 std::string_view NamedCharset( const IndexedLine& a_line, QByteArray& a_buffer )
 {
     QByteArray unfolded;
@@ -87,7 +87,7 @@ std::string_view NamedCharset( const IndexedLine& a_line, QByteArray& a_buffer )
     return ViewOf( a_buffer );
 }
 
-// What the index says about the bytes that are not QUOTED-PRINTABLE.
+// The character set in the index, for the bytes that are not QUOTED-PRINTABLE.
 Charset RawCharset( const IndexedLine& a_line )
 {
     const auto knownOr = []( Charset a_charset ) { return a_charset.IsKnown() ? a_charset : s_kUtf8; };
@@ -196,7 +196,7 @@ bool ValueDecoder::UsesDefault( const IndexedLine& a_line )
     return isRaw || !Undeclared( a_line ).empty();
 }
 
-// Asks about the bytes that were QUOTED-PRINTABLE.
+// Determines the character set of the bytes that were QUOTED-PRINTABLE.
 bool ValueDecoder::IsEncodedDefault( const IndexedLine& a_line ) const
 {
     if ( m_runs.empty() || !RawCharset( a_line ).ContainsAscii() || !IsKnownCharset( a_line.m_card.m_defaultCharset ) )
@@ -325,7 +325,7 @@ void ValueDecoder::ConvertSegment( std::string_view a_text, ByteRange a_segment,
         NoteLiterals( outBegin, a_segment.m_begin );
 }
 
-// Of the text that was added to m_utf8 from a position on. m_places says where its bytes are in the segment.
+// For the text that was added to m_utf8 from a position on. m_places has the positions of its bytes in the segment.
 void ValueDecoder::NoteLiterals( quint32 a_outBegin, quint32 a_segmentBegin )
 {
     for ( size_t i = 0; i < m_places.size(); ++i )
@@ -341,7 +341,7 @@ void ValueDecoder::NoteLiterals( quint32 a_outBegin, quint32 a_segmentBegin )
     }
 }
 
-// Of a text that is UTF-8 already.
+// For a text that is already UTF-8.
 void ValueDecoder::NoteLiteralsOf( std::string_view a_text )
 {
     m_escaped.m_text = a_text;

@@ -74,8 +74,8 @@ bool CardSurvey::HasCleanText( std::string_view a_bytes, const IndexReader::Plai
            !( m_bytes.m_hasBackslash && value.find( "\\:" ) != std::string_view::npos );
 }
 
-/// \param a_reader at the part that follows the line.
-/// \return false if more must be known about the line.
+/// \param a_reader a reader at the part after the line.
+/// \return false if the line must be examined further.
 bool CardSurvey::TakePlainLine( const IndexReader& a_reader, LinePlace a_place, const IndexReader::PlainLine& a_line )
 {
     const std::string_view bytes( m_card.m_bytes.data() + a_place.m_begin, a_line.m_length );

@@ -63,7 +63,7 @@ void CardWriter::WriteParts( const PimContactCard& a_card )
     m_sink.EndCard();
 }
 
-// VERSION remains where it is, but in 4.0 it follows BEGIN.
+// VERSION keeps its position, but in 4.0 it follows BEGIN.
 void CardWriter::WriteStart( const PimContactCard& a_card )
 {
     m_sink.BeginCard();
@@ -94,7 +94,7 @@ void CardWriter::TakeVersionLine( int a_number )
     m_isVersionLineFound = true;
 }
 
-// An N that nobody has written is empty: nothing is guessed.
+// An added N is empty, because nothing is guessed.
 void CardWriter::AddNames( const PimContactCard& a_card )
 {
     if ( m_survey.HasNames() )
@@ -124,7 +124,7 @@ void CardWriter::AddName( std::string_view a_name, PropertyId a_property, const 
     m_notes.Add( Code::NameAdded, a_name );
 }
 
-// Steps to a line that is written again.
+// Steps to a line that is written from its decoded value.
 void CardWriter::OpenLine( const PimContactCard& a_card, const SurveyedPart& a_part )
 {
     EndRun();
@@ -181,7 +181,7 @@ void CardWriter::ChangeLine( const PimContactCard& a_card, const SurveyedPart& a
     if ( m_depth == 0 )
         m_notes.SetLine( a_number );
     Property& property = m_reader.Read( m_lines->Line(), a_part.m_property, a_number );
-    // What changes the property leaves the text of its name as it is.
+    // Changes of the property do not change the text of its name.
     const std::string_view name = property.m_name;
     if ( m_reader.IsNameMended() )
         m_notes.Add( Code::PropertyRenamed, name, name );

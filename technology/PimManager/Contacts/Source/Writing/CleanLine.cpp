@@ -39,7 +39,7 @@ bool IsLong( std::string_view a_line )
     return a_line.size() > s_kLineLength + 2;
 }
 
-// A head that is folded is written again, and 2.1 does not fold texts.
+// A folded head is never copied, and 2.1 does not fold texts.
 bool MayBeFolded( quint32 a_valueBegin, PimContactVersion a_version )
 {
     return a_version != PimContactVersion::V21 && a_valueBegin <= s_kLineLength;
@@ -50,7 +50,7 @@ Cleanness OfOldFolds( PimContactFoldStyle a_style )
     return a_style == PimContactFoldStyle::BlankKept ? Cleanness::WithCard : Cleanness::None;
 }
 
-/// \param a_line with its line endings.
+/// \param a_line the line with its line endings.
 bool HasGoodLayout( std::string_view a_line )
 {
     const char* place = a_line.data();
@@ -78,7 +78,7 @@ bool HasGoodLayout( std::string_view a_line )
 }
 
 /// Takes the parameter at the start of a text that begins after a semicolon.
-/// \param[out] a_values what follows "="; empty without it.
+/// \param[out] a_values the part after "="; empty if there is none.
 /// \return the name, or the bare word; empty if it is malformed.
 std::string_view TakeParameter( std::string_view& a_rest, std::string_view& a_values )
 {
@@ -187,7 +187,7 @@ bool AreLegal( std::string_view a_parameters, PimContactVersion a_version )
     return a_parameters.size() > 1 && a_parameters.back() != ';';
 }
 
-// Each version needs a reader of its own to remember its parameters.
+// Each version needs its own reader to cache its parameters.
 quint32 LegalIn21( std::string_view a_parameters )
 {
     return AreLegal( a_parameters, PimContactVersion::V21 ) ? 1 : 0;
@@ -216,7 +216,8 @@ bool HasValueParameter( std::string_view a_parameters )
            a_parameters.find( "value" ) != std::string_view::npos;
 }
 
-/// Of a value that is not encoded. Only 4.0 has bytes without an encoding, as `data:` URIs. In 3.0 it needs VALUE.
+/// For a value that is not encoded. Only 4.0 has binary values without an encoding, as `data:` URIs. In 3.0 such a URI
+/// needs VALUE.
 bool IsCleanMedia( const IndexedLine& a_line, std::string_view a_parameters, PimContactVersion a_version )
 {
     const std::string_view value = a_line.ValueRange().In( a_line.m_text );
@@ -227,7 +228,7 @@ bool IsCleanMedia( const IndexedLine& a_line, std::string_view a_parameters, Pim
     return ( HasValueParameter( a_parameters ) || a_version == PimContactVersion::V21 ) && !IsBinary( a_line );
 }
 
-/// Has a value only the escapes of the standards, and those that 3.0 needs? Readers also know `\:`.
+/// True if a value has only the escapes of the standards, including those that 3.0 requires. Readers also accept `\:`.
 bool HasCleanEscapes( std::string_view a_value, bool a_needsSemicolons )
 {
     std::string_view rest = a_value;
@@ -244,7 +245,7 @@ bool HasCleanEscapes( std::string_view a_value, bool a_needsSemicolons )
     }
 }
 
-/// Of a line of 3.0 or 4.0.
+/// For a line of 3.0 or 4.0.
 bool IsCleanValue( const IndexedLine& a_line, PropertyId a_property, PimContactVersion a_version, bool a_hasBackslash )
 {
     const std::string_view value = a_line.ValueRange().In( a_line.m_text );
@@ -256,12 +257,12 @@ bool IsCleanValue( const IndexedLine& a_line, PropertyId a_property, PimContactV
         HasEscapedSemicolons( a_property, a_line.m_entry.m_parameters.In( a_line.m_text ), a_version );
     if ( !needsSemicolons && !a_hasBackslash )
         return true;
-    // BEGIN\:VCARD is no start of a card.
+    // BEGIN\:VCARD is not the start of a card.
     const bool mayBeCard = a_property == PropertyId::Agent || a_property == PropertyId::Related;
     return mayBeCard || HasCleanEscapes( value, needsSemicolons );
 }
 
-/// Of a line that is not odd. A group of several names has dots, and one of none is left to its dot.
+/// For a line that is not odd. A group of several names contains dots, and a group without a name is only its dot.
 bool IsCleanGroup( const IndexEntry& a_entry, std::string_view a_text )
 {
     if ( a_entry.m_group.m_length == 0 )

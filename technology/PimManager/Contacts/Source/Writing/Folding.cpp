@@ -15,7 +15,7 @@ constexpr std::string_view s_kLineEnd = "\r\n";
 constexpr std::string_view s_kFold = "\r\n ";
 constexpr std::string_view s_kSoftBreak = "=\r\n";
 
-/// \return true if a text ends with an odd number of these bytes: the last one belongs to what follows.
+/// \return true if a text ends with an odd number of these bytes: the last one then belongs to the next character.
 bool EndsInOdd( std::string_view a_text, char a_byte )
 {
     size_t first = a_text.size();
@@ -24,8 +24,8 @@ bool EndsInOdd( std::string_view a_text, char a_byte )
     return ( a_text.size() - first ) % 2 != 0;
 }
 
-/// \return true if what precedes a position and what follows it belong together. A "=" at the end of a physical line
-///         looks like a soft line break, also with blanks after it.
+/// \return true if the text must not be divided at a position. A "=" at the end of a physical line looks like a soft
+///         line break, even with blanks after it.
 bool IsBadFold( std::string_view a_text, size_t a_place )
 {
     const size_t last = a_text.find_last_not_of( " \t", a_place - 1 );
@@ -33,7 +33,7 @@ bool IsBadFold( std::string_view a_text, size_t a_place )
 }
 
 /// \param a_text does not begin inside a character or an escape.
-/// \return where a text may be divided, at a_most or before. Malformed UTF-8 is divided anywhere.
+/// \return the last position up to a_most where a text may be divided. Malformed UTF-8 is divided anywhere.
 size_t PlaceOfFold( std::string_view a_text, size_t a_most )
 {
     constexpr size_t s_kLongestTail = 3;

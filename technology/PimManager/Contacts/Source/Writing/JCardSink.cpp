@@ -18,7 +18,7 @@ namespace
 using namespace std::string_view_literals;
 
 constexpr PimContactVersion s_kVersion = PimContactVersion::V40;
-// Of more parameters it is not looked for whether one occurs twice.
+// With more parameters, repeated ones are not searched for.
 constexpr size_t s_kFewParameters = 8;
 
 bool IsBefore( const ParameterText* a_left, const ParameterText* a_right )
@@ -191,7 +191,7 @@ void JCardSink::AppendParameters( const Property& a_property )
     }
 }
 
-// Quotes do not keep the list of SORT-AS together (RFC 6350, section 5.9).
+// Commas divide SORT-AS even in quotes (RFC 6350, section 5.9).
 void JCardSink::AddValues( const ParameterText& a_parameter )
 {
     if ( a_parameter.Is( StandardParameter::Type ) )
@@ -214,7 +214,7 @@ void JCardSink::AddValues( const ParameterText& a_parameter )
         isList = !text.empty();
         m_values.push_back( text );
     } while ( isList && !rest.empty() );
-    // An empty text would get lost in a list.
+    // An empty text would be lost in a list.
     if ( isList )
         m_values.erase( m_values.begin() + static_cast<qptrdiff>( first ) );
     else
@@ -248,7 +248,7 @@ void JCardSink::SortParameters( const Property& a_property )
         std::stable_sort( m_parameters.begin(), m_parameters.end(), IsBefore );
 }
 
-// A type of no standard is a parameter.
+// A non-standard type is a parameter.
 std::string_view JCardSink::TypeNameOf( const Property& a_property )
 {
     const std::string_view named = a_property.First( StandardParameter::Value );
@@ -262,14 +262,14 @@ std::string_view JCardSink::TypeNameOf( const Property& a_property )
         return NameOfType( a_property.m_type );
     if ( m_rule == nullptr || ( a_property.m_isBinary && m_rule->m_defaultType != ValueType::Uri ) )
         return "unknown"sv;
-    // A vCard need not say that it is a date of another type, or a text where a picture should be.
+    // A vCard need not declare a date of another type, or a text in place of a picture.
     const bool isDay = IsDay( m_rule->m_defaultType ) && IsDay( a_property.m_type );
     const bool isMediaText =
         IsMediaProperty( a_property.m_property ) && a_property.m_type == ValueType::Text && !a_property.Text().empty();
     return NameOfType( isDay || isMediaText ? a_property.m_type : m_rule->m_defaultType );
 }
 
-// With those that the property must have, even if they are empty.
+// Includes the components that the property must have, even if they are empty.
 quint32 JCardSink::ComponentsOf( const Property& a_property ) const
 {
     const quint32 least = m_rule == nullptr ? 1 : m_rule->m_leastComponents;
@@ -284,7 +284,7 @@ void JCardSink::AppendBytes( const Property& a_property )
     m_json->String( ViewOf( uri ) );
 }
 
-// All texts as one, with the delimiters of a vCard.
+// All texts as one text with the delimiters of a vCard.
 template <class AddText>
 void JCardSink::Join( const Property& a_property, AddText a_addText )
 {
@@ -363,7 +363,7 @@ void JCardSink::AppendTexts( const Property& a_property )
     AppendRun( a_property, 0, texts.size() );
 }
 
-// Of another version, which has components for it: what could not be changed.
+// From another version, which has components for it, if it could not be changed.
 void JCardSink::AppendJoined( const Property& a_property )
 {
     Join( a_property, [this]( std::string_view a_text ) { m_buffer += a_text; } );

@@ -18,7 +18,7 @@ struct Row
     const char* m_name;
     // %1 is the property, %2 the detail.
     const char* m_text;
-    // Of one note, and of several.
+    // For one note, and for several.
     const char* m_single;
     const char* m_plural;
 };

@@ -15,7 +15,7 @@ namespace
 {
 
 constexpr int s_kMostNotes = 1000;
-// Enough for a device to be asked rarely.
+// Large enough to write to the device rarely.
 constexpr int s_kFullBuffer = 64 * 1024;
 
 PimContactVersion VersionOf( PimContactFormat a_format )
@@ -49,7 +49,7 @@ public:
 
     bool IsJson() const { return m_format == PimContactFormat::JCard; }
 
-    // One jCard is no array, so the first one waits for the second.
+    // A single jCard is not in an array, so the bracket is added with the second one.
     void Write( const PimContactCard& a_card )
     {
         ++m_cards;
@@ -71,7 +71,7 @@ public:
 
     bool MayFlush() const { return m_buffer.size() >= s_kFullBuffer && !( IsJson() && m_cards == 1 ); }
 
-    // A device may write less than it is asked to.
+    // A device may write less than requested.
     bool Flush()
     {
         qint64 place = 0;

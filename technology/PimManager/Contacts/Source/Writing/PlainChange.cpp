@@ -19,7 +19,7 @@ void PlainChange::BeginCard( const CardRecord& a_record, VersionStep a_step, con
     m_hasLabels = is40 && a_properties[static_cast<size_t>( PropertyId::Label )];
 }
 
-// In 4.0, names and addresses may get other lines of the card as parameters.
+// In 4.0, names and addresses may receive other lines of the card as parameters.
 bool PlainChange::MayTake( PropertyId a_property ) const
 {
     return m_isUsual && !( m_hasSortName && a_property == PropertyId::N ) &&
@@ -60,7 +60,7 @@ std::string_view PlainChange::ValueOf( std::string_view a_bytes, const IndexRead
     return ViewOf( m_unfolded );
 }
 
-// A value with escapes is not kept, because 2.1 has none but those of semicolons.
+// A value with escapes is not kept, because 2.1 escapes only semicolons.
 bool PlainChange::TakeOld( const LineHeadText& a_head, std::string_view a_value, bool a_isPrintable,
                            const PlainChangeRule& a_rule )
 {
@@ -76,7 +76,7 @@ bool PlainChange::TakeOld( const LineHeadText& a_head, std::string_view a_value,
     return true;
 }
 
-/// \return false if the target has no room for all texts, or wants more components.
+/// \return false if the target cannot contain all texts or requires more components.
 bool PlainChange::ReadTexts( std::string_view a_value, const PlainChangeRule& a_rule )
 {
     m_texts.clear();

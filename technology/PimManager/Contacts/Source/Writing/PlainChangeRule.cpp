@@ -56,7 +56,7 @@ bool HasComponents( const PropertyRule& a_rule )
     return a_rule.m_shape == ValueShape::Components || a_rule.m_shape == ValueShape::ComponentLists;
 }
 
-// The one way to write a text with escapes: `\\n`, `\\,` and `\\;`. Others are left to the slow path.
+// The usual escapes of a text: `\\n`, `\\,` and `\\;`. Others are left to the slow path.
 bool HasUsualEscapes( std::string_view a_value )
 {
     for ( size_t place = a_value.find( '\\' ); place != std::string_view::npos;
@@ -75,7 +75,7 @@ struct DelimiterCounts
     quint32 m_commas = 0;
 };
 
-// Of a value with usual escapes.
+// For a value with the usual escapes.
 DelimiterCounts CountsOf( std::string_view a_value )
 {
     DelimiterCounts counts;

@@ -125,8 +125,7 @@ public:
     virtual void Take( const Property& a_property ) = 0;
     virtual void EndCard() = 0;
 
-    /// Clears the lost characters until the next property is taken. Call this for a line that may become a part of
-    /// another one.
+    /// Clears the record of lost characters. Call this for a line that may become a part of another one.
     void ForgetLosses()
     {
         m_isTextLost = false;

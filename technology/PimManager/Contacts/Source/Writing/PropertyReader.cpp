@@ -26,7 +26,7 @@ namespace
 
 constexpr std::string_view s_kExtensionMark = "X-";
 
-// Where a plain parameter is; a bare one has no name.
+// The position of a plain parameter. A bare one has no name.
 struct PlainPlace
 {
     ByteRange m_name;
@@ -255,7 +255,7 @@ void PropertyReader::SetType( PimContactVersion a_version )
 void PropertyReader::ReadValue( const IndexedLine& a_line )
 {
     SetType( KnownVersion( a_line.m_card.m_record.Version() ) );
-    // Bytes in a property of text are their BASE64, and a URI anywhere else is a URI.
+    // A binary value in a text property becomes its BASE64, and a URI in any other property remains a URI.
     const bool mayBeBytes = m_isMedia || ( m_property.m_property == PropertyId::Other &&
                                            a_line.m_entry.m_encoding == PimContactEncoding::Base64 );
     bool isDecoded = false;
@@ -317,11 +317,11 @@ void PropertyReader::ReadTexts()
                   problems.testFlag( PimContactDecodingProblem::MalformedQuotedPrintable );
     if ( m_property.m_type == ValueType::ContentId && m_property.m_shape == ValueShape::Single )
         SetContentIdType();
-    // What should be bytes or a URI is something else.
+    // The value should be binary or a URI, but is neither.
     const bool isUnnamed = m_valueName.empty();
     if ( m_property.m_type == ValueType::Binary || ( m_isMedia && isUnnamed && m_property.m_type == ValueType::Uri ) )
         m_property.m_type = IsUri( m_property.Text() ) ? ValueType::Uri : ValueType::Text;
-    // A text where a URI or a text may be.
+    // A text in a property that allows a URI or a text.
     if ( m_property.m_type == ValueType::Uri && isUnnamed && m_rule != nullptr &&
          m_rule->m_types.Has( ValueType::Text ) && !IsUri( m_property.Text() ) )
         m_property.m_type = ValueType::Text;

@@ -1,4 +1,4 @@
-// Books as files.
+// Saves books as files.
 
 #include "Writing/WriteNotes.h"
 

@@ -24,7 +24,7 @@ namespace
 
 constexpr std::string_view s_kEncoded = ";ENCODING=QUOTED-PRINTABLE;CHARSET=UTF-8:";
 
-// Bytes that an escape precedes, or that may be a part of a line break, or that are lost.
+// Bytes that are escaped, that may be a part of a line break, or that are lost.
 constexpr std::array<bool, 256> BytesOfInterest( std::string_view a_escaped )
 {
     std::array<bool, 256> bytes = {};
@@ -78,17 +78,17 @@ bool IsOpenAgent( const Property& a_property )
     return a_property.m_property == PropertyId::Agent && IsSameWord( WithoutOuterSpace( a_property.Text() ), s_kBegin );
 }
 
-/// \return true for a type that 2.1 defines, which needs no name there.
+/// \return true for a type that 2.1 defines. There it needs no parameter name.
 bool IsBare( const ParameterText& a_parameter )
 {
     if ( !a_parameter.Is( StandardParameter::Type ) || !IsType21( a_parameter.m_value ) )
         return false;
-    // Others than those of the list may be the name of a character set.
+    // Words that are not in the list may be the name of a character set.
     return !IsExtensionName( a_parameter.m_value ) ||
            ( IsName( a_parameter.m_value ) && NameOfBare( a_parameter.m_value ) == s_kTypeParameter );
 }
 
-/// \return the end of what was written.
+/// \return the end of the written text.
 char* WriteHexadecimal( char a_byte, char* a_out )
 {
     constexpr std::string_view s_kDigits = "0123456789ABCDEF";
@@ -99,7 +99,7 @@ char* WriteHexadecimal( char a_byte, char* a_out )
     return a_out;
 }
 
-// What must be done with a byte of a text that is encoded.
+// The treatment of a byte in an encoded text.
 enum class Encoding : quint8
 {
     None,
@@ -124,7 +124,7 @@ constexpr std::array<Encoding, 256> FindEncodings()
 
 constexpr std::array<Encoding, 256> s_kEncodings = FindEncodings();
 
-/// \param a_delimiter of the value: a semicolon is escaped, and a comma encoded.
+/// \param a_delimiter the delimiter of the value. A semicolon is escaped, and a comma is encoded.
 char* WriteDelimiter( char a_byte, char a_delimiter, char* a_out )
 {
     if ( a_byte == ',' && a_delimiter == ',' )
@@ -315,7 +315,7 @@ void VCardText::AppendParameterValue( const ParameterText& a_parameter )
         value = ViewOf( clean );
         m_lostParameter = a_parameter.m_name;
     }
-    // A reader removes white space around a type, also in quotes.
+    // A reader removes white space around a type, even in quotes.
     if ( a_parameter.Is( StandardParameter::Type ) )
         value = WithoutOuterSpace( value );
     const bool isQuoted = NeedsQuotes( value );
@@ -332,7 +332,7 @@ void VCardText::AppendParameterValue( const ParameterText& a_parameter )
     m_line.append( isQuoted ? "\"" : "" );
 }
 
-// Parameters of 2.1 can hold neither quotes nor line breaks.
+// Parameters of 2.1 can contain neither quotes nor line breaks.
 void VCardText::AppendOldParameterByte( char a_byte, std::string_view a_name )
 {
     const bool isChanged = a_byte == '\n' || a_byte == '"';
@@ -344,7 +344,7 @@ void VCardText::AppendOldParameterByte( char a_byte, std::string_view a_name )
 void VCardText::AppendValueType( const Property& a_property )
 {
     const bool isUri = a_property.m_isBinary || ( a_property.m_type == ValueType::Uri && !a_property.Text().empty() );
-    // Some programs take pictures of 4.0 for URIs only if VALUE says so.
+    // Some programs treat pictures of 4.0 as URIs only if VALUE says so.
     const bool isMediaUri = isUri && m_version == PimContactVersion::V40 && IsMediaName( a_property.m_name );
     if ( !isMediaUri && ( a_property.m_isBinary || !NeedsTypeName( a_property, m_version ) ) )
         return;
@@ -356,7 +356,7 @@ void VCardText::AppendValueType( const Property& a_property )
     Append( m_line, name );
 }
 
-// Such as JPEG for a picture; of another kind of file the whole media type.
+// For example JPEG for a picture. For any other kind of file, the whole media type.
 void VCardText::AppendMediaType( const Property& a_property )
 {
     const std::string_view type = a_property.m_mediaType;
@@ -425,13 +425,13 @@ void VCardText::AppendEscaped( std::string_view a_text )
     AppendValue( a_text, s_kEscapedBytes );
 }
 
-// A URI, a date or a number has no delimiters of its own. A backslash is escaped because a reader removes escapes.
+// A URI, a date or a number has no delimiters. A backslash is escaped because a reader removes escapes.
 void VCardText::AppendPlain( std::string_view a_text )
 {
     AppendValue( a_text, s_kPlainBytes );
 }
 
-// Whatever needs no look is copied in one piece.
+// Runs that need no check are copied at once.
 void VCardText::AppendValue( std::string_view a_text, const ByteSet& a_special )
 {
     std::string_view rest = a_text;
@@ -446,7 +446,7 @@ void VCardText::AppendValue( std::string_view a_text, const ByteSet& a_special )
     }
 }
 
-/// \param a_rest begins with a byte that needs a look; it is removed.
+/// \param a_rest begins with a byte that needs a check. The byte is removed.
 void VCardText::AppendSpecial( std::string_view& a_rest )
 {
     TextUnits units( a_rest );
@@ -484,7 +484,7 @@ bool VCardText::NeedsEncoding( ValueShape a_shape ) const
         length += text.m_text.size() + 1;
         length += CountOf( ';', text.m_text );
     }
-    // A blank at the end of a line may get lost on the way.
+    // A blank at the end of a line may be lost in transit.
     return length > s_kLineLength + 1 || ( !m_oldTexts.empty() && EndsInBlank( m_oldTexts.back().m_text ) );
 }
 
@@ -496,7 +496,7 @@ bool VCardText::IsShort( const LineHeadText& a_head, std::string_view a_value, V
     return length <= s_kLineLength && !EndsInBlank( a_value );
 }
 
-// Texts that have other line breaks than line feeds, or control characters, are copied.
+// Texts with line breaks other than line feeds or with control characters are copied.
 void VCardText::CleanOldTexts()
 {
     m_copies.clear();
@@ -560,8 +560,8 @@ void VCardText::EndEncodedLine()
     AppendSoftBroken( ViewOf( m_line ), ViewOf( m_value ), m_out );
 }
 
-// No two blanks follow each other, so that a soft line break precedes none. There are no colons, so that what follows
-// a soft line break looks like no property.
+// No two blanks follow each other, so that no blank follows a soft line break. There are no colons, so that the text
+// after a soft line break does not look like a property.
 void VCardText::AppendEncoded( std::string_view a_text, char a_delimiter )
 {
     constexpr int s_kLongestEncoding = 6; // of a line break

@@ -85,7 +85,7 @@ void RemoveNamed( Property& a_property, std::string_view a_name )
 
 void AddType( Property& a_property, std::string_view a_word )
 {
-    // Words of one parameter follow each other.
+    // The words of one parameter follow each other.
     const auto isType = []( const ParameterText& a_parameter ) { return a_parameter.Is( StandardParameter::Type ); };
     const auto last = std::find_if( a_property.m_parameters.rbegin(), a_property.m_parameters.rend(), isType );
     a_property.m_parameters.insert( last.base() == a_property.m_parameters.begin() ? a_property.m_parameters.end()
@@ -145,7 +145,7 @@ bool IsPlainUser( std::string_view a_text )
                         { return IsNameByte( a_byte ) || a_byte == '.' || a_byte == '_' || a_byte == '@'; } );
 }
 
-/// \return true if a word of TYPE is the name of a media type, as JPG is one of image/jpeg.
+/// \return true if a TYPE word is a name of a media type, such as JPG for image/jpeg.
 bool DoesName( std::string_view a_word, std::string_view a_mediaType )
 {
     const size_t slash = a_mediaType.find( '/' );
@@ -372,7 +372,7 @@ void VersionChanges::TakeOut( Property& a_address )
                          a_parameter.Is( StandardParameter::Cc ) ||
                          ( a_parameter.Is( StandardParameter::Geo ) && !m_position.empty() );
               } );
-    // An address that is its label only.
+    // An address that consists only of its label.
     const bool isEmpty = std::all_of( a_address.m_texts.begin(), a_address.m_texts.end(),
                                       []( const ValueText& a_text ) { return a_text.m_text.empty(); } );
     if ( !isEmpty || m_label.empty() || !m_timeZone.empty() || !m_country.empty() || !m_position.empty() )
@@ -863,7 +863,7 @@ void VersionChanges::ChangeRelation( Property& a_property )
     }
 }
 
-// Version 4.0 has the name of the agent, and no card of it.
+// Version 4.0 has the name of the agent, but not its card.
 void VersionChanges::ChangeAgent( Property& a_property )
 {
     if ( !Is40() )

@@ -25,7 +25,7 @@ constexpr VersionRow Row( PropertyId a_property, VersionCell a_21, VersionCell a
     return { a_property, { { a_21, a_30, a_40 } } };
 }
 
-// A property of 3.0 alone.
+// A property that only 3.0 has.
 constexpr VersionRow Row30( PropertyId a_property, std::string_view a_extension, std::string_view a_name )
 {
     return Row( a_property, { a_extension, {} }, { a_name, {} }, { a_extension, {} } );
@@ -129,7 +129,7 @@ constexpr std::array<quint8, s_kProperties> Places()
 constexpr std::array<quint8, s_kProperties> s_kPlaces = Places();
 constexpr VersionRow s_kUnchanged = {};
 
-// Only few rows have several names. Comparing them takes longer than asking.
+// Only few rows have several names, and comparing names takes longer than checking this.
 constexpr std::array<bool, s_kRows.size()> FindRowsOfOneName()
 {
     std::array<bool, s_kRows.size()> are = {};

@@ -1,4 +1,4 @@
-// The completion for bash, run by bash as its line editor runs it.
+// Tests the completion for bash, which bash runs in the same way as its line editor does.
 
 #include "DocumentFile.h"
 #include "ShellRun.h"

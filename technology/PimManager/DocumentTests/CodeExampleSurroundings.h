@@ -1,6 +1,6 @@
 /// \file
-/// What the examples of the documents take for granted: headers, namespaces, and the reader's own things, which are
-/// declared and never defined.
+/// The declarations that the examples of the documents require: headers, namespaces, and objects of the reader's
+/// program, which are declared but never defined.
 
 #pragma once
 

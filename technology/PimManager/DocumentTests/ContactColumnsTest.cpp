@@ -34,7 +34,7 @@ const std::vector<Version> s_kVersions = {
 
 using Column = std::map<std::string, std::string>;
 
-// The last cells of a table by the first ones.
+// The last cells of the rows of a table, by their first cells.
 Column ColumnOf( const char* a_heading )
 {
     Column column;
@@ -230,7 +230,7 @@ PimContact ContactOf( const ParameterSample& a_sample, const char* a_version, bo
                       QByteArray( a_sample.m_lines ).replace( "%", parameter ) + "\r\n" );
 }
 
-// Parameters() always differs, so it counts only if nothing else does.
+// Parameters() always differs, so it is listed only if nothing else differs.
 QStringList FunctionsThatDiffer( const std::vector<ParameterSample>& a_samples, const char* a_version )
 {
     QStringList functions;

@@ -1,6 +1,6 @@
 /// \file
-/// What the examples of PimManager::Contacts take for granted: headers, the namespace, and the reader's own things,
-/// which are declared and never defined.
+/// The declarations that the examples of PimManager::Contacts require: headers, the namespace, and objects of the
+/// reader's program, which are declared but never defined.
 
 #pragma once
 

@@ -12,11 +12,11 @@
 namespace PimManager::Contacts
 {
 
-/// \return the functions of the contact that return something, such as `Phones()`, in the order of the header.
+/// \return the functions of the contact that return a result, such as `Phones()`, in the order of the header.
 QStringList FunctionsWithResult( const PimContact& a_contact );
 
 /// \return the functions of a field whose results differ, such as `Label()`: first those of PimContactField, and then
-///         those of the class, in the order of the headers. Alternatives() differs if the numbers do.
+///         those of the class, in the order of the headers. Alternatives() differs if the number of alternatives does.
 QStringList DifferingFunctions( const PimContactPhone& a_field, const PimContactPhone& a_other );
 QStringList DifferingFunctions( const PimContactAddress& a_field, const PimContactAddress& a_other );
 QStringList DifferingFunctions( const PimContactMessenger& a_field, const PimContactMessenger& a_other );

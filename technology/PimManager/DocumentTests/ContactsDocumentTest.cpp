@@ -1,4 +1,5 @@
-// The words and severities of docs/vcard-support.md and the limits of docs/developing-an-app.md are those of the code.
+// Checks that the words and severities in docs/vcard-support.md and the limits in docs/developing-an-app.md are those
+// of the code.
 
 #include "DocumentFile.h"
 

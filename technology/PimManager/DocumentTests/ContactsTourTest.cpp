@@ -1,4 +1,4 @@
-// The tour of docs/developing-an-app.md: its examples, compiled as they are, print what the document shows.
+// The tour in docs/developing-an-app.md: its examples are compiled unchanged and must print the output in the document.
 
 #include "ContactExampleSurroundings.h"
 #include "DocumentFile.h"
@@ -71,7 +71,7 @@ const std::vector<Row> s_kRows = {
 
 QString g_printed;
 
-// Qt separates what is printed by blanks, also after the last word if that is empty.
+// Qt separates printed values by blanks, even after the last word if it is empty.
 void KeepMessage( QtMsgType, const QMessageLogContext&, const QString& a_text )
 {
     QString line = a_text;

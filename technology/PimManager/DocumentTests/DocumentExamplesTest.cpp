@@ -1,4 +1,4 @@
-// The commands that the documents print, run as printed, and the output that they print.
+// Runs the commands in the documents unchanged and compares their output with that in the documents.
 
 #include "DocumentFile.h"
 #include "ShellRun.h"
@@ -25,7 +25,8 @@ const char* const s_kBook = "BEGIN:VCARD\nVERSION:3.0\nFN:J\u00F6rg Maulwurf\nEN
                             "BEGIN:VCARD\nVERSION:3.0\nFN:Ada Fenwick\nTEL:+1-555-0102\n~~~\nEND:VCARD\n";
 const char* const s_kWholeBook = "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Bo Hollow\r\nEND:VCARD\r\n";
 
-// Where the commands run: the examples of the project under their names, and what else they name.
+// The folder in which the commands run: the examples of the project under their names, and the other files that the
+// commands name.
 class ExampleFolder
 {
 public:
@@ -111,7 +112,7 @@ void ExpectRuns( const QString& a_command )
 {
     const ExampleFolder folder;
     const ShellRun run = folder.Run( a_command );
-    // 1 says that something of a book is missing, which is so in those here.
+    // 1 means that something in a book is missing, which is the case for these books.
     EXPECT_TRUE( run.m_status == 0 || run.m_status == 1 ) << a_command.toStdString() << '\n'
                                                           << run.m_status << '\n'
                                                           << run.m_err.toStdString();

@@ -1,4 +1,4 @@
-// Links between the documents: each leads to a file, and to a heading if it names one.
+// Checks that each link between the documents leads to a file, and to a heading if it names one.
 
 #include "DocumentFile.h"
 
@@ -43,7 +43,7 @@ QStringList AllMatches( const QString& a_text, const QString& a_expression )
     return matches;
 }
 
-// What the pages of a repository make of headings: small letters, hyphens for blanks, and a number for each repetition.
+// The anchors of headings on repository pages: lower case, hyphens for blanks, and a number for each repetition.
 QSet<QString> AnchorsIn( const QString& a_document )
 {
     static const QRegularExpression s_kOther( QStringLiteral( "[^\\w\\- ]" ),

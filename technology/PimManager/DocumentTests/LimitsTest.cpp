@@ -1,4 +1,5 @@
-// The limits in docs/strict-reader.md and docs/embedded.md are those of the code, and fit into the devices.
+// Checks that the limits in docs/strict-reader.md and docs/embedded.md are those of the code, and that they fit into
+// the devices.
 
 #include "DocumentFile.h"
 #include "Strict/BookReader.h"
@@ -14,7 +15,7 @@ using namespace PimManager::vCard::Documents;
 namespace
 {
 
-// What docs/embedded.md says that a program needs.
+// The memory that a program needs according to docs/embedded.md.
 constexpr qint64 s_kEmptyProgram = 9'000'000;
 constexpr qint64 s_kReaderForCardByte = 6;
 constexpr qint64 s_kBookForCardByte = 3;

@@ -1,4 +1,5 @@
-// docs/man/pimvcard.1: a page that man shows without a warning, and that has the commands and options of the program.
+// Checks that man shows docs/man/pimvcard.1 without a warning, and that the page has the commands and options of the
+// program.
 
 #include "DocumentFile.h"
 #include "ShellRun.h"
@@ -51,7 +52,7 @@ QStringList OptionsNamedIn( const QString& a_text )
     return options;
 }
 
-// How the page names an option.
+// The name of an option on the page.
 QString NameOf( const OptionInfo& a_option )
 {
     const QString value = a_option.m_argument.isEmpty() ? QString() : QLatin1Char( ' ' ) + a_option.m_argument;
@@ -79,7 +80,7 @@ bool ReadsBooks( const CommandInfo& a_command )
     return a_command.m_arguments == QLatin1String( "BOOK..." );
 }
 
-// The heading of the options that all commands have that read books, such as `Of list, show and check`.
+// The heading of the options of all commands that read books, such as `Of list, show and check`.
 QString HeadingOfReading()
 {
     QStringList names;

@@ -10,7 +10,7 @@ namespace PimManager::vCard::Documents
 namespace
 {
 
-// The program under its own name, whatever the caller's language.
+// Runs the program under its own name, independently of the caller's language.
 QProcessEnvironment Environment()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

@@ -12,7 +12,7 @@ namespace PimManager::vCard::Documents
 /// The output and the exit status of a command.
 struct ShellRun
 {
-    /// -1 when it could not be run.
+    /// -1 if it could not be run.
     int m_status = -1;
     QString m_out;
     QString m_err;
@@ -20,8 +20,8 @@ struct ShellRun
 
 /// Runs a command of bash, with pipefail.
 /// \param a_command   the command for `bash -c`.
-/// \param a_folder    where it runs; empty for the folder of the test.
-/// \param a_arguments `$1` and on.
+/// \param a_folder    the folder in which it runs; empty for that of the test.
+/// \param a_arguments the arguments, from `$1` on.
 ShellRun RunInShell( const QString& a_command, const QString& a_folder = QString(),
                      const QStringList& a_arguments = QStringList() );
 

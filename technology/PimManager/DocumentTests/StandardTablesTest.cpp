@@ -1,4 +1,4 @@
-// docs/vcard-support.md: its tables of properties and parameters are those of the library.
+// Checks that the tables of properties and parameters in docs/vcard-support.md are those of the library.
 
 #include "DocumentFile.h"
 
@@ -65,7 +65,7 @@ std::string OccurrenceText( Occurrence a_occurrence )
     }
 }
 
-// Every value of 2.1 may be elsewhere, which the text above the table says.
+// Every value of 2.1 may be in another part of the message. The text above the table says so.
 std::string TypesText( const PropertyRule& a_rule )
 {
     std::string text( NameOf( a_rule.m_defaultType ) );

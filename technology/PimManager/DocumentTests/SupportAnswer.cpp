@@ -48,7 +48,7 @@ QString ShownProperty( const PimVCardProperty& a_property )
                           QStringList( a_property.GetValues() ) );
 }
 
-// White space in BASE64 means nothing.
+// White space in BASE64 is ignored.
 QStringList ValuesOf( const PimContactLine& a_line )
 {
     QStringList values = a_line.Values();

@@ -1,5 +1,6 @@
 /// \file
-/// What the component and Contacts make of an example of `docs/vcard-support.md`, in the words of that document.
+/// The results of the component and of Contacts for an example in `docs/vcard-support.md`, in the notation of that
+/// document.
 
 #pragma once
 

@@ -1,5 +1,5 @@
 /// \file
-/// How `docs/vcard-support.md` writes texts in one line.
+/// The notation of `docs/vcard-support.md` for texts in one line.
 
 #pragma once
 
@@ -9,18 +9,18 @@
 namespace PimManager::vCard::Documents
 {
 
-/// An example as the document writes it.
+/// An example in the notation of the document.
 struct SupportExample
 {
-    /// The text that is read.
+    /// The text to read.
     QByteArray m_text;
-    /// The lines of a card were written, and BEGIN, VERSION and END are not in the document.
+    /// True if the document has only the lines of a card, without BEGIN, VERSION and END.
     bool m_isWrapped = false;
 };
 
-/// \param a_written with signs for what cannot be shown: ⏎ CR LF, ␊ LF, ␍ CR, ⇥ tab, ␀ NUL, ‹E9› the byte of that
-///                  hexadecimal number. With a card of its own it is a whole text, else the lines of one card.
-/// \param a_version of the card, such as `3.0`.
+/// \param a_written a text with signs for what cannot be shown: ⏎ CR LF, ␊ LF, ␍ CR, ⇥ tab, ␀ NUL, ‹E9› the byte of
+///                  that hexadecimal number. If it contains a card it is a whole text, otherwise the lines of one card.
+/// \param a_version the version of the card, such as `3.0`.
 SupportExample ExampleOf( const QString& a_written, const QString& a_version );
 
 /// \return the text with the same signs, and ‹FEFF› for characters that cannot be shown.

@@ -76,7 +76,7 @@ QStringList DecodedReadingsOf( const QJsonObject& a_property, const PimContactLi
     return readings + DecodedParameters( a_property, a_line );
 }
 
-// Of the list in the head of the JSON, those that are not the text of a line.
+// The elements of a list in the head of the JSON that are not the text of a line.
 QStringList HeadReadings( const QJsonObject& a_json, const PimContactCard& a_card, const char* a_list,
                           const char* a_member )
 {

@@ -1,5 +1,5 @@
 /// \file
-/// What Contacts reads from a card beyond the values of its lines.
+/// Data that Contacts reads from a card in addition to the values of its lines.
 
 #pragma once
 
@@ -10,11 +10,12 @@
 namespace PimManager::vCard::Documents
 {
 
-/// \return what differs from the text as it is written: bytes with their media type, parameters, numbers and mail
-///         addresses. Empty if nothing does.
+/// \return the readings that differ from the text as written: bytes with their media type, parameters, numbers and mail
+///         addresses. Empty if nothing differs.
 QStringList DecodedReadings( const Contacts::PimContactCard& a_card );
 
-/// \return the same, and what else the JSON of the card says of its properties: parts, types, preference, label, call.
+/// \return the same, with the further members of the properties in the JSON of the card: parts, types, preference,
+///         label, call.
 QStringList AllReadings( const Contacts::PimContactCard& a_card );
 
 } // namespace PimManager::vCard::Documents

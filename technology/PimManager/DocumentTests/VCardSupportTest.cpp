@@ -1,5 +1,5 @@
-// docs/vcard-support.md: every example of it is read by the component and by Contacts, and its row must say what they
-// return.
+// Reads every example in docs/vcard-support.md with the component and with Contacts, and checks that its row shows what
+// they return.
 
 #include "DocumentFile.h"
 #include "SupportAnswer.h"
@@ -23,7 +23,7 @@ std::vector<TableRow> SupportRows()
                         QStringLiteral( "component" ), QStringLiteral( "contacts" ) } );
 }
 
-// The version that cards have under a heading.
+// The version of the cards under a heading.
 const std::map<QString, QString>& Versions()
 {
     static const std::map<QString, QString> s_kVersions = {

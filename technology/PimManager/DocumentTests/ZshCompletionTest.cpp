@@ -1,4 +1,4 @@
-// The completion for zsh, read as a text: zsh need not be there to build and test.
+// Tests the completion for zsh as a text, so that zsh is not required to build and test.
 
 #include "DocumentFile.h"
 
@@ -46,7 +46,7 @@ QStringList ArrayLines( const QString& a_script, const QString& a_name )
     return lines;
 }
 
-// What a line of an array begins with if it is the one of the option.
+// The start of the line of an array for an option.
 QString StartOf( const OptionInfo& a_option )
 {
     const bool hasValue = !a_option.m_argument.isEmpty();

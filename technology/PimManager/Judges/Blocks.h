@@ -1,5 +1,5 @@
 /// \file
-/// What the judges in C++ share: they read blocks of vCards, and print what a library finds in each of them.
+/// The common part of the judges in C++. They read blocks of vCards and print what a library finds in each of them.
 
 #pragma once
 
@@ -24,8 +24,8 @@ inline QJsonObject Picture( const QByteArray& a_bytes )
     return { { QStringLiteral( "size" ), a_bytes.size() }, { QStringLiteral( "sha1" ), QString::fromLatin1( hash ) } };
 }
 
-/// The main function of a judge. Standard input has blocks: a line with a number of bytes, and then these bytes. For
-/// each block it prints a line of JSON: an array with an object for each card.
+/// The main function of a judge. Standard input consists of blocks: a line with a number of bytes, followed by these
+/// bytes. For each block, the function prints a line of JSON: an array with an object for each card.
 /// \param a_read  returns this array for the text of a block.
 template <class Read>
 int Run( Read a_read )

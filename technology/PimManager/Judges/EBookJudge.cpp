@@ -1,8 +1,9 @@
-// ebook-judge: what libebook-contacts reads in vCards. It reads one card at a time, so each block must be one card.
+// ebook-judge: prints what libebook-contacts reads in vCards. The library reads one card at a time, so each block must
+// be one card.
 
 #include "Blocks.h"
 
-// The header of libsecret, which this one includes, names a member "signals".
+// This header includes that of libsecret, which has a member named "signals".
 #undef signals
 #include <libebook-contacts/libebook-contacts.h>
 

@@ -1,4 +1,4 @@
-// kcontacts-judge: what KContacts reads in vCards.
+// kcontacts-judge: prints what KContacts reads in vCards.
 
 #include "Blocks.h"
 

@@ -1,5 +1,5 @@
 // pimvcard-peer-ebook: libebook-contacts. It reads one card at a time, so this program cuts the text after each END
-// line. A card is read when its attributes are first asked for.
+// line. The library reads a card at the first access to its attributes.
 
 #include "PeerRun.h"
 

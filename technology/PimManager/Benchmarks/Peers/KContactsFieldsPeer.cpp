@@ -1,5 +1,5 @@
-// pimvcard-peer-kcontacts-fields: KContacts, and every field of each person that TakeFields() of ContactFields.h takes
-// too.
+// pimvcard-peer-kcontacts-fields: KContacts, and every field of each person that TakeFields() in ContactFields.h also
+// reads.
 
 #include "PeerRun.h"
 
@@ -18,7 +18,7 @@ using namespace KContacts;
 namespace
 {
 
-/// Adds up what it is given.
+/// Adds up its arguments.
 class Counter
 {
 public:

@@ -1,5 +1,5 @@
 /// \file
-/// What the programs share that read or write a book with one of the compared libraries.
+/// The common part of the programs that read or write a book with one of the compared libraries.
 
 #pragma once
 
@@ -21,8 +21,8 @@ inline double ProcessorSeconds()
 
 /// The main function of a peer: `PROGRAM FILE PASSES`. For each pass it prints the number of cards with a name, the
 /// seconds of processor time, and the most memory of the process so far.
-/// \param a_read  returns what holds all cards of a text, or the text that was written for it. This is the work that is
-///                measured.
+/// \param a_read  returns an object with all cards of a text, or the text that was written for it. This is the work
+///                that is measured.
 /// \param a_count returns the number of cards in it that have a FN property.
 template <typename Text, typename Read, typename Count>
 int Run( int a_argc, char* a_argv[], Read a_read, Count a_count )

@@ -1,4 +1,4 @@
-// pimvcard-benchmark: the component and the plain scanner over the same books, by the clock.
+// pimvcard-benchmark: measures the time of the component and of the plain scanner for the same books.
 
 #include "BookGenerator.h"
 #include "PimVCardTranscript.h"
@@ -20,8 +20,8 @@ using namespace PimManager::vCard::MadeTexts;
 namespace
 {
 
-// Each about a quarter to half a megabyte: beyond the caches of most machines, and still some turns a second for the
-// plain scanner.
+// Each book has about a quarter to half a megabyte. That exceeds the caches of most machines, and the plain scanner
+// still completes several runs a second.
 constexpr int s_kTextCards = 800;
 constexpr int s_kPhotoCards = 120;
 constexpr int s_kFoldedCards = 250;
@@ -63,7 +63,7 @@ void Conclude( benchmark::State& a_state, const QByteArray& a_text, bool a_isRig
     s_isEveryAnswerRight = false;
 }
 
-// The clock stands while cards are deleted.
+// The clock is stopped while cards are deleted.
 void MeasureParsing( benchmark::State& a_state, Parse a_parse, const QByteArray& a_text, int a_expected )
 {
     bool isRight = true;

@@ -10,7 +10,7 @@ using namespace PimManager::Contacts;
 namespace
 {
 
-/// Adds up what it is given.
+/// Adds up its arguments.
 class Counter
 {
 public:

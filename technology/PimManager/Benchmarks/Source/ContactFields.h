@@ -1,5 +1,5 @@
 /// \file
-/// The work of a program that shows everything that it knows of a contact.
+/// The work of a program that shows all data of a contact.
 
 #pragma once
 
@@ -12,6 +12,6 @@ class PimContact;
 
 } // namespace PimManager::Contacts
 
-/// Takes every typed field of a contact, with all texts, kinds and bytes.
+/// Reads every typed field of a contact, with all texts, kinds and bytes.
 /// \return a number that depends on all of them, so that the compiler leaves nothing out.
 qint64 TakeFields( const PimManager::Contacts::PimContact& a_contact );

@@ -136,7 +136,7 @@ int Pieces( const char* a_name, qint64 a_bytes, qint64 a_limit )
     return 0;
 }
 
-// Reads a file in blocks, and does something with each card.
+// Reads a file in blocks and calls a function for each card.
 template <class Take>
 int ForEachCard( const char* a_name, Take a_take )
 {
@@ -168,7 +168,7 @@ int Json( const char* a_name )
                         } );
 }
 
-// Takes everything, and keeps nothing.
+// Accepts all output and discards it.
 class Drain : public QIODevice
 {
 protected:

@@ -77,7 +77,7 @@ qint64 HeapInUse()
     return static_cast<qint64>( info.uordblks ) + static_cast<qint64>( info.hblkhd );
 }
 
-// The first text warms up what a thread keeps.
+// The first text fills the caches of the thread.
 int Heap( const char* a_file )
 {
     qDeleteAll( *std::unique_ptr<QList<PimVCard*>>( PimVCardParser( Contents( a_file ) ).ParseVCards() ) );

@@ -1,6 +1,6 @@
 /// \file
-/// The scanner without a parser on it. The source is compiled over the component and over the plain scanner, so the
-/// function exists in two namespaces.
+/// The scanner without a parser. The source is compiled for the component and for the plain scanner, so the function
+/// exists in two namespaces.
 
 #pragma once
 
@@ -12,8 +12,8 @@ namespace PimManager
 namespace vCard
 {
 
-/// Takes a whole text in as tokens: runs of value characters, and between them semicolons and line breaks.
-/// \param a_text as the parser prepares it, without NUL bytes.
+/// Reads a whole text as tokens: runs of value characters, with semicolons and line breaks between them.
+/// \param a_text the text as prepared by the parser, without NUL bytes.
 /// \return the number of tokens that are not empty.
 int CountTokens( const QByteArray& a_text );
 

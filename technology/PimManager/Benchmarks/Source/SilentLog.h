@@ -1,5 +1,5 @@
 /// \file
-/// The parser's messages, kept off the screen.
+/// Discards the messages of the parser.
 
 #pragma once
 
@@ -10,8 +10,8 @@
 namespace PimManager::vCard::Benchmarks
 {
 
-/// Drops every message on Qt's log, after it was put together: a program that shows the log pays more, one that turns
-/// the log off pays less.
+/// Discards every message on Qt's log after it was formatted. A program that shows the log needs more time, and one
+/// that disables the log needs less.
 inline void DropLogMessages()
 {
     qInstallMessageHandler(

@@ -31,7 +31,7 @@ bool BeginsWithBoundary( const std::vector<PimContactExtent>& a_extents )
     return first != a_extents.end() && first->Kind() == PimContactExtentKind::Boundary;
 }
 
-// A line with a nested card has an extent of its own, and the extents of the card follow.
+// A line with a nested card has its own extent, and the extents of the card follow.
 Broken BrokenLine( const PlacedLine& a_line, const PimContactExtent& a_extent, const CardPlaces& a_places )
 {
     if ( a_line.m_place != a_places.InCard( a_extent.Offset() ) )
@@ -65,7 +65,7 @@ Broken BrokenLines( const PimContactCard& a_card, const CardPlaces& a_places )
     return Broken();
 }
 
-// What concerns the lines of this card, nested or not.
+// The checks of the lines of this card, nested or not.
 Broken BrokenOwnLines( const PimContactCard& a_card )
 {
     const QByteArray bytes = a_card.Bytes();
@@ -158,7 +158,7 @@ Broken BrokenCard( const PimContactCard& a_card, const Subject& a_subject )
                         [&] { return BrokenRecord( a_card, a_subject ); } );
 }
 
-// Extents of a card come before the card, and none after it.
+// The extents of a card are delivered before the card, and none after it.
 Broken BrokenDelivery( const Subject& a_subject )
 {
     const Reading& reading = a_subject.m_reading;
@@ -187,7 +187,7 @@ bool IsOfARefusedCard( PimContactExtentKind a_kind )
            a_kind == PimContactExtentKind::Mark;
 }
 
-// Each card that was begun has extents. Those of a delivered card are not refused, and those of another one are.
+// Each card that was begun has extents. They are Refused if and only if the card was not delivered.
 Broken BrokenFates( const Subject& a_subject )
 {
     const Reading& reading = a_subject.m_reading;

@@ -8,11 +8,12 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// Each card has the bytes of its extents, its lines are those extents that are lines, in their order, and its record
-/// fits to both.
+/// Checks that each card has the bytes of its extents, that its lines are the extents of kind Line in their order, and
+/// that its record matches both.
 Broken BrokenCards( const Subject& a_subject );
 
-/// The report counts the cards, line endings and versions that there are, and knows whether something is missing.
+/// Checks that the report counts the cards, line endings and versions correctly, and states correctly whether something
+/// is missing.
 Broken BrokenCounts( const Subject& a_subject );
 
 } // namespace PimManager::Contacts::Checks

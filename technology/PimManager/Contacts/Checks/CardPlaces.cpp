@@ -64,7 +64,7 @@ std::vector<PlacedLine> CardPlaces::LinesOf( const PimContactCard& a_card ) cons
     return lines;
 }
 
-// Recursive: the reader bounds how deeply cards nest.
+// Recursive, but the reader limits the nesting of cards.
 void CardPlaces::AppendLines( const PimContactCard& a_card, std::vector<PlacedLine>& a_lines ) const
 {
     const qint64 begin = InCard( a_card.Offset() );

@@ -1,5 +1,5 @@
 /// \file
-/// Where the bytes and lines of a card are in the file.
+/// The positions of the bytes and lines of a card in the file.
 
 #pragma once
 
@@ -17,9 +17,9 @@ namespace PimManager::Contacts::Checks
 struct PlacedLine
 {
     PimContactLine m_line;
-    /// Of the card that the line belongs to.
+    /// The record of the card that the line belongs to.
     PimContactFoldStyle m_style = PimContactFoldStyle::BlankRemoved;
-    /// Its first byte in the bytes of the outermost card.
+    /// The offset of its first byte in the bytes of the outermost card.
     qint64 m_place = 0;
 };
 
@@ -31,16 +31,16 @@ public:
     /// \param a_card    an outermost card.
     CardPlaces( const std::vector<PimContactExtent>& a_extents, const PimContactCard& a_card );
 
-    /// All extents of the card in their order.
+    /// All extents of the card, in their order.
     const std::vector<PimContactExtent>& All() const { return m_all; }
-    /// Those of its properties.
+    /// The extents of its properties.
     const std::vector<PimContactExtent>& Lines() const { return m_lines; }
 
-    /// \return the bytes of all extents but filtered ones.
+    /// \return the bytes of all extents except filtered ones.
     QByteArray Bytes() const;
 
     /// \param a_offset a position in the file.
-    /// \return how many bytes of Bytes() are before that position.
+    /// \return the number of bytes in Bytes() before that position.
     qint64 InCard( qint64 a_offset ) const;
 
     /// \return the lines of the card and of nested cards, in their order.
@@ -50,7 +50,7 @@ private:
     void AppendLines( const PimContactCard& a_card, std::vector<PlacedLine>& a_lines ) const;
 
     std::vector<PimContactExtent> m_all;
-    // For each of them, its first byte in Bytes().
+    // The offset of the first byte of each of them in Bytes().
     std::vector<qint64> m_places;
     std::vector<PimContactExtent> m_lines;
 };

@@ -15,12 +15,12 @@ namespace
 
 using Random = std::mt19937;
 
-// Without oddities, a line with such a name is a property whatever precedes it. Others may be text that was folded
-// without indentation, which the lines before them decide.
+// Without oddities, a line with such a name is always a property. Other lines may be text that was folded without
+// indentation, depending on the lines before them.
 constexpr std::array s_kClearNames = { "ADR", "BDAY",  "EMAIL", "FN",    "LABEL", "N",   "NICKNAME", "NOTE",
                                        "ORG", "PHOTO", "TEL",   "TITLE", "UID",   "URL", "VERSION",  "X-ABLabel" };
 
-// Which lines an edit may have changed.
+// The lines that an edit may have changed.
 enum class Touch
 {
     None,
@@ -154,7 +154,7 @@ bool HaveSameNames( const PimContactCard& a_first, const PimContactCard& a_secon
                        { return a_one.Name() == a_other.Name(); } );
 }
 
-// Those that no typed field reads are read as text.
+// Lines that no typed field reads are read as text.
 void ReadAll( const PimContact& a_contact )
 {
     const QList<int> ids = a_contact.LineIds();

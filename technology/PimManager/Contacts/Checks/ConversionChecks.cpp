@@ -19,7 +19,7 @@ namespace PimManager::Contacts::Checks
 namespace
 {
 
-// Counts the messages between its construction and its destruction. One at a time, on one thread.
+// Counts the messages between its construction and its destruction. Only one object may exist, in one thread.
 class LogCounter
 {
 public:
@@ -97,7 +97,7 @@ Broken BrokenJson( const Subject& a_subject )
 
 Broken BrokenJsonText( const QByteArray& a_json, int a_properties )
 {
-    // Qt's parser alone would accept blanks around the object, and control characters in a string.
+    // Qt's parser would also accept blanks around the object and control characters in a string.
     const bool isObject = a_json.startsWith( '{' ) && a_json.endsWith( '}' );
     const bool hasControls = std::any_of( a_json.begin(), a_json.end(), IsControl );
     const bool isUtf8 = QString::fromUtf8( a_json ).toUtf8() == a_json;

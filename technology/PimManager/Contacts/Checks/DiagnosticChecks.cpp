@@ -25,7 +25,7 @@ qint64 CardAt( const std::vector<PimContactExtent>& a_extents, qint64 a_offset )
     return extent == a_extents.end() ? -1 : extent->Card();
 }
 
-// What is reported once for a file belongs to no card. A card without END is reported where it ends.
+// A diagnostic that is reported once for a file belongs to no card. A card without END is reported at its end.
 Broken BrokenCardNumber( const PimContactDiagnostic& a_diagnostic, const std::vector<PimContactExtent>& a_extents )
 {
     const PimContactDiagnosticCode code = a_diagnostic.Code();
@@ -37,7 +37,7 @@ Broken BrokenCardNumber( const PimContactDiagnostic& a_diagnostic, const std::ve
     return card == -1 ? Broken() : Same( "card", a_diagnostic.Card(), card );
 }
 
-// Its position is in the JSON, before that was converted.
+// Its position is in the JSON before the conversion.
 bool IsInJson( const PimContactDiagnostic& a_diagnostic )
 {
     return a_diagnostic.Code() == PimContactDiagnosticCode::JsonSyntax ||

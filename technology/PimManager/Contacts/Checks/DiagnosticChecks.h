@@ -1,5 +1,5 @@
 /// \file
-/// The diagnostics are in the order of the file, in their positions, and counted.
+/// Checks the order, the positions and the counts of diagnostics.
 
 #pragma once
 
@@ -8,8 +8,8 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// Offsets never decrease, line and column are those of the offset, the card is that of the extent there, and the
-/// report keeps the first ones and counts all.
+/// Checks that offsets never decrease, that line and column match the offset, that the card is that of the extent at
+/// the offset, and that the report keeps the first diagnostics and counts all.
 Broken BrokenDiagnostics( const Subject& a_subject );
 
 } // namespace PimManager::Contacts::Checks

@@ -40,7 +40,7 @@ Broken BrokenBytes( const Subject& a_subject )
         } );
 }
 
-// A card is left when another number follows: 0 may follow any, and then only a greater one.
+// A card ends when another number follows. 0 may follow any number, and after it only a greater one.
 Broken BrokenNumbers( const Subject& a_subject )
 {
     qint64 last = 0;

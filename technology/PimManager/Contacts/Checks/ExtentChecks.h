@@ -1,5 +1,5 @@
 /// \file
-/// Every byte belongs to exactly one extent, and the report counts them.
+/// Checks that every byte belongs to exactly one extent, and that the report counts the extents.
 
 #pragma once
 
@@ -8,11 +8,11 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// The extents follow each other from byte 0 to the end of the text and hold its bytes. Card numbers never decrease,
-/// and the extents of a card have no others between them.
+/// Checks that the extents follow each other from byte 0 to the end of the text and have its bytes. Card numbers must
+/// never decrease, and there must be no other extents between those of a card.
 Broken BrokenExtents( const Subject& a_subject );
 
-/// The sums of bytes and numbers of extents in the report are those of the extents.
+/// Checks that the sums of bytes and the numbers of extents in the report are those of the extents.
 Broken BrokenSums( const Subject& a_subject );
 
 } // namespace PimManager::Contacts::Checks

@@ -39,7 +39,7 @@ bool IsWanted( const PimContactLine& a_line, const PimContactOptions& a_options 
     return IsNameWanted( a_line, a_options.Names() ) && ( a_options.AreMediaWanted() || !IsMedia( a_line ) );
 }
 
-// The lines of a card that the filter keeps, nested cards included.
+// The lines of a card that the filter keeps, including those of nested cards.
 QByteArray WantedLinesOf( const PimContactCard& a_card, const PimContactOptions& a_options )
 {
     QByteArray text;
@@ -66,7 +66,7 @@ Broken BrokenCard( const PimContactCard& a_card, const PimContactOptions& a_opti
                           } );
 }
 
-// Both readings without limits: a line that is too long for its limit can also end a card without BEGIN, unreported.
+// Both readings have no limits, because a line over its limit can also end a card without BEGIN, without a report.
 PimContactOptions Unlimited( PimContactOptions a_options )
 {
     a_options.SetCardBytes( 0 );

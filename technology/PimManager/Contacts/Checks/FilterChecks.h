@@ -1,5 +1,5 @@
 /// \file
-/// The filter leaves out what is not wanted, and nothing else.
+/// Checks that the filter leaves out unwanted lines and nothing else.
 
 #pragma once
 
@@ -8,7 +8,8 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// The cards have only wanted lines. Without limits, they are those lines of the cards without the filter.
+/// Checks that the cards have only wanted lines. Without limits, they must be exactly the wanted lines of the
+/// unfiltered cards.
 Broken BrokenFilter( const Subject& a_subject );
 
 } // namespace PimManager::Contacts::Checks

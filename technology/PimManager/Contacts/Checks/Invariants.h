@@ -1,5 +1,5 @@
 /// \file
-/// What holds of every reading, whatever the bytes and the options. Tests and fuzzers call it.
+/// Properties of every reading, for any bytes and options. Tests and fuzzers check them.
 
 #pragma once
 
@@ -10,9 +10,9 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// Reads the bytes in several ways and looks at all that the reader returns. The headers of the checks list the
+/// Reads the bytes in several ways and checks everything that the reader returns. The headers of the checks list the
 /// properties.
-/// \param a_seed chooses where pieces end and what is inserted.
+/// \param a_seed determines where pieces end and what is inserted.
 /// \return the first broken property in English; empty if all hold.
 QByteArray BrokenInvariantOf( const QByteArray& a_bytes, const PimContactOptions& a_options, unsigned a_seed );
 

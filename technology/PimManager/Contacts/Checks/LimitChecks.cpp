@@ -10,7 +10,7 @@ namespace
 
 constexpr qint64 s_kGreatestNesting = 64;
 
-// A limit of 0 or less is none.
+// A limit of 0 or less means no limit.
 Broken Within( const char* a_what, qint64 a_found, qint64 a_limit )
 {
     if ( a_limit <= 0 || a_found <= a_limit )

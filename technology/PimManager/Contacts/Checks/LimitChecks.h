@@ -1,5 +1,5 @@
 /// \file
-/// Nothing that is delivered exceeds a limit.
+/// Checks that nothing that is delivered exceeds a limit.
 
 #pragma once
 
@@ -8,8 +8,8 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// No card has more bytes, physical lines or levels of nesting than its limit, no line more bytes, and the cards
-/// together are not more and not longer than theirs.
+/// Checks that no card exceeds its limit in bytes, physical lines or nesting, that no line exceeds its limit in bytes,
+/// and that the number and the total length of the cards do not exceed their limits.
 Broken BrokenLimits( const Subject& a_subject );
 
 } // namespace PimManager::Contacts::Checks

@@ -99,7 +99,7 @@ private:
         return TakeLine();
     }
 
-    // Without a next line it is a soft line break with nothing to join.
+    // Without a next line, it is a soft line break with nothing to join.
     void JoinDirectly()
     {
         if ( IsAtEnd() )
@@ -129,7 +129,7 @@ private:
     QByteArray m_text;
 };
 
-// Letters, digits and everything else that neither separates nor is a blank.
+// Letters, digits and all other bytes except delimiters and blanks.
 QByteArray SolidBytesOf( const QByteArray& a_text )
 {
     QByteArray solid;
@@ -169,7 +169,7 @@ Broken BrokenText( const PimContactLine& a_line, const QByteArray& a_text )
     return Different( "head", SolidBytesOf( HeadBytesOf( a_line ) ), SolidBytesOf( head ) );
 }
 
-// In an indented card the indentation goes with each fold. How deep it is cannot be seen from outside.
+// In an indented card, each fold includes the indentation, whose depth is not known here.
 Broken BrokenSolidText( const PimContactLine& a_line, const QByteArray& a_text )
 {
     return Different( "indented line", SolidBytesOf( HeadBytesOf( a_line ) + a_line.Value() ), SolidBytesOf( a_text ) );
@@ -201,7 +201,7 @@ Broken BrokenParts( const PimContactLine& a_line, const QByteArray& a_bytes, con
     return a_unfolding.m_isIndented ? BrokenSolidText( a_line, joiner.Text() ) : BrokenText( a_line, joiner.Text() );
 }
 
-// How many folds are before the colon cannot be seen from outside, so a few numbers are tried.
+// The number of folds before the colon is not known here, so a few numbers are tried.
 Broken BrokenLine( const PimContactLine& a_line, const QByteArray& a_bytes, Unfolding a_unfolding )
 {
     Broken broken = BrokenParts( a_line, a_bytes, a_unfolding );

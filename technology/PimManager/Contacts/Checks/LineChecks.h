@@ -1,5 +1,5 @@
 /// \file
-/// The texts of a line are what its bytes, joins and fold style say.
+/// Checks the texts of a line against its bytes, joins and fold style.
 
 #pragma once
 
@@ -8,8 +8,8 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// Joins the physical lines of each line again, by its joins and the fold style of its card alone: the value is the
-/// text after the colon, byte for byte, and group, name and parameters are before it.
+/// Joins the physical lines of each line again, using only its joins and the fold style of its card. The value must be
+/// the text after the colon, byte for byte, and group, name and parameters must be before it.
 Broken BrokenLineTexts( const Subject& a_subject );
 
 } // namespace PimManager::Contacts::Checks

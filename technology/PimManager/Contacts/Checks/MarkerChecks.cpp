@@ -14,7 +14,7 @@ namespace
 
 constexpr int s_kMarkers = 3;
 
-/// A text with a word in it that was not there.
+/// A text with an inserted word.
 struct MarkedText
 {
     QByteArray m_text;
@@ -60,7 +60,7 @@ bool IsIn( const PimContactLine& a_line, const QByteArray& a_marker )
                         [&a_marker]( const QByteArray& a_parameter ) { return a_parameter.contains( a_marker ); } );
 }
 
-// Of the line whose extent contains the word.
+// The texts of the line whose extent contains the word.
 bool IsInLine( const PimContactExtent& a_extent, const Reading& a_reading, const QByteArray& a_marker )
 {
     const auto card =

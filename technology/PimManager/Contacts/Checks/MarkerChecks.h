@@ -1,5 +1,5 @@
 /// \file
-/// Nothing that is inserted into a file gets lost.
+/// Checks that nothing that is inserted into a file is lost.
 
 #pragma once
 
@@ -8,9 +8,9 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// Inserts a word of letters and digits at random positions of the text and reads it again, several times. The word is
-/// in a line of a card, in its name, group, parameters or value, or else in what the report calls dropped, refused,
-/// filtered or outside. No diagnostic contains it.
+/// Inserts a word of letters and digits at random positions of the text and reads it again, several times. The word
+/// must be in the name, group, parameters or value of a line of a card, or else in an extent that is dropped, refused,
+/// filtered or outside. No diagnostic may contain it.
 Broken BrokenMarkers( const Subject& a_subject );
 
 } // namespace PimManager::Contacts::Checks

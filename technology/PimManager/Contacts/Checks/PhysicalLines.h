@@ -1,5 +1,5 @@
 /// \file
-/// Where the physical lines of a text are, found independently of the reader.
+/// Finds the physical lines of a text, independently of the reader.
 
 #pragma once
 
@@ -14,7 +14,7 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// One past the last PimContactLineEnd: the last line has no line ending.
+/// For a last line without a line ending: one more than the last PimContactLineEnd.
 constexpr int s_kNoLineEnd = static_cast<int>( PimContactLineEnd::CrCrLf ) + 1;
 
 /// A line of a text.
@@ -36,7 +36,7 @@ std::array<qint64, s_kNoLineEnd> LineEndsOf( const std::vector<PhysicalLine>& a_
 
 /// \param a_offset a position in the text, up to its end.
 /// \return the index of the line that contains it; the end of the text belongs to a last line without a line ending, or
-///         else to a line of its own.
+///         else to an additional empty line.
 size_t LineAt( const std::vector<PhysicalLine>& a_lines, qint64 a_offset );
 
 } // namespace PimManager::Contacts::Checks

@@ -16,7 +16,7 @@ namespace PimManager::Contacts::Checks
 namespace
 {
 
-// The first line that differs, with a line before it.
+// The first line that differs, with the line before it.
 QByteArray DifferenceOf( const QByteArray& a_found, const QByteArray& a_expected )
 {
     const QList<QByteArray> found = a_found.split( '\n' );

@@ -1,5 +1,5 @@
 /// \file
-/// However a file is read, the result is the same.
+/// Checks that the result does not depend on how a file is read.
 
 #pragma once
 
@@ -8,15 +8,15 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// The same transcript as that of one call of Feed() comes from pieces of random sizes, from single bytes, from Next()
-/// with a buffer and with a device on which little arrives, from a reader that has read another file, and from
+/// Checks that the transcript is that of one call of Feed() for pieces of random sizes, for single bytes, for Next()
+/// with a buffer and with a device that delivers little at a time, for a reader that has read another file, and for
 /// PimContactBook.
 Broken BrokenPieces( const Subject& a_subject );
 
 /// \return random positions to cut, ascending.
 std::vector<qint64> RandomPlaces( qint64 a_size, unsigned a_seed );
 
-/// \return the positions after each byte but the last.
+/// \return the positions after each byte except the last.
 std::vector<qint64> AllPlaces( qint64 a_size );
 
 } // namespace PimManager::Contacts::Checks

@@ -11,7 +11,7 @@ namespace
 
 using Random = std::minstd_rand;
 
-// Small limits are of use more often than large ones.
+// Small limits have an effect more often than large ones.
 qint64 RandomLimit( Random& a_random, qint64 a_default, unsigned a_small )
 {
     switch ( a_random() % 6 )

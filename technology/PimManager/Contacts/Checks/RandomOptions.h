@@ -1,5 +1,5 @@
 /// \file
-/// Options chosen by chance.
+/// Random options.
 
 #pragma once
 
@@ -8,8 +8,8 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// \return options that depend on the number alone. One time in four they are the default ones; otherwise each limit is
-///         the default, none, small or large, and there may be a filter and another default character set.
+/// \return options that depend only on the number. In one of four cases they are the default options. Otherwise each
+///         limit is the default, none, small or large, and there may be a filter and another default character set.
 PimContactOptions RandomOptions( unsigned a_seed );
 
 } // namespace PimManager::Contacts::Checks

@@ -28,7 +28,7 @@ void StopCollecting( PimContactReader& a_reader )
     a_reader.SetExtentHandler( {} );
 }
 
-// Copies the piece, so that the sanitizer finds a read beyond it and a reference that is kept.
+// Copies the piece, so that the sanitizer finds reads beyond its end and references that are kept.
 void FeedCopy( PimContactReader& a_reader, const QByteArray& a_bytes, qint64 a_begin, qint64 a_end )
 {
     const std::vector<char> piece( a_bytes.constData() + a_begin, a_bytes.constData() + a_end );

@@ -1,5 +1,5 @@
 /// \file
-/// A card means the same without its file.
+/// Checks that a card has the same meaning without its file.
 
 #pragma once
 
@@ -8,8 +8,8 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// Each card that has BEGIN and END and was not filtered is read again from its bytes alone: the same lines, version
-/// and fold style.
+/// Reads each card that has BEGIN and END and was not filtered again from its bytes alone. Lines, version and fold
+/// style must be the same.
 Broken BrokenReread( const Subject& a_subject );
 
 } // namespace PimManager::Contacts::Checks

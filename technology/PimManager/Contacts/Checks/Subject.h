@@ -1,5 +1,5 @@
 /// \file
-/// What the checks look at.
+/// The input of the checks.
 
 #pragma once
 
@@ -13,10 +13,10 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// A broken property in English; empty if it holds.
+/// A broken property in English. Empty if the property holds.
 using Broken = QByteArray;
 
-/// A file that was read, and all that the reader returned.
+/// A file that was read, with everything that the reader returned.
 struct Subject
 {
     /// Reads the bytes with one call of Feed().
@@ -24,10 +24,11 @@ struct Subject
 
     QByteArray m_bytes;
     PimContactOptions m_options;
-    /// Chooses what is left to chance.
+    /// The seed for random choices.
     unsigned m_seed;
     Reading m_reading;
-    /// The bytes, of UTF-16 in UTF-8: what offsets refer to. Of jCards the text that the reader made of them.
+    /// The text that offsets refer to: the bytes, converted to UTF-8 if they are UTF-16. For jCards, the text that the
+    /// reader converted them to.
     QByteArray m_text;
     std::vector<PhysicalLine> m_lines;
 };
@@ -35,7 +36,7 @@ struct Subject
 /// \return true if the file was refused because of its first bytes.
 bool IsRefusedKind( PimContactFileKind a_kind );
 
-/// \return nothing if it is true, else the property.
+/// \return the property if the condition is false, else nothing.
 Broken Holds( bool a_isTrue, const char* a_what );
 
 /// \param a_what the property.
@@ -45,7 +46,7 @@ Broken Same( const char* a_what, qint64 a_found, qint64 a_expected );
 /// \return the broken property with the number of the card; nothing if it holds.
 Broken InCard( const Broken& a_broken, const PimContactCard& a_card );
 
-/// \return the bytes from the offset on; fewer if the text ends before.
+/// \return the bytes from the offset on. Fewer if the text ends before.
 QByteArray Slice( const QByteArray& a_text, qint64 a_offset, qint64 a_length );
 
 /// Calls functions without arguments that return Broken, one after the other, up to the first broken property.

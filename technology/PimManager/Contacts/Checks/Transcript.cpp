@@ -147,7 +147,7 @@ QByteArray OdditiesOf( const PimContactLine& a_line )
     return text;
 }
 
-// Joins in a row that are equal are counted.
+// Equal joins in a row are written once, with their number.
 QByteArray JoinsOf( const PimContactLine& a_line )
 {
     QByteArray text;
@@ -194,7 +194,7 @@ QByteArray RecordOf( const PimContactCard& a_card )
 
 using Describe = QByteArray ( * )( const PimContactCard& );
 
-// Recursive: the reader bounds how deeply cards nest.
+// Recursive, but the reader limits the nesting of cards.
 QByteArray CardRows( const PimContactCard& a_card, Describe a_describe, const QByteArray& a_indentation )
 {
     QByteArray text = a_indentation + "card " + a_describe( a_card ) + '\n';

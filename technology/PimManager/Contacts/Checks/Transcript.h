@@ -1,5 +1,5 @@
 /// \file
-/// What was read, as text: for reference results, and to compare readings.
+/// Readings as text, for reference results and comparisons.
 
 #pragma once
 
@@ -12,17 +12,17 @@
 namespace PimManager::Contacts::Checks
 {
 
-/// \return bytes as text in UTF-8: what does not print, and each malformed byte, is escaped as `\xHH`, and backslashes
-///         are doubled. Of long bytes the beginning, followed by their number and a hash.
+/// \return bytes as text in UTF-8. Unprintable characters and malformed bytes are escaped as `\xHH`, and backslashes
+///         are doubled. Long values are cut and followed by their length and a hash.
 QByteArray Shown( const QByteArray& a_bytes );
 
-/// \return the record of a card and its lines, one a line, nested cards indented.
+/// \return the record of a card and its lines, each on its own line, with nested cards indented.
 QByteArray TranscriptOf( const PimContactCard& a_card );
 
-/// \return a line without the card that it holds.
+/// \return a line without its nested card.
 QByteArray TranscriptOf( const PimContactLine& a_line );
 
-/// \return version, fold style and lines of a card and of its nested cards: what does not depend on the rest of the
+/// \return version, fold style and lines of a card and of its nested cards. These do not depend on the rest of the
 /// file.
 QByteArray ContentOf( const PimContactCard& a_card );
 

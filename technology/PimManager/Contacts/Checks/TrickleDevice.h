@@ -1,5 +1,5 @@
 /// \file
-/// A device like a socket on which little arrives at a time.
+/// A device like a socket that delivers little at a time.
 
 #pragma once
 

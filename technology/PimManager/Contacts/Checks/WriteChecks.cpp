@@ -86,7 +86,7 @@ Broken BrokenLayout( const QByteArray& a_bytes, bool a_is21 )
     return Broken();
 }
 
-// A nested card may be one of 2.1, which is written with fewer lines or more.
+// A nested card of 2.1 may be written with fewer or more lines.
 Broken BrokenReport( const PimContactReport& a_report )
 {
     const QList<PimContactDiagnostic> diagnostics = a_report.Diagnostics();
@@ -235,7 +235,7 @@ Broken BrokenTarget( const PimContactCard& a_card, const Target& a_target )
                : "written as " + QByteArray( a_target.m_name ) + ": " + broken + "\nwritten was\n" + written.m_bytes;
 }
 
-// Those of a name or an address without any text are made complete.
+// The components of a name or an address without any text are completed.
 bool HasEmptyComponents( const PimContactCard& a_card )
 {
     const QList<PimContactLine> lines = PimContact( a_card ).OtherLines();
@@ -254,7 +254,7 @@ bool HasControls( const QByteArray& a_bytes )
                         } );
 }
 
-// A number of jCard has no plus sign, and no zeros before it. Control characters are kept, but end a URI.
+// A number of jCard has neither a plus sign nor leading zeros. Control characters are kept, but end a URI.
 bool MayChange( const PimContactCard& a_card )
 {
     const QByteArray bytes = a_card.Bytes().toLower();

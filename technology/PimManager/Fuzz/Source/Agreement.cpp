@@ -17,7 +17,7 @@ QString LineAt( const QStringList& a_lines, int a_line )
 
 bool IsWellFormed( const QByteArray& a_text )
 {
-    // A U+FEFF at the start does not come back from the decoder, but is well-formed all the same.
+    // The decoder does not return a U+FEFF at the start, but the text is still well-formed.
     const QByteArray text = a_text.startsWith( "\xEF\xBB\xBF" ) ? a_text.mid( 3 ) : a_text;
     return !text.startsWith( "\xEF\xBB\xBF" ) && !text.contains( '\0' ) &&
            QString::fromUtf8( text.constData(), text.size() ).toUtf8() == text;

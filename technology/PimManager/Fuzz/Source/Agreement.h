@@ -1,5 +1,5 @@
 /// \file
-/// Do two runs give the same? The component with itself, and with the plain scanner.
+/// Compares two runs of the component, and the component with the plain scanner.
 
 #pragma once
 
@@ -14,24 +14,23 @@
 namespace PimManager::vCard::Fuzz
 {
 
-/// The longest text that the plain scanner also reads: it needs some 3000 instructions a byte.
+/// The longest text for the plain scanner, which needs about 3000 instructions for each byte.
 inline constexpr int s_kLongestCompared = 1024;
 
-/// The longest transcript of the component that is compared with that of the plain scanner. A short text can make a
-/// recovery at each of its bytes, and each puts some forty lines on the log.
+/// The longest transcript of the component that is compared with that of the plain scanner. A short text can cause a
+/// recovery at each of its bytes, and each recovery writes about forty lines to the log.
 inline constexpr int s_kMostComparedLines = 2000;
 
-/// \param a_property says what the two should have in common.
-/// \return the property and the first line that differs, with the lines before it; empty when the transcripts are
-/// equal.
+/// \param a_property the property that should hold.
+/// \return the property and the first line that differs, with the lines before it. Empty if the transcripts are equal.
 Violation CheckSame( const char* a_property, const QStringList& a_first, const QStringList& a_second );
 
-/// Are results, states and log of these calls the same a second time, and those of the plain implementation? The latter
-/// is asked within the limits above only, and not where it does not know its position.
+/// Checks that results, states and log of these calls are the same a second time and in the plain implementation. The
+/// plain implementation is compared only within the limits above, and only where it knows its position.
 Violation CheckAgreement( const QByteArray& a_text, const QList<PimVCardParserCall>& a_calls );
 
-/// As above, for a scanner. The plain scanner is asked about well-formed UTF-8 without NUL: its positions are exact for
-/// nothing else.
+/// As above, for a scanner. The plain scanner is compared only for well-formed UTF-8 without NUL, because its positions
+/// are not exact for other texts.
 Violation CheckAgreement( const QByteArray& a_text, const PimVCardScannerScript& a_script );
 
 } // namespace PimManager::vCard::Fuzz

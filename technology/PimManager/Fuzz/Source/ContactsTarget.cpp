@@ -1,4 +1,4 @@
-// Fuzz target: any bytes through the reader of address books, with options that depend on them.
+// Fuzz target: the reader of address books with any bytes, and with options that depend on the bytes.
 
 #include "FuzzTarget.h"
 
@@ -15,7 +15,7 @@ using namespace PimManager::vCard::Fuzz;
 extern "C" int LLVMFuzzerTestOneInput( const std::uint8_t* a_data, std::size_t a_size )
 {
     const QByteArray bytes = InputOf( a_data, a_size );
-    // The same each time that the input is tried. Half of the inputs are read with the default options.
+    // The same for each run of an input. Half of the inputs are read with the default options.
     const unsigned seed = NumberOf( bytes );
     const Contacts::PimContactOptions options =
         seed % 2 == 0 ? Contacts::PimContactOptions() : Contacts::Checks::RandomOptions( seed );

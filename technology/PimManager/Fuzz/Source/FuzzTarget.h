@@ -1,5 +1,5 @@
 /// \file
-/// What each fuzz target is: one function over one input. libFuzzer calls it, and so does the replay program.
+/// The function of each fuzz target. libFuzzer and the replay program call it.
 
 #pragma once
 
@@ -9,22 +9,22 @@
 #include <cstdint>
 #include <numeric>
 
-/// Tries one input. Comes back only if every property holds; else it tells which one is broken, shows the input and
+/// Runs one input. Returns only if every property holds. Otherwise it prints the broken property and the input, and
 /// aborts.
-/// \param a_data the input; may be anything, and null when there is none of it.
+/// \param a_data the input; any bytes. May be null if the input is empty.
 /// \return 0
 extern "C" int LLVMFuzzerTestOneInput( const std::uint8_t* a_data, std::size_t a_size );
 
 namespace PimManager::vCard::Fuzz
 {
 
-/// The input as Qt knows bytes, in the memory that it stands in: reading past its end is found by the sanitizer.
+/// The input as a QByteArray that refers to its memory, so that the sanitizer finds reads beyond its end.
 inline QByteArray InputOf( const std::uint8_t* a_data, std::size_t a_size )
 {
     return QByteArray::fromRawData( reinterpret_cast<const char*>( a_data ), static_cast<int>( a_size ) );
 }
 
-/// A number that depends on nothing but the input, for what is decided by chance: 32-bit FNV-1a.
+/// A number that depends only on the input, for random choices: 32-bit FNV-1a.
 inline unsigned NumberOf( const QByteArray& a_input )
 {
     const auto addByte = []( std::uint32_t a_number, char a_byte )

@@ -14,7 +14,7 @@ namespace
 
 using Call = PimVCardParserCall;
 
-/// One parser, one call of it, and the outcome as it comes together.
+/// One parser, one call, and the outcome of the call.
 class Trial
 {
 public:
@@ -121,7 +121,7 @@ private:
     void ParseParameter( bool a_vCardBoundary )
     {
         const std::unique_ptr<PimVCardParameter> parameter( m_parser.ParseParameter( a_vCardBoundary ) );
-        // A quoted text that fails leaves its opening quote in the parameter, and the mark says that it is not good.
+        // A quoted text that fails leaves its opening quote in the parameter, which is marked as failed.
         if ( parameter != nullptr && !IsMarked() )
             m_outcome.m_result.Visit( parameter.get() );
     }

@@ -1,5 +1,5 @@
 /// \file
-/// What one parse operation gave on a parser of its own.
+/// The outcome of one parse operation on a new parser.
 
 #pragma once
 
@@ -15,15 +15,15 @@
 namespace PimManager::vCard::Fuzz
 {
 
-/// The result, which is deleted by then, and the state of the parser after it.
+/// A description of the result, which has been deleted, and the state of the parser after the operation.
 struct OperationOutcome
 {
     PimVCardParserCall m_call = PimVCardParserCall::ParseVCards;
-    /// Did the operation say that it succeeded? Nothing for one whose empty result need not be a failure.
+    /// True if the operation reported success. Not set if an empty result of the operation need not be a failure.
     std::optional<bool> m_success;
     /// The objects and texts of the result.
     ResultVisit m_result;
-    /// The prepared text before the operation, and after it.
+    /// The prepared text before and after the operation.
     QByteArray m_prepared;
     QByteArray m_preparedAfter;
     bool m_isMarked = false;
@@ -31,14 +31,14 @@ struct OperationOutcome
     bool m_isAtEnd = false;
 };
 
-/// Makes a parser over the text and calls one operation of it; ParseEnd is given the property that ParseProperty gives.
+/// Creates a parser for the text and calls one operation. ParseEnd receives the property that ParseProperty returns.
 OperationOutcome TryOperation( const QByteArray& a_text, PimVCardParserCall a_call );
 
-/// Is the result complete, does each of its texts stand in the prepared text, is that text unchanged, and do result and
-/// state fit together?
+/// Checks that the result is complete, that each of its texts is in the prepared text, that this text is unchanged, and
+/// that result and state are consistent.
 ///
-/// They fit when a failure is marked and nothing else is, and when a property that was parsed to its end has left no
-/// encoding after. ParseVCards has to end with nothing marked, at the end of the text, and with a list.
+/// They are consistent if failures and nothing else are marked as failed, and if a property that was parsed to its end
+/// leaves no encoding set. ParseVCards must end at the end of the text with a list and without a mark.
 Violation CheckOutcome( const OperationOutcome& a_outcome );
 
 } // namespace PimManager::vCard::Fuzz

@@ -1,5 +1,4 @@
-// Fuzz target: each public parse operation, alone on a new parser. The first byte of the input, counted from '0', says
-// which one.
+// Fuzz target: one public parse operation on a new parser. The first byte of the input selects it, counted from '0'.
 
 #include "FuzzTarget.h"
 

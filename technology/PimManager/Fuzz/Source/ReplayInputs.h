@@ -1,5 +1,5 @@
 /// \file
-/// The files that the replay program tries.
+/// The files that the replay program runs.
 
 #pragma once
 
@@ -9,16 +9,17 @@
 namespace PimManager::vCard::Fuzz
 {
 
-/// Files to try, or the reason why there are none.
+/// Files to run, or the reason why there are none.
 struct ReplayInputs
 {
     QStringList m_files;
-    /// Empty when all is well.
+    /// Empty if there is no error.
     QString m_error;
 };
 
-/// \param a_paths files, and folders of which every file is meant, hidden ones aside, by name. A path that does not
-///                exist and a folder without files are errors: a replay that tries nothing shows nothing.
+/// \param a_paths files and folders. A folder stands for all its files except hidden ones, sorted by name. A path that
+///                does not exist and a folder without files are errors, because a replay without files would prove
+///                nothing.
 ReplayInputs FindReplayInputs( const QStringList& a_paths );
 
 } // namespace PimManager::vCard::Fuzz

@@ -1,5 +1,5 @@
-// Tries each file on the command line, and each file of each folder there, with the fuzz target that it is linked with.
-// The exit status is 0 when every property held, and 2 when there was nothing to try; a broken property aborts.
+// Runs the linked fuzz target with each file on the command line and with each file in the folders there. The exit
+// status is 0 if every property held, and 2 if there was nothing to run. A broken property aborts.
 
 #include "FuzzTarget.h"
 #include "ReplayInputs.h"
@@ -25,7 +25,7 @@ bool TryFile( const QString& a_path )
     if ( !file.open( QIODevice::ReadOnly ) )
         return false;
     const QByteArray bytes = file.readAll();
-    // Memory of exactly that size, so that the sanitizer finds a read past the end.
+    // Memory of exactly that size, so that the sanitizer finds reads beyond the end.
     const std::vector<std::uint8_t> input( bytes.cbegin(), bytes.cend() );
     LLVMFuzzerTestOneInput( input.data(), input.size() );
     return true;

@@ -11,7 +11,7 @@ namespace PimManager::vCard::Fuzz
 namespace
 {
 
-// What the texts of a result look like. No control character, no quote and no U+FEFF stands in a quoted text.
+// The form of the texts of a result. A quoted text contains no control character, no quote and no U+FEFF.
 struct Shapes
 {
     static QRegularExpression Whole( const char* a_pattern )

@@ -1,5 +1,5 @@
 /// \file
-/// What a parse operation gave, looked at object by object.
+/// Checks the objects of a result.
 
 #pragma once
 
@@ -19,11 +19,11 @@ class PimVCardProperty;
 namespace PimManager::vCard::Fuzz
 {
 
-/// Goes through results: tells whether each object is complete, and notes every text in the order of the content line.
+/// Visits results, checks that each object is complete, and collects every text in the order of the content line.
 ///
-/// Complete means: no null pointer, a name of name characters, a group of such names, at least one value, parameter
-/// values that are not empty and whose quotes close, no control characters, and no END line in a card. Each property is
-/// also printed, which reads both of its lists.
+/// An object is complete if it has no null pointer, a name of name characters, a group of such names, at least one
+/// value, parameter values that are not empty and whose quotes are closed, no control characters, and no END line in a
+/// card. Each property is also printed, which reads both of its lists.
 ///
 /// \code
 /// ResultVisit visit;
@@ -33,13 +33,13 @@ namespace PimManager::vCard::Fuzz
 class ResultVisit
 {
 public:
-    /// Each may be called many times. What is visited remains the caller's, and may be null, which is a violation.
+    /// Each function may be called many times. The argument remains the caller's. Null is allowed, and is a violation.
     void Visit( const PimVCard* a_vCard );
     void Visit( const PimVCardProperty* a_property );
     void Visit( const PimVCardParameter* a_parameter );
     void VisitGroup( const QString& a_group );
     void VisitValues( const QList<QString>& a_values );
-    /// The text between the quotes with the closing one.
+    /// The text between the quotes, with the closing quote.
     void VisitQuotedRest( const QString& a_text );
 
     /// Visits each element of a list of pointers.
@@ -50,7 +50,7 @@ public:
             Visit( element );
     }
 
-    /// \return the first thing found wrong; empty when all was complete.
+    /// \return the first violation. Empty if everything was complete.
     Violation FirstViolation() const { return m_violation; }
 
     /// \return group, name, parameters and values of each property, without the empty texts.

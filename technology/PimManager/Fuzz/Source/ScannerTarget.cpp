@@ -1,4 +1,4 @@
-// Fuzz target: the scanner, driven by the script at the head of the input.
+// Fuzz target: the scanner, controlled by the script at the start of the input.
 
 #include "FuzzTarget.h"
 

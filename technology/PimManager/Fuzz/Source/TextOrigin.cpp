@@ -26,7 +26,7 @@ public:
     {
     }
 
-    /// \return the first position after the text; -1 if it does not stand there.
+    /// \return the first position after the text; -1 if the text is not there.
     int EndOf( const QString& a_text, int a_place ) const
     {
         Places places = { a_place };

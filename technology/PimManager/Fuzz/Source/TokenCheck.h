@@ -1,5 +1,5 @@
 /// \file
-/// What every token and every line that the scanner gives has in common.
+/// Checks the tokens and lines of the scanner.
 
 #pragma once
 
@@ -15,25 +15,25 @@
 namespace PimManager::vCard::Fuzz
 {
 
-/// What a new scanner took from a text.
+/// The tokens that a new scanner read from a text.
 struct TakenTokens
 {
-    /// All tokens that are not empty, in order, without the U+0000 that stands for the end of the text.
+    /// All tokens that are not empty, in order, without the U+0000 at the end of the text.
     QStringList m_tokens;
-    /// Those of them that were taken as single characters.
+    /// The tokens that were read as single characters.
     QStringList m_singles;
-    /// The line that was sought, and with which expression; empty when there was none.
+    /// The line that was found by a search, and its expression. Empty if there was no search.
     QString m_line;
     QRegularExpression m_lineExpression;
 };
 
-/// Takes those steps of a script that read through the expressions, up to the first seek.
+/// Runs the steps of a script that read with expressions, up to the first seek.
 TakenTokens TakeTokens( const QByteArray& a_text, const PimVCardScannerScript& a_script );
 
-/// Does every token stand in the text after the one before, backslashes aside, is a single one a single character, and
-/// does the line stand in the text and hold a match?
-/// \param a_text UTF-8 without NUL. One in which a backslash stands before a carriage return, which may then be read
-///               twice, has no violations.
+/// Checks that every token is in the text after the previous one, except for backslashes, that a single one is one
+/// character, and that the line is in the text and contains a match.
+/// \param a_text UTF-8 without NUL. A text with a backslash before a carriage return has no violations, because the
+///               carriage return may then be read twice.
 Violation CheckTokens( const QByteArray& a_text, const TakenTokens& a_taken );
 
 } // namespace PimManager::vCard::Fuzz

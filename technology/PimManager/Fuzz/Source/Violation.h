@@ -1,5 +1,5 @@
 /// \file
-/// How a broken property is told.
+/// Reports broken properties.
 
 #pragma once
 
@@ -10,10 +10,10 @@
 namespace PimManager::vCard::Fuzz
 {
 
-/// Which property is broken, and by what; empty when it holds.
+/// The broken property and the cause. Empty if the property holds.
 using Violation = QString;
 
-/// A text, bytes or a list of texts for a reader: in quotes, with everything escaped that does not print.
+/// Formats a text, bytes or a list of texts for messages: in quotes, with unprintable characters escaped.
 template <typename T>
 QString Shown( const T& a_value )
 {
@@ -22,8 +22,8 @@ QString Shown( const T& a_value )
     return text;
 }
 
-/// Goes on when the violation is empty. Else writes it and the input to standard error and aborts, which libFuzzer
-/// takes for a crash.
+/// Does nothing if the violation is empty. Otherwise writes it and the input to standard error and aborts, which
+/// libFuzzer treats as a crash.
 ///
 /// \code
 /// Demand( values.isEmpty() ? Violation( QStringLiteral( "there is at least one value" ) ) : Violation(), input );

@@ -1,4 +1,4 @@
-// Fuzz target: whole texts through ParseVCards.
+// Fuzz target: ParseVCards with whole texts.
 
 #include "FuzzTarget.h"
 

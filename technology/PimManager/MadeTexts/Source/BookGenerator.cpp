@@ -40,7 +40,8 @@ constexpr const char* s_kBegin30 = "BEGIN:VCARD\r\nVERSION:3.0\r\n";
 constexpr const char* s_kEnd = "END:VCARD\r\n";
 constexpr const char* s_kEncoded = ";CHARSET=UTF-8;ENCODING=QUOTED-PRINTABLE:";
 
-// The elements of a list are made in its order, the sides of a "+" in any: so each card draws its words in one order.
+// The elements of an initialiser list are evaluated in order, but the operands of "+" in any order. So lists are used,
+// and each card draws its words in a fixed order.
 QByteArray Joined( std::initializer_list<QByteArray> a_pieces )
 {
     QByteArray joined;
@@ -97,7 +98,7 @@ QByteArray BookGenerator::Book( BookKind a_kind, int a_cards )
     return book;
 }
 
-// The library's distributions differ from one maker to the next; the generator itself does not.
+// The distributions differ between standard libraries. The random number engine does not.
 quint32 BookGenerator::Below( quint32 a_bound )
 {
     return static_cast<quint32>( m_random() % a_bound );

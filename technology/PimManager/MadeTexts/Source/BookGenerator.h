@@ -1,5 +1,5 @@
 /// \file
-/// Made-up phone books, to measure with.
+/// Generates phone books for measurements.
 ///
 /// \code
 /// BookGenerator generator;
@@ -17,15 +17,15 @@
 namespace PimManager::vCard::MadeTexts
 {
 
-/// What a generated book is made of. Every card of every book parses.
+/// The kinds of generated books. Every card of every book can be parsed.
 enum class BookKind
 {
-    /// What most phones hold: about 481 bytes and 11 lines a card. Two thirds are 3.0, with a group, parameters and a
-    /// folded NOTE; one third is 2.1, with QUOTED-PRINTABLE names.
+    /// Typical cards of phones, with about 481 bytes and 11 lines each. Two thirds are 3.0, with a group, parameters
+    /// and a folded NOTE. One third is 2.1, with QUOTED-PRINTABLE names.
     Text,
-    /// The same, and two cards of five have a photo: 4 to 12 KB of BASE64, folded at 75.
+    /// The same, but two of five cards have a photo: 4 to 12 KB of BASE64, folded at 75.
     Photos,
-    /// Names, addresses and notes of other scripts, in UTF-8 of two, three and four bytes a character.
+    /// Names, addresses and notes in other scripts, with characters of two, three and four bytes in UTF-8.
     NonLatin,
     /// Everything is QUOTED-PRINTABLE, with soft line breaks, and with encoded line breaks in the notes.
     QuotedPrintable,
@@ -33,19 +33,19 @@ enum class BookKind
     Folded
 };
 
-/// The kinds in order, for programs that go over all of them.
+/// The kinds in order, for programs that iterate over them.
 QList<BookKind> AllBookKinds();
 
 /// \return a word of ASCII letters and "-" for a kind, for command lines and tables.
 QByteArray NameOf( BookKind a_kind );
 
-/// Makes books. The same seed and the same calls give the same bytes on every machine.
+/// Generates books. The same seed and the same calls result in the same bytes on every machine.
 class BookGenerator
 {
 public:
     explicit BookGenerator( quint32 a_seed = 20010 );
 
-    /// \return a text of that many cards, with CR LF line ends.
+    /// \return a text with this many cards and CR LF line endings.
     QByteArray Book( BookKind a_kind, int a_cards );
 
 private:

@@ -11,7 +11,7 @@ namespace
 constexpr int s_kShortColumn = 60;
 constexpr int s_kLongestLine = 75;
 
-// What a physical line is.
+// The kind of a physical line.
 enum class LinePart
 {
     Boundary,

@@ -1,5 +1,5 @@
 /// \file
-/// The same book as other programs would write it: other line endings, other folds, and lines that must be mended.
+/// Rewrites a book in the style of other programs: other line endings, other folds, and lines that must be repaired.
 
 #pragma once
 
@@ -9,7 +9,7 @@
 namespace PimManager::vCard::MadeTexts
 {
 
-/// A way to write a book. Each keeps the cards and their lines.
+/// A style of writing a book. Each style keeps the cards and their lines.
 struct BookStyle
 {
     /// A word of ASCII letters, digits and "-".
@@ -19,10 +19,10 @@ struct BookStyle
     QByteArray ( *m_convert )( const QByteArray& a_book );
 };
 
-/// Other line endings and folds. Nothing has to be mended.
+/// Other line endings and folds. Nothing has to be repaired.
 QList<BookStyle> CleanStyles();
 
-/// Each has one thing to mend in every line where it can be; the last has all of them in every line.
+/// Each style has one fault in every line where it is possible. The last style has all faults in every line.
 QList<BookStyle> DamagedStyles();
 
 } // namespace PimManager::vCard::MadeTexts

@@ -17,7 +17,7 @@ constexpr int s_kBytes = 10000000;
 constexpr int s_kBytesOfLongestLine = 50000000;
 constexpr int s_kFailures = 20000;
 
-// A line that fails is told of by each operation around it, from the innermost outwards.
+// Each operation around a failing line reports it, from the innermost outwards.
 constexpr int s_kNotTheBeginLine = 3;      // ParseStart, ParseVCard, ParseVCards
 constexpr int s_kNotTheEndLine = 3;        // ParseEnd, ParseVCard, ParseVCards
 constexpr int s_kFirstLineFails = 4;       // ParseProperty and the three of a wrong BEGIN line
@@ -32,14 +32,14 @@ QByteArray CardWith( const QByteArray& a_line, const char* a_lineEnd = "\r\n" )
     return QByteArrayLiteral( "BEGIN:VCARD" ) + a_lineEnd + a_line + a_lineEnd + "END:VCARD" + a_lineEnd;
 }
 
-// No card comes of it.
+// The text results in no card.
 HostileShape Lost( const char* a_name, const RepeatedText& a_text, const GrowingCount& a_blocks,
                    int a_bytes = s_kBytes )
 {
     return { a_name, a_text, {}, {}, a_blocks, a_text.RepetitionsIn( a_bytes ) };
 }
 
-// One piece, repeated, and nothing else.
+// Only one piece, repeated.
 HostileShape Only( const char* a_name, const QByteArray& a_piece, const GrowingCount& a_blocks )
 {
     return Lost( a_name, { "", a_piece, "" }, a_blocks );
@@ -50,7 +50,7 @@ HostileShape OnlyLines( const char* a_name, const QByteArray& a_piece, const Gro
     return { a_name, { "", a_piece, "" }, {}, {}, a_blocks, s_kLines };
 }
 
-// Failures, and after them a card that is given.
+// Failures, followed by a card that is returned.
 HostileShape BeforeGoodCard( const char* a_name, const QByteArray& a_piece, const GrowingCount& a_blocks,
                              int a_repetitions = s_kLines, const QByteArray& a_tail = QByteArray() )
 {
@@ -58,7 +58,7 @@ HostileShape BeforeGoodCard( const char* a_name, const QByteArray& a_piece, cons
              a_repetitions };
 }
 
-// A card that is given, without a word on the log.
+// A card that is returned without a message on the log.
 HostileShape OneCard( const char* a_name, const RepeatedText& a_text, const RepeatedText& a_cardLine,
                       int a_bytes = s_kBytes )
 {
@@ -112,7 +112,7 @@ QList<HostileShape> UnfinishedCards()
           { 1, 0 },
           {},
           s_kLines },
-        // No other text makes more of its bytes.
+        // No other text results in more objects for its bytes.
         { "shortest-lines", { "BEGIN:VCARD\r", "a:\r", "END:VCARD\r" }, { "", "a[]", "\n" }, { 1, 0 }, {}, s_kMillion },
         { "good-cards", { "", s_kGoodCard, "" }, { "", s_kGoodLine, "" }, { 0, 1 }, {}, s_kLines },
     };
@@ -123,7 +123,7 @@ QList<HostileShape> BrokenCards()
     const QByteArray wrongEnd = "BEGIN:VCARD\r\nEND:x\r\n";
     return {
         BeforeGoodCard( "begin-lines-and-broken-lines", "BEGIN:VCARD\r\n?\r\n", { 0, s_kGroupFails } ),
-        // The card after a wrong END line is passed over with it, so only every other one is reported.
+        // The card after a wrong END line is skipped with it, so only every second one is reported.
         { "wrong-end-lines", { "", wrongEnd + wrongEnd, "" }, {}, {}, { 0, s_kNotTheEndLine }, s_kFailures },
         BeforeGoodCard( "quotes-that-never-close", CardWith( "TEL;X=\"abc:1" ), { 0, s_kQuotedParameterFails },
                         s_kFailures ),
@@ -135,26 +135,26 @@ QList<HostileShape> BrokenCards()
                         { 0, s_kParameterFails }, s_kFailures ),
         // One value that runs to the end of the text.
         OnlyLines( "lf-only-broken-cards", CardWith( "?", "\n" ), { s_kFirstLineFails, 0 } ),
-        // The value ends at U+0001. Each recovery after the first leads one byte before the BEGIN line, then to it.
+        // The value ends at U+0001. Each recovery after the first ends one byte before the BEGIN line, and then at it.
         { "lf-only-control-characters",
           { "", CardWith( "FN:\x01", "\n" ), "" },
           {},
           {},
           { -s_kFirstGroupFails, s_kFirstGroupFails + s_kFirstLineFails },
           s_kFailures },
-        // Without any line feed the search passes over the text in one go.
+        // Without any line feed, one search reads the whole text.
         OnlyLines( "cr-only-broken-cards", CardWith( "?", "\r" ), { s_kGroupFails, 0 } ),
     };
 }
 
-// Texts of one line that is searched again and again, each time from a little further on.
+// Texts of one line that is searched repeatedly, each time from a slightly later position.
 QList<HostileShape> RecoveriesOnOneLine()
 {
     return {
         Lost( "long-line-before-begin", { "", "_", s_kBegin }, { s_kFirstGroupFails, 0 } ),
         BeforeGoodCard( "recoveries-before-begin", "_", { 0, s_kFirstGroupFails } ),
         BeforeGoodCard( "colons-before-begin", ":", { 0, s_kFirstLineFails }, s_kFailures ),
-        // The last of the BEGINs is a good one.
+        // The last BEGIN is correct.
         { "begins-behind-control-characters",
           { "",
             "\x01"
@@ -169,7 +169,8 @@ QList<HostileShape> RecoveriesOnOneLine()
               "BEGIN:VCARD",
               { s_kFirstGroupFails, 0 } ),
         // The "?" fails, then the carriage return after it; the END line is not a BEGIN line, and the "B" after it is
-        // lost, so "EGIN" is none either. The last card but one is the last that contains a further BEGIN to go to.
+        // lost, so "EGIN" is not one either. The second-last card is the last one that contains a further BEGIN to
+        // recover at.
         BeforeGoodCard( "cr-only-broken-cards-on-a-line", CardWith( "?", "\r" ),
                         { s_kGroupFails - s_kFirstGroupFails - 3 * s_kNotTheBeginLine,
                           s_kFirstGroupFails + 2 * s_kNotTheBeginLine },

@@ -1,7 +1,7 @@
 /// \file
-/// Texts that nobody writes by accident, each of them one piece repeated, and what the component gives for them.
+/// Hostile texts, each made of one repeated piece, and the expected results of the component.
 ///
-/// What is expected is worked out by hand from the rules of the grammar, never by asking the component.
+/// The expectations were derived by hand from the rules of the grammar, never from the output of the component.
 
 #pragma once
 
@@ -11,7 +11,7 @@
 namespace PimManager::vCard::MadeTexts
 {
 
-/// A head, a piece that is repeated, a tail.
+/// A head, a repeated piece, and a tail.
 struct RepeatedText
 {
     QByteArray m_head;
@@ -21,11 +21,11 @@ struct RepeatedText
     /// \return the text with that many repetitions.
     QByteArray Text( int a_repetitions ) const { return m_head + m_piece.repeated( a_repetitions ) + m_tail; }
 
-    /// \return how many pieces there are in that many bytes.
+    /// \return the number of pieces in this many bytes.
     int RepetitionsIn( int a_bytes ) const { return a_bytes / static_cast<int>( m_piece.size() ); }
 };
 
-/// A number that grows with the repetitions.
+/// A number that grows with the number of repetitions.
 struct GrowingCount
 {
     int m_once = 0;
@@ -44,21 +44,21 @@ struct HostileShape
     /// `{name=value}` and each value in brackets; a card ends with a line feed.
     RepeatedText m_cardLines;
     GrowingCount m_cards;
-    /// The blocks on the critical log, several for each failure.
+    /// The number of blocks on the critical log, several for each failure.
     GrowingCount m_blocks;
 
-    /// How often the piece stands in the text at its full size.
+    /// The number of pieces in the text at its full size.
     int m_repetitions;
 
     /// \return the text with that many repetitions.
     QByteArray Text( int a_repetitions ) const { return m_text.Text( a_repetitions ); }
 
-    /// \return the text with as many repetitions as make it about that long.
+    /// \return the text with as many repetitions as needed for about this length.
     QByteArray TextOfLength( int a_bytes ) const { return Text( m_text.RepetitionsIn( a_bytes ) ); }
 };
 
-/// All rows; their names are different words of ASCII letters, digits and "-". Expectations hold from three repetitions
-/// on.
+/// All rows; their names are different words of ASCII letters, digits and "-". Expectations are valid for three
+/// repetitions and more.
 QList<HostileShape> HostileShapes();
 
 } // namespace PimManager::vCard::MadeTexts

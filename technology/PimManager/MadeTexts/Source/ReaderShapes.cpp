@@ -17,7 +17,7 @@ const QByteArray s_kMark = QByteArrayLiteral( "\xEF\xBB\xBF" );
 constexpr int s_kFoldedLength = 74;
 constexpr int s_kDepth = 12;
 
-// Nothing but the piece.
+// Only the piece.
 ReaderShape Only( const char* a_name, const QByteArray& a_piece, ShapeForm a_form = ShapeForm::Repeated )
 {
     return { a_name, { "", a_piece, "" }, a_form };

@@ -1,6 +1,6 @@
 /// \file
-/// Texts that try to make a tolerant reader slow or large: what it must search, join, mend, remember or decide again
-/// and again. Nothing is expected of them here but that reading them is linear.
+/// Texts that try to make a tolerant reader slow or large, because it must search, join, repair, remember or decide
+/// repeatedly. The only expectation is that reading them is linear.
 
 #pragma once
 
@@ -12,13 +12,13 @@
 namespace PimManager::vCard::MadeTexts
 {
 
-/// How a shape is made of its piece.
+/// The ways to build a shape from its piece.
 enum class ShapeForm
 {
     Repeated, ///< head, pieces, tail
-    Numbered, ///< the same, with the number of the piece for each "#" in it
+    Numbered, ///< as Repeated, with the number of the piece in place of each "#"
     Nested,   ///< head, pieces, and as many tails
-    LongHead, ///< as Repeated, with "a" for the "#" in the head, so often that the head is half of the text
+    LongHead, ///< as Repeated, with so many "a" in place of the "#" in the head that the head is half of the text
     Utf16,    ///< as Repeated, converted to UTF-16LE with a byte order mark
 };
 
@@ -29,11 +29,12 @@ struct ReaderShape
     RepeatedText m_text;
     ShapeForm m_form = ShapeForm::Repeated;
 
-    /// \return the text with as many pieces as make it at least that long.
+    /// \return the text with as many pieces as needed for at least this length.
     QByteArray TextOfLength( int a_bytes ) const;
 };
 
-/// All rows. Their names are different words of ASCII letters, digits and "-", and none is a name of HostileShapes().
+/// All rows. Their names are different words of ASCII letters, digits and "-", and none of them is a name in
+/// HostileShapes().
 QList<ReaderShape> ReaderShapes();
 
 } // namespace PimManager::vCard::MadeTexts

@@ -1,5 +1,5 @@
-# What `cmake --install` puts where. Three components: runtime is the shared libraries, devel what a program needs to be
-# compiled and linked, tools the program. Nothing of it holds the prefix, so the installed folder can be moved.
+# The installation. It has three components: runtime (the shared libraries), devel (the files for compiling and linking
+# programs) and tools (the program). No installed file contains the prefix, so the folder can be moved.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -38,8 +38,8 @@ function(pimvcard_install_static_library target)
   install(TARGETS ${target}-static ARCHIVE COMPONENT devel)
 endfunction()
 
-# pkg-config finds the prefix from the place of the file. It knows /usr/include, which a compiler must not be given once
-# more, by this name alone; so what is made for /usr says so.
+# pkg-config derives the prefix from the location of the file. It recognises /usr/include, which must not be passed to a
+# compiler again, only by this name. So files for /usr name the prefix.
 function(pimvcard_install_pkg_config_file library)
   set(folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
   file(RELATIVE_PATH way_to_prefix /${folder} /)

@@ -1,10 +1,10 @@
-# CMake puts CMAKE_CXX_FLAGS before the flags of the build type and before ours. Whoever builds the project has the last
-# word, so they follow once more at the end.
+# CMake puts CMAKE_CXX_FLAGS before the flags of the build type and before ours. The user's flags must have priority, so
+# they are repeated at the end.
 if(PimManagerVCard_IS_TOP_LEVEL)
   string(REPLACE "<FLAGS>" "<FLAGS> ${CMAKE_CXX_FLAGS}" CMAKE_CXX_COMPILE_OBJECT "${CMAKE_CXX_COMPILE_OBJECT}")
 endif()
 
-# What every target of this project is compiled with.
+# The compiler options of every target of this project.
 function(pimvcard_configure target)
   if(PimManagerVCard_IS_TOP_LEVEL)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
@@ -25,14 +25,14 @@ function(pimvcard_configure target)
   target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 endfunction()
 
-# As above, and text never comes from bytes without the code saying how.
+# As above, and without implicit conversions from bytes to text.
 function(pimvcard_configure_product target)
   pimvcard_configure(${target})
   target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_BYTEARRAY)
 endfunction()
 
-# The headers that nearly every source of a large library includes, compiled once. For builds that are there for the
-# tests: others, and clang-tidy, still see a missing include.
+# Precompiles the headers that nearly every source of a large library includes. Only for test builds, so that other
+# builds and clang-tidy still find a missing include.
 function(pimvcard_precompile target)
   if(PIMVCARD_PRECOMPILED_HEADERS)
     target_precompile_headers(${target} PRIVATE <QByteArray> <QList> <QString> <QStringList> <algorithm> <array>
@@ -40,8 +40,8 @@ function(pimvcard_precompile target)
   endif()
 endfunction()
 
-# pimvcard_configure_library(TARGET NAME): a library that is installed, as PimManager::NAME, with its headers in Include.
-# A shared one exports only what is marked with PIMVCARD_EXPORT or PIMCONTACT_EXPORT.
+# pimvcard_configure_library(TARGET NAME): configures a library that is installed as PimManager::NAME, with its headers
+# in Include. A shared library exports only what is marked with PIMVCARD_EXPORT or PIMCONTACT_EXPORT.
 function(pimvcard_configure_library target name)
   pimvcard_configure_product(${target})
   add_library(PimManager::${name} ALIAS ${target})

@@ -1,6 +1,6 @@
-# pimvcard_add_test(NAME [LIBRARIES ...] [SOURCES ...] [SLOW ...]): an executable NAME from NAME.cpp, which is one ctest
-# test. Cases that fit one of the patterns after SLOW repeat the same work over many texts; they are a test of their own,
-# NAME.Slow, which has the label slow, and the patterns stand in the file NAME.slow next to the executable.
+# pimvcard_add_test(NAME [LIBRARIES ...] [SOURCES ...] [SLOW ...]): adds an executable NAME from NAME.cpp, which is one
+# ctest test. Cases that match a pattern after SLOW repeat the same work over many texts. They are a separate test,
+# NAME.Slow, with the label slow. The file NAME.slow next to the executable contains the patterns.
 function(pimvcard_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 test "" "" "LIBRARIES;SOURCES;SLOW")
   add_executable(${name} ${name}.cpp ${test_SOURCES})
@@ -20,8 +20,8 @@ function(pimvcard_add_test name)
   endif()
 endfunction()
 
-# pimvcard_add_test_library(NAME [LIBRARIES ...] SOURCES ...): what several tests use, compiled once. Its headers stand
-# beside the tests.
+# pimvcard_add_test_library(NAME [LIBRARIES ...] SOURCES ...): adds code that several tests use, compiled once. Its
+# headers are in the folder of the tests.
 function(pimvcard_add_test_library name)
   cmake_parse_arguments(PARSE_ARGV 1 test "" "" "LIBRARIES;SOURCES")
   add_library(${name} STATIC ${test_SOURCES})
@@ -33,15 +33,15 @@ function(pimvcard_add_test_library name)
   endif()
 endfunction()
 
-# Under an emulator much optimisation of the tests costs more time than it saves; the component keeps its own.
+# Under an emulator, strong optimisation of the tests costs more time than it saves. The component keeps its options.
 function(pimvcard_optimise_test target)
   if(CMAKE_CROSSCOMPILING)
     target_compile_options(${target} PRIVATE -O1)
   endif()
 endfunction()
 
-# Does a library show what the list of its symbols says? A static one is looked at as the shared one that it would be.
-# Counters and sanitizers add some of their own, and another processor has other types.
+# Checks that a library exports the symbols in its list. A static library is checked as if it were shared. Coverage and
+# sanitizers add symbols of their own, and another processor has other types.
 function(pimvcard_add_symbols_test library)
   if(PIMVCARD_COVERAGE OR PIMVCARD_SANITIZERS OR CMAKE_CROSSCOMPILING)
     return()

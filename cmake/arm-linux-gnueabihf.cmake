@@ -1,5 +1,5 @@
-# Compiles for 32-bit ARM with hardware floating point, against the folder that scripts/support/arm-sysroot makes, and runs what
-# was compiled under qemu-user.
+# Compiles for 32-bit ARM with hardware floating point, with the folder from scripts/support/arm-sysroot, and runs the programs
+# under qemu-user.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR arm)
 set(CMAKE_CXX_COMPILER arm-linux-gnueabihf-g++)
@@ -7,7 +7,7 @@ set(CMAKE_SYSROOT ${CMAKE_CURRENT_LIST_DIR}/../build/arm-sysroot)
 cmake_path(NORMAL_PATH CMAKE_SYSROOT)
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-arm -L ${CMAKE_SYSROOT})
 
-# The folder has a moc for the target; this one runs here.
+# The folder has a moc for the target. This one runs on the build machine.
 set(PIMVCARD_MOC /usr/lib/qt5/bin/moc)
 
 set(CMAKE_FIND_ROOT_PATH ${CMAKE_SYSROOT})

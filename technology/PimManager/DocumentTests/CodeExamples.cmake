@@ -1,4 +1,4 @@
-# Takes C++ examples out of documents, each into a source of its own. Each source includes the header that the variable
+# Extracts C++ examples from documents, each into its own source. Each source includes the header that the variable
 # surroundings names.
 
 # pimvcard_add_code_examples(TARGET SURROUNDINGS [HEADERS ...] [DOCUMENTS ...] [LIBRARIES ...]): compiles the examples of
@@ -14,14 +14,14 @@ function(pimvcard_add_code_examples target surroundings)
   endforeach()
   add_library(${target} OBJECT ${examples} ${surroundings})
   pimvcard_configure(${target})
-  # An example names things that the reader's own code has too, and leaves some unused.
+  # An example declares names that also exist in the surroundings, and leaves some unused.
   target_compile_options(${target} PRIVATE -Wno-shadow -Wno-unused)
   target_include_directories(${target} PRIVATE .)
   target_link_libraries(${target} PRIVATE ${code_LIBRARIES})
 endfunction()
 
-# pimvcard_code_example(CODE NAME LIST): writes the source NAME.cpp and appends it to LIST. What defines functions or
-# variables of its own stands as it is, anything else is the body of a function.
+# pimvcard_code_example(CODE NAME LIST): writes the source NAME.cpp and appends it to LIST. An example that defines functions
+# or variables is written unchanged. Any other example becomes the body of a function.
 function(pimvcard_code_example code name list)
   if(NOT code MATCHES "(^|\n)(TEST_F|thread_local|class PIM(VCARD|CONTACT)_EXPORT)")
     set(code "void Example();\nvoid Example()\n{\n${code}}\n")
@@ -31,13 +31,13 @@ function(pimvcard_code_example code name list)
   set(${list} ${${list}} PARENT_SCOPE)
 endfunction()
 
-# pimvcard_examples_between(FILE BEGIN END PREFIX LIST): the lines between a line BEGIN and a line END, without what
-# fits PREFIX at their start. A file without any is passed over.
+# pimvcard_examples_between(FILE BEGIN END PREFIX LIST): the lines between a line BEGIN and a line END, without the
+# text at their start that matches PREFIX. A file without such lines is skipped.
 function(pimvcard_examples_between file begin end prefix list)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
   get_filename_component(name ${file} NAME_WE)
   file(READ ${file} text)
-  # Lists of CMake are parted by semicolons, so these are something else meanwhile.
+  # Semicolons separate the elements of CMake lists, so they are replaced temporarily.
   string(REPLACE ";" "@semicolon@" text "${text}")
   string(REPLACE "[" "@bracket@" text "${text}")
   string(REPLACE "]" "@end_of_bracket@" text "${text}")

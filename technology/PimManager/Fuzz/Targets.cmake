@@ -1,5 +1,5 @@
-# pimvcard_add_fuzz_target(NAME SOURCE [LIBRARIES ...]): the fuzz target in SOURCE, built with a main that replays files
-# and, where the fuzzers are built, with libFuzzer. Its seeds are in Corpus/NAME, and former findings in Findings/NAME if
+# pimvcard_add_fuzz_target(NAME SOURCE [LIBRARIES ...]): adds the fuzz target in SOURCE, with a main function that
+# replays files and, if the fuzzers are built, with libFuzzer. Its seeds are in Corpus/NAME, and former findings in Findings/NAME if
 # there are any; ctest replays both.
 function(pimvcard_add_fuzz_target name source)
   cmake_parse_arguments(PARSE_ARGV 2 target "" "" "LIBRARIES")
@@ -19,7 +19,7 @@ function(pimvcard_add_fuzz_target name source)
   endif()
 endfunction()
 
-# Everything is tried again, and a folder without files is refused.
+# All files are replayed, and a folder without files is an error.
 function(pimvcard_add_replay_tests name)
   set(seeds ${CMAKE_CURRENT_SOURCE_DIR}/Corpus/${name})
   set(empty ${CMAKE_CURRENT_BINARY_DIR}/Empty)

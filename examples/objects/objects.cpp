@@ -1,4 +1,4 @@
-// Prints the names and telephone numbers of an address book: a program for the objects of the component that reads with
+// Prints the names and telephone numbers of an address book. It uses the objects of the component, but reads with
 // PimManager::Contacts.
 #include <PimManager/Contacts/PimContactBook.h>
 #include <PimManager/Contacts/PimContactVCard.h>

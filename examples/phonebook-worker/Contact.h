@@ -1,6 +1,6 @@
 /// \file
-/// A contact as a head unit shows it. It is copied from one thread to the other and does not hold the memory of its
-/// card, as the fields of a PimContact do.
+/// The data of a contact that a head unit shows. It is copied from one thread to the other. Unlike the fields of a
+/// PimContact, it does not keep the memory of its card.
 
 #pragma once
 
@@ -11,7 +11,7 @@
 struct Number
 {
     QString m_text;
-    QString m_label; ///< what the owner of the book calls it, such as `boat phone`; often empty
+    QString m_label; ///< the user's name for it, such as `boat phone`; often empty
     bool m_isMobile = false;
 };
 

@@ -5,7 +5,7 @@
 namespace
 {
 
-// How many batches of contacts the worker may be ahead.
+// The number of batches of contacts by which the worker may be ahead.
 constexpr int s_kPlaces = 4;
 
 } // namespace

@@ -1,5 +1,5 @@
 /// \file
-/// The side that the rest of the program sees.
+/// The interface for the rest of the program.
 
 #pragma once
 
@@ -9,8 +9,8 @@
 #include <QSemaphore>
 #include <QThread>
 
-/// The contacts of one file, which grow while the file is read in a thread of its own. Belongs to the thread that
-/// creates it, needs its event loop, and emits all signals there.
+/// The contacts of one file. More contacts arrive while the file is read in a separate thread. The object belongs to
+/// the thread that creates it, needs its event loop, and emits all signals there.
 class Phonebook : public QObject
 {
     Q_OBJECT
@@ -18,14 +18,14 @@ class Phonebook : public QObject
 public:
     explicit Phonebook( const QString& a_fileName );
 
-    /// Stops the reading and waits until its thread has ended, which takes one piece of the file at most.
+    /// Stops the reading and waits until its thread has ended, at the latest after one more piece of the file.
     ~Phonebook() override;
 
-    /// Begins to read. Call it once.
+    /// Starts reading. Call it once.
     void Open();
 
-    /// Asks the reading to stop; Finished() is emitted soon after. The contacts so far remain. Does nothing if nothing
-    /// is read.
+    /// Requests the end of the reading. Finished() is emitted soon after. The contacts read so far are kept. Does
+    /// nothing if nothing is being read.
     void Cancel();
 
     const Contacts& AllContacts() const { return m_contacts; }

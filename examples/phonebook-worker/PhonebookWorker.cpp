@@ -12,11 +12,11 @@ using namespace PimManager::Contacts;
 namespace
 {
 
-// Small enough that progress is seen and a cancel is noticed soon, large enough that handing over costs little. A piece
-// may hold many cards, so contacts are counted as well.
+// Small enough that progress is shown and a cancel is noticed soon, and large enough that passing a batch costs little.
+// A piece may contain many cards, so contacts are counted as well.
 constexpr int s_kPieceBytes = 16 * 1024;
 constexpr int s_kContacts = 50;
-// How long a cancel can remain unnoticed while the worker waits.
+// The longest time that a cancel can remain unnoticed while the worker waits.
 constexpr int s_kWaitMilliseconds = 20;
 
 Number NumberOf( const PimContactPhone& a_phone )
@@ -39,7 +39,7 @@ bool IsCancelled()
     return QThread::currentThread()->isInterruptionRequested();
 }
 
-// What a list of numbers needs: names, numbers and their labels. Photos are never kept in memory.
+// The properties that a list of numbers needs: names, numbers and their labels. Photos are never kept in memory.
 PimContactOptions ListOptions()
 {
     PimContactOptions options;

@@ -1,7 +1,6 @@
-// phonebook-worker FILE [COUNT]: reads an address book in a thread of its own. The main thread prints contacts and
-// progress as they arrive; it never waits for the file. With COUNT it cancels the reading when it has that many
-// contacts. The exit status is 0 at the end of the file, 3 after a cancel, 1 when the file cannot be read, 2 for wrong
-// use.
+// phonebook-worker FILE [COUNT]: reads an address book in a separate thread. The main thread prints contacts and
+// progress as they arrive and never waits for the file. With COUNT, it cancels the reading after this many contacts.
+// The exit status is 0 at the end of the file, 1 if the file cannot be read, 2 for wrong usage, and 3 after a cancel.
 #include "Phonebook.h"
 
 #include <QCoreApplication>
@@ -18,7 +17,7 @@ QString TextOf( const Number& a_number )
     return purpose.isEmpty() ? a_number.m_text : QStringLiteral( "%1 (%2)" ).arg( a_number.m_text, purpose );
 }
 
-// The number to call, and how many numbers there are.
+// Prints the number to call, and how many numbers there are.
 void PrintContacts( const Contacts& a_contacts, int a_first, int a_count )
 {
     for ( const Contact& contact : a_contacts.mid( a_first, a_count ) )

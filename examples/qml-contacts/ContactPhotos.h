@@ -8,7 +8,7 @@
 #include <QQuickImageProvider>
 #include <QVector>
 
-/// Decodes the preferred photo of a contact when QML asks for it. The id is the row of the contact.
+/// Decodes the preferred photo of a contact when QML requests it. The id is the row of the contact.
 class ContactPhotos : public QQuickImageProvider
 {
 public:

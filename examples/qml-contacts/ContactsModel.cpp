@@ -38,7 +38,7 @@ QString Picture( const PimContact& a_contact, int a_row )
 
 QVector<PimContact> Sorted( const PimContactBook& a_book )
 {
-    // Sort names are decoded when they are asked for, so each is asked for once.
+    // Sort names are decoded at each access, so each is read only once.
     const QCollator collator;
     std::vector<std::pair<QCollatorSortKey, PimContact>> sorted;
     for ( const PimContact& contact : a_book )

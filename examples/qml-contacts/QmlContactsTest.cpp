@@ -1,4 +1,4 @@
-// What the list shows of a messy book: each contact once, in order, and without a message of QML.
+// Checks that the list shows each contact of a messy book once, in order, and without a message from QML.
 #include "ContactsView.h"
 
 #include <PimManager/Contacts/PimContactBook.h>
@@ -56,7 +56,7 @@ protected:
         m_view.resize( 360, 2000 );
         m_view.show();
         ASSERT_EQ( m_view.status(), QQuickView::Ready );
-        // A list creates its rows when it is drawn.
+        // A ListView creates its rows when it is drawn.
         const QDeadlineTimer deadline( 10000 );
         while ( Shown( "row" ).size() < s_kContacts && !deadline.hasExpired() )
             QCoreApplication::processEvents( QEventLoop::AllEvents, 50 );

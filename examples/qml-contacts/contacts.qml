@@ -1,5 +1,5 @@
 // The contacts of a book. The model has the roles contact, phone, section, initials and picture; see ContactsModel.h.
-// Texts of cards are shown as plain text, so that no card brings its own markup.
+// Texts of cards are shown as plain text, so that markup in a card has no effect.
 import QtQuick 2.15
 
 ListView {

@@ -1,4 +1,5 @@
-// node ical-judge.mjs: what ical.js reads in vCards and in jCards. It runs as a copy next to the installed ical.js.
+// node ical-judge.mjs: prints what ical.js reads in vCards and in jCards. It runs as a copy next to the installed
+// ical.js.
 import { createHash } from 'node:crypto';
 import { readFileSync } from 'node:fs';
 import ICAL from 'ical.js';

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""judge.py PIMVCARD JUDGES SAMPLE...: do other programs read what pimvcard writes?
+"""judge.py PIMVCARD JUDGES SAMPLE...: checks that other programs can read what pimvcard writes.
 
 Converts each sample to each format. Our own reader then reads the result, and so do the judges: programs that read it
 with the libraries of others. What ours finds in the sample must be what ours finds in the result, and that must be
@@ -30,8 +30,8 @@ ADDRESS_PARTS = ["postOfficeBox", "extended", "street", "locality", "region", "p
 OURS = "pimvcard"
 
 
-# What is compared: cards as judges print them. Values of ours also know what the kinds of
-# differences below need; two values are equal without that.
+# The compared data: cards as judges print them. Our values also contain data for the kinds of differences below, which
+# is ignored in comparisons.
 
 class Text(str):
     is_grouped = False
@@ -47,7 +47,7 @@ class Picture(dict):
 
 
 class Facts:
-    """Of a card: how many cards are in it, and, if it was written, its bytes."""
+    """The number of cards in a card, and its bytes if it was written."""
 
     def __init__(self, nested=0, text=b""):
         self.nested, self.text = nested, text
@@ -74,7 +74,7 @@ def our_picture(photo, properties, version):
 
 
 def our_pictures(contact):
-    """The pictures of a contact. Those that are no bytes do not say which line they are of, but have the same order."""
+    """The pictures of a contact. Those that are not binary do not name their line, but are in the same order."""
     properties = contact["properties"]
     others = [one for one in properties
               if one["name"] == "PHOTO" and "data" not in one and "fault" not in one and any(one["values"])]
@@ -122,7 +122,8 @@ def our_card(contact):
             "photos": our_pictures(contact)}
 
 
-# One form for what readers may print in several: white space at the ends, the order of digits in dates, data: URIs.
+# Normalises data that readers print in several forms: white space at the ends, the order of digits in dates, data:
+# URIs.
 
 def same_marks(new, old):
     return marked(new, **getattr(old, "__dict__", {}))
@@ -166,11 +167,11 @@ def plain(card):
             "photos": [picture for picture in pictures if picture.get("size") != 0 and any(picture.values())]}
 
 
-# Known differences. A kind is a function that takes what ours finds and what the reader finds, and returns both without
-# the difference. Only what is then equal is explained, so that a difference of another kind is always noticed.
+# Known differences. A kind is a function of our value and the reader's value that returns both without the difference.
+# A difference is explained only if both are then equal, so that a difference of another kind is always noticed.
 
 def each(change):
-    """The same change for every text of a value."""
+    """Applies a change to every text of a value."""
     def deep(value):
         if isinstance(value, str):
             return change(value)
@@ -193,7 +194,7 @@ def both_changed(change):
 
 
 def accepted_if(condition):
-    """Accepts what the reader finds if the condition is true for ours, theirs and the facts."""
+    """Accepts the reader's value if the condition is true for our value, theirs and the facts."""
     return lambda ours, theirs, facts: (theirs, theirs) if condition(ours, theirs, facts) else (ours, theirs)
 
 
@@ -225,13 +226,13 @@ def has_line_of_blanks(facts):
 CONTROLS = str.maketrans("", "", "".join(map(chr, [*range(0x09), 0x0B, 0x0C, *range(0x0E, 0x20), 0x7F])))
 
 KINDS = {
-    # What a format cannot say, or a standard demands.
+    # Data that a format cannot express, or that a standard requires.
     "a missing one is made": accepted_if(lambda ours, theirs, facts: not ours and len(theirs) == 1),
     "control characters are left out": ours_changed(each(lambda text: text.translate(CONTROLS).strip())),
     "other line breaks are line feeds": ours_changed(each(lambda text: re.sub("[\u0085\u2028\u2029]", "\n", text))),
     "damaged bytes are read in another way": with_read_damage,
 
-    # What a reader does not find.
+    # Data that a reader does not find.
     "lines with a group are not found": ours_changed(without_grouped),
     "pictures need VALUE=uri": ours_changed(lambda pictures: [one for one in pictures if one.is_marked]),
     "only the first is found": ours_changed(lambda values: values[:1]),
@@ -241,7 +242,7 @@ KINDS = {
     "dates with a time are not found": ours_changed(lambda dates: [one for one in dates if "T" not in one]),
     "the property is unknown": ours_changed(lambda values: []),
 
-    # What a reader changes.
+    # Data that a reader changes.
     "an open year is 1604": ours_changed(each(lambda date: re.sub("^--", "1604-", date))),
     "an open year is no date": ours_changed(each(lambda date: re.sub("^--.*", "0000-00-00", date))),
     "the time is left out": ours_changed(each(lambda date: date.split("T")[0])),
@@ -258,7 +259,7 @@ KINDS = {
     "a no-break space is a blank": ours_changed(each(lambda text: text.replace("\u00A0", " "))),
     "a byte order mark is left out": ours_changed(each(lambda text: text.removeprefix("\uFEFF"))),
 
-    # What a reader cannot read.
+    # Data that a reader cannot read.
     "a nested card is a card of its own": accepted_if(
         lambda ours, theirs, facts: facts.nested and theirs == f"{1 + facts.nested} cards are read"),
     "lines of a nested card are the card's": accepted_if(lambda ours, theirs, facts: facts.nested),
@@ -270,7 +271,7 @@ KINDS = {
 
 
 def load_known(path):
-    """The rows of known-differences.tsv: reader, formats, members, kind and reason."""
+    """Reads the rows of known-differences.tsv: reader, formats, members, kind and reason."""
     rows = []
     for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
         if not line or line.startswith("#"):
@@ -294,10 +295,10 @@ def explain(ours, theirs, facts, rows):
     return None
 
 
-# Running programs.
+# Runs programs.
 
 def convert(pimvcard, source, form):
-    """What pimvcard writes for a book, as bytes. Books with damage are converted too; then it exits with 1."""
+    """Returns the output of pimvcard for a book, as bytes. Books with damage are converted too; then it exits with 1."""
     run = subprocess.run([pimvcard, "convert", "--quiet", "--to", form, source], capture_output=True, check=False)
     if run.returncode not in (0, 1):
         raise SystemExit(f"judge: pimvcard could not convert {source} to {form}: {run.stderr.decode()}")
@@ -309,7 +310,7 @@ def read_ours(pimvcard, source):
 
 
 def read_written(pimvcard, source, cards):
-    """The same for a written book, of which the cards are known."""
+    """The same for a written book whose cards are known."""
     read = read_ours(pimvcard, source)
     for card, text in zip(read, cards):
         card["facts"].text = text
@@ -342,7 +343,7 @@ def ask(command, blocks):
 
 
 class Judge:
-    """A program that reads with a library of others."""
+    """A program that reads with another library."""
 
     def __init__(self, name, command, formats, reads_books=True):
         self.name, self.command, self.formats, self.reads_books = name, command, formats, reads_books
@@ -393,7 +394,7 @@ def differences(reader, form, ours, theirs, known):
 
 
 class Verdict:
-    """Collects differences: those that are known, and those that are not."""
+    """Collects known and unknown differences."""
 
     def __init__(self, known):
         self.known, self.examples, self.unknown, self.cards = known, {}, [], 0

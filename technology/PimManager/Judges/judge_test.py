@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""judge_test.py PIMVCARD JUDGES: does judge.py notice what it is there for? The words are those of judge.py."""
+"""judge_test.py PIMVCARD JUDGES: checks that judge.py finds differences. The words are those of judge.py."""
 
 import pathlib
 import sys
@@ -25,7 +25,7 @@ END:VCARD\r
 
 
 def readers_of_fault(edit):
-    """The readers that find a fault in what pimvcard wrote and sed edited."""
+    """Returns the readers that find a fault in output of pimvcard that sed has edited."""
     with tempfile.TemporaryDirectory() as folder:
         sample = pathlib.Path(folder, "sample.vcf")
         sample.write_text(CARDS, newline="")
@@ -38,7 +38,7 @@ def readers_of_fault(edit):
 
 
 class PlantedFaultTest(unittest.TestCase):
-    """A fault in what is written is found, and who finds it."""
+    """Faults in the output are found by the expected readers."""
 
     def test_without_a_fault_all_agree(self):
         self.assertEqual(readers_of_fault(""), set())
@@ -59,7 +59,7 @@ class PlantedFaultTest(unittest.TestCase):
 
 
 class ExplanationTest(unittest.TestCase):
-    """A known difference explains nothing but itself."""
+    """A known difference explains only itself."""
 
     def explained(self, member, ours, theirs, reader="kcontacts", form="3.0"):
         rows = [row for row in KNOWN if row[0] == reader and form in row[1] and member in row[2]]

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""vobject-judge.py: what vobject reads in vCards. The interpreter is that of Debian, whose package it is."""
+"""vobject-judge.py: prints what vobject reads in vCards. It uses the interpreter of Debian, because vobject is a Debian package."""
 
 import hashlib
 import json

@@ -6,7 +6,7 @@ import ICAL from 'ical.js';
 const [way, file, passes] = process.argv.slice(2);
 const text = readFileSync(file, 'utf8');
 
-// The parser gives up at the first line that it cannot read, so a book that it refuses is read card by card.
+// The parser stops at the first line that it cannot read, so a book that it refuses is read card by card.
 function read() {
   try {
     const cards = ICAL.parse(text);

@@ -298,7 +298,7 @@ def explain(ours, theirs, facts, rows):
 # Runs programs.
 
 def convert(pimvcard, source, form):
-    """Returns the output of pimvcard for a book, as bytes. Books with damage are converted too; then it exits with 1."""
+    """Returns the output of pimvcard for a book. Damaged books are converted too; then pimvcard exits with 1."""
     run = subprocess.run([pimvcard, "convert", "--quiet", "--to", form, source], capture_output=True, check=False)
     if run.returncode not in (0, 1):
         raise SystemExit(f"judge: pimvcard could not convert {source} to {form}: {run.stderr.decode()}")

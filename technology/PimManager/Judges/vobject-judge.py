@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""vobject-judge.py: prints what vobject reads in vCards. It uses the interpreter of Debian, because vobject is a Debian package."""
+"""vobject-judge.py: prints what vobject reads in vCards. It uses Debian's interpreter, as vobject is a Debian package."""
 
 import hashlib
 import json

@@ -252,7 +252,7 @@ TEST( PimContactVCardOwnershipTest, TakenCardBelongsToTheCaller )
 namespace
 {
 
-// What the parameters say, but for those that a made property may leave out.
+// What the parameters say, except for those that a made property may leave out.
 std::string ParametersOf( const PimContactLine& a_line )
 {
     QStringList texts;
@@ -327,7 +327,7 @@ void ExpectComplete( const PimContactCard& a_card )
     }
 }
 
-// Cards inside the cards follow their texts, behind a line of their own.
+// Cards inside the cards follow their texts, after a line of their own.
 std::string TextsOf( const PimContactCard& a_card )
 {
     std::string texts;

@@ -127,7 +127,7 @@ QByteArray RandomRepetition( Random& a_random )
         .left( s_kLongest );
 }
 
-// A value that no reader has to mend, but for one in sixteen.
+// A value that no reader has to mend, except for one in sixteen.
 QByteArray RandomValue( Random& a_random, const QByteArray& a_lineEnd )
 {
     static constexpr std::array s_kParts = {

@@ -30,7 +30,7 @@ enum class Script
     FullyEncoded,
 };
 
-/// What becomes of the blank behind a line ending.
+/// What becomes of the blank after a line ending.
 enum class Blank
 {
     Removed,

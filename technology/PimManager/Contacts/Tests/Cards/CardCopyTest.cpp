@@ -20,7 +20,7 @@ const QByteArray s_kInner =
     "BEGIN:VCARD\r\nFN:y\r\nAGENT:\r\nBEGIN:VCARD\r\nTEL:2\r\nEND:VCARD\r\nNOTE:z\r\nEND:VCARD\r\n";
 const QByteArray s_kOuter = "BEGIN:VCARD\r\nFN:x\r\nAGENT:\r\n" + s_kInner + "TEL:1\r\nEND:VCARD\r\n";
 
-/// Kinds and lengths of the entries, and the places of nested cards, such as "1+5 6+20@12[ 0+5 ] ".
+/// Kinds and lengths of the entries, and the positions of nested cards, such as "1+5 6+20@12[ 0+5 ] ".
 std::string EntriesIn( const uchar* a_base, quint32 a_record )
 {
     std::string text;

@@ -21,7 +21,7 @@ struct CutRow
 {
     const char* m_name;
     std::string m_text;
-    // Each card with its place, and what is not of a delivered card or was left out of it.
+    // Each card with its position, and what is not of a delivered card or was left out of it.
     std::string m_cards;
     std::string m_others;
     std::string m_findings;

@@ -27,7 +27,7 @@ std::string Card( const std::string& a_lines )
     return s_kBegin + a_lines + s_kEnd;
 }
 
-// Delivers each card of a text. A card begins at BEGIN, and ends behind END or before the next BEGIN.
+// Delivers each card of a text. A card begins at BEGIN, and ends after END or before the next BEGIN.
 class DeliveredText
 {
 public:
@@ -50,7 +50,7 @@ public:
     }
     Q_DISABLE_COPY( DeliveredText )
 
-    // Number, place and bytes of each card.
+    // Number, position and bytes of each card.
     std::string m_cards;
     bool m_isFull = false;
     bool m_isLastConverted = false;
@@ -98,7 +98,7 @@ private:
     bool m_isOpen = false;
 };
 
-// A card without END, and the lines behind it.
+// A card without END, and the lines after it.
 void DeliverFirstLine( CardDelivery& a_delivery, LineScanner& a_scanner )
 {
     PhysicalLine begin;

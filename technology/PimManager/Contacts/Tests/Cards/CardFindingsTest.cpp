@@ -17,7 +17,7 @@ namespace PimManager::Contacts
 namespace
 {
 
-// The card is the fifth one of its text, and begins in line 3, behind this many bytes.
+// The card is the fifth one of its text, and begins in line 3, after this many bytes.
 constexpr qint64 s_kNumber = 5;
 constexpr qint64 s_kFirstLine = 3;
 constexpr size_t s_kBytesBefore = 20;
@@ -254,7 +254,7 @@ TEST( CardFindingsUseTest, EachReasonHasItsCode )
     EXPECT_EQ( report.Extents(), "dropped a\n; dropped b\n; dropped c\n; dropped d\n; dropped e\n; " );
 }
 
-// A nested card that begins on the line of its AGENT, and one whose END is on a line with text behind it.
+// A nested card that begins on the line of its AGENT, and one whose END is on a line with text after it.
 TEST( CardFindingsUseTest, ColumnCountsFromTheStartOfTheLine )
 {
     const std::string bytes = "AGENT:BEGIN:VCARD\nEND:VCARD, b\n";

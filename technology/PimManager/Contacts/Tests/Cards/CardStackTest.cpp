@@ -109,7 +109,7 @@ CardBoundary::Kind TakeLine( CardStack& a_stack, const LineScanner& a_scanner, c
     return boundary.m_kind;
 }
 
-// Passes the lines of a card. A BEGIN line that is not behind an AGENT line ends all cards.
+// Passes the lines of a card. A BEGIN line that is not after an AGENT line ends all cards.
 class StackedText
 {
 public:

@@ -70,7 +70,7 @@ private:
         return end;
     }
 
-    // Returns the place behind the card.
+    // Returns the position after the card.
     quint32 Seal( quint32 a_begin, CardIndex& a_index ) const
     {
         LogicalLines lines( m_filter, m_mostLineBytes );

@@ -20,7 +20,7 @@ using Relation = PimContactRelationKind;
 
 struct Row
 {
-    // Behind "vnd.android.cursor.item/".
+    // After "vnd.android.cursor.item/".
     const char* m_value;
     Item m_item;
     const char* m_text;

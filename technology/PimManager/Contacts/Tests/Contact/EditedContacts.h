@@ -27,7 +27,7 @@ inline PimContact ContactIn( const QByteArray& a_version, const QByteArray& a_li
     return book.IsEmpty() ? PimContact() : book.At( 0 );
 }
 
-/// The bytes of the lines that a contact has behind VERSION.
+/// The bytes of the lines that a contact has after VERSION.
 inline std::string LinesOf( const PimContact& a_contact )
 {
     QByteArray lines;

@@ -79,7 +79,7 @@ TEST( FieldParametersMemoryTest, EachClassOfFieldsHasItsOwnKinds )
     EXPECT_EQ( Shown( "ADR;HOME;CELL;DOM:1", AddressKinds ), address );
 }
 
-// Lists with the same place in the memory push each other out; none may get the meaning of another.
+// Lists with the same position in the memory push each other out; none may get the meaning of another.
 TEST( FieldParametersMemoryTest, ManyListsKeepTheirMeanings )
 {
     for ( int round = 0; round < 2; ++round )

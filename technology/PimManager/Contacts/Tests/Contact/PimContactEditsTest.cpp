@@ -18,7 +18,7 @@ struct SetRow
 {
     const char* m_name;
     std::function<void( PimContact& )> m_set;
-    // The properties that are replaced; all other lines stay.
+    // The properties that are replaced; all other lines remain.
     const char* m_properties;
 };
 

@@ -13,7 +13,7 @@ namespace PimManager::Contacts
 namespace
 {
 
-/// Behind a property: what all fields have. Each property of the card is in a group that has a label.
+/// After a property: what all fields have. Each property of the card is in a group that has a label.
 QByteArray Line( const QByteArray& a_name, const QByteArray& a_parameters, const QByteArray& a_value )
 {
     return "a." + a_name + ";TYPE=home;PREF=1;LANGUAGE=de" + a_parameters + ':' + a_value + "\r\n";
@@ -46,7 +46,7 @@ bool HasText( const QVariant& a_value, const QByteArray& a_type )
     return a_type == "QString" ? !a_value.toString().isEmpty() : a_value.isValid();
 }
 
-/// Reads all properties of a gadget that has everything, but for some, and of one that has nothing.
+/// Reads all properties of a gadget that has everything, except for some, and of one that has nothing.
 template <class Gadget>
 void ExpectGadget( const Gadget& a_full, const QList<QByteArray>& a_without = QList<QByteArray>() )
 {

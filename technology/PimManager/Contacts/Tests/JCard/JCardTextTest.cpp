@@ -18,7 +18,7 @@ constexpr qint64 s_kLongest = 1000;
 struct Converted
 {
     std::string m_text;
-    // `name card:line:offset xcount @place in the converted text; `
+    // `name card:line:offset xcount @position in the converted text; `
     std::string m_findings;
 
     friend bool operator==( const Converted& a_left, const Converted& a_right )
@@ -91,7 +91,7 @@ std::vector<TextRow> Rows()
         { R"(["vcard",[)" + s_kFn + R"(,["version",{"x":"y"},"text","4.0"]]])",
           CardOf( "FN:Mara\r\nVERSION;X=y:4.0\r\n" ), "" },
         { R"(["vcard",[["version",{"x":"y"},"text","4.0"]]])", "BEGIN:VCARD\r\nVERSION;X=y:4.0\r\nEND:VCARD\r\n", "" },
-        // What is no card or property.
+        // What is not a card or property.
         { R"(["vcard",[["version",{},"text","5.0"]]])", CardOf( "X-JCARD:[\"version\"\\,{}\\,\"text\"\\,\"5.0\"]\r\n" ),
           "json-part 1:1:10 x1 @26; " },
         { R"(["vcard",[1,)" + s_kFn + R"(,{"a":[]},"b"]])",

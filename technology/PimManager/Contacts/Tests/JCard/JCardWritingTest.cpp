@@ -42,7 +42,7 @@ bool HasControls( const std::string& a_name )
     return a_name == "control-characters" || a_name == "html-and-vertical-tabs" || a_name == "nul-bytes";
 }
 
-// The properties behind FN.
+// The properties after FN.
 QByteArray JsonOf( const QByteArray& a_line )
 {
     const QByteArray head = R"(["vcard",[["version",{},"text","4.0"],["fn",{},"text","Mara"],)";

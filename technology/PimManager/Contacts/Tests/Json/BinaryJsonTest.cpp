@@ -17,7 +17,7 @@ struct BinaryJsonRow
 {
     const char* m_name;
     QByteArray m_line;
-    // Behind the types and parameters.
+    // After the types and parameters.
     std::string m_json;
 };
 

@@ -63,7 +63,7 @@ IndexEntry DroppedFor( DropReason a_reason )
     return entry;
 }
 
-// Places without a gap.
+// Positions without a gap.
 IndexEntry PlainLine( quint32 a_group, quint32 a_name, quint32 a_parameters, quint32 a_length )
 {
     IndexEntry entry;

@@ -27,7 +27,7 @@ struct PieceRow
     PimContactFoldStyle m_style;
     quint32 m_begin;
     quint32 m_length;
-    // Each piece with its place, "/" and the line feeds before it.
+    // Each piece with its position, "/" and the line feeds before it.
     std::string m_pieces;
     std::string m_unfolded;
 };

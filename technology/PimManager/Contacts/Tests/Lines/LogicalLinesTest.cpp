@@ -119,7 +119,7 @@ CardFacts FactsOf( const std::string& a_text )
 
 const std::string s_kEncodedNote = "NOTE;ENCODING=QUOTED-PRINTABLE:"; // 31 bytes
 
-// Two soft line breaks before one blank each, behind lines of these lengths.
+// Two soft line breaks before one blank each, after lines of these lengths.
 std::string BlankBreaks( size_t a_first, size_t a_second )
 {
     return s_kEncodedNote + std::string( a_first - 32, 'a' ) + "=\n " + std::string( a_second - 2, 'b' ) + "=\n c\n";

@@ -33,7 +33,7 @@ class Base64Test : public ::testing::TestWithParam<Base64Row>
 {
 };
 
-// Every byte value in every place of a group.
+// Every byte value in every position of a group.
 QByteArray ManyBytes()
 {
     QByteArray bytes;

@@ -77,7 +77,7 @@ struct Row
     std::string_view m_charset;
     std::string_view m_bytes;
     std::string_view m_text;
-    // For each character of the text, the place where it begins in the bytes: a digit, or a letter from ten on.
+    // For each character of the text, the position where it begins in the bytes: a digit, or a letter from ten on.
     std::string_view m_begins;
     qint64 m_malformed = 0;
     quint32 m_firstMalformed = 0;
@@ -93,7 +93,7 @@ quint32 NumberOf( char a_digit )
     return static_cast<quint32>( a_digit <= '9' ? a_digit - '0' : a_digit - 'a' + 10 );
 }
 
-// The places of the bytes of a text, by those of its characters.
+// The positions of the bytes of a text, by those of its characters.
 Places PlacesOf( std::string_view a_text, std::string_view a_begins )
 {
     Places places;

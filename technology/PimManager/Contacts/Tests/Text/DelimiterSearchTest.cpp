@@ -39,7 +39,7 @@ TEST( DelimiterSearchTest, BothBytesAreFoundAtEveryPlace )
     }
 }
 
-// A byte behind a match, and one that differs from a delimiter in its highest bit, must not be taken for one.
+// A byte after a match, and one that differs from a delimiter in its highest bit, must not be taken for one.
 TEST( DelimiterSearchTest, NoOtherByteIsFound )
 {
     for ( int other = 0; other < 256; ++other )

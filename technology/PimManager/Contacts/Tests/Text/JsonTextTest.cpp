@@ -95,7 +95,7 @@ TEST( JsonTextTest, MalformedBytesAreReplaced )
     EXPECT_EQ( StringJson( "\xE2\x82" ), "\"" + bad + bad + "\"" );
 }
 
-// At each place in short and long strings, so that each way of copying meets each byte.
+// At each position in short and long strings, so that each way of copying meets each byte.
 TEST( JsonTextTest, EveryByteIsEscapedWhereverItIs )
 {
     for ( const size_t length : { 1U, 3U, 4U, 7U, 8U, 9U, 15U, 16U, 17U, 40U, 255U, 256U, 257U, 600U } )

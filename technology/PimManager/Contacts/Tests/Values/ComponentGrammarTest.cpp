@@ -84,7 +84,7 @@ ComponentReading ReadByTheComponent( const QByteArray& a_bytes )
     return reading;
 }
 
-// The same as Contacts reads it. QUOTED-PRINTABLE stays as it is in the rows, which encode no special characters.
+// The same as Contacts reads it. QUOTED-PRINTABLE remains as it is in the rows, which encode no special characters.
 QString TextOf( const PimContactCard& a_card )
 {
     QString text;

@@ -14,7 +14,7 @@ namespace
 
 using Memory = ParameterMemory<int>;
 
-// More readers than the memory has places, so that some of them share one.
+// More readers than the memory has positions, so that some of them share one.
 template <int s_kReader>
 quint32 Reader( std::string_view a_word )
 {

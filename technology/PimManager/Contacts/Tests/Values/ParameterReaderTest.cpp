@@ -27,7 +27,7 @@ struct ParameterRow
     const char* m_name;
     PimContactVersion m_version;
     std::string_view m_parameters;
-    // Each value behind its name.
+    // Each value after its name.
     std::string_view m_values;
 };
 

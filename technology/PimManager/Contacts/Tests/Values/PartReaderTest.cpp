@@ -21,7 +21,7 @@ struct PartRow
     Delimiters m_delimiters;
     std::string_view m_text;
     std::vector<quint32> m_literals;
-    // Each part in brackets, and the delimiter behind it.
+    // Each part in brackets, and the delimiter after it.
     std::string_view m_parts;
     qint64 m_unknownEscapes;
     qint64 m_escapedQuotes;

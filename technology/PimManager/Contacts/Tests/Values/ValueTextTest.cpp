@@ -36,7 +36,7 @@ std::string RowName( const ::testing::TestParamInfo<ValueTextRow>& a_info )
 constexpr const char* s_kJoerg = "J\xC3\xB6rg";
 constexpr const char* s_kQuotedPrintable = "NOTE;CHARSET=UTF-8;ENCODING=QUOTED-PRINTABLE:";
 
-// A value of words, cut behind each blank or before it: "word 0 word 1 ...".
+// A value of words, cut after each blank or before it: "word 0 word 1 ...".
 std::string Words( int a_count )
 {
     std::string text;
@@ -45,7 +45,7 @@ std::string Words( int a_count )
     return text + "end";
 }
 
-// The same with a fold before each "word", at a place where a blank is text.
+// The same with a fold before each "word", at a position where a blank is text.
 QByteArray FoldedWords( int a_count, const char* a_fold )
 {
     QByteArray text;

@@ -27,7 +27,7 @@ CardSurvey SurveyOf( const PimContactCard& a_card, PimContactVersion a_target, b
     return survey;
 }
 
-/// One letter for each part: how clean it is, in capitals if it is plain.
+/// One letter for each part: how clean it is, in upper case if it is plain.
 std::string PartsOf( const CardSurvey& a_survey )
 {
     std::string parts;

@@ -1,4 +1,4 @@
-// The short road to another version writes what the long one writes.
+// The fast path to another version writes what the slow path writes.
 
 #include "Writing/PlainChange.h"
 
@@ -25,9 +25,9 @@ struct Row
 {
     QByteArray m_version;
     PimContactVersion m_target;
-    /// The head is `NOTE` and the like, and what is written for it the same in small letters.
+    /// The head is `NOTE` and the like, and what is written for it the same in lower case.
     QByteArray m_line;
-    /// Empty if the line takes the long road.
+    /// Empty if the line takes the slow path.
     std::string m_written;
 };
 
@@ -87,7 +87,7 @@ bool MayTake( const QByteArray& a_lines, PimContactVersion a_target, PropertyId 
     return change.MayTake( a_property );
 }
 
-/// The notes of each line, one behind the other.
+/// The notes of each line, one after the other.
 QStringList NotesOf( const PimContactWriteReport& a_report, int a_line )
 {
     QStringList texts;
@@ -144,7 +144,7 @@ QByteArray RandomValue( const QByteArray& a_name, std::mt19937& a_random )
     return value;
 }
 
-// The first line of a head takes the long road, and the second one the short road.
+// The first line of a head takes the slow path, and the second one the fast path.
 void CheckBothRoads( const QByteArray& a_version, PimContactFormat a_target, const QByteArray& a_line )
 {
     QBuffer buffer;

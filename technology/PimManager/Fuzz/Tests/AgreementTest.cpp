@@ -20,13 +20,13 @@ TEST( AgreementTest, EqualTranscriptsAgree )
     EXPECT_EQ( CheckSame( "same", {}, {} ), Violation() );
 }
 
-TEST( AgreementTest, FirstDifferenceIsTold )
+TEST( AgreementTest, FirstDifferenceIsReported )
 {
     EXPECT_EQ( CheckSame( "same", { Text( "a" ), Text( "b" ), Text( "c" ) }, { Text( "a" ), Text( "x" ) } ),
                Text( "same\n    both:   \"a\"\n    first:  \"b\"\n    second: \"x\"" ) );
 }
 
-TEST( AgreementTest, MissingLinesAreTold )
+TEST( AgreementTest, MissingLinesAreReported )
 {
     EXPECT_EQ( CheckSame( "same", { Text( "a" ) }, {} ), Text( "same\n    first:  \"a\"\n    second: nothing more" ) );
     EXPECT_EQ( CheckSame( "same", {}, { Text( "a" ) } ), Text( "same\n    first:  nothing more\n    second: \"a\"" ) );

@@ -98,21 +98,21 @@ TEST( OperationOutcomeTest, FailuresAreMarked )
     }
 }
 
-TEST( OperationOutcomeTest, UnmarkedFailureIsTold )
+TEST( OperationOutcomeTest, UnmarkedFailureIsReported )
 {
     OperationOutcome outcome = GoodLine();
     outcome.m_success = false;
     EXPECT_EQ( CheckOutcome( outcome ), Text( "a failure is marked, and nothing else is" ) );
 }
 
-TEST( OperationOutcomeTest, MarkedSuccessIsTold )
+TEST( OperationOutcomeTest, MarkedSuccessIsReported )
 {
     OperationOutcome outcome = GoodLine();
     outcome.m_isMarked = true;
     EXPECT_EQ( CheckOutcome( outcome ), Text( "a failure is marked, and nothing else is" ) );
 }
 
-TEST( OperationOutcomeTest, EncodingLeftBehindIsTold )
+TEST( OperationOutcomeTest, RemainingEncodingIsReported )
 {
     OperationOutcome outcome = GoodLine();
     outcome.m_hasEncoding = true;
@@ -128,21 +128,21 @@ TEST( OperationOutcomeTest, ChangedTextIsReported )
     EXPECT_EQ( CheckOutcome( outcome ), Text( "parsing leaves the prepared text as it is" ) );
 }
 
-TEST( OperationOutcomeTest, TextFromNowhereIsTold )
+TEST( OperationOutcomeTest, TextFromNowhereIsReported )
 {
     OperationOutcome outcome = GoodLine();
     outcome.m_prepared = "N;HOME:b\r\n";
     EXPECT_EQ( CheckOutcome( outcome ), Text( "every text stands in the prepared text, in order: \"a\"" ) );
 }
 
-TEST( OperationOutcomeTest, IncompleteResultIsTold )
+TEST( OperationOutcomeTest, IncompleteResultIsReported )
 {
     OperationOutcome outcome = GoodLine();
     outcome.m_result.VisitValues( {} );
     EXPECT_EQ( CheckOutcome( outcome ), Text( "there is at least one value: \"\"" ) );
 }
 
-TEST( OperationOutcomeTest, ParseVCardsWithoutListIsTold )
+TEST( OperationOutcomeTest, ParseVCardsWithoutListIsReported )
 {
     OperationOutcome outcome = Try( "", Call::ParseVCards );
     EXPECT_EQ( CheckOutcome( outcome ), Violation() );
@@ -150,14 +150,14 @@ TEST( OperationOutcomeTest, ParseVCardsWithoutListIsTold )
     EXPECT_EQ( CheckOutcome( outcome ), Text( "ParseVCards gives a list" ) );
 }
 
-TEST( OperationOutcomeTest, ParseVCardsThatStopsEarlyIsTold )
+TEST( OperationOutcomeTest, ParseVCardsThatStopsEarlyIsReported )
 {
     OperationOutcome outcome = Try( "x", Call::ParseVCards );
     outcome.m_isAtEnd = false;
     EXPECT_EQ( CheckOutcome( outcome ), Text( "ParseVCards reads to the end of the text" ) );
 }
 
-TEST( OperationOutcomeTest, MarkLeftByParseVCardsIsTold )
+TEST( OperationOutcomeTest, MarkLeftByParseVCardsIsReported )
 {
     OperationOutcome outcome = Try( "x", Call::ParseVCards );
     EXPECT_EQ( CheckOutcome( outcome ), Violation() );

@@ -52,7 +52,7 @@ TEST_F( ReplayInputsTest, EmptyFolderIsAnError )
     EXPECT_FALSE( FindReplayInputs( { m_folder.path() } ).m_error.isEmpty() );
 }
 
-TEST_F( ReplayInputsTest, EmptyFolderBesideAnotherIsAnError )
+TEST_F( ReplayInputsTest, EmptyFolderNextToAnotherIsAnError )
 {
     Write( "a" );
     ASSERT_TRUE( QDir( m_folder.path() ).mkdir( Text( "empty" ) ) );

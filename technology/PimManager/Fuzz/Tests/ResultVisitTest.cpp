@@ -50,7 +50,7 @@ TEST( ResultVisitTest, CompleteCardHasNoViolation )
     EXPECT_EQ( ViolationOf( MakeProperty( QString(), Text( "N" ), { QString() } ) ), Violation() );
 }
 
-TEST( ResultVisitTest, NullPointersAreTold )
+TEST( ResultVisitTest, NullPointersAreReported )
 {
     ResultVisit cards;
     cards.VisitAll( QList<PimVCard*>( { nullptr } ) );
@@ -63,7 +63,7 @@ TEST( ResultVisitTest, NullPointersAreTold )
     EXPECT_EQ( ViolationOf( nullptr ), Text( "no property is null: \"\"" ) );
 }
 
-TEST( ResultVisitTest, WrongNamesAreTold )
+TEST( ResultVisitTest, WrongNamesAreReported )
 {
     for ( const char* name : { "", "a b", "a.b", "\u00E9", "a\n" } )
         EXPECT_TRUE( ViolationOf( MakeProperty( QString(), Text( name ), { QString() } ) )
@@ -71,24 +71,24 @@ TEST( ResultVisitTest, WrongNamesAreTold )
             << name;
 }
 
-TEST( ResultVisitTest, EndLineInACardIsTold )
+TEST( ResultVisitTest, EndLineInACardIsReported )
 {
     EXPECT_EQ( ViolationOf( MakeProperty( QString(), Text( "eND" ), { QString() } ) ),
                Text( "a card holds no END line: \"END\"" ) );
 }
 
-TEST( ResultVisitTest, WrongGroupIsTold )
+TEST( ResultVisitTest, WrongGroupIsReported )
 {
     EXPECT_EQ( ViolationOf( MakeProperty( Text( "a:b" ), Text( "N" ), { QString() } ) ),
                Text( "a group holds names and dots only: \"a:b\"" ) );
 }
 
-TEST( ResultVisitTest, PropertyWithoutValueIsTold )
+TEST( ResultVisitTest, PropertyWithoutValueIsReported )
 {
     EXPECT_EQ( ViolationOf( MakeProperty( QString(), Text( "N" ), {} ) ), Text( "there is at least one value: \"\"" ) );
 }
 
-TEST( ResultVisitTest, WrongParameterOfAPropertyIsTold )
+TEST( ResultVisitTest, WrongParameterOfAPropertyIsReported )
 {
     auto* const parameters = new QList<PimVCardParameter*>( { new PimVCardParameter( QString(), QString() ) } );
     EXPECT_EQ(
@@ -105,18 +105,18 @@ TEST( ResultVisitTest, ParametersOfTheGrammarHaveNoViolation )
     }
 }
 
-TEST( ResultVisitTest, OtherParameterValuesAreTold )
+TEST( ResultVisitTest, OtherParameterValuesAreReported )
 {
     for ( const char* value : { "", "\"", "\"\"", "a,", ",a", "a,,b", "\"a", "a\"", "\"a\"b", "a b", "\"\x01\"" } )
         EXPECT_FALSE( ViolationOf( "TYPE", value ).isEmpty() ) << value;
 }
 
-TEST( ResultVisitTest, OtherParameterNamesAreTold )
+TEST( ResultVisitTest, OtherParameterNamesAreReported )
 {
     EXPECT_EQ( ViolationOf( "A B", "x" ), Text( "a parameter name holds name characters only: \"A B\"" ) );
 }
 
-TEST( ResultVisitTest, ControlCharactersInValuesAreTold )
+TEST( ResultVisitTest, ControlCharactersInValuesAreReported )
 {
     for ( const int unit : { 0x00, 0x08, 0x0B, 0x0D, 0x1F, 0x7F, 0xFEFF, 0xD800 } )
         EXPECT_FALSE( ViolationOfValue( QString( QChar( unit ) ) ).isEmpty() ) << unit;

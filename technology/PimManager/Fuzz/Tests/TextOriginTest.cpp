@@ -42,7 +42,7 @@ constexpr TextChange s_kTokens = TextChange::Tokens;
 
 } // namespace
 
-TEST_P( TextOriginTest, TextStandsOrNot )
+TEST_P( TextOriginTest, TextIsFoundOrNot )
 {
     const OriginRow& row = GetParam();
     EXPECT_EQ( CheckOrigin( Text( row.m_source ), row.m_texts, row.m_change ).isEmpty(), row.m_stands );

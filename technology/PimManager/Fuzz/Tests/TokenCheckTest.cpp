@@ -52,28 +52,28 @@ TEST( TokenCheckTest, TokensOfTheScannerHold )
     }
 }
 
-TEST( TokenCheckTest, TokenFromNowhereIsTold )
+TEST( TokenCheckTest, TokenFromNowhereIsReported )
 {
     TakenTokens taken;
     taken.m_tokens = QStringList( Text( "x" ) );
     EXPECT_EQ( CheckTokens( "abc", taken ), Text( "every text stands in the prepared text, in order: \"x\"" ) );
 }
 
-TEST( TokenCheckTest, LongSingleTokenIsTold )
+TEST( TokenCheckTest, LongSingleTokenIsReported )
 {
     TakenTokens taken;
     taken.m_singles = QStringList( Text( "ab" ) );
     EXPECT_EQ( CheckTokens( "abc", taken ), Text( "a single token is one character: \"ab\"" ) );
 }
 
-TEST( TokenCheckTest, LineFromNowhereIsTold )
+TEST( TokenCheckTest, LineFromNowhereIsReported )
 {
     TakenTokens taken;
     taken.m_line = Text( "x" );
     EXPECT_EQ( CheckTokens( "abc", taken ), Text( "a sought line stands in the text: \"x\"" ) );
 }
 
-TEST( TokenCheckTest, LineWithoutMatchIsTold )
+TEST( TokenCheckTest, LineWithoutMatchIsReported )
 {
     TakenTokens taken;
     taken.m_line = Text( "ab" );

@@ -18,7 +18,7 @@ TEST( FoldedLineTest, LongerLineIsFoldedAt75WithTheBlankCounted )
                FoldedLine( QByteArray( 150, 'x' ) ) );
 }
 
-TEST( FoldedLineTest, FoldStandsBeforeACharacterAndNotInsideIt )
+TEST( FoldedLineTest, FoldIsBeforeACharacterAndNotInsideIt )
 {
     EXPECT_EQ( QByteArray( 74, 'x' ) + "\r\n \xC3\xA9\r\n", FoldedLine( QByteArray( 74, 'x' ) + "\xC3\xA9" ) );
 }
@@ -33,7 +33,7 @@ TEST( QuotedPrintableLineTest, EveryByteIsEncodedButTheSemicolonsBetweenValues )
     EXPECT_EQ( QByteArray( "N:=61=20=3B=C3=A9;=62\r\n" ), QuotedPrintableLine( "N:", { "a ;\xC3\xA9", "b" } ) );
 }
 
-TEST( QuotedPrintableLineTest, SoftBreakStandsBeforeAPieceThatWouldLeaveNoRoomForIt )
+TEST( QuotedPrintableLineTest, SoftBreakIsBeforeAPieceThatWouldLeaveNoRoomForIt )
 {
     const QByteArray start( 72, 'x' );
     EXPECT_EQ( start + "=61=\r\n=62\r\n", QuotedPrintableLine( start, { "ab" } ) );

@@ -42,7 +42,7 @@ std::string Described( const CardBoundary& a_boundary, const std::string& a_line
 
 } // namespace
 
-TEST( CardBoundariesTest, LinesAreToldApart )
+TEST( CardBoundariesTest, LinesAreDistinguished )
 {
     const std::vector<BoundaryRow> rows = {
         { "", "None" },

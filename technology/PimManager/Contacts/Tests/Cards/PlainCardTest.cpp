@@ -252,7 +252,7 @@ struct BeginRow
     bool m_isMended;
 };
 
-TEST( PlainCardUseTest, BeginMayHaveBlanksBehindIt )
+TEST( PlainCardUseTest, BeginMayHaveBlanksAfterIt )
 {
     for ( const BeginRow& row :
           { BeginRow{ "BEGIN:VCARD", true, false }, BeginRow{ "begin:vcard", true, false },
@@ -272,7 +272,7 @@ TEST( PlainCardUseTest, BeginMayHaveBlanksBehindIt )
     }
 }
 
-TEST( PlainCardUseTest, EndMayHaveBlanksBehindIt )
+TEST( PlainCardUseTest, EndMayHaveBlanksAfterIt )
 {
     const std::string text = "BEGIN:VCARD\nFN:a\nEND:VCARD  \n";
     PlainCard card;

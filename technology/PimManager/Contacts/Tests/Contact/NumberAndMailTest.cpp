@@ -135,7 +135,7 @@ TEST( NumberAndMailTest, NumbersAreRead )
         EXPECT_EQ( NumberOf( row.m_text, buffer ), row.m_result ) << row.m_text;
 }
 
-TEST( NumberAndMailTest, UrisAreTakenApart )
+TEST( NumberAndMailTest, UrisAreSplit )
 {
     QByteArray buffer;
     for ( const PartsRow& row : s_kUris )
@@ -161,7 +161,7 @@ TEST( NumberAndMailTest, PlainExtensionsAreTakenFromTexts )
     }
 }
 
-TEST( NumberAndMailTest, MailsAreTakenApart )
+TEST( NumberAndMailTest, MailsAreSplit )
 {
     QByteArray buffer;
     for ( const PartsRow& row : s_kMailParts )

@@ -158,7 +158,7 @@ TEST( PropertyConverterTest, OtherShapesAreRefused )
         EXPECT_EQ( LineOf( json ), "wrong" ) << json;
 }
 
-TEST( PropertyConverterTest, TextBehindThePropertyIsLeft )
+TEST( PropertyConverterTest, TextAfterThePropertyIsLeft )
 {
     PropertyConverter converter;
     std::string out;

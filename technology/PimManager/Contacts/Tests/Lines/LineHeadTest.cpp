@@ -639,7 +639,7 @@ TEST( ParameterSplitterTest, ParametersAreSplitAtSemicolonsOutsideQuotes )
         EXPECT_EQ( ParametersOf( row.m_parameters ), row.m_texts ) << row.m_parameters;
 }
 
-TEST( ParameterSplitterTest, LastTextStaysBehindTheEnd )
+TEST( ParameterSplitterTest, LastTextRemainsAfterTheEnd )
 {
     ParameterSplitter splitter( ";A" );
     std::string_view text;

@@ -87,7 +87,7 @@ TEST( FileSignatureTest, SignatureCutShortIsUnknown )
     }
 }
 
-TEST( FileSignatureTest, SignatureBehindAnotherByteIsUnknown )
+TEST( FileSignatureTest, SignatureAfterAnotherByteIsUnknown )
 {
     for ( const Row& row : s_kSignatures )
         EXPECT_EQ( FileKindBySignature( "\n" + std::string( row.m_start ) ), Kind::Unknown ) << row;

@@ -320,7 +320,7 @@ TEST( TextDecoderTest, LongFileIsConvertedWhateverTheLengthOfThePieces )
 }
 
 // The most text that a piece can become: half a pair and half a unit of the previous piece, and three bytes a unit.
-TEST( TextDecoderTest, LongPieceBehindHalfACharacterIsConverted )
+TEST( TextDecoderTest, LongPieceAfterHalfACharacterIsConverted )
 {
     for ( size_t units = 20; units < 40; ++units )
     {

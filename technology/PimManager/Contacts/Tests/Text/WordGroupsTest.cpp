@@ -93,7 +93,7 @@ TEST( WordGroupsTest, WordsThatCollideAreGrouped )
     ExpectGroups( words );
 }
 
-TEST( WordGroupsTest, ClearedGroupsStartAnew )
+TEST( WordGroupsTest, ClearedGroupsStartEmpty )
 {
     WordGroups groups;
     const std::vector<std::string> many = Numbered( 20, 20 );

@@ -170,7 +170,7 @@ TEST( ParametersOfLineTest, FoldInsideParametersIsRemoved )
     EXPECT_EQ( Joined( line.Parameter( QLatin1String( "X-A" ) ) ), "a b" );
 }
 
-TEST( ParametersOfLineTest, ParametersAndBareWordsAreToldApart )
+TEST( ParametersOfLineTest, ParametersAndBareWordsAreDistinguished )
 {
     std::string values;
     ParameterReader reader( ";TYPE=,a,b;;c,d;CELL=", s_k30 );

@@ -152,7 +152,7 @@ TEST_P( ValueTextTest, TextIsDecoded )
     EXPECT_EQ( OneLine( row.m_line, row.m_version ).Text().toStdString(), row.m_text );
 }
 
-TEST( ValueTextOfCardTest, PropertyBehindNestedCardIsDecoded )
+TEST( ValueTextOfCardTest, PropertyAfterNestedCardIsDecoded )
 {
     const PimContactBook book = PimContactBook::FromBytes( "BEGIN:VCARD\r\nVERSION:2.1\r\nAGENT:\r\nBEGIN:VCARD\r\n"
                                                            "VERSION:3.0\r\nNOTE:in\\nside\r\nEND:VCARD\r\n"

@@ -134,7 +134,7 @@ TEST( CardSurveyTest, TargetSaysWhichNamesAreWanted )
     EXPECT_TRUE( SurveyOf( CardOf( "FN:a\r\n" ), PimContactVersion::V40, false ).HasNames() );
 }
 
-TEST( CardSurveyTest, VersionIsFirstAlsoBehindADroppedLine )
+TEST( CardSurveyTest, VersionIsFirstEvenAfterADroppedLine )
 {
     const auto surveyOf = []( const QByteArray& a_lines )
     { return SurveyOf( CardOf( a_lines ), PimContactVersion::V40, true ); };

@@ -156,7 +156,7 @@ TEST( WriterListsTest, ManyPreferencesBecomeOne )
     }
 }
 
-TEST( WriterListsTest, NewGroupIsFreeBesideTheLargestNumber )
+TEST( WriterListsTest, NewGroupIsUnusedNextToTheLargestNumber )
 {
     const PimContact contact =
         WrittenIn30( "item1.TEL:1\r\nitem2147483647.TEL:2\r\nADR;LABEL=x:;;a;b;;;\r\nADR;LABEL=y:;;c;d;;;" );

@@ -109,7 +109,7 @@ constexpr std::array s_kSchemes = {
 
 struct ProfileRow
 {
-    std::string_view m_begin; // of a web address behind "www."
+    std::string_view m_begin; // of a web address after "www."
     const Service* m_service;
 };
 

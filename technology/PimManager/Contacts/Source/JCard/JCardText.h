@@ -102,7 +102,7 @@ private:
     {
         Outside,    // in no card
         Opened,     // after the bracket of an array that may be a card
-        Head,       // behind "vcard"
+        Head,       // after "vcard"
         Properties, // in the list of properties
         Tail,       // after that list
     };

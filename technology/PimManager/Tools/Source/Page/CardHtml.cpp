@@ -56,7 +56,7 @@ QStringList RemarksOf( const PimContactLine& a_line )
     {
         if ( parameter.first == QLatin1String( "LANGUAGE" ) )
             remarks << LanguageWords( parameter.second );
-        else if ( ToldTexts::IsShownOnItsOwn( parameter.first ) )
+        else if ( ShownTexts::IsShownOnItsOwn( parameter.first ) )
             remarks << QStringLiteral( "%1: %2" ).arg( ReadableName( parameter.first ), parameter.second );
     }
     return remarks;
@@ -105,9 +105,9 @@ void CardHtml::ReadLine( int a_id, const PimContactLine& a_line )
     if ( !a_line.NestedCard().IsNull() )
         m_nested.insert( a_id );
     if ( IsOneOf( a_line, { "FN", "N", "SORT-STRING" } ) )
-        m_told.Tell( a_id, m_name );
+        m_shown.Add( a_id, m_name );
     if ( IsKnownVersion( a_line ) )
-        m_told.TellValue( a_id );
+        m_shown.AddValue( a_id );
 }
 
 void CardHtml::WriteHead( const QByteArray& a_heading )
@@ -135,7 +135,7 @@ void CardHtml::WriteWork()
 
 void CardHtml::WriteWorkOf( const PimContactField& a_field, const QString& a_text )
 {
-    m_told.Tell( a_field, a_text );
+    m_shown.Add( a_field, a_text );
     const QStringList uses = UsesOf( a_field );
     // A company is often called by its own name.
     if ( a_text == m_name && uses.isEmpty() )
@@ -207,7 +207,7 @@ void CardHtml::WriteWay( const PimContactField& a_field, const Way& a_way )
     WriteUses( a_way.m_uses );
     WriteUsesOf( a_field );
     m_device.write( "</li>\n" );
-    m_told.Tell( a_field, a_way.m_text + QLatin1Char( ' ' ) + a_way.m_uses.join( QLatin1Char( ' ' ) ) +
+    m_shown.Add( a_field, a_way.m_text + QLatin1Char( ' ' ) + a_way.m_uses.join( QLatin1Char( ' ' ) ) +
                               QLatin1Char( ' ' ) + a_way.m_alsoSaid );
 }
 
@@ -247,12 +247,12 @@ void CardHtml::WriteFacts()
 void CardHtml::WriteFact( const ContactFact& a_fact )
 {
     WriteRow( a_fact.m_label, a_fact.m_text, a_fact.m_uses );
-    m_told.Tell( a_fact.m_field, a_fact.m_text + QLatin1Char( ' ' ) + a_fact.m_alsoSaid );
+    m_shown.Add( a_fact.m_field, a_fact.m_text + QLatin1Char( ' ' ) + a_fact.m_alsoSaid );
     if ( !a_fact.m_isWhole )
         return;
     const QList<int> ids = a_fact.m_field.LineIds();
     for ( const int id : ids )
-        m_told.TellValue( id );
+        m_shown.AddValue( id );
 }
 
 void CardHtml::WriteRow( const QString& a_label, const QString& a_text, const QStringList& a_uses )
@@ -276,7 +276,7 @@ void CardHtml::WriteNotes()
         m_device.write( "</span>" );
         WriteUses( UsesOf( note ) );
         m_device.write( "</p>\n" );
-        m_told.Tell( note, note.Text() );
+        m_shown.Add( note, note.Text() );
     }
 }
 
@@ -287,7 +287,7 @@ void CardHtml::WriteExtraPictures()
         const bool isFace = !m_face.IsNull() && line.m_line.OffsetInCard() == m_face.OffsetInCard();
         if ( isFace || ( IsPicture( line.m_line ) &&
                          WritePicture( m_device, line.m_line, "extra", "A picture that this browser cannot show" ) ) )
-            m_told.TellValue( line.m_id );
+            m_shown.AddValue( line.m_id );
     }
 }
 
@@ -314,7 +314,7 @@ void CardHtml::WriteNestedCard( const Line& a_line )
     card.WriteBody();
     m_device.write( "</section>\n" );
     if ( a_line.m_line.Text().trimmed().isEmpty() )
-        m_told.TellValue( a_line.m_id );
+        m_shown.AddValue( a_line.m_id );
 }
 
 void CardHtml::WriteRest()
@@ -322,9 +322,9 @@ void CardHtml::WriteRest()
     bool isBegun = false;
     for ( const Line& line : std::as_const( m_lines ) )
     {
-        if ( m_told.IsMentioned( line.m_id ) && line.m_line.IsNamed( QLatin1String( "X-ANDROID-CUSTOM" ) ) )
-            m_told.Tell( line.m_id, CodesOf( line.m_line ) );
-        if ( m_told.IsTold( line.m_line, line.m_id ) )
+        if ( m_shown.IsMentioned( line.m_id ) && line.m_line.IsNamed( QLatin1String( "X-ANDROID-CUSTOM" ) ) )
+            m_shown.Add( line.m_id, CodesOf( line.m_line ) );
+        if ( m_shown.IsCovered( line.m_line, line.m_id ) )
             continue;
         if ( !isBegun )
             m_device.write( "<details class=\"rest\"><summary>More</summary>\n<dl>\n" );

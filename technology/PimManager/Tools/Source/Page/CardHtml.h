@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "Page/ToldTexts.h"
+#include "Page/ShownTexts.h"
 
 #include <PimManager/Contacts/PimContact.h>
 
@@ -23,8 +23,8 @@ struct ContactFact;
 /// Writes everything that a card says, as people say it: name, work, numbers, addresses, dates, notes, pictures, nested
 /// cards. Nothing is cut, and no name of a property is shown.
 ///
-/// What is not said in these places is in a list that opens on a click, see ToldTexts: other properties, technical ones
-/// such as UID, and properties of which a part is not shown. There is no list if there is nothing to list.
+/// What is not said in these places is in a list that opens on a click, see ShownTexts: other properties, technical
+/// ones such as UID, and properties of which a part is not shown. There is no list if there is nothing to list.
 class CardHtml
 {
 public:
@@ -84,7 +84,7 @@ private:
     QList<Line> m_lines;
     QSet<int> m_nested;
     int m_lastWithUses = 0;
-    ToldTexts m_told;
+    ShownTexts m_shown;
 };
 
 /// \return ` dir="rtl"` for a contact whose name is written from right to left; otherwise empty. The whole contact is

@@ -1,7 +1,7 @@
 #include "Page/ContactFacts.h"
 
 #include "Page/FieldWords.h"
-#include "Page/ToldTexts.h"
+#include "Page/ShownTexts.h"
 
 #include <QMetaEnum>
 
@@ -45,7 +45,7 @@ void Add( Facts& a_facts, const QString& a_label, const QString& a_text, const P
 void AddName( Facts& a_facts, const PimContact& a_contact, const QString& a_name )
 {
     const PimContactName name = a_contact.Name();
-    if ( !ToldTexts::IsSaidIn( name.Text(), a_name ) )
+    if ( !ShownTexts::IsSaidIn( name.Text(), a_name ) )
         Add( a_facts, QStringLiteral( "Full name" ), name.Text(), name );
     const QString phonetic = QStringList( { name.PhoneticGiven(), name.PhoneticMiddle(), name.PhoneticFamily() } )
                                  .join( QLatin1Char( ' ' ) );

@@ -1,4 +1,4 @@
-#include "Page/ToldTexts.h"
+#include "Page/ShownTexts.h"
 
 #include "Page/FieldWords.h"
 
@@ -69,7 +69,7 @@ QString ParametersOf( const PimContactLine& a_line )
     const QList<QPair<QString, QString>> parameters = a_line.NamedParameters();
     for ( const QPair<QString, QString>& parameter : parameters )
     {
-        if ( ToldTexts::IsShownOnItsOwn( parameter.first ) )
+        if ( ShownTexts::IsShownOnItsOwn( parameter.first ) )
             text += parameter.second + QLatin1Char( ' ' );
     }
     return text;
@@ -85,38 +85,38 @@ bool IsEmpty( const PimContactLine& a_line )
 
 } // namespace
 
-void ToldTexts::Tell( const PimContactField& a_field, const QString& a_text )
+void ShownTexts::Add( const PimContactField& a_field, const QString& a_text )
 {
     const QString text = a_text + QLatin1Char( ' ' ) + ShownLabel( a_field );
     const QList<int> ids = a_field.LineIds();
     for ( const int id : ids )
-        Tell( id, text );
+        Add( id, text );
 }
 
-void ToldTexts::Tell( int a_id, const QString& a_text )
+void ShownTexts::Add( int a_id, const QString& a_text )
 {
     m_texts[a_id] += QLatin1Char( ' ' ) + a_text;
 }
 
-bool ToldTexts::IsTold( const PimContactLine& a_line, int a_id ) const
+bool ShownTexts::IsCovered( const PimContactLine& a_line, int a_id ) const
 {
     const QString parameters = ParametersOf( a_line );
     if ( IsEmpty( a_line ) && parameters.isEmpty() )
         return true;
-    const bool isToldOtherwise = m_values.contains( a_id );
-    if ( !isToldOtherwise && !m_texts.contains( a_id ) )
+    const bool isInOtherWords = m_values.contains( a_id );
+    if ( !isInOtherWords && !m_texts.contains( a_id ) )
         return false;
-    const QSet<QString> told = WordsOf( m_texts.value( a_id ) );
-    return AreIn( WordsOf( parameters ), told ) && ( isToldOtherwise || AreIn( WordsOf( ValueOf( a_line ) ), told ) );
+    const QSet<QString> shown = WordsOf( m_texts.value( a_id ) );
+    return AreIn( WordsOf( parameters ), shown ) && ( isInOtherWords || AreIn( WordsOf( ValueOf( a_line ) ), shown ) );
 }
 
-bool ToldTexts::IsShownOnItsOwn( const QString& a_parameter )
+bool ShownTexts::IsShownOnItsOwn( const QString& a_parameter )
 {
     return std::none_of( s_kQuietParameters.begin(), s_kQuietParameters.end(),
                          [&a_parameter]( const char* a_name ) { return a_parameter == QLatin1String( a_name ); } );
 }
 
-bool ToldTexts::IsSaidIn( const QString& a_text, const QString& a_other )
+bool ShownTexts::IsSaidIn( const QString& a_text, const QString& a_other )
 {
     return AreIn( WordsOf( a_text ), WordsOf( a_other ) );
 }

@@ -1,5 +1,7 @@
 // When two contacts say the same.
 
+#include "Contact/DatePrivate.h"
+#include "Lines/PropertyTable.h"
 #include "Text/Bytes.h"
 
 #include <PimManager/Contacts/PimContact.h>
@@ -31,8 +33,22 @@ QList<Parameter> SortedParameters( const PimContactLine& a_line )
     return parameters;
 }
 
+// A contact has one date of these. The forms of a date are equal in further lines as well.
+bool IsSingleDate( PropertyId a_property )
+{
+    return a_property == PropertyId::Rev || a_property == PropertyId::Created || a_property == PropertyId::CallTime;
+}
+
+PimContactDate DateOf( const PimContactLine& a_line )
+{
+    const QByteArray text = a_line.Text().toUtf8();
+    return PimContactDatePrivate::Read( ViewOf( text ) );
+}
+
 bool AreSameValues( const PimContactLine& a_first, const PimContactLine& a_second )
 {
+    if ( IsSingleDate( PropertyOf( ViewOf( a_first.Name() ) ) ) )
+        return DateOf( a_first ) == DateOf( a_second );
     const PimContactBinary binary = a_first.Binary();
     if ( binary.IsNull() )
         return a_second.Binary().IsNull() && a_first.Text() == a_second.Text();

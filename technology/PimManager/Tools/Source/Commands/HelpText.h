@@ -27,7 +27,7 @@ public:
     /// Adds lines of text. Each is wrapped.
     void AddText( const QString& a_text );
 
-    /// Adds names and beside them, or below them on a narrow terminal, what they mean.
+    /// Adds names with their meanings: in a second column, or on a narrow terminal in the lines below.
     void AddRows( const QList<Row>& a_rows );
 
     QString Text() const { return m_text; }

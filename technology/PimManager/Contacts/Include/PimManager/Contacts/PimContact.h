@@ -351,7 +351,8 @@ public:
     /// \}
 
     /// \return true if all typed fields and the other lines are equal. Versions, folds, encodings, group names, and the
-    ///         letter case and order of parameters are not compared. Linear in the length of both.
+    ///         letter case and order of parameters are not compared. Two null contacts are equal. A second REV, CREATED
+    ///         or call time is compared as a date. Linear in the length of both.
     bool operator==( const PimContact& a_other ) const;
     bool operator!=( const PimContact& a_other ) const { return !( *this == a_other ); }
 

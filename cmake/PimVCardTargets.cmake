@@ -41,7 +41,7 @@ function(pimvcard_precompile target)
 endfunction()
 
 # pimvcard_configure_library(TARGET NAME): configures a library that is installed as PimManager::NAME, with its headers
-# in Include. A shared library exports only what is marked with PIMVCARD_EXPORT or PIMCONTACT_EXPORT.
+# in Include. A shared library exports only what is marked with PIMVCARD_EXPORT, PIMCONTACT_EXPORT or PIMPHONEBOOK_EXPORT.
 function(pimvcard_configure_library target name)
   pimvcard_configure_product(${target})
   add_library(PimManager::${name} ALIAS ${target})

@@ -67,6 +67,12 @@ struct IndexedLine
         return LinePieces( m_text, m_entry, m_card.m_record.FoldStyle(), a_range );
     }
 
+    /// Appends a part of the line without its breaks.
+    void AppendUnfolded( ByteRange a_range, QByteArray& a_out ) const
+    {
+        PimManager::Contacts::AppendUnfolded( m_text, m_entry, m_card.m_record.FoldStyle(), a_range, a_out );
+    }
+
     /// \return the name, without breaks. Refers to the card, or to a_buffer if a break is inside.
     std::string_view Name( QByteArray& a_buffer ) const { return HeadPart( m_entry.m_name, a_buffer ); }
     /// The same for the group.

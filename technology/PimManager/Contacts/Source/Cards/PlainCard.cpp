@@ -120,10 +120,24 @@ void PlainCard::CloseLine()
     Wrote( EntryKind::Line, m_end - m_begin );
 }
 
+bool PlainCard::ReadHead( std::string_view a_line, LineHead& a_head )
+{
+    if ( const LineHead* const known = m_sequence.Next( a_line ) )
+    {
+        a_head = *known;
+        return true;
+    }
+    const bool isPlain = a_head.Read( a_line );
+    a_head.m_property = PropertyOf( a_head.m_name.In( a_line ) );
+    if ( isPlain )
+        m_sequence.Learn( a_line, a_head );
+    return isPlain;
+}
+
 PlainCard::Step PlainCard::TakeProperty( const Line& a_line )
 {
     LineHead& head = m_head == m_heads.data() ? m_heads.back() : m_heads.front();
-    const bool isPlain = head.Read( a_line.m_text );
+    const bool isPlain = ReadHead( a_line.m_text, head );
     if ( ( !isPlain && !IsSurelyProperty( head ) ) || IsAgent( head, a_line.m_text ) )
         return Step::Stop;
     CloseLine();
@@ -199,6 +213,7 @@ bool PlainCard::Begin( std::string_view a_text )
     m_lineEnd = LineEndSearch::KindOf( lineEnd, endLength );
     m_endLength = endLength;
     m_facts = CardFacts();
+    m_sequence.Restart();
     m_index.Clear();
     if ( m_isOpen )
         m_census = Utf8Census();

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Cards/CardBoundaries.h"
+#include "Lines/HeadSequence.h"
 #include "Lines/LineIndex.h"
 #include "Lines/LineScanner.h"
 #include "Lines/LogicalLines.h"
@@ -86,6 +87,7 @@ private:
     Q_ALWAYS_INLINE Step TakeContinuation( const Line& a_line );
     Step TakeSoftBreak( const Line& a_line );
     Q_ALWAYS_INLINE Step TakeProperty( const Line& a_line );
+    Q_ALWAYS_INLINE bool ReadHead( std::string_view a_line, LineHead& a_head );
     Step TakeEnd( const Line& a_line, bool a_isMended );
     Q_ALWAYS_INLINE bool EndsPlainly( std::string_view a_line );
     void WaitForLineEnd( const LineEndSearch& a_search, size_t a_next, size_t a_searched );
@@ -149,6 +151,7 @@ private:
     bool m_hasFolds = false;
     // The head of the line, and space for that of the next line.
     std::array<LineHead, 2> m_heads;
+    HeadSequence m_sequence;
     LineHead* m_head = m_heads.data();
     // LineHead::Read() has returned true for it.
     bool m_isHeadPlain = false;

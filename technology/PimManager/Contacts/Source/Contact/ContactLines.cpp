@@ -28,6 +28,12 @@ PropertyId PropertyNamedAt( std::string_view a_text, size_t a_length )
                                                                                         : property;
 }
 
+// The name of a property with a meaning needs no second look.
+bool IsFamiliar( std::optional<PropertyId> a_property )
+{
+    return a_property && *a_property != PropertyId::Other;
+}
+
 PropertyId PropertyOfLine( const PimContactLine& a_line )
 {
     QByteArray buffer;
@@ -47,8 +53,7 @@ ContactLines::ContactLines( const PimContactCard& a_card ) :
 {
     if ( m_view.m_index == nullptr )
         return;
-    m_lines.resize( m_view.m_record.m_lines );
-    size_t count = 0;
+    m_lines.reserve( m_view.m_record.m_lines );
     quint32 begin = m_view.m_record.m_begin;
     for ( IndexReader reader = EntriesOf( m_view.m_index, m_view.m_place ); !reader.AtEnd(); )
     {
@@ -56,20 +61,23 @@ ContactLines::ContactLines( const PimContactCard& a_card ) :
         const IndexReader::Outline outline = reader.Skip();
         if ( outline.m_kind == EntryKind::Line )
         {
-            // An unusual name must be searched.
-            const std::string_view rest = m_view.m_bytes.substr( begin + outline.m_name.m_begin );
-            const std::string_view name = rest.substr( 0, outline.m_name.m_length );
-            const bool isPlain =
-                !name.empty() && ( !outline.m_isContinued || std::none_of( name.begin(), name.end(), IsLineEndByte ) );
             const PropertyId property =
-                isPlain ? PropertyNamedAt( rest, name.size() ) : PropertyOfLine( LineView::LineAt( a_card, place ) );
-            if ( count == m_lines.size() )
-                m_lines.emplace_back();
-            m_lines[count++] = { m_nextId++, 0, place, property };
+                IsFamiliar( outline.m_property ) ? *outline.m_property : PropertyIn( outline, place );
+            m_lines.emplace_back( m_nextId++, 0U, place, property );
             Note( property );
         }
         begin += outline.m_length;
     }
+}
+
+// An unusual name must be searched.
+inline PropertyId ContactLines::PropertyIn( const IndexReader::Outline& a_outline, LinePlace a_place ) const
+{
+    const std::string_view rest = m_view.m_bytes.substr( a_place.m_begin + a_outline.m_name.m_begin );
+    const std::string_view name = rest.substr( 0, a_outline.m_name.m_length );
+    const bool isPlain =
+        !name.empty() && ( !a_outline.m_isContinued || std::none_of( name.begin(), name.end(), IsLineEndByte ) );
+    return isPlain ? PropertyNamedAt( rest, name.size() ) : PropertyOfLine( LineView::LineAt( m_card, a_place ) );
 }
 
 PimContactVersion ContactLines::Version() const

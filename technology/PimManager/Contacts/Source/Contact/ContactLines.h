@@ -34,12 +34,20 @@ PropertyId PropertyNamed( std::string_view a_name );
 /// A line of a contact.
 struct ContactLine
 {
+    ContactLine( int a_id, quint32 a_card, LinePlace a_place, PropertyId a_property ) :
+        m_id( a_id ),
+        m_card( a_card ),
+        m_place( a_place ),
+        m_property( a_property )
+    {
+    }
+
     /// The id, from 1. Edits do not change it.
-    int m_id = 0;
+    int m_id;
     /// The card that contains it: 0 for the card of the contact, else the index of an added card plus one.
-    quint32 m_card = 0;
+    quint32 m_card;
     LinePlace m_place;
-    PropertyId m_property = PropertyId::Other;
+    PropertyId m_property;
 };
 
 /// The lines in their order. Each added line is in its own card, so that all lines are read in the same way.
@@ -148,6 +156,7 @@ private:
     {
         return a_line.m_card == 0 ? m_view : PimContactCardPrivate::LineView::CardOf( m_added[a_line.m_card - 1] );
     }
+    PropertyId PropertyIn( const IndexReader::Outline& a_outline, LinePlace a_place ) const;
     ContactLine Added( const PimContactCard& a_line );
     void Note( PropertyId a_property ) { m_properties[static_cast<size_t>( a_property )] = true; }
     void NoteAll();

@@ -30,8 +30,8 @@ public:
     {
     }
 
-    /// All null dates share their data.
-    static const PimContactDate& Null();
+    /// The data of a date. A null date has none of its own.
+    static const PimContactDatePrivate& Of( const PimContactDate& a_date );
 
     /// \param a_text a decoded value in UTF-8.
     /// \param a_omittedYear the value of X-APPLE-OMIT-YEAR. This year means that the year is unknown.
@@ -42,7 +42,7 @@ public:
     /// \return a null date if the fields are not valid.
     static PimContactDate Make( const DateFields& a_fields );
 
-    static const DateFields& FieldsOf( const PimContactDate& a_date ) { return a_date.d->m_fields; }
+    static const DateFields& FieldsOf( const PimContactDate& a_date ) { return Of( a_date ).m_fields; }
 
     const DateFields m_fields;
     const QString m_text;

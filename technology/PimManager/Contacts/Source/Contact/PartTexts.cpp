@@ -20,20 +20,21 @@ void PartTexts::Read( FieldReader& a_reader, int a_mostParts )
 {
     const EscapedText& value = a_reader.Value().Escaped();
     const Delimiters delimiters = a_reader.ValueDelimiters();
-    const bool isPlain = value.m_literals->empty() && value.m_text.find( '\\' ) == std::string_view::npos;
-    if ( isPlain && ValueDecoder::IsPlain( a_reader.Line() ) && AreAllAscii( value.m_text ) )
-        m_written = value.m_text.data();
-    if ( isPlain )
-        ReadPlain( value.m_text, delimiters, a_mostParts );
-    else
+    if ( !value.m_literals->empty() || value.m_text.find( '\\' ) != std::string_view::npos )
+    {
         ReadEscaped( a_reader.Parts( delimiters ), a_mostParts );
+        return;
+    }
+    if ( !ValueDecoder::IsPlain( a_reader.Line() ) )
+        m_decoded = BytesOf( value.m_text );
+    m_bytes = m_decoded.isEmpty() ? value.m_text.data() : m_decoded.constData();
+    m_isAscii = AreAllAscii( value.m_text );
+    ReadPlain( std::string_view( m_bytes, value.m_text.size() ), delimiters, a_mostParts );
 }
 
 // Each semicolon and each comma delimits.
 void PartTexts::ReadPlain( std::string_view a_value, Delimiters a_delimiters, int a_mostParts )
 {
-    if ( m_written == nullptr )
-        m_texts.reserve( static_cast<int>( a_value.size() ) );
     const bool hasLists = a_delimiters == Delimiters::SemicolonsAndCommas;
     DelimiterSearch search( a_value, ';', hasLists ? ',' : ';' );
     int component = 0;
@@ -42,10 +43,8 @@ void PartTexts::ReadPlain( std::string_view a_value, Delimiters a_delimiters, in
         search.Next();
         const size_t size = search.Place() - begin;
         const std::string_view text = WithoutOuterSpace( std::string_view( a_value.data() + begin, size ) );
-        if ( !text.empty() && m_written != nullptr )
+        if ( !text.empty() )
             AddRange( component, static_cast<int>( text.data() - a_value.data() ), static_cast<int>( text.size() ) );
-        else if ( !text.empty() )
-            Add( component, StringOf( text ) );
         if ( search.Place() < a_value.size() && a_value[search.Place()] == ';' && component + 1 < a_mostParts )
             ++component;
     }
@@ -118,10 +117,10 @@ bool PartTexts::operator==( const PartTexts& a_other ) const
 
 bool PartTexts::IsSamePart( const Part& a_part, const PartTexts& a_other, const Part& a_otherPart ) const
 {
-    if ( a_part.m_component != a_otherPart.m_component || a_part.m_length != a_otherPart.m_length )
+    if ( a_part.m_component != a_otherPart.m_component )
         return false;
-    if ( m_written != nullptr && a_other.m_written != nullptr )
-        return WrittenOf( a_part ) == a_other.WrittenOf( a_otherPart );
+    if ( m_bytes != nullptr && a_other.m_bytes != nullptr )
+        return BytesOfPart( a_part ) == a_other.BytesOfPart( a_otherPart );
     return TextOf( a_part ) == a_other.TextOf( a_otherPart );
 }
 

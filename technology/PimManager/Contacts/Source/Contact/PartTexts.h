@@ -6,6 +6,7 @@
 #include "Text/Bytes.h"
 #include "Values/PartReader.h"
 
+#include <QByteArray>
 #include <QLatin1String>
 #include <QString>
 #include <QStringList>
@@ -56,12 +57,13 @@ private:
     bool Has( int a_component ) const { return ( m_components & BitOf( a_component ) ) != 0; }
     QString TextOf( const Part& a_part ) const
     {
-        return m_written == nullptr ? QString( m_texts.constData() + a_part.m_begin, a_part.m_length )
-                                    : AsciiString( WrittenOf( a_part ) );
+        if ( m_bytes == nullptr )
+            return QString( m_texts.constData() + a_part.m_begin, a_part.m_length );
+        return m_isAscii ? AsciiString( BytesOfPart( a_part ) ) : StringOf( BytesOfPart( a_part ) );
     }
-    std::string_view WrittenOf( const Part& a_part ) const
+    std::string_view BytesOfPart( const Part& a_part ) const
     {
-        return std::string_view( m_written + a_part.m_begin, static_cast<size_t>( a_part.m_length ) );
+        return std::string_view( m_bytes + a_part.m_begin, static_cast<size_t>( a_part.m_length ) );
     }
     QString JoinedTexts( int a_component, QLatin1String a_between ) const;
     void ReadPlain( std::string_view a_value, Delimiters a_delimiters, int a_mostParts );
@@ -70,8 +72,11 @@ private:
     void Add( int a_component, const QString& a_text );
     void AddRange( int a_component, int a_begin, int a_length );
 
-    // The value in the card if it is ASCII without escapes, so that nothing is copied before it is needed.
-    const char* m_written = nullptr;
+    // The value in UTF-8 if it has no escapes: in the card, so that nothing is copied before it is needed, or in
+    // m_decoded.
+    const char* m_bytes = nullptr;
+    QByteArray m_decoded;
+    bool m_isAscii = false;
     // Otherwise the texts of the parts.
     QString m_texts;
     // The texts in the order of their components. Most values have no more than these.

@@ -49,10 +49,10 @@ QVariant ValueOf( const std::optional<int>& a_part )
 
 } // namespace
 
-const PimContactDate& PimContactDatePrivate::Null()
+const PimContactDatePrivate& PimContactDatePrivate::Of( const PimContactDate& a_date )
 {
-    static const PimContactDate s_null( new PimContactDatePrivate( DateFields() ) );
-    return s_null;
+    static const PimContactDatePrivate s_null{ DateFields() };
+    return a_date.d ? *a_date.d : s_null;
 }
 
 PimContactDate PimContactDatePrivate::Read( std::string_view a_text, DateHint a_hint,
@@ -61,18 +61,15 @@ PimContactDate PimContactDatePrivate::Read( std::string_view a_text, DateHint a_
     if ( const std::optional<DateFields> fields = ReadDate( a_text, a_hint, a_omittedYear ) )
         return PimContactDate( new PimContactDatePrivate( *fields ) );
     const std::string_view text = WithoutOuterSpace( a_text );
-    return text.empty() ? Null() : PimContactDate( new PimContactDatePrivate( StringOf( text ) ) );
+    return text.empty() ? PimContactDate() : PimContactDate( new PimContactDatePrivate( StringOf( text ) ) );
 }
 
 PimContactDate PimContactDatePrivate::Make( const DateFields& a_fields )
 {
-    return a_fields.IsValid() ? PimContactDate( new PimContactDatePrivate( a_fields ) ) : Null();
+    return a_fields.IsValid() ? PimContactDate( new PimContactDatePrivate( a_fields ) ) : PimContactDate();
 }
 
-PimContactDate::PimContactDate() :
-    PimContactDate( PimContactDatePrivate::Null() )
-{
-}
+PimContactDate::PimContactDate() = default;
 
 PimContactDate::PimContactDate( const QDate& a_date ) :
     PimContactDate( PimContactDatePrivate::Make( FieldsOfDate( a_date ) ) )
@@ -113,52 +110,52 @@ bool PimContactDate::IsNull() const
 
 bool PimContactDate::IsDate() const
 {
-    return d->m_fields.HasDate();
+    return PimContactDatePrivate::FieldsOf( *this ).HasDate();
 }
 
 bool PimContactDate::HasTime() const
 {
-    return d->m_fields.HasTime();
+    return PimContactDatePrivate::FieldsOf( *this ).HasTime();
 }
 
 bool PimContactDate::IsText() const
 {
-    return !d->m_text.isEmpty();
+    return !PimContactDatePrivate::Of( *this ).m_text.isEmpty();
 }
 
 std::optional<int> PimContactDate::Year() const
 {
-    return d->m_fields.m_year;
+    return PimContactDatePrivate::FieldsOf( *this ).m_year;
 }
 
 std::optional<int> PimContactDate::Month() const
 {
-    return d->m_fields.m_month;
+    return PimContactDatePrivate::FieldsOf( *this ).m_month;
 }
 
 std::optional<int> PimContactDate::Day() const
 {
-    return d->m_fields.m_day;
+    return PimContactDatePrivate::FieldsOf( *this ).m_day;
 }
 
 std::optional<int> PimContactDate::Hour() const
 {
-    return d->m_fields.m_hour;
+    return PimContactDatePrivate::FieldsOf( *this ).m_hour;
 }
 
 std::optional<int> PimContactDate::Minute() const
 {
-    return d->m_fields.m_minute;
+    return PimContactDatePrivate::FieldsOf( *this ).m_minute;
 }
 
 std::optional<int> PimContactDate::Second() const
 {
-    return d->m_fields.m_second;
+    return PimContactDatePrivate::FieldsOf( *this ).m_second;
 }
 
 std::optional<int> PimContactDate::Offset() const
 {
-    return d->m_fields.m_offset;
+    return PimContactDatePrivate::FieldsOf( *this ).m_offset;
 }
 
 bool PimContactDate::IsUtc() const
@@ -168,19 +165,19 @@ bool PimContactDate::IsUtc() const
 
 QString PimContactDate::Text() const
 {
-    return d->m_text;
+    return PimContactDatePrivate::Of( *this ).m_text;
 }
 
 QDate PimContactDate::Date() const
 {
-    const DateFields& fields = d->m_fields;
+    const DateFields& fields = PimContactDatePrivate::FieldsOf( *this );
     const bool isWhole = fields.m_year && fields.m_month && fields.m_day;
     return isWhole ? QDate( *fields.m_year, *fields.m_month, *fields.m_day ) : QDate();
 }
 
 QTime PimContactDate::Time() const
 {
-    const DateFields& fields = d->m_fields;
+    const DateFields& fields = PimContactDatePrivate::FieldsOf( *this );
     const int second = std::min( fields.m_second.value_or( 0 ), 59 );
     return fields.m_hour && fields.m_minute ? QTime( *fields.m_hour, *fields.m_minute, second ) : QTime();
 }
@@ -198,12 +195,15 @@ QDateTime PimContactDate::DateTime() const
 
 QString PimContactDate::ToString() const
 {
-    return IsText() ? d->m_text : StringOf( DateText( d->m_fields, DateFormat::Extended ).Text() );
+    return IsText() ? PimContactDatePrivate::Of( *this ).m_text
+                    : StringOf( DateText( PimContactDatePrivate::FieldsOf( *this ), DateFormat::Extended ).Text() );
 }
 
 bool PimContactDate::operator==( const PimContactDate& a_other ) const
 {
-    return d == a_other.d || ( d->m_fields == a_other.d->m_fields && d->m_text == a_other.d->m_text );
+    return d == a_other.d ||
+           ( PimContactDatePrivate::FieldsOf( *this ) == PimContactDatePrivate::FieldsOf( a_other ) &&
+             PimContactDatePrivate::Of( *this ).m_text == PimContactDatePrivate::Of( a_other ).m_text );
 }
 
 bool PimContactDate::operator!=( const PimContactDate& a_other ) const

@@ -3,10 +3,13 @@
 
 #pragma once
 
+#include "Lines/PropertyTable.h"
+
 #include <PimManager/Contacts/PimContactLine.h>
 
 #include <QtGlobal>
 
+#include <optional>
 #include <string_view>
 
 namespace PimManager::Contacts
@@ -41,6 +44,8 @@ struct LineHead
     ByteRange m_group;
     /// The name without blanks around it. May be empty, and may have any characters except ":" and ";".
     ByteRange m_name;
+    /// The property with that name, if it has been looked up. Read() does not look it up.
+    std::optional<PropertyId> m_property;
     /// From the first semicolon up to the colon or the end. Empty if there are no parameters.
     ByteRange m_parameters;
     /// The position after the colon; the length of the line if there is none.

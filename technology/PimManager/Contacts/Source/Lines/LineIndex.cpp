@@ -81,6 +81,12 @@ inline uint HeaderOf( const Parts& a_parts, bool a_hasFolds, uint a_extras )
     return header | ( a_extras != 0 ? IndexHeader::s_kHasExtras : 0 );
 }
 
+// 0 if the property was not looked up.
+inline uchar PropertyByte( std::optional<PropertyId> a_property )
+{
+    return a_property ? static_cast<uchar>( static_cast<uint>( *a_property ) + 1 ) : uchar( 0 );
+}
+
 template <typename Parts>
 inline uchar* WriteLengths( uchar* a_place, const Parts& a_parts )
 {
@@ -107,6 +113,7 @@ void IndexEntry::SetHead( const LineHead& a_head )
 {
     m_group = a_head.m_group;
     m_name = a_head.m_name;
+    m_property = a_head.m_property;
     m_parameters = a_head.m_parameters;
     m_valueBegin = a_head.m_valueBegin;
     m_hasColon = a_head.m_hasColon;
@@ -186,6 +193,7 @@ void IndexWriter::Add( const IndexEntry& a_entry )
     const uint extras = ExtrasOf( a_entry, HasPlainPlaces( a_entry ) );
     uchar* place = m_buffer.Begin( s_kMostOfLine );
     *place++ = static_cast<uchar>( HeaderOf( a_entry, a_entry.m_hasFolds, extras ) );
+    *place++ = PropertyByte( a_entry.m_property );
     place = WriteNumber( place, a_entry.m_length );
     place = WriteLengths( place, a_entry );
     if ( extras != 0 )
@@ -199,6 +207,7 @@ void IndexWriter::AddPlain( const LineHead& a_head, quint32 a_length, bool a_has
     const uint extras = static_cast<uint>( a_head.m_encoding ) | ( a_joins.m_size > 0 ? s_kHasJoins : 0 );
     uchar* place = m_buffer.Begin( s_kMostOfLine );
     *place++ = static_cast<uchar>( HeaderOf( a_head, a_hasFolds, extras ) );
+    *place++ = PropertyByte( a_head.m_property );
     place = WriteNumber( place, a_length );
     place = WriteLengths( place, a_head );
     if ( extras != 0 )
@@ -305,6 +314,7 @@ void IndexReader::ReadLine( IndexEntry& a_entry )
     a_entry.m_hasFolds = ( header & IndexHeader::s_kHasFolds ) != 0;
     a_entry.m_group = { 0, lengths.m_group };
     a_entry.m_name = { lengths.NameBegin(), lengths.m_name };
+    a_entry.m_property = lengths.Property();
     a_entry.m_parameters = { a_entry.m_name.End(), lengths.m_parameters };
     a_entry.m_valueBegin = a_entry.m_parameters.End() + ( a_entry.m_hasColon ? 1 : 0 );
     a_entry.m_encoding = PimContactEncoding::None;

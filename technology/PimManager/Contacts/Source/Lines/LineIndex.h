@@ -2,12 +2,13 @@
 /// The index of a card: a run of entries, one for each part of the card's bytes.
 ///
 /// The entries are in the order of the parts, and their lengths add up to the length of the card, so every byte belongs
-/// to an entry. In a clean card, an entry has two to five bytes:
+/// to an entry. In a clean card, an entry has two to six bytes:
 ///
-///     header byte | length | [reason] | [lengths of name, group, parameters | extras: encoding, joins, oddities ...]
+///     header byte | length
+///     header byte | property byte | lengths of line, name, group, parameters | extras: encoding, joins, oddities ...
 ///
-/// All numbers except the header are varints: seven bits in each byte, the lowest first. The high bit is set if more
-/// bytes follow.
+/// The second form is for lines. All numbers except the first two bytes are varints: seven bits in each byte, the
+/// lowest first. The high bit is set if more bytes follow.
 
 #pragma once
 
@@ -16,6 +17,8 @@
 #include "Text/CharsetChoice.h"
 
 #include <QtGlobal>
+
+#include <optional>
 
 namespace PimManager::Contacts
 {
@@ -71,6 +74,8 @@ struct IndexEntry
     // For Line.
     ByteRange m_group;
     ByteRange m_name;
+    /// The property with that name, if it was looked up while the card was read.
+    std::optional<PropertyId> m_property;
     ByteRange m_parameters;
     quint32 m_valueBegin = 0;
     bool m_hasColon = false;
@@ -211,6 +216,8 @@ public:
         quint32 m_length = 0;
         /// The name of a line. Empty if its positions are unusual, so that only Next() finds the name.
         ByteRange m_name;
+        /// See IndexEntry.
+        std::optional<PropertyId> m_property;
         /// For a line: there may be line endings in the name.
         bool m_isContinued = false;
     };
@@ -227,6 +234,7 @@ public:
             const LineLengths lengths = ReadLengths( place );
             const uint extras = ( header & IndexHeader::s_kHasExtras ) != 0 ? SkipExtras( place ) : 0;
             outline.m_length = lengths.m_line;
+            outline.m_property = lengths.Property();
             if ( ( extras & IndexHeader::s_kExtraPlaces ) == 0 )
                 outline.m_name = { lengths.NameBegin(), lengths.m_name };
             outline.m_isContinued =
@@ -296,13 +304,20 @@ private:
         quint32 m_name = 0;
         quint32 m_group = 0;
         quint32 m_parameters = 0;
+        // 0, or the number of the property and one.
+        uint m_property = 0;
 
+        std::optional<PropertyId> Property() const
+        {
+            return m_property == 0 ? std::nullopt : std::optional( static_cast<PropertyId>( m_property - 1 ) );
+        }
         quint32 NameBegin() const { return m_group == 0 ? 0 : m_group + 1; }
     };
     static LineLengths ReadLengths( const uchar*& a_place )
     {
         const uint header = *a_place++;
         LineLengths lengths;
+        lengths.m_property = *a_place++;
         lengths.m_line = ReadNumber( a_place );
         lengths.m_name = ReadNumber( a_place );
         if ( ( header & IndexHeader::s_kHasGroup ) != 0 )

@@ -38,6 +38,9 @@ public:
     /// How the break before the piece is undone; not for the first piece.
     PimContactJoin Join() const { return m_join; }
 
+    /// \return the position after a plain fold: the line ending, and a blank if the style removes it.
+    static const char* AfterFold( const char* a_break, const char* a_lineEnd, PimContactFoldStyle a_style );
+
 private:
     quint32 FindBreak() const;
     void StepOver( quint32 a_break );
@@ -64,9 +67,9 @@ private:
 QByteArray Unfolded( std::string_view a_line, const IndexEntry& a_entry, PimContactFoldStyle a_style,
                      ByteRange a_range );
 
-/// Appends the pieces of a part of a line.
-/// \param a_length the length of the part with its breaks.
-void AppendUnfolded( LinePieces a_pieces, quint32 a_length, QByteArray& a_out );
+/// Appends the same to a text.
+void AppendUnfolded( std::string_view a_line, const IndexEntry& a_entry, PimContactFoldStyle a_style, ByteRange a_range,
+                     QByteArray& a_out );
 
 /// \return the line without its line ending.
 inline std::string_view WithoutLineEnd( std::string_view a_line )

@@ -579,6 +579,9 @@ void LogicalLines::WriteLine( const OpenLine& a_line, IndexEntry& a_entry )
 {
     if ( HasUnknownEscape( a_line, a_entry ) )
         a_entry.m_oddities |= PimContactOddity::UnknownEscape;
+    // How the folds of a name are undone depends on the rest of the card.
+    if ( !a_line.m_isHeadFolded )
+        a_entry.m_property = PropertyOf( NameOf( a_line ) );
     m_index.Add( a_entry );
     Wrote( EntryKind::Line, a_entry.m_length );
     m_facts.CountOddities( a_entry.AllOddities() );

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace PimManager::Contacts
 {
@@ -176,8 +177,7 @@ constexpr std::array s_kRows = {
 };
 
 constexpr size_t s_kSlots = 512;
-constexpr quint8 s_kNoRow = 0xFF;
-static_assert( s_kRows.size() < s_kNoRow );
+static_assert( s_kRows.size() <= std::numeric_limits<quint8>::max() );
 
 // The first eight bytes of a name in upper case, and its length.
 struct Key
@@ -200,36 +200,35 @@ struct Key
         const quint64 mixed = ( m_bytes + m_length * 0x9E3779B97F4A7C15ULL ) * 0xD6E8FEB86659FD93ULL;
         return static_cast<size_t>( mixed >> 55U );
     }
-
-    bool IsEqual( const Key& a_other ) const { return m_bytes == a_other.m_bytes && m_length == a_other.m_length; }
 };
 
-constexpr std::array<Key, s_kRows.size()> KeysOfRows()
+// A row as it is searched for. Most names have no more bytes than the key, so their rows are not read.
+struct Slot
 {
-    std::array<Key, s_kRows.size()> keys = {};
-    for ( size_t i = 0; i < s_kRows.size(); ++i )
-        keys[i] = Key( s_kRows[i].m_name );
-    return keys;
-}
+    quint64 m_bytes = 0;
+    quint8 m_length = 0; // 0 if there is no row
+    quint8 m_row = 0;
+    PropertyId m_property = PropertyId::Other;
 
-constexpr std::array<Key, s_kRows.size()> s_kKeys = KeysOfRows();
+    bool IsFree() const { return m_length == 0; }
+};
 
-constexpr std::array<quint8, s_kSlots> FilledSlots()
+constexpr std::array<Slot, s_kSlots> FilledSlots()
 {
-    std::array<quint8, s_kSlots> filled = {};
-    for ( quint8& row : filled )
-        row = s_kNoRow;
-    for ( size_t i = 0; i < s_kRows.size(); ++i )
+    std::array<Slot, s_kSlots> filled = {};
+    for ( size_t row = 0; row < s_kRows.size(); ++row )
     {
-        size_t slot = s_kKeys[i].Slot();
-        while ( filled[slot] != s_kNoRow )
+        const Key key( s_kRows[row].m_name );
+        size_t slot = key.Slot();
+        while ( filled[slot].m_length != 0 )
             slot = ( slot + 1 ) % s_kSlots;
-        filled[slot] = static_cast<quint8>( i );
+        filled[slot] = { key.m_bytes, static_cast<quint8>( key.m_length ), static_cast<quint8>( row ),
+                         s_kRows[row].m_property };
     }
     return filled;
 }
 
-constexpr std::array<quint8, s_kSlots> s_kFilledSlots = FilledSlots();
+constexpr std::array<Slot, s_kSlots> s_kFilledSlots = FilledSlots();
 
 // The same as the constructor, which must work at compile time.
 Key KeyOf( std::string_view a_text, size_t a_length )
@@ -240,11 +239,12 @@ Key KeyOf( std::string_view a_text, size_t a_length )
     return key;
 }
 
-bool IsNameOf( size_t a_row, const Key& a_key, std::string_view a_name )
+bool IsNameOf( const Slot& a_slot, const Key& a_key, std::string_view a_text )
 {
     constexpr size_t length = sizeof( a_key.m_bytes );
-    return s_kKeys[a_row].IsEqual( a_key ) &&
-           ( a_name.size() <= length || IsSameWord( s_kRows[a_row].m_name.substr( length ), a_name.substr( length ) ) );
+    return a_slot.m_bytes == a_key.m_bytes && a_slot.m_length == a_key.m_length &&
+           ( a_key.m_length <= length || IsSameWord( s_kRows[a_slot.m_row].m_name.substr( length ),
+                                                     a_text.substr( length, a_key.m_length - length ) ) );
 }
 
 } // namespace
@@ -256,15 +256,11 @@ PropertyId PropertyOf( std::string_view a_name )
 
 PropertyId PropertyAt( std::string_view a_text, size_t a_length )
 {
-    const std::string_view name = a_text.substr( 0, a_length );
     const Key key = KeyOf( a_text, a_length );
-    size_t slot = key.Slot();
-    while ( s_kFilledSlots[slot] != s_kNoRow )
+    for ( size_t slot = key.Slot(); !s_kFilledSlots[slot].IsFree(); slot = ( slot + 1 ) % s_kSlots )
     {
-        const size_t row = s_kFilledSlots[slot];
-        if ( IsNameOf( row, key, name ) )
-            return s_kRows[row].m_property;
-        slot = ( slot + 1 ) % s_kSlots;
+        if ( IsNameOf( s_kFilledSlots[slot], key, a_text ) )
+            return s_kFilledSlots[slot].m_property;
     }
     return PropertyId::Other;
 }

@@ -88,8 +88,8 @@ size_t EndOfWords( std::string_view a_text )
     while ( place < a_text.size() )
     {
         const bool isSingleBlank =
-            a_text[place] == ' ' && place + 1 < a_text.size() && IsVisibleAscii( a_text[place + 1] );
-        const bool isInside = IsVisibleAscii( a_text[place] ) || isSingleBlank || !MayBeginSpace( a_text[place] );
+            a_text[place] == ' ' && place + 1 < a_text.size() && !MayBeginSpace( a_text[place + 1] );
+        const bool isInside = isSingleBlank || !MayBeginSpace( a_text[place] );
         if ( !isInside && LengthOfWhiteSpace( a_text.substr( place ) ) > 0 )
             break;
         ++place;

@@ -230,7 +230,7 @@ void ValueDecoder::Unfold( const IndexedLine& a_line, ByteRange a_range )
     if ( !a_line.IsContinued() )
         return;
     Empty( m_unfolded );
-    AppendUnfolded( a_line.Pieces( a_range ), a_range.m_length, m_unfolded );
+    a_line.AppendUnfolded( a_range, m_unfolded );
     m_escaped.m_text = ViewOf( m_unfolded );
 }
 

@@ -56,7 +56,7 @@ std::string_view PlainChange::ValueOf( std::string_view a_bytes, const IndexRead
     entry.m_hasFolds = true;
     const quint32 length = static_cast<quint32>( text.size() ) - begin;
     Empty( m_unfolded );
-    AppendUnfolded( LinePieces( text, entry, m_foldStyle, { begin, length } ), length, m_unfolded );
+    AppendUnfolded( text, entry, m_foldStyle, { begin, length }, m_unfolded );
     return ViewOf( m_unfolded );
 }
 

@@ -70,7 +70,7 @@ constexpr std::array s_kUris = {
     Row{ "IMPP:", "", "", "" },
 };
 
-constexpr std::array s_kProperties = {
+constexpr std::array s_kVendorLines = {
     Row{ "X-AIM:omega", "AIM", "omega", "" },
     Row{ "X-ICQ;TYPE=WORK:5550", "ICQ", "5550", "" },
     Row{ "X-MSN:omega@example.com", "MSN", "omega@example.com", "" },
@@ -168,7 +168,7 @@ TEST( MessengerTest, UrisAreRead )
 
 TEST( MessengerTest, PropertiesOfServicesAreRead )
 {
-    ExpectParts( s_kProperties );
+    ExpectParts( s_kVendorLines );
 }
 
 TEST( MessengerTest, ProfilesAreRead )

@@ -279,6 +279,22 @@ TEST( LineIndexTest, SoftBreaksTakeOneBlankMore )
     EXPECT_EQ( found, expected );
 }
 
+TEST( LineIndexTest, PropertyIsKept )
+{
+    for ( size_t number = 0; number <= s_kProperties; ++number )
+    {
+        LineHead head = LineHead::Of( "TEL;TYPE=home:1" );
+        if ( number < s_kProperties )
+            head.m_property = static_cast<PropertyId>( number );
+        IndexWriter writer;
+        writer.AddPlain( head, 15, false, {} );
+        IndexEntry entry;
+        ReaderOf( writer.Bytes() ).Next( entry );
+        EXPECT_EQ( entry.m_property, head.m_property ) << number;
+        EXPECT_EQ( ReaderOf( writer.Bytes() ).Skip().m_property, head.m_property ) << number;
+    }
+}
+
 TEST( LineIndexTest, CleanLinesAreWrittenLikeOthers )
 {
     for ( const char* const text :

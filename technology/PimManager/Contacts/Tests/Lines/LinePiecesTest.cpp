@@ -50,6 +50,15 @@ std::string Pieces( const PieceRow& a_row, const IndexEntry& a_entry, ByteRange 
     return text;
 }
 
+// A line ending that belongs to no join.
+bool HasFolds( const PieceRow& a_row )
+{
+    std::string line = a_row.m_line;
+    for ( const LineJoin& join : a_row.m_joins )
+        line.replace( join.m_begin, join.m_length, std::string( join.m_length, 'x' ) );
+    return line.find_first_of( "\r\n" ) != std::string::npos;
+}
+
 class LinePiecesTest : public ::testing::TestWithParam<PieceRow>
 {
 };
@@ -131,6 +140,7 @@ TEST_P( LinePiecesTest, BreaksAreUndone )
         joins.Add( join );
     IndexEntry entry;
     entry.m_joins = joins.Bytes();
+    entry.m_hasFolds = HasFolds( row );
     const quint32 length =
         row.m_length == s_kAll ? static_cast<quint32>( row.m_line.size() ) - row.m_begin : row.m_length;
     const ByteRange range = { row.m_begin, length };

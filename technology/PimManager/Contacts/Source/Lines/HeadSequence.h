@@ -1,0 +1,72 @@
+/// \file
+/// Predicts the heads of lines.
+
+#pragma once
+
+#include "Lines/LineHead.h"
+
+#include <QtGlobal>
+
+#include <array>
+#include <string_view>
+
+namespace PimManager::Contacts
+{
+
+/// The cards of a book have nearly the same heads in the same order, such as `N:`, `FN:`, `TEL;TYPE=CELL:`. A
+/// comparison with the head that followed the last one before is faster than reading a head.
+class HeadSequence
+{
+public:
+    /// Begins a card.
+    void Restart() { m_current = s_kStart; }
+
+    /// \return the head of the next line if it is the expected one; null if it must be read. Valid until Learn().
+    const LineHead* Next( std::string_view a_line )
+    {
+        const quint8 expected = m_slots[m_current].m_next;
+        const Slot& slot = m_slots[expected];
+        if ( !slot.Begins( a_line ) )
+            return nullptr;
+        m_current = expected;
+        return &slot.m_head;
+    }
+
+    /// Remembers the head of a line that was not the expected one. A long head is not remembered.
+    /// \param a_head LineHead::Read() has returned true for it.
+    void Learn( std::string_view a_line, const LineHead& a_head );
+
+private:
+    static constexpr size_t s_kLongest = 48;
+    static constexpr size_t s_kSlots = 32;
+    // The slot before the first line. It has no head.
+    static constexpr quint8 s_kStart = 0;
+
+    struct Slot
+    {
+        bool Begins( std::string_view a_line ) const;
+        void Set( std::string_view a_text, const LineHead& a_head );
+        std::string_view Text() const { return std::string_view( m_text.data(), m_length ); }
+
+        std::array<char, s_kLongest> m_text = {};
+        // 0 if there is no head.
+        quint8 m_length = 0;
+        // The slot of the head that followed the last time.
+        quint8 m_next = s_kStart;
+        LineHead m_head;
+    };
+
+    quint8 NextToFill();
+
+    std::array<Slot, s_kSlots> m_slots;
+    quint8 m_current = s_kStart;
+    // The slot that was filled last.
+    size_t m_filled = s_kStart;
+};
+
+inline bool HeadSequence::Slot::Begins( std::string_view a_line ) const
+{
+    return m_length > 0 && a_line.substr( 0, m_length ) == Text();
+}
+
+} // namespace PimManager::Contacts

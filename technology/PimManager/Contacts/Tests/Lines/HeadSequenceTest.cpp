@@ -1,0 +1,136 @@
+#include "Lines/HeadSequence.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+#include <string>
+
+using namespace PimManager::Contacts;
+
+namespace
+{
+
+/// Reads a line as the reader of cards does.
+/// \param[out] a_isExpected true if the head was the expected one.
+LineHead HeadOf( HeadSequence& a_sequence, std::string_view a_line, bool& a_isExpected )
+{
+    const LineHead* const known = a_sequence.Next( a_line );
+    a_isExpected = known != nullptr;
+    if ( known != nullptr )
+        return *known;
+    LineHead head;
+    if ( head.Read( a_line ) )
+        a_sequence.Learn( a_line, head );
+    return head;
+}
+
+bool IsExpected( HeadSequence& a_sequence, std::string_view a_line )
+{
+    bool isExpected = false;
+    HeadOf( a_sequence, a_line, isExpected );
+    return isExpected;
+}
+
+std::string Described( ByteRange a_range )
+{
+    return std::to_string( a_range.m_begin ) + '+' + std::to_string( a_range.m_length ) + ' ';
+}
+
+std::string Described( const LineHead& a_head )
+{
+    return Described( a_head.m_group ) + Described( a_head.m_name ) + Described( a_head.m_parameters ) +
+           Described( a_head.m_charset ) + std::to_string( a_head.m_valueBegin ) + ' ' +
+           std::to_string( static_cast<int>( a_head.m_encoding ) ) + ' ' +
+           std::to_string( static_cast<int>( a_head.m_oddities ) ) + ( a_head.m_hasColon ? " colon" : "" ) +
+           ( a_head.m_hasWordsForParameters ? " words" : "" );
+}
+
+constexpr std::array<std::string_view, 14> s_kHeads = { "N:",
+                                                        "FN:",
+                                                        "F:",
+                                                        "TEL:",
+                                                        "TEL;TYPE=HOME:",
+                                                        "TEL;TYPE=HOME,VOICE:",
+                                                        "item1.TEL;TYPE=HOME:",
+                                                        "item2.TEL;TYPE=HOME:",
+                                                        "N;CHARSET=UTF-8;ENCODING=QUOTED-PRINTABLE:",
+                                                        "N;ENCODING=QUOTED-PRINTABLE;CHARSET=UTF-8:",
+                                                        "X-A-HEAD-THAT-IS-LONGER-THAN-WHAT-IS-REMEMBERED;TYPE=HOME:",
+                                                        "tel:",
+                                                        "see you: ",
+                                                        "NOTE;X=\"open:" };
+
+} // namespace
+
+TEST( HeadSequenceTest, FirstCardIsRead )
+{
+    HeadSequence sequence;
+    EXPECT_FALSE( IsExpected( sequence, "N:a" ) );
+    EXPECT_FALSE( IsExpected( sequence, "TEL:1" ) );
+}
+
+TEST( HeadSequenceTest, SameOrderIsExpected )
+{
+    HeadSequence sequence;
+    for ( int card = 0; card < 3; ++card )
+    {
+        sequence.Restart();
+        for ( const char* const line : { "VERSION:3.0", "N:a", "TEL;TYPE=HOME:1", "TEL;TYPE=CELL:2" } )
+            EXPECT_EQ( IsExpected( sequence, line ), card > 0 ) << card << ' ' << line;
+    }
+}
+
+TEST( HeadSequenceTest, HeadThatBeginsAlikeIsNotExpected )
+{
+    for ( const char* const line : { "TEL;TYPE=HOME,VOICE:1", "TEL;TYPE=HOM", "TEL;TYPE=HOME", "TEL;type=HOME:1", "" } )
+    {
+        HeadSequence sequence;
+        EXPECT_FALSE( IsExpected( sequence, "TEL;TYPE=HOME:1" ) );
+        sequence.Restart();
+        EXPECT_EQ( sequence.Next( line ), nullptr ) << line;
+    }
+}
+
+TEST( HeadSequenceTest, PropertyIsRemembered )
+{
+    HeadSequence sequence;
+    LineHead head = LineHead::Of( "TEL:1" );
+    head.m_property = PropertyId::Tel;
+    sequence.Learn( "TEL:1", head );
+    sequence.Restart();
+    const LineHead* const known = sequence.Next( "TEL:2" );
+    ASSERT_NE( known, nullptr );
+    EXPECT_EQ( known->m_property, PropertyId::Tel );
+}
+
+TEST( HeadSequenceTest, LongHeadIsNotRemembered )
+{
+    HeadSequence sequence;
+    const std::string name( 48, 'X' );
+    for ( const std::string& line : { name + ":1", name.substr( 1 ) + ":1" } )
+    {
+        sequence.Restart();
+        EXPECT_FALSE( IsExpected( sequence, line ) );
+        sequence.Restart();
+        EXPECT_EQ( IsExpected( sequence, line ), line.size() == 49 ) << line;
+    }
+}
+
+TEST( HeadSequenceTest, EachHeadIsThatOfItsLine )
+{
+    std::mt19937 random( 20261 );
+    HeadSequence sequence;
+    int expected = 0;
+    for ( int i = 0; i < 20000; ++i )
+    {
+        if ( random() % 10 == 0 )
+            sequence.Restart();
+        const std::string extra = random() % 8 == 0 ? "X-" + std::to_string( random() % 50 ) + ':' : std::string();
+        const std::string line = extra + std::string( s_kHeads.at( random() % s_kHeads.size() ) ) + "a;b:c";
+        bool isExpected = false;
+        EXPECT_EQ( Described( HeadOf( sequence, line, isExpected ) ), Described( LineHead::Of( line ) ) ) << line;
+        expected += isExpected ? 1 : 0;
+    }
+    EXPECT_GT( expected, 500 );
+}

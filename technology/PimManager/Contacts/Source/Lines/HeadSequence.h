@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Lines/LineHead.h"
+#include "Text/EightBytes.h"
 
 #include <QtGlobal>
 
@@ -64,9 +65,18 @@ private:
     size_t m_filled = s_kStart;
 };
 
+// Most lines differ in the first eight bytes or not at all. The last eight bytes overlap those before.
 inline bool HeadSequence::Slot::Begins( std::string_view a_line ) const
 {
-    return m_length > 0 && a_line.substr( 0, m_length ) == Text();
+    if ( a_line.size() < m_length || m_length < s_kWord )
+        return m_length > 0 && a_line.substr( 0, m_length ) == Text();
+    const size_t last = m_length - s_kWord;
+    for ( size_t place = 0; place < last; place += s_kWord )
+    {
+        if ( WordAt( m_text.data() + place ) != WordAt( a_line.data() + place ) )
+            return false;
+    }
+    return WordAt( m_text.data() + last ) == WordAt( a_line.data() + last );
 }
 
 } // namespace PimManager::Contacts

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -62,7 +63,7 @@ Row MakeRow( const char* a_name, int a_versions, const Field& a_field, int ( Pim
             return "it is another one";
         if ( fields.constLast().Id() != id )
             return "it has another id";
-        if ( fields.mid( 0, before.size() ) != before )
+        if ( !std::equal( before.begin(), before.end(), fields.begin() ) )
             return "others changed";
         return std::string();
     };

@@ -16,6 +16,7 @@
 #include <QSharedDataPointer>
 #include <QString>
 #include <QStringList>
+#include <QVarLengthArray>
 #include <QVariant>
 #include <QVector>
 #include <QtCore/qobjectdefs.h>
@@ -102,12 +103,18 @@ private:
     QVariant PreferenceValue() const;
 };
 
-/// The fields of one kind, in the order of the card. A QVector with a few more functions.
+/// The fields of one kind, in the order of the card. A QVarLengthArray with a few more functions. Most cards have one
+/// or two fields of a kind, and a list of these allocates no memory. The fields are implicitly shared, but the list is
+/// not.
 template <class Field>
-class PimContactList : public QVector<Field>
+class PimContactList : public QVarLengthArray<Field, 2>
 {
 public:
-    using QVector<Field>::QVector;
+    using QVarLengthArray<Field, 2>::QVarLengthArray;
+
+    /// \return the first or the last field. The list must not be empty.
+    const Field& constFirst() const { return this->first(); }
+    const Field& constLast() const { return this->last(); }
 
     /// \return the preferred field: the one with the lowest Preference(), or else the first one. An empty field if
     ///         there is none. Linear.

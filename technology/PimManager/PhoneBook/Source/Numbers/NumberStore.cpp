@@ -1,0 +1,97 @@
+#include "Numbers/NumberStore.h"
+
+#include <algorithm>
+
+namespace PimManager::PhoneBook
+{
+
+int NumberStore::Append( int a_contact, int a_line, std::string_view a_digits, uint a_form,
+                         std::string_view a_extension )
+{
+    const int number = Size();
+    while ( m_firsts.size() <= static_cast<size_t>( a_contact ) )
+        m_firsts.push_back( static_cast<quint32>( number ) );
+    m_begins.push_back( static_cast<quint32>( m_bytes.size() ) );
+    AddMarked( a_form );
+    for ( auto line = static_cast<uint>( a_line ); line > 0; line >>= s_kBitsOfByte )
+        AddMarked( line );
+    m_bytes += a_digits;
+    // A number without digits is not all marked: the zero ends its line.
+    if ( a_digits.empty() )
+        m_bytes += '\0';
+    for ( const char digit : a_extension )
+        AddMarked( static_cast<uchar>( digit ) );
+    return number;
+}
+
+void NumberStore::Squeeze()
+{
+    m_bytes.shrink_to_fit();
+    m_begins.shrink_to_fit();
+    m_firsts.shrink_to_fit();
+}
+
+std::string_view NumberStore::Digits( int a_number ) const
+{
+    const size_t begin = BeginOfDigits( a_number );
+    if ( m_bytes[begin] == '\0' )
+        return {};
+    return std::string_view( m_bytes ).substr( begin, EndOfDigits( a_number ) - begin );
+}
+
+std::string NumberStore::Extension( int a_number ) const
+{
+    std::string extension;
+    for ( size_t place = EndOfDigits( a_number ); place < End( a_number ); ++place )
+        extension += static_cast<char>( Byte( place ) & s_kBits );
+    return extension;
+}
+
+int NumberStore::LineOf( int a_number ) const
+{
+    uint line = 0;
+    uint shift = 0;
+    for ( size_t place = Begin( a_number ) + 1; IsMarked( place ); ++place, shift += s_kBitsOfByte )
+        line |= ( Byte( place ) & s_kBits ) << shift;
+    return static_cast<int>( line );
+}
+
+int NumberStore::ContactOf( int a_number ) const
+{
+    const auto after = std::upper_bound( m_firsts.begin(), m_firsts.end(), static_cast<quint32>( a_number ) );
+    return static_cast<int>( after - m_firsts.begin() ) - 1;
+}
+
+int NumberStore::First( int a_contact ) const
+{
+    const auto contact = static_cast<size_t>( a_contact );
+    return contact < m_firsts.size() ? static_cast<int>( m_firsts[contact] ) : Size();
+}
+
+size_t NumberStore::Bytes() const
+{
+    return m_bytes.capacity() + ( m_begins.capacity() + m_firsts.capacity() ) * sizeof( quint32 );
+}
+
+size_t NumberStore::End( int a_number ) const
+{
+    return a_number + 1 < Size() ? Begin( a_number + 1 ) : m_bytes.size();
+}
+
+size_t NumberStore::BeginOfDigits( int a_number ) const
+{
+    size_t place = Begin( a_number ) + 1;
+    while ( IsMarked( place ) )
+        ++place;
+    return place;
+}
+
+size_t NumberStore::EndOfDigits( int a_number ) const
+{
+    size_t place = End( a_number );
+    while ( IsMarked( place - 1 ) )
+        --place;
+    return place;
+}
+
+} // namespace PimManager::PhoneBook

@@ -1,9 +1,12 @@
 #include "Numbers/NumberStore.h"
 
 #include <algorithm>
+#include <climits>
 
 namespace PimManager::PhoneBook
 {
+
+using namespace std::string_view_literals;
 
 int NumberStore::Append( int a_contact, int a_line, std::string_view a_digits, uint a_form,
                          std::string_view a_extension )
@@ -12,16 +15,23 @@ int NumberStore::Append( int a_contact, int a_line, std::string_view a_digits, u
     while ( m_firsts.size() <= static_cast<size_t>( a_contact ) )
         m_firsts.push_back( static_cast<quint32>( number ) );
     m_begins.push_back( static_cast<quint32>( m_bytes.size() ) );
-    AddMarked( a_form );
-    for ( auto line = static_cast<uint>( a_line ); line > 0; line >>= s_kBitsOfByte )
-        AddMarked( line );
-    m_bytes += a_digits;
     // A number without digits is not all marked: the zero ends its line.
-    if ( a_digits.empty() )
-        m_bytes += '\0';
-    for ( const char digit : a_extension )
-        AddMarked( static_cast<uchar>( digit ) );
+    AddBytes( static_cast<uint>( a_line ), a_form, a_digits.empty() ? "\0"sv : a_digits, a_extension );
     return number;
+}
+
+void NumberStore::AddBytes( uint a_line, uint a_form, std::string_view a_digits, std::string_view a_extension )
+{
+    constexpr size_t s_kMostOfLine = ( CHAR_BIT * sizeof( uint ) + s_kBitsOfByte - 1 ) / s_kBitsOfByte;
+    const size_t begin = m_bytes.size();
+    m_bytes.resize( begin + 1 + s_kMostOfLine + a_digits.size() + a_extension.size() );
+    char* place = &m_bytes[begin];
+    *place++ = Marked( a_form );
+    for ( uint line = a_line; line > 0; line >>= s_kBitsOfByte )
+        *place++ = Marked( line );
+    place = std::copy( a_digits.begin(), a_digits.end(), place );
+    place = std::transform( a_extension.begin(), a_extension.end(), place, Marked );
+    m_bytes.resize( static_cast<size_t>( place - m_bytes.data() ) );
 }
 
 void NumberStore::Squeeze()

@@ -38,6 +38,7 @@ public:
     /// \return the digits without an extension. Valid until a number is added. Constant time.
     std::string_view Digits( int a_number ) const;
 
+    bool HasExtension( int a_number ) const { return IsMarked( End( a_number ) - 1 ); }
     /// \return the digits of the extension. Constant time for one of bounded length.
     std::string Extension( int a_number ) const;
     uint Form( int a_number ) const { return Byte( m_begins[static_cast<size_t>( a_number )] ) & s_kBits; }
@@ -61,7 +62,8 @@ private:
 
     uint Byte( size_t a_place ) const { return static_cast<uchar>( m_bytes[a_place] ); }
     bool IsMarked( size_t a_place ) const { return ( Byte( a_place ) & s_kMark ) != 0; }
-    void AddMarked( uint a_bits ) { m_bytes += static_cast<char>( ( a_bits & s_kBits ) | s_kMark ); }
+    static char Marked( uint a_bits ) { return static_cast<char>( ( a_bits & s_kBits ) | s_kMark ); }
+    void AddBytes( uint a_line, uint a_form, std::string_view a_digits, std::string_view a_extension );
     size_t Begin( int a_number ) const { return m_begins[static_cast<size_t>( a_number )]; }
     size_t End( int a_number ) const;
     /// The place of the first digit.

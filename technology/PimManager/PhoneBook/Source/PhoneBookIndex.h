@@ -3,6 +3,9 @@
 
 #pragma once
 
+#include "Callers/CallerIndex.h"
+#include "Numbers/NumberStore.h"
+
 #include <PimManager/Contacts/PimContactBook.h>
 #include <PimManager/PhoneBook/PimPhoneBookMatch.h>
 #include <PimManager/PhoneBook/PimPhoneBookOptions.h>
@@ -20,6 +23,8 @@ public:
     Contacts::PimContactBook m_book;
     PimPhoneBookOptions m_options;
     QVector<int> m_sorted;
+    NumberStore m_numbers;
+    CallerIndex m_callers;
 };
 
 } // namespace PimManager::PhoneBook

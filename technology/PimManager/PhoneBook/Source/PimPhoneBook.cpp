@@ -1,5 +1,6 @@
 #include <PimManager/PhoneBook/PimPhoneBook.h>
 
+#include "Numbers/WrittenNumber.h"
 #include "PhoneBookIndex.h"
 
 #include <algorithm>
@@ -24,6 +25,25 @@ QString DigitsOf( const QString& a_text )
 
 } // namespace
 
+namespace
+{
+
+// The lines of a card are read faster than the phones of a contact. The ids of its lines count from 1.
+void AddNumbers( NumberStore& a_numbers, int a_contact, const Contacts::PimContactCard& a_card )
+{
+    int id = 0;
+    for ( const Contacts::PimContactLine& line : a_card )
+    {
+        ++id;
+        if ( !line.IsNamed( QLatin1String( "TEL" ) ) )
+            continue;
+        const WrittenNumber number = ReadWrittenNumber( line.Text() );
+        a_numbers.Append( a_contact, id, number.Digits(), number.m_form, number.m_extension.View() );
+    }
+}
+
+} // namespace
+
 PimPhoneBook::PimPhoneBook() :
     d( new PimPhoneBookPrivate )
 {
@@ -34,6 +54,10 @@ PimPhoneBook::PimPhoneBook( const Contacts::PimContactBook& a_book, const PimPho
 {
     d->m_book = a_book;
     d->m_options = a_options;
+    for ( int contact = 0; contact < a_book.Size(); ++contact )
+        AddNumbers( d->m_numbers, contact, a_book.CardAt( contact ) );
+    d->m_numbers.Squeeze();
+    d->m_callers = CallerIndex( d->m_numbers, HomeOf( a_options.Region() ), a_options.EndingDigits() );
     d->m_sorted.resize( a_book.Size() );
     std::iota( d->m_sorted.begin(), d->m_sorted.end(), 0 );
     std::sort( d->m_sorted.begin(), d->m_sorted.end(),
@@ -79,17 +103,7 @@ QString PimPhoneBook::Section( int a_contact ) const
 
 QVector<PimPhoneBookCaller> PimPhoneBook::WhoIs( const QString& a_number ) const
 {
-    QVector<PimPhoneBookCaller> callers;
-    const QString ending = DigitsOf( a_number ).right( d->m_options.EndingDigits() );
-    for ( int contact = 0; !ending.isEmpty() && contact < Size(); ++contact )
-    {
-        for ( const Contacts::PimContactPhone& phone : At( contact ).Phones() )
-        {
-            if ( DigitsOf( phone.Number() ).endsWith( ending ) )
-                callers.append( { contact, phone.Id(), PimPhoneBookGrade::Ending } );
-        }
-    }
-    return callers;
+    return d->m_callers.Find( d->m_numbers, ReadWrittenNumber( a_number ) );
 }
 
 QVector<PimPhoneBookMatch> PimPhoneBook::Find( const QString& a_text ) const

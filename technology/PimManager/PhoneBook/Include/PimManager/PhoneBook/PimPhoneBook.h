@@ -64,11 +64,13 @@ public:
     QString Section( int a_contact ) const;
 
     /// Finds the contacts that have a number.
-    /// \param a_number a number as a network or a person gives it; may be empty.
-    /// \return all contacts with that number, the best grade first, and in the order of the book within a grade. A
-    /// contact
-    ///         with several equal numbers is found once, with the best one. Several contacts mean that the caller is
-    ///         ambiguous.
+    /// \param a_number a number as a network or a person gives it, as PimPhoneBookNumber::FromText() reads it; may be
+    ///                 empty.
+    /// \return all contacts with that number, the best grade first, and in the order of the book within a grade. The
+    ///         grades are those of PimPhoneBookNumber::Compare(). A contact with several equal numbers is found once,
+    ///         with the best one. Several contacts mean that the caller is ambiguous. Empty if nobody has the number.
+    ///         The work grows with the length of the number and with the numbers that end with the same digits, but
+    ///         not with the size of the book.
     QVector<PimPhoneBookCaller> WhoIs( const QString& a_number ) const;
 
     /// Finds the contacts that contain each word of a text.

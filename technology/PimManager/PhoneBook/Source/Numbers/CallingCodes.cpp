@@ -1,5 +1,7 @@
 #include "Numbers/CallingCodes.h"
 
+#include "Numbers/PrefixLists.h"
+
 #include <algorithm>
 #include <array>
 #include <climits>
@@ -15,7 +17,7 @@ using namespace std::string_view_literals;
 // Facts from public sources: the list of assigned country codes (ITU-T E.164.D), the dialling procedures
 // (ITU-T E.164.C), and the national numbering plans that administrations publish at the ITU (ITU-T E.129).
 
-// Prefixes are tried in this order. `n` is any digit. After `=`: the number of digits that must follow.
+// Prefixes as PrefixLists.h describes them.
 enum Trunk : uchar
 {
     TNone,
@@ -130,93 +132,8 @@ constexpr std::array<std::string_view, IPalau + 1> s_kInternationals = { {
     "011 012 00",
 } };
 
-struct Prefix
-{
-    bool StartsWith( std::string_view a_digits ) const
-    {
-        size_t size = 0;
-        while ( size < m_size && size < a_digits.size() &&
-                ( m_digits[size] == a_digits[size] || m_digits[size] == 'n' ) )
-            ++size;
-        return size == m_size && size > 0;
-    }
-
-    std::array<char, 5> m_digits;
-    uchar m_size;
-    // The number of digits that must follow; 0 if any may.
-    uchar m_rest;
-    bool m_isLast;
-};
-
-/// Lists of prefixes, one after the other.
-template <size_t a_lists, size_t a_prefixes>
-struct PrefixLists
-{
-    std::array<uchar, a_lists> m_begins;
-    std::array<Prefix, a_prefixes> m_prefixes;
-};
-
-/// \return the number of words. An empty text has one, which is empty.
-template <size_t a_lists>
-constexpr size_t CountWords( const std::array<std::string_view, a_lists>& a_texts )
-{
-    size_t count = a_lists;
-    for ( const std::string_view text : a_texts )
-    {
-        for ( const char character : text )
-            count += character == ' ' ? 1 : 0;
-    }
-    return count;
-}
-
-constexpr Prefix PrefixOf( std::string_view a_word )
-{
-    Prefix prefix{};
-    for ( ; prefix.m_size < a_word.size() && a_word[prefix.m_size] != '='; ++prefix.m_size )
-        prefix.m_digits[prefix.m_size] = a_word[prefix.m_size];
-    for ( size_t place = prefix.m_size + 1U; place < a_word.size(); ++place )
-        prefix.m_rest = static_cast<uchar>( prefix.m_rest * 10 + a_word[place] - '0' );
-    return prefix;
-}
-
-template <size_t a_prefixes, size_t a_lists>
-constexpr PrefixLists<a_lists, a_prefixes> ListsOf( const std::array<std::string_view, a_lists>& a_texts )
-{
-    PrefixLists<a_lists, a_prefixes> lists{};
-    size_t count = 0;
-    for ( size_t list = 0; list < a_lists; ++list )
-    {
-        lists.m_begins[list] = static_cast<uchar>( count );
-        std::string_view rest = a_texts[list];
-        do
-        {
-            const size_t size = std::min( rest.find( ' ' ), rest.size() );
-            lists.m_prefixes[count++] = PrefixOf( rest.substr( 0, size ) );
-            rest.remove_prefix( std::min( size + 1, rest.size() ) );
-        } while ( !rest.empty() );
-        lists.m_prefixes[count - 1].m_isLast = true;
-    }
-    return lists;
-}
-
 constexpr auto s_kTrunkLists = ListsOf<CountWords( s_kTrunks )>( s_kTrunks );
 constexpr auto s_kInternationalLists = ListsOf<CountWords( s_kInternationals )>( s_kInternationals );
-
-template <class Lists>
-const Prefix* FirstOf( const Lists& a_lists, uchar a_list )
-{
-    return &a_lists.m_prefixes[a_lists.m_begins[a_list]];
-}
-
-const Prefix* NextOf( const Prefix* a_prefix )
-{
-    return a_prefix->m_isLast ? nullptr : a_prefix + 1;
-}
-
-bool IsRest( const Prefix& a_prefix, std::string_view a_rest )
-{
-    return !a_rest.empty() && a_rest.front() != '0' && ( a_prefix.m_rest == 0 || a_prefix.m_rest == a_rest.size() );
-}
 
 constexpr uchar s_kPlain = CallingCode::NoRule;
 constexpr uchar s_kZero = CallingCode::KeepsZero;
@@ -610,10 +527,10 @@ Home HomeOf( QStringView a_region )
 
 std::string_view WithoutTrunkPrefix( const CallingCode& a_code, std::string_view a_digits )
 {
-    for ( const Prefix* prefix = FirstOf( s_kTrunkLists, a_code.m_trunk ); prefix != nullptr;
-          prefix = NextOf( prefix ) )
+    const Prefix* prefix = s_kTrunkLists.First( a_code.m_trunk );
+    for ( ; prefix != nullptr; prefix = prefix->Next() )
     {
-        if ( prefix->StartsWith( a_digits ) && IsRest( *prefix, a_digits.substr( prefix->m_size ) ) )
+        if ( prefix->StartsWith( a_digits ) && prefix->IsBefore( a_digits.substr( prefix->m_size ) ) )
             return a_digits.substr( prefix->m_size );
     }
     return a_digits;
@@ -621,8 +538,8 @@ std::string_view WithoutTrunkPrefix( const CallingCode& a_code, std::string_view
 
 std::string_view WithoutInternationalPrefix( const CallingCode& a_home, std::string_view a_digits )
 {
-    const Prefix* prefix = FirstOf( s_kInternationalLists, a_home.m_international );
-    for ( ; prefix != nullptr; prefix = NextOf( prefix ) )
+    const Prefix* prefix = s_kInternationalLists.First( a_home.m_international );
+    for ( ; prefix != nullptr; prefix = prefix->Next() )
     {
         if ( prefix->StartsWith( a_digits ) && IsInternational( a_digits.substr( prefix->m_size ) ) )
             return a_digits.substr( prefix->m_size );

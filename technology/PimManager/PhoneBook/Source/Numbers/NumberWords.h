@@ -20,4 +20,9 @@ size_t LettersAfter( std::string_view a_digits );
 /// \return the key that an ASCII letter is on; `\0` for other characters.
 char KeyOfLetter( char16_t a_letter );
 
+inline bool IsAsciiLetter( char16_t a_character )
+{
+    return KeyOfLetter( a_character ) != '\0';
+}
+
 } // namespace PimManager::PhoneBook

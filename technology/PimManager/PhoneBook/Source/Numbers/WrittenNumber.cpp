@@ -1,6 +1,7 @@
 #include "Numbers/WrittenNumber.h"
 
 #include "Numbers/CallingCodes.h"
+#include "Numbers/NumberCharacters.h"
 #include "Numbers/NumberWords.h"
 
 #include <QString>
@@ -13,22 +14,12 @@ namespace PimManager::PhoneBook
 namespace
 {
 
-// So many digits are a number even if a word follows. Fewer digits may be part of a description.
+// The fewest digits that are a number if a word follows them. Fewer digits may be part of a description.
 constexpr size_t s_kNumberSize = 5;
-// So many digits can have an extension after a sign. The shortest numbers of a country are those of small islands.
+// The fewest digits that can have an extension after a sign: the numbers of small islands are as short.
 constexpr size_t s_kShortNumberSize = 4;
-// So many digits after `*67` are a number that the service is used for.
+// The fewest digits after a code such as `*67` that are the number that it is dialled for.
 constexpr size_t s_kLongNumberSize = 7;
-
-bool IsDigit( char16_t a_character )
-{
-    return a_character >= u'0' && a_character <= u'9';
-}
-
-bool IsAsciiLetter( char16_t a_character )
-{
-    return KeyOfLetter( a_character ) != '\0';
-}
 
 bool IsAscii( QStringView a_word )
 {
@@ -45,137 +36,6 @@ bool IsPause( QStringView a_word )
 bool IsInExtension( char16_t a_character )
 {
     return a_character == u' ' || a_character == u'-' || a_character == u'.';
-}
-
-int HexValue( char16_t a_character )
-{
-    if ( IsDigit( a_character ) )
-        return a_character - u'0';
-    const char16_t letter = a_character | 0x20;
-    return letter >= u'a' && letter <= u'f' ? letter - u'a' + 10 : -1;
-}
-
-// The fullwidth forms of the ASCII characters, and other signs that mean the same in a number.
-char16_t PlainSign( char16_t a_character )
-{
-    constexpr char16_t s_kFirstFullwidth = 0xFF01;
-    constexpr char16_t s_kLastFullwidth = 0xFF5E;
-    constexpr char16_t s_kSmallPlus = 0xFE62;
-    if ( a_character >= s_kFirstFullwidth && a_character <= s_kLastFullwidth )
-        return static_cast<char16_t>( a_character - s_kFirstFullwidth + u'!' );
-    return a_character == s_kSmallPlus ? u'+' : a_character;
-}
-
-/// The characters of a number, one at a time, in ASCII where there is an ASCII character that means the same.
-class Characters
-{
-public:
-    explicit Characters( QStringView a_text ) :
-        m_text( a_text )
-    {
-        Decode();
-    }
-
-    bool IsEnd() const { return m_place >= m_text.size(); }
-    /// `\0` at the end.
-    char16_t Current() const { return m_current; }
-    bool IsLetter() const
-    {
-        return m_current < 0x80 ? IsAsciiLetter( m_current ) : QChar::isLetter( m_text[m_place].unicode() );
-    }
-    void Step()
-    {
-        m_place += m_width;
-        Decode();
-    }
-    /// Steps over ASCII digits and common punctuation and writes the digits, up to a number of characters.
-    /// \return the number of digits.
-    size_t TakeDigits( char* a_digits, size_t a_most );
-    /// Steps over letters and returns them.
-    QString TakeLetters()
-    {
-        QString letters;
-        for ( ; !IsEnd() && IsLetter(); Step() )
-            letters += QChar( m_current );
-        return letters;
-    }
-    /// Steps to one of two signs or to the end and returns the text before it as written.
-    QStringView TakeUpTo( char16_t a_sign, char16_t a_other )
-    {
-        const qsizetype begin = m_place;
-        while ( !IsEnd() && m_current != a_sign && m_current != a_other )
-            Step();
-        return m_text.mid( begin, m_place - begin );
-    }
-    void SkipBlanks()
-    {
-        while ( m_current == u' ' )
-            Step();
-    }
-
-private:
-    void Decode()
-    {
-        constexpr char16_t s_kLastAscii = 0x7F;
-        m_width = 1;
-        m_current = IsEnd() ? u'\0' : m_text[m_place].unicode();
-        if ( m_current > s_kLastAscii )
-            DecodeOther();
-        else if ( m_current == u'%' )
-            DecodePercent();
-    }
-    void DecodeOther();
-    void DecodePercent();
-
-    QStringView m_text;
-    qsizetype m_place = 0;
-    qsizetype m_width = 1;
-    char16_t m_current = u'\0';
-};
-
-// What most numbers consist of, without a decision for each character.
-size_t Characters::TakeDigits( char* a_digits, size_t a_most )
-{
-    char* digit = a_digits;
-    const QChar* character = m_text.begin() + m_place;
-    const QChar* const end = character + std::min( m_text.size() - m_place, static_cast<qsizetype>( a_most ) );
-    for ( ; character != end; ++character )
-    {
-        const char16_t code = character->unicode();
-        if ( IsDigit( code ) )
-            *digit++ = static_cast<char>( code );
-        else if ( code != u' ' && code != u'-' && code != u')' && code != u'.' && code != u'/' )
-            break;
-    }
-    m_place = character - m_text.begin();
-    Decode();
-    return static_cast<size_t>( digit - a_digits );
-}
-
-void Characters::DecodeOther()
-{
-    uint character = m_current;
-    if ( QChar::isHighSurrogate( character ) && m_place + 1 < m_text.size() && m_text[m_place + 1].isLowSurrogate() )
-    {
-        character = QChar::surrogateToUcs4( m_current, m_text[m_place + 1].unicode() );
-        m_width = 2;
-    }
-    m_current = QChar::isDigit( character ) ? static_cast<char16_t>( u'0' + QChar::digitValue( character ) )
-                                            : PlainSign( m_current );
-}
-
-void Characters::DecodePercent()
-{
-    constexpr qsizetype s_kSize = 3;
-    constexpr int s_kBase = 16;
-    if ( m_text.size() - m_place < s_kSize )
-        return;
-    const int high = HexValue( m_text[m_place + 1].unicode() );
-    const int low = HexValue( m_text[m_place + 2].unicode() );
-    if ( high < 0 || low < 0 )
-        return;
-    m_current = static_cast<char16_t>( high * s_kBase + low );
-    m_width = s_kSize;
 }
 
 class Reader
@@ -206,7 +66,7 @@ private:
     void FinishCode();
     void FinishLong();
 
-    Characters m_characters;
+    NumberCharacters m_characters;
     WrittenNumber m_number;
     bool m_isDone = false;
 };
@@ -302,7 +162,7 @@ void Reader::ReadBracket()
     m_characters.Step();
     if ( code == nullptr || code->Size() != digits.size() || code->Is( CallingCode::KeepsZero ) )
         return;
-    Characters rest = m_characters;
+    NumberCharacters rest = m_characters;
     rest.SkipBlanks();
     if ( rest.Current() != u'0' )
         return;
@@ -362,7 +222,7 @@ void Reader::ReadPause()
 
 void Reader::ReadSemicolon()
 {
-    Characters rest = m_characters;
+    NumberCharacters rest = m_characters;
     rest.Step();
     if ( rest.IsLetter() )
         ReadParameters();
@@ -435,7 +295,7 @@ void SetExtension( WrittenNumber& a_number, QStringView a_text )
 {
     if ( !a_number.m_extension.IsEmpty() )
         return;
-    for ( Characters rest( a_text ); !rest.IsEnd(); rest.Step() )
+    for ( NumberCharacters rest( a_text ); !rest.IsEnd(); rest.Step() )
     {
         if ( IsDigit( rest.Current() ) )
             a_number.m_extension.Add( static_cast<char>( rest.Current() ) );

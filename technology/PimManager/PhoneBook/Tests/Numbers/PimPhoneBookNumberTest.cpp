@@ -76,6 +76,7 @@ constexpr std::array s_kNotations = {
     NotationRow{ u"02966 15-42-1234", "AR", "+5492966421234", "0296615421234", "" },
     NotationRow{ u"011 2345-6789", "AR", "+541123456789", "01123456789", "" },
     NotationRow{ u"+54 11 15 2345 6789", "", "+5491123456789", "54111523456789", "" },
+    NotationRow{ u"+54 3512 3456 7890", "", "+54351234567890", "54351234567890", "" },
     NotationRow{ u"044 55 1234 5678", "MX", "+525512345678", "0445512345678", "" },
     NotationRow{ u"045 55 1234 5678", "MX", "+525512345678", "0455512345678", "" },
     NotationRow{ u"01 55 1234 5678", "MX", "+525512345678", "015512345678", "" },
@@ -95,6 +96,7 @@ constexpr std::array s_kNotations = {
     NotationRow{ u"tel:%2B49%2030%20901820", "", "+4930901820", "4930901820", "" },
     NotationRow{ u"tel:30901820;phone-context=+49", "", "+4930901820", "4930901820", "" },
     NotationRow{ u"tel:30901820;ext=5;phone-context=+49;isub=7", "", "+4930901820", "4930901820", "5" },
+    NotationRow{ u"tel:+4930901820;ext=1;ext=2;EXT=3", "", "+4930901820", "4930901820", "1" },
     NotationRow{ u"tel:7042;phone-context=example.com", "DE", "", "7042", "" },
     // Extensions and pauses.
     NotationRow{ u"+49 30 901820 ext. 12", "", "+4930901820", "4930901820", "12" },
@@ -296,6 +298,18 @@ TEST( PimPhoneBookNumberTest, RandomTextIsRead )
         EXPECT_EQ( number.Compare( other ), other.Compare( number ) );
         EXPECT_EQ( number.Compare( number ) == PimPhoneBookGrade::None, number.IsNull() );
         other = number;
+    }
+}
+
+TEST( PimPhoneBookNumberTest, LongNumberHasItsLastDigits )
+{
+    QString text;
+    for ( int size = 1; size <= 200; ++size )
+    {
+        text += QChar( u'0' + size * size % 10 );
+        EXPECT_EQ( PimPhoneBookNumber::FromText( text ).Digits(), text.right( 32 ) ) << size;
+        const QString wide = QString( text ).replace( QLatin1Char( '4' ), QChar( 0xFF14 ) );
+        EXPECT_EQ( PimPhoneBookNumber::FromText( wide ).Digits(), text.right( 32 ) ) << size;
     }
 }
 

@@ -52,7 +52,7 @@ CallerIndex::CallerIndex( const NumberStore& a_numbers, const Home& a_home, int 
     m_begins( static_cast<size_t>( a_numbers.Size() ) / s_kNumbersPerBucket + 2 ),
     m_numbers( static_cast<size_t>( a_numbers.Size() ) )
 {
-    // Counting sort: the numbers of each bucket are counted, then each number is put into its bucket, the last one
+    // Counting sort: the numbers of each bucket are counted, then the numbers are put into their buckets, the last
     // first.
     std::vector<quint32> hashes( m_numbers.size() );
     for ( size_t number = 0; number < hashes.size(); ++number )
@@ -86,7 +86,8 @@ QVector<PimPhoneBookCaller> CallerIndex::Find( const NumberStore& a_numbers, con
         const auto number = static_cast<int>( entry );
         AddCaller( callers, a_numbers, number, GradeWith( a_numbers, number, dialled, a_number.m_extension.View() ) );
     }
-    std::stable_sort( callers.begin(), callers.end(), IsBetter );
+    if ( callers.size() > 1 )
+        std::stable_sort( callers.begin(), callers.end(), IsBetter );
     return callers;
 }
 

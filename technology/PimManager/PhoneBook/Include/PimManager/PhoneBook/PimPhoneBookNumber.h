@@ -49,8 +49,7 @@ public:
     /// Reads a number.
     /// \param a_text any text; may be empty. A second number after the first is ignored.
     /// \param a_region the region in which it is dialled: two letters (ISO 3166-1), such as `DE`, in any letter case.
-    /// An
-    ///                 unknown region is the same as an empty one.
+    ///                 An unknown region is the same as an empty one.
     /// \return a null number if the text has no digits. Linear in the length of the text.
     static PimPhoneBookNumber FromText( const QString& a_text, const QString& a_region = QString() );
 
@@ -62,8 +61,7 @@ public:
     bool IsNull() const;
 
     /// \return `+`, the calling code and the number, such as `+4930901820`. Empty if the country is not known: without
-    /// a
-    ///         region, for a code, for a number that is too short or too long for its region, and for one that may be
+    ///         a region, for a code, for a number that is too short or too long for its region, and for one that may be
     ///         local because it has no trunk prefix.
     QString International() const;
 
@@ -79,11 +77,16 @@ public:
     QString Extension() const;
 
     /// Compares two numbers. It does not matter which is compared with which.
-    /// \param a_endingDigits the number of last digits that must be equal for PimPhoneBookGrade::Ending; shorter
-    /// numbers
-    ///                       must be equal. At least 3; a smaller number is 3.
-    /// \return the grade. Two numbers that differ only in their extensions are not the same. If only one has an
-    ///         extension, the grade is at most Ending. None for a null number.
+    ///
+    /// - Exact: both were written with a country, and their international forms are equal.
+    /// - National: the international forms are equal, but at least one follows from its region. Also two numbers
+    ///   without a country, such as short numbers and codes, with equal digits.
+    /// - Ending: the last digits are equal. No more is certain: the country is different or not known, a calling code
+    ///   lacks its `+`, the area code or the trunk prefix is missing, or only one number has an extension.
+    ///
+    /// \param a_endingDigits the number of last digits that must be equal for PimPhoneBookGrade::Ending. At least 3; a
+    ///                       smaller number is 3. Numbers with fewer digits must be equal.
+    /// \return the grade. None for two numbers with different extensions, and for a null number.
     PimPhoneBookGrade Compare( const PimPhoneBookNumber& a_other, int a_endingDigits = 7 ) const;
 
     /// \return a hash value that is equal for two numbers if Compare() does not return None.

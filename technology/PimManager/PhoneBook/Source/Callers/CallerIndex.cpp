@@ -52,8 +52,7 @@ CallerIndex::CallerIndex( const NumberStore& a_numbers, const Home& a_home, int 
     m_begins( static_cast<size_t>( a_numbers.Size() ) / s_kNumbersPerBucket + 2 ),
     m_numbers( static_cast<size_t>( a_numbers.Size() ) )
 {
-    // Counting sort: the numbers of each bucket are counted, then the numbers are put into their buckets, the last
-    // first.
+    // Counting sort: the numbers of each bucket are counted, then each is put into its bucket, beginning with the last.
     std::vector<quint32> hashes( m_numbers.size() );
     for ( size_t number = 0; number < hashes.size(); ++number )
     {

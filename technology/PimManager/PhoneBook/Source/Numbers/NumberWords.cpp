@@ -45,12 +45,13 @@ bool IsExtensionWord( QStringView a_word )
 size_t LettersAfter( std::string_view a_digits )
 {
     const auto isStart = [a_digits]( std::string_view a_start ) { return StartsWith( a_digits, a_start ); };
-    const std::string_view service = a_digits.substr( StartsWith( a_digits, "1" ) ? 1 : 0, s_kServiceSize );
+    const size_t begin = StartsWith( a_digits, "1" ) ? 1 : 0;
+    const std::string_view service = a_digits.substr( begin, s_kServiceSize );
     size_t size = 0;
     if ( std::any_of( s_kLongServices.begin(), s_kLongServices.end(), isStart ) )
         size = s_kLongServices[0].size();
     else if ( std::find( s_kServices.begin(), s_kServices.end(), service ) != s_kServices.end() )
-        size = static_cast<size_t>( service.end() - a_digits.begin() );
+        size = begin + s_kServiceSize;
     return size == 0 ? 0 : size + s_kServiceDigits - std::min( size + s_kServiceDigits, a_digits.size() );
 }
 

@@ -117,8 +117,8 @@ QString InBrackets( const QString& a_text )
 
 QString WithoutExtension( const ExampleNumber& a_number, Way a_way )
 {
-    const QString international = Formatted( a_number, PhoneNumberUtil::INTERNATIONAL );
-    const QString national = Formatted( a_number, PhoneNumberUtil::NATIONAL );
+    QString international = Formatted( a_number, PhoneNumberUtil::INTERNATIONAL );
+    QString national = Formatted( a_number, PhoneNumberUtil::NATIONAL );
     switch ( a_way )
     {
     case Way::E164:
@@ -197,7 +197,7 @@ std::vector<ExampleNumber> ExampleNumbers()
 
 const char* NameOf( Way a_way )
 {
-    constexpr std::array<const char*, s_kWays> s_kNames = {
+    constexpr const char* s_kNames[s_kWays] = {
         "E.164",
         "international",
         "national",
@@ -240,7 +240,7 @@ bool LacksPlus( Way a_way )
 
 QString Written( const ExampleNumber& a_number, Way a_way, const std::string& a_extension )
 {
-    const QString text = WithoutExtension( a_number, a_way );
+    QString text = WithoutExtension( a_number, a_way );
     if ( a_extension.empty() )
         return text;
     // The extension is a part of the number, so it stands before a description and a context.

@@ -102,7 +102,7 @@ constexpr std::array s_kInternationalPrefixes = {
     PrefixRow{ "FI", "9904930901820", "4930901820" },
 };
 
-constexpr size_t s_kMostBytes = 8 * 1024;
+constexpr size_t s_kMostBytes = 8192;
 
 const CallingCode& CodeOf( const char* a_region )
 {

@@ -3,6 +3,7 @@
 #include "BookGenerator.h"
 #include "BookStyles.h"
 #include "HostileShapes.h"
+#include "PhoneBookGenerator.h"
 #include "ReaderShapes.h"
 
 #include <QByteArray>
@@ -21,6 +22,7 @@ constexpr int s_kWrongUse = 2;
 int Usage()
 {
     std::fputs( "usage: pimvcard-books book KIND CARDS [STYLE]  a phone book\n"
+                "       pimvcard-books phone-book CARDS         short cards with many different names and numbers\n"
                 "       pimvcard-books card                     one card of 91 bytes\n"
                 "       pimvcard-books hostile NAME BYTES       a hostile text, about that long\n"
                 "       pimvcard-books names                    the names of the hostile texts\n"
@@ -102,6 +104,8 @@ int main( int argc, char* argv[] )
     const int size = arguments.value( 2 ).toInt();
     if ( command == "book" && size > 0 )
         return WriteBook( arguments.value( 1 ), size, arguments.value( 3 ) );
+    if ( command == "phone-book" && arguments.value( 1 ).toInt() > 0 )
+        return Write( PhoneBookGenerator().Book( arguments.value( 1 ).toInt() ) );
     if ( command == "hostile" && size > 0 )
         return WriteHostile( arguments.value( 1 ), size );
     if ( command == "card" )

@@ -5,6 +5,7 @@
 
 #include "Callers/CallerIndex.h"
 #include "Numbers/NumberStore.h"
+#include "Search/SearchIndex.h"
 
 #include <PimManager/Contacts/PimContactBook.h>
 #include <PimManager/PhoneBook/PimPhoneBookMatch.h>
@@ -14,17 +15,30 @@
 #include <QString>
 #include <QVector>
 
+#include <memory>
+
 namespace PimManager::PhoneBook
 {
+
+/// What is read from the contacts of a book.
+struct PhoneBookIndex
+{
+    NumberStore m_numbers;
+    CallerIndex m_callers;
+    // Refers to m_numbers.
+    SearchIndex m_search;
+};
 
 class PimPhoneBookPrivate : public QSharedData
 {
 public:
     Contacts::PimContactBook m_book;
     PimPhoneBookOptions m_options;
-    QVector<int> m_sorted;
-    NumberStore m_numbers;
-    CallerIndex m_callers;
+    Dialling m_home;
+    // Never changed, so that copies share it.
+    std::shared_ptr<const PhoneBookIndex> m_index = std::make_shared<PhoneBookIndex>();
+    // The contacts of recent calls, the latest first.
+    QVector<int> m_recent;
 };
 
 } // namespace PimManager::PhoneBook

@@ -3,8 +3,9 @@
 #include "Numbers/WrittenNumber.h"
 #include "PhoneBookIndex.h"
 
-#include <algorithm>
-#include <numeric>
+#include <memory>
+#include <string>
+#include <vector>
 
 namespace PimManager::PhoneBook
 {
@@ -12,34 +13,40 @@ namespace PimManager::PhoneBook
 namespace
 {
 
-QString DigitsOf( const QString& a_text )
+void AddNumber( NumberStore& a_numbers, int a_contact, int a_id, const QString& a_text )
 {
-    QString digits;
-    for ( const QChar character : a_text )
-    {
-        if ( character.isDigit() )
-            digits += character;
-    }
-    return digits;
+    const WrittenNumber number = ReadWrittenNumber( a_text );
+    a_numbers.Append( a_contact, a_id, number.Digits(), number.m_form, number.m_extension.View() );
 }
 
-} // namespace
-
-namespace
-{
-
-// The lines of a card are read faster than the phones of a contact. The ids of its lines count from 1.
-void AddNumbers( NumberStore& a_numbers, int a_contact, const Contacts::PimContactCard& a_card )
+// The lines of a card are read faster than the fields of a contact. The ids of its lines count from 1.
+void AddCard( const Contacts::PimContactCard& a_card, int a_contact, NumberStore& a_numbers,
+              SearchIndexBuilder& a_search )
 {
     int id = 0;
     for ( const Contacts::PimContactLine& line : a_card )
     {
         ++id;
-        if ( !line.IsNamed( QLatin1String( "TEL" ) ) )
-            continue;
-        const WrittenNumber number = ReadWrittenNumber( line.Text() );
-        a_numbers.Append( a_contact, id, number.Digits(), number.m_form, number.m_extension.View() );
+        if ( line.IsNamed( QLatin1String( "TEL" ) ) )
+            AddNumber( a_numbers, a_contact, id, line.Text() );
+        else
+            a_search.AddLine( line );
     }
+    a_search.EndCard( a_card );
+}
+
+Dialling DiallingOf( const Home& a_home )
+{
+    Dialling dialling;
+    if ( a_home.m_code == nullptr )
+        return dialling;
+    dialling.m_code = std::to_string( a_home.m_code->m_code );
+    dialling.m_prefixes.push_back( TrunkPrefixOf( *a_home.m_code ) );
+    // There the prefix is often left out.
+    constexpr int s_kNorthAmerica = 1;
+    if ( a_home.m_code->m_code == s_kNorthAmerica && a_home.m_code->HasTrunkPrefix() )
+        dialling.m_prefixes.emplace_back();
+    return dialling;
 }
 
 } // namespace
@@ -54,15 +61,16 @@ PimPhoneBook::PimPhoneBook( const Contacts::PimContactBook& a_book, const PimPho
 {
     d->m_book = a_book;
     d->m_options = a_options;
+    const Home home = HomeOf( a_options.Region() );
+    d->m_home = DiallingOf( home );
+    const auto index = std::make_shared<PhoneBookIndex>();
+    SearchIndexBuilder search( a_options );
     for ( int contact = 0; contact < a_book.Size(); ++contact )
-        AddNumbers( d->m_numbers, contact, a_book.CardAt( contact ) );
-    d->m_numbers.Squeeze();
-    d->m_callers = CallerIndex( d->m_numbers, HomeOf( a_options.Region() ), a_options.EndingDigits() );
-    d->m_sorted.resize( a_book.Size() );
-    std::iota( d->m_sorted.begin(), d->m_sorted.end(), 0 );
-    std::sort( d->m_sorted.begin(), d->m_sorted.end(),
-               [&]( int a_first, int a_second )
-               { return a_book.At( a_first ).SortName() < a_book.At( a_second ).SortName(); } );
+        AddCard( a_book.CardAt( contact ), contact, index->m_numbers, search );
+    index->m_numbers.Squeeze();
+    index->m_callers = CallerIndex( index->m_numbers, home, a_options.EndingDigits() );
+    search.Build( index->m_numbers, index->m_search );
+    d->m_index = index;
 }
 
 PimPhoneBook::PimPhoneBook( const PimPhoneBook& a_other ) = default;
@@ -93,44 +101,45 @@ Contacts::PimContact PimPhoneBook::At( int a_contact ) const
 
 QVector<int> PimPhoneBook::Sorted() const
 {
-    return d->m_sorted;
+    return d->m_index->m_search.Sorted();
 }
 
 QString PimPhoneBook::Section( int a_contact ) const
 {
-    return At( a_contact ).SortName().left( 1 ).toUpper();
+    return d->m_index->m_search.Section( a_contact );
 }
 
 QVector<PimPhoneBookCaller> PimPhoneBook::WhoIs( const QString& a_number ) const
 {
-    return d->m_callers.Find( d->m_numbers, ReadWrittenNumber( a_number ) );
+    return d->m_index->m_callers.Find( d->m_index->m_numbers, ReadWrittenNumber( a_number ) );
 }
 
 QVector<PimPhoneBookMatch> PimPhoneBook::Find( const QString& a_text ) const
 {
-    QVector<PimPhoneBookMatch> matches;
-    for ( const int contact : d->m_sorted )
-    {
-        if ( At( contact ).DisplayName().contains( a_text, Qt::CaseInsensitive ) )
-            matches.append( { contact, PimPhoneBookPlace::Name } );
-    }
-    return matches;
+    return d->m_index->m_search.Find( ReadSearchedText( a_text, d->m_home ), d->m_recent );
 }
 
 QVector<PimPhoneBookMatch> PimPhoneBook::FindByKeys( const QString& a_keys ) const
 {
-    QVector<PimPhoneBookMatch> matches;
-    for ( const int contact : d->m_sorted )
-    {
-        for ( const Contacts::PimContactPhone& phone : At( contact ).Phones() )
-        {
-            if ( DigitsOf( phone.Number() ).contains( a_keys ) )
-                matches.append( { contact, PimPhoneBookPlace::Number } );
-        }
-    }
-    return matches;
+    return d->m_index->m_search.Find( ReadSearchedKeys( a_keys, d->m_home ), d->m_recent );
 }
 
-void PimPhoneBook::SetRecentCalls( const QStringList& ) {}
+void PimPhoneBook::SetRecentCalls( const QStringList& a_numbers )
+{
+    std::vector<bool> isKnown( static_cast<size_t>( Size() ) );
+    QVector<int> recent;
+    for ( const QString& number : a_numbers )
+    {
+        for ( const PimPhoneBookCaller& caller : WhoIs( number ) )
+        {
+            const auto contact = static_cast<size_t>( caller.m_contact );
+            if ( caller.m_grade < PimPhoneBookGrade::National || isKnown[contact] )
+                continue;
+            isKnown[contact] = true;
+            recent.append( caller.m_contact );
+        }
+    }
+    d->m_recent = recent;
+}
 
 } // namespace PimManager::PhoneBook

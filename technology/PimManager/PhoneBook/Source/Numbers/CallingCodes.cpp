@@ -525,6 +525,15 @@ Home HomeOf( QStringView a_region )
     return home;
 }
 
+std::string TrunkPrefixOf( const CallingCode& a_code )
+{
+    if ( !a_code.HasTrunkPrefix() )
+        return std::string();
+    const Prefix& first = *s_kTrunkLists.First( a_code.m_trunk );
+    const std::string digits( first.m_digits.data(), first.m_size );
+    return digits.substr( 0, digits.find( 'n' ) );
+}
+
 std::string_view WithoutTrunkPrefix( const CallingCode& a_code, std::string_view a_digits )
 {
     const Prefix* prefix = s_kTrunkLists.First( a_code.m_trunk );

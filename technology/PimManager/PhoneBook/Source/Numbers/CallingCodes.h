@@ -6,6 +6,7 @@
 #include <QStringView>
 #include <QtGlobal>
 
+#include <string>
 #include <string_view>
 
 namespace PimManager::PhoneBook
@@ -57,6 +58,9 @@ Home HomeOf( QStringView a_region );
 
 /// \return the calling code that digits begin with; nullptr if there is none.
 const CallingCode* CallingCodeOf( std::string_view a_digits );
+
+/// \return the digits that are usually dialled before a national number, such as `0`; may be empty.
+std::string TrunkPrefixOf( const CallingCode& a_code );
 
 /// \return the digits after the trunk prefix; all digits if they do not begin with one.
 std::string_view WithoutTrunkPrefix( const CallingCode& a_code, std::string_view a_digits );

@@ -52,6 +52,26 @@ public:
     ///         Size() if there is none. The numbers of a contact end at First( a_contact + 1 ). Constant time.
     int First( int a_contact ) const;
 
+    /// \return true if the digits begin with others.
+    bool BeginsWith( int a_number, std::string_view a_digits ) const
+    {
+        size_t place = Begin( a_number ) + 1;
+        while ( IsMarked( place ) )
+            ++place;
+        return m_bytes.compare( place, a_digits.size(), a_digits ) == 0;
+    }
+
+    /// \param a_contact as in First().
+    /// \return the digits of all numbers of the contact, and other bytes between them. Constant time.
+    std::string_view Block( int a_contact ) const
+    {
+        const size_t begin = BeginOfBlock( First( a_contact ) );
+        return std::string_view( m_bytes ).substr( begin, BeginOfBlock( First( a_contact + 1 ) ) - begin );
+    }
+
+    /// \return true for a byte of a block that is in no number.
+    static bool IsBetweenNumbers( char a_byte ) { return ( static_cast<uchar>( a_byte ) & s_kMark ) != 0; }
+
     /// The memory in bytes.
     size_t Bytes() const;
 
@@ -65,6 +85,7 @@ private:
     static char Marked( uint a_bits ) { return static_cast<char>( ( a_bits & s_kBits ) | s_kMark ); }
     void AddBytes( uint a_line, uint a_form, std::string_view a_digits, std::string_view a_extension );
     size_t Begin( int a_number ) const { return m_begins[static_cast<size_t>( a_number )]; }
+    size_t BeginOfBlock( int a_number ) const { return a_number < Size() ? Begin( a_number ) : m_bytes.size(); }
     size_t End( int a_number ) const;
     /// The place of the first digit.
     size_t BeginOfDigits( int a_number ) const;

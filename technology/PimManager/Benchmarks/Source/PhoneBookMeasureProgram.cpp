@@ -1,0 +1,215 @@
+// pimvcard-measure-phonebook: makes a phone book of an address book and uses it, for tools that watch a process from
+// outside.
+//
+//   book FILE [SNAPSHOT]         reads the file into a book; ends without deleting it. Under massif, the heap with
+//                                nothing but the book in it is written to the file SNAPSHOT.
+//   index FILE [SNAPSHOT]        the same, and makes a phone book of it.
+//   queries FILE                 prints what can be typed in up to four keys so that something is found: the beginnings
+//                                of words, and all digits. Each line is `find TEXT` or `keys DIGITS`.
+//   each FILE QUERIES            carries out each line of the file QUERIES once. Under callgrind, the instructions of
+//                                each are dumped with the line as its trigger.
+//   find|keys FILE TEXT TIMES    carries out one query that many times.
+//   who FILE TIMES               asks that many times for the caller of each number of the book.
+//   compare OLD NEW              compares two books.
+
+#include <PimManager/Contacts/PimContactBook.h>
+#include <PimManager/PhoneBook/PimPhoneBook.h>
+#include <PimManager/PhoneBook/PimPhoneBookChanges.h>
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+#include <QStringList>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <set>
+#if __has_include( <valgrind/callgrind.h> )
+#include <valgrind/callgrind.h>
+#else
+#define CALLGRIND_ZERO_STATS
+#define CALLGRIND_DUMP_STATS_AT( name ) static_cast<void>( name )
+#define VALGRIND_MONITOR_COMMAND( command ) static_cast<void>( command )
+#endif
+
+using namespace PimManager::Contacts;
+using namespace PimManager::PhoneBook;
+
+namespace
+{
+
+constexpr int s_kWrongUse = 2;
+constexpr int s_kMostKeys = 4;
+
+PimContactBook ReadBook( const char* a_name )
+{
+    const PimContactBook book = PimContactBook::ReadFile( QString::fromLocal8Bit( a_name ) );
+    if ( book.IsEmpty() && !book.Report().ErrorText().isEmpty() )
+    {
+        std::fprintf( stderr, "pimvcard-measure-phonebook: cannot read %s\n", a_name );
+        std::exit( s_kWrongUse );
+    }
+    return book;
+}
+
+PimPhoneBook PhoneBookOf( const PimContactBook& a_book )
+{
+    PimPhoneBookOptions options;
+    options.SetRegion( QStringLiteral( "DE" ) );
+    options.SetLocale( QLocale( QStringLiteral( "de_DE" ) ) );
+    return PimPhoneBook( a_book, options );
+}
+
+// Ends the process at once, so that deleting is not measured.
+[[noreturn]] void End( int a_contacts )
+{
+    std::printf( "%d contacts\n", a_contacts );
+    std::fflush( stdout );
+    std::_Exit( 0 );
+}
+
+void TakeSnapshot( const char* a_name )
+{
+    if ( a_name == nullptr )
+        return;
+    const QByteArray command = QByteArrayLiteral( "snapshot " ) + a_name;
+    VALGRIND_MONITOR_COMMAND( command.constData() );
+}
+
+void Book( const char* a_name, const char* a_snapshot )
+{
+    const PimContactBook book = ReadBook( a_name );
+    TakeSnapshot( a_snapshot );
+    End( book.Size() );
+}
+
+void Index( const char* a_name, const char* a_snapshot )
+{
+    const PimPhoneBook phoneBook = PhoneBookOf( ReadBook( a_name ) );
+    TakeSnapshot( a_snapshot );
+    End( phoneBook.Size() );
+}
+
+// What a person sees of the first rows of the list. Writes a number, so that the compiler leaves nothing out.
+int Found( const PimPhoneBook& a_phoneBook, const QByteArray& a_kind, const QString& a_text )
+{
+    const QVector<PimPhoneBookMatch> matches =
+        a_kind == "keys" ? a_phoneBook.FindByKeys( a_text ) : a_phoneBook.Find( a_text );
+    return static_cast<int>( matches.size() );
+}
+
+void AddBeginnings( const QString& a_text, std::set<QString>& a_beginnings )
+{
+    for ( const QString& word : a_text.toLower().split( QLatin1Char( ' ' ) ) )
+    {
+        for ( int size = 1; size <= std::min( s_kMostKeys, static_cast<int>( word.size() ) ); ++size )
+            a_beginnings.insert( word.left( size ) );
+    }
+}
+
+void PrintQueries( const char* a_name )
+{
+    std::set<QString> beginnings;
+    for ( const PimContact& contact : ReadBook( a_name ) )
+    {
+        AddBeginnings( contact.DisplayName(), beginnings );
+        AddBeginnings( contact.Organisations().Preferred().Name(), beginnings );
+    }
+    for ( const QString& beginning : beginnings )
+        std::printf( "find %s\n", beginning.toUtf8().constData() );
+    for ( int size = 1, end = 10; size <= s_kMostKeys; ++size, end *= 10 )
+    {
+        for ( int number = 0; number < end; ++number )
+            std::printf( "find %0*d\nkeys %0*d\n", size, number, size, number );
+    }
+}
+
+void Each( const char* a_name, const char* a_queries )
+{
+    const PimPhoneBook phoneBook = PhoneBookOf( ReadBook( a_name ) );
+    QFile file( QString::fromLocal8Bit( a_queries ) );
+    if ( !file.open( QIODevice::ReadOnly ) )
+        std::exit( s_kWrongUse );
+    volatile int found = 0;
+    for ( QByteArray line = file.readLine().trimmed(); !line.isEmpty(); line = file.readLine().trimmed() )
+    {
+        const QByteArray kind = line.left( 4 );
+        const QString text = QString::fromUtf8( line.mid( 5 ) );
+        CALLGRIND_ZERO_STATS;
+        found = found + Found( phoneBook, kind, text );
+        CALLGRIND_DUMP_STATS_AT( line.constData() );
+    }
+    End( phoneBook.Size() );
+}
+
+void Find( const QByteArray& a_kind, const char* a_name, const char* a_text, int a_times )
+{
+    const PimPhoneBook phoneBook = PhoneBookOf( ReadBook( a_name ) );
+    const QString text = QString::fromLocal8Bit( a_text );
+    volatile int found = 0;
+    for ( int i = 0; i < a_times; ++i )
+        found = found + Found( phoneBook, a_kind, text );
+    End( phoneBook.Size() );
+}
+
+void Who( const char* a_name, int a_times )
+{
+    const PimPhoneBook phoneBook = PhoneBookOf( ReadBook( a_name ) );
+    QStringList numbers;
+    for ( const PimContact& contact : phoneBook.Book() )
+    {
+        for ( const PimContactPhone& phone : contact.Phones() )
+            numbers += phone.Number();
+    }
+    volatile int callers = 0;
+    for ( int i = 0; i < a_times; ++i )
+    {
+        for ( const QString& number : numbers )
+            callers = callers + static_cast<int>( phoneBook.WhoIs( number ).size() );
+    }
+    std::printf( "%d numbers, ", static_cast<int>( numbers.size() ) );
+    End( phoneBook.Size() );
+}
+
+void Compare( const char* a_old, const char* a_new )
+{
+    const PimContactBook oldBook = ReadBook( a_old );
+    const PimContactBook newBook = ReadBook( a_new );
+    const PimPhoneBookChanges changes = PimPhoneBookChanges::Compare( oldBook, newBook );
+    std::printf( "%d added, %d removed, %d changed, ", static_cast<int>( changes.Added().size() ),
+                 static_cast<int>( changes.Removed().size() ), static_cast<int>( changes.Changed().size() ) );
+    End( newBook.Size() );
+}
+
+} // namespace
+
+int main( int argc, char* argv[] )
+{
+    const QByteArray command = argc >= 3 ? QByteArray( argv[1] ) : QByteArray();
+    if ( command == "book" )
+        Book( argv[2], argc > 3 ? argv[3] : nullptr );
+    if ( command == "index" )
+        Index( argv[2], argc > 3 ? argv[3] : nullptr );
+    if ( command == "queries" )
+    {
+        PrintQueries( argv[2] );
+        return 0;
+    }
+    if ( command == "each" && argc > 3 )
+        Each( argv[2], argv[3] );
+    if ( ( command == "find" || command == "keys" ) && argc > 4 )
+        Find( command, argv[2], argv[3], std::atoi( argv[4] ) );
+    if ( command == "who" && argc > 3 )
+        Who( argv[2], std::atoi( argv[3] ) );
+    if ( command == "compare" && argc > 3 )
+        Compare( argv[2], argv[3] );
+    std::fputs( "usage: pimvcard-measure-phonebook book|index FILE [SNAPSHOT]\n"
+                "       pimvcard-measure-phonebook queries FILE\n"
+                "       pimvcard-measure-phonebook each FILE QUERIES\n"
+                "       pimvcard-measure-phonebook find|keys FILE TEXT TIMES\n"
+                "       pimvcard-measure-phonebook who FILE TIMES\n"
+                "       pimvcard-measure-phonebook compare OLD NEW\n",
+                stderr );
+    return s_kWrongUse;
+}

@@ -1,0 +1,96 @@
+/// \file
+/// Find as you type.
+
+#pragma once
+
+#include "Search/ContactWords.h"
+#include "Search/NumberParts.h"
+#include "Search/SearchedText.h"
+#include "Search/WordIndex.h"
+
+#include <PimManager/Contacts/PimContactCard.h>
+#include <PimManager/PhoneBook/PimPhoneBookMatch.h>
+#include <PimManager/PhoneBook/PimPhoneBookOptions.h>
+
+#include <QString>
+#include <QVector>
+
+#include <vector>
+
+namespace PimManager::PhoneBook
+{
+
+class NameOrder;
+class NumberStore;
+
+/// The sorted list of the contacts, and where it contains which words and digits. Const functions may run in several
+/// threads at once.
+class SearchIndex
+{
+public:
+    /// The indices of the contacts in the sorted list.
+    const QVector<int>& Sorted() const { return m_sorted; }
+
+    /// \param a_contact an index in the book.
+    QString Section( int a_contact ) const;
+
+    /// Finds the contacts that contain each word of any way. All contacts if there is no way.
+    /// \param a_recent contacts, the latest call first.
+    QVector<PimPhoneBookMatch> Find( const std::vector<SearchedWords>& a_ways, const QVector<int>& a_recent ) const;
+
+    /// The memory in bytes.
+    size_t Bytes() const;
+
+private:
+    friend class SearchIndexBuilder;
+
+    struct SectionBegin
+    {
+        quint32 m_firstRank;
+        QString m_label;
+    };
+
+    PlaceMatches MatchesOf( const SearchedWord& a_word ) const;
+    PlaceMatches MatchesOf( const SearchedWords& a_words ) const;
+    /// \return the place after the last match that was written.
+    PimPhoneBookMatch* WritePlace( const PlaceMatches& a_matches, size_t a_place, const QVector<int>& a_recent,
+                                   PimPhoneBookMatch* a_next ) const;
+    int Contacts() const { return static_cast<int>( m_sorted.size() ); }
+
+    QVector<int> m_sorted;
+    std::vector<quint32> m_ranks;
+    std::vector<SectionBegin> m_sections;
+    WordIndex m_words;
+    NumberParts m_numbers;
+};
+
+/// Reads the lines of one card after another and makes a SearchIndex of them.
+class SearchIndexBuilder
+{
+public:
+    explicit SearchIndexBuilder( const PimPhoneBookOptions& a_options ) :
+        m_options( a_options )
+    {
+    }
+
+    /// Adds a line of a card. Numbers may be left out.
+    void AddLine( const Contacts::PimContactLine& a_line ) { m_contact.Add( a_line ); }
+
+    /// Ends a card: it is the next contact of the book.
+    void EndCard( const Contacts::PimContactCard& a_card );
+
+    /// \param a_numbers the numbers of all contacts; must outlive the index.
+    /// \param a_index the index of the contacts that were added.
+    void Build( const NumberStore& a_numbers, SearchIndex& a_index );
+
+private:
+    void Sort( SearchIndex& a_index );
+    void AddSections( const std::vector<int>& a_sections, const NameOrder& a_order, SearchIndex& a_index ) const;
+
+    PimPhoneBookOptions m_options;
+    ContactWords m_contact;
+    WordCollector m_words;
+    std::vector<QString> m_sortNames;
+};
+
+} // namespace PimManager::PhoneBook

@@ -1,0 +1,169 @@
+#include "Search/WordIndex.h"
+
+#include "Search/Keypad.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace PimManager::PhoneBook
+{
+
+namespace
+{
+
+constexpr quint32 s_kOrganisation = 1;
+// A word has at most 48 parts between the digits 0 and 1.
+constexpr quint32 s_kBitsOfPart = 6;
+constexpr quint32 s_kPart = ( 1U << s_kBitsOfPart ) - 1;
+static_assert( WordCollector::s_kMostBytes / 2 <= s_kPart );
+
+/// Adds the contacts of places: to the whole words up to a_wholeEnd.
+void Take( const quint32* a_places, size_t a_begin, size_t a_wholeEnd, size_t a_end, WordMatches& a_matches )
+{
+    for ( size_t i = a_begin; i < a_wholeEnd; ++i )
+    {
+        const bool isOrganisation = ( a_places[i] & s_kOrganisation ) != 0;
+        ( isOrganisation ? a_matches.m_wholeOrganisation : a_matches.m_wholeName ).Add( a_places[i] >> 1 );
+    }
+    for ( size_t i = a_begin; i < a_end; ++i )
+    {
+        const bool isOrganisation = ( a_places[i] & s_kOrganisation ) != 0;
+        ( isOrganisation ? a_matches.m_organisation : a_matches.m_name ).Add( a_places[i] >> 1 );
+    }
+}
+
+} // namespace
+
+void WordIndex::Build( const WordCollector& a_words, const std::vector<quint32>& a_ranks )
+{
+    const std::vector<WordCollector::Entry>& entries = a_words.Entries();
+    m_places.reserve( entries.size() );
+    for ( size_t i = 0; i < entries.size(); ++i )
+    {
+        const WordCollector::Entry& entry = entries[i];
+        const std::string_view word = a_words.WordOf( entry );
+        if ( i == 0 || word != a_words.WordOf( entries[i - 1] ) )
+        {
+            m_begins.push_back( static_cast<quint32>( m_text.size() ) );
+            m_firstPlaces.push_back( static_cast<quint32>( i ) );
+            m_text += word;
+        }
+        m_places.push_back( a_ranks[entry.m_contact] << 1 | ( entry.m_isOrganisation ? s_kOrganisation : 0 ) );
+    }
+    m_begins.push_back( static_cast<quint32>( m_text.size() ) );
+    m_firstPlaces.push_back( static_cast<quint32>( entries.size() ) );
+    m_text.shrink_to_fit();
+    m_begins.shrink_to_fit();
+    m_firstPlaces.shrink_to_fit();
+    BuildKeys();
+}
+
+void WordIndex::BuildKeys()
+{
+    std::vector<std::pair<quint64, quint32>> keys;
+    keys.reserve( m_begins.size() );
+    for ( quint32 word = 0; word + 1 < m_begins.size(); ++word )
+    {
+        quint32 entry = word << s_kBitsOfPart;
+        ForEachKeyWord( WordAt( word ),
+                        [&]( const KeyWord& a_keys )
+                        {
+                            keys.emplace_back( a_keys.First(), entry++ );
+                            return true;
+                        } );
+    }
+    std::sort( keys.begin(), keys.end(),
+               []( const auto& a_first, const auto& a_second ) { return a_first.first < a_second.first; } );
+    m_keyWords.reserve( keys.size() );
+    for ( const auto& [key, entry] : keys )
+        m_keyWords.push_back( entry );
+}
+
+quint64 WordIndex::KeysAt( size_t a_keyWord ) const
+{
+    const quint32 entry = m_keyWords[a_keyWord];
+    return KeyWordAt( WordAt( entry >> s_kBitsOfPart ), entry & s_kPart ).First();
+}
+
+/// \return the first key word that is not less than keys.
+size_t WordIndex::FirstKeyWord( quint64 a_keys, size_t a_from ) const
+{
+    size_t first = a_from;
+    size_t end = m_keyWords.size();
+    while ( first < end )
+    {
+        const size_t middle = first + ( end - first ) / 2;
+        if ( KeysAt( middle ) < a_keys )
+            first = middle + 1;
+        else
+            end = middle;
+    }
+    return first;
+}
+
+size_t WordIndex::FirstWord( std::string_view a_beginning ) const
+{
+    size_t first = 0;
+    size_t end = m_begins.size() - 1;
+    while ( first < end )
+    {
+        const size_t middle = first + ( end - first ) / 2;
+        if ( WordAt( middle ) < a_beginning )
+            first = middle + 1;
+        else
+            end = middle;
+    }
+    return first;
+}
+
+size_t WordIndex::EndOfWords( std::string_view a_beginning, size_t a_first ) const
+{
+    size_t first = a_first;
+    size_t end = m_begins.size() - 1;
+    while ( first < end )
+    {
+        const size_t middle = first + ( end - first ) / 2;
+        if ( WordAt( middle ).substr( 0, a_beginning.size() ) == a_beginning )
+            first = middle + 1;
+        else
+            end = middle;
+    }
+    return first;
+}
+
+void WordIndex::Find( std::string_view a_beginning, WordMatches& a_matches ) const
+{
+    if ( m_begins.empty() )
+        return;
+    const std::string_view beginning = WordCollector::Cut( a_beginning );
+    const size_t first = FirstWord( beginning );
+    const size_t end = EndOfWords( beginning, first );
+    const size_t wholeEnd = first < end && WordAt( first ) == beginning ? first + 1 : first;
+    Take( m_places.data(), m_firstPlaces[first], m_firstPlaces[wholeEnd], m_firstPlaces[end], a_matches );
+}
+
+void WordIndex::FindByKeys( std::string_view a_keys, WordMatches& a_matches ) const
+{
+    KeyWord keys;
+    for ( const char key : a_keys )
+        keys.Add( key - '0' );
+    const size_t first = FirstKeyWord( keys.First(), 0 );
+    const size_t wholeEnd = FirstKeyWord( keys.First() + 1, first );
+    const size_t end = FirstKeyWord( keys.Last() + 1, wholeEnd );
+    for ( size_t i = first; i < end; ++i )
+    {
+        const quint32 word = m_keyWords[i] >> s_kBitsOfPart;
+        const size_t begin = m_firstPlaces[word];
+        const size_t placesEnd = m_firstPlaces[word + 1];
+        Take( m_places.data(), begin, i < wholeEnd ? placesEnd : begin, placesEnd, a_matches );
+    }
+}
+
+size_t WordIndex::Bytes() const
+{
+    return m_text.capacity() +
+           ( m_begins.capacity() + m_firstPlaces.capacity() + m_keyWords.capacity() ) * sizeof( quint32 ) +
+           m_places.capacity() * sizeof( Place );
+}
+
+} // namespace PimManager::PhoneBook

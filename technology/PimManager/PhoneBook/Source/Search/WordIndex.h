@@ -1,0 +1,111 @@
+/// \file
+/// The words of all contacts in the order of the alphabet, and in the order of their keys.
+
+#pragma once
+
+#include "Search/FoldedText.h"
+#include "Search/WordMatches.h"
+
+#include <QtGlobal>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace PimManager::PhoneBook
+{
+
+/// Collects the words of contacts for a WordIndex.
+class WordCollector
+{
+public:
+    /// The length in bytes of the part of a word that is compared: 96 Latin letters, 48 Cyrillic or 32 Chinese ones.
+    static constexpr size_t s_kMostBytes = 96;
+    /// The number of characters of a text without blanks that may each begin a word.
+    static constexpr quint32 s_kMostStarts = 32;
+
+    struct Entry
+    {
+        quint64 m_head; // the first eight bytes, so that most comparisons need no more
+        quint32 m_begin;
+        quint32 m_size;
+        quint32 m_contact;
+        bool m_isOrganisation;
+    };
+
+    /// \return the part of a word that is compared.
+    static std::string_view Cut( std::string_view a_word );
+
+    /// Adds the words of a contact.
+    void Add( quint32 a_contact, const FoldedText& a_text, bool a_isOrganisation );
+
+    /// Sorts the words and removes equal ones of one contact.
+    void Sort();
+
+    const std::vector<Entry>& Entries() const { return m_entries; }
+    std::string_view WordOf( const Entry& a_entry ) const
+    {
+        return std::string_view( m_text ).substr( a_entry.m_begin, a_entry.m_size );
+    }
+
+private:
+    void AddWord( std::string_view a_word );
+    void AddChain( const FoldedText& a_text, const FoldedText::Chain& a_chain );
+    void AddStart( const FoldedText& a_text, const FoldedText::Chain& a_chain, quint32 a_index );
+    void AddBoth( const FoldedText& a_text, const FoldedText::Chain& a_chain, const FoldedText::Start& a_begin,
+                  const FoldedText::Start& a_end );
+    bool IsBefore( const Entry& a_first, const Entry& a_second ) const;
+    bool IsKnown( const Entry& a_entry, std::string_view a_word ) const;
+
+    std::string m_text;
+    std::vector<Entry> m_entries;
+    size_t m_firstOfContact = 0;
+    quint32 m_contact = 0;
+    bool m_isOrganisation = false;
+};
+
+/// Finds the contacts with words that begin with a text or with keys. Eight bytes for each different word, four for
+/// each KeyWord of these, four for each word of a contact, and the letters.
+class WordIndex
+{
+public:
+    /// \param a_words sorted.
+    /// \param a_ranks the rank in the sorted list for each contact.
+    void Build( const WordCollector& a_words, const std::vector<quint32>& a_ranks );
+
+    /// Adds the contacts with a word that begins with a text.
+    /// \param a_beginning folded; not empty.
+    void Find( std::string_view a_beginning, WordMatches& a_matches ) const;
+
+    /// Adds the contacts with a word that begins with keys.
+    /// \param a_keys digits from 2 to 9; not empty.
+    void FindByKeys( std::string_view a_keys, WordMatches& a_matches ) const;
+
+    /// The memory in bytes.
+    size_t Bytes() const;
+
+private:
+    // The rank of a contact, and whether the word is of an organisation.
+    using Place = quint32;
+
+    std::string_view WordAt( size_t a_word ) const
+    {
+        return std::string_view( m_text ).substr( m_begins[a_word], m_begins[a_word + 1] - m_begins[a_word] );
+    }
+    void BuildKeys();
+    quint64 KeysAt( size_t a_keyWord ) const;
+    size_t FirstKeyWord( quint64 a_keys, size_t a_from ) const;
+    size_t FirstWord( std::string_view a_beginning ) const;
+    size_t EndOfWords( std::string_view a_beginning, size_t a_first ) const;
+
+    // The different words in the order of their bytes: their letters, where each begins, and its first place.
+    std::string m_text;
+    std::vector<quint32> m_begins;
+    std::vector<quint32> m_firstPlaces;
+    std::vector<Place> m_places;
+
+    // The key words in their order: for each the index of its word, and in the last bits its index in the word.
+    std::vector<quint32> m_keyWords;
+};
+
+} // namespace PimManager::PhoneBook

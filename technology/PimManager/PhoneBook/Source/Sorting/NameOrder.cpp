@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 
 namespace PimManager::PhoneBook
 {
@@ -14,13 +15,15 @@ namespace
 /// The first and the last letter of the alphabet of a script.
 struct Ends
 {
+    QChar::Script m_script;
     char16_t m_first;
     char16_t m_last;
 };
 
 constexpr std::array s_kScripts = {
-    Ends{ u'a', u'z' },     Ends{ 0x03B1, 0x03C9 }, Ends{ 0x0430, 0x044F },
-    Ends{ 0x0561, 0x0586 }, Ends{ 0x05D0, 0x05EA }, Ends{ 0x0627, 0x064A },
+    Ends{ QChar::Script_Latin, u'a', u'z' },        Ends{ QChar::Script_Greek, 0x03B1, 0x03C9 },
+    Ends{ QChar::Script_Cyrillic, 0x0430, 0x044F }, Ends{ QChar::Script_Armenian, 0x0561, 0x0586 },
+    Ends{ QChar::Script_Hebrew, 0x05D0, 0x05EA },   Ends{ QChar::Script_Arabic, 0x0627, 0x064A },
 };
 
 struct Row
@@ -62,6 +65,8 @@ constexpr char32_t s_kFirstSyllable = 0xAC00;
 constexpr char32_t s_kLastSyllable = 0xD7A3;
 constexpr char32_t s_kSyllablesOfConsonant = 588;
 constexpr char16_t s_kHanSection = 0x6F22;
+// A letter after all that names have.
+constexpr char16_t s_kClick = 0x0298;
 constexpr char16_t s_kRingA = 0x00E5;
 constexpr char16_t s_kDotlessI = 0x0131;
 constexpr char16_t s_kCapitalDottedI = 0x0130;
@@ -129,10 +134,9 @@ QString PlainLetter( const QString& a_letter )
 
 const Ends* ScriptOf( const QString& a_letter )
 {
-    const char16_t letter = a_letter.at( 0 ).unicode();
-    const auto* const found =
-        std::find_if( s_kScripts.begin(), s_kScripts.end(),
-                      [letter]( const Ends& a_ends ) { return letter >= a_ends.m_first && letter <= a_ends.m_last; } );
+    const QChar::Script script = QChar::script( FirstCharacter( a_letter ) );
+    const auto* const found = std::find_if( s_kScripts.begin(), s_kScripts.end(),
+                                            [script]( const Ends& a_ends ) { return a_ends.m_script == script; } );
     return found == s_kScripts.end() ? nullptr : found;
 }
 
@@ -219,6 +223,16 @@ int NameOrder::SectionOfLetters( const QString& a_letters )
     return section;
 }
 
+std::vector<int> NameOrder::SortedSections() const
+{
+    std::vector<int> sections( static_cast<size_t>( m_labels.size() ) );
+    std::iota( sections.begin(), sections.end(), 0 );
+    std::sort( sections.begin() + 1, sections.end(),
+               [this]( int a_first, int a_second ) { return Compare( Label( a_first ), Label( a_second ) ) < 0; } );
+    std::rotate( sections.begin(), sections.begin() + 1, sections.end() );
+    return sections;
+}
+
 QString NameOrder::LabelOf( const QString& a_letters ) const
 {
     const char32_t character = FirstCharacter( a_letters );
@@ -238,8 +252,7 @@ QString NameOrder::LabelOf( const QString& a_letters ) const
         const auto ring = QString( QChar( s_kRingA ) );
         return AreApart( letters, ring ) ? Capital( letter ) + letters.mid( letter.size() ) : Capital( ring );
     }
-    return plain.isEmpty() || ScriptOf( plain ) == nullptr || AreApart( letter, plain ) ? Capital( letter )
-                                                                                        : Capital( plain );
+    return plain.isEmpty() || AreApart( letter, plain ) ? Capital( letter ) : Capital( plain );
 }
 
 // Every name with one letter is before or after every name with the other one.
@@ -266,7 +279,7 @@ bool NameOrder::IsPair( const QString& a_letters, const QString& a_letter ) cons
     const bool isCroatian = m_locale.language() == QLocale::Croatian || m_locale.language() == QLocale::Bosnian;
     if ( !isPlain && !( isCroatian && a_letters == QString::fromUtf16( u"d\u017E" ) ) )
         return false;
-    return Compare( a_letters + QLatin1Char( 'a' ), a_letter + m_lastLatin + m_lastLatin ) > 0;
+    return Compare( a_letters + QLatin1Char( 'a' ), a_letter + QChar( s_kClick ) ) > 0;
 }
 
 bool NameOrder::HasPinyin() const

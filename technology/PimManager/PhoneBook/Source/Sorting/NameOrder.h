@@ -41,6 +41,9 @@ public:
     /// \return the number of the section of a name.
     int SectionOf( const QString& a_name );
 
+    /// \return the numbers of all sections that SectionOf() has returned, and of `#`, in the order of the alphabet.
+    std::vector<int> SortedSections() const;
+
     /// \param a_section a number that SectionOf() returned.
     QString Label( int a_section ) const { return m_labels.at( a_section ); }
 
@@ -64,8 +67,8 @@ private:
     bool m_hasPairs = false;
 };
 
-/// Sorts names.
-/// \param a_sections the sections of the names.
+/// Sorts names by their sections, and by the alphabet in each section.
+/// \param a_sections the sections of the names, from SectionOf().
 /// \return the indices of the names in their order. Equal names are in the order of their indices. In the order of
 ///         n log n comparisons; about two for each name if they are nearly sorted by the plain letters.
 std::vector<int> SortedNames( const std::vector<QString>& a_names, const std::vector<int>& a_sections,

@@ -148,16 +148,16 @@ private:
 std::vector<int> SortedNames( const std::vector<QString>& a_names, const std::vector<int>& a_sections,
                               const NameOrder& a_order )
 {
+    const std::vector<int> sections = a_order.SortedSections();
+    std::vector<RoughNames> names( sections.size() );
+    for ( size_t i = 0; i < a_names.size(); ++i )
+        names[static_cast<size_t>( a_sections[i] )].Add( a_names[i], static_cast<int>( i ) );
     std::vector<int> sorted;
-    for ( const bool areOthers : { false, true } )
+    sorted.reserve( a_names.size() );
+    for ( const int section : sections )
     {
-        RoughNames rough;
-        for ( size_t i = 0; i < a_names.size(); ++i )
-        {
-            if ( ( a_sections[i] == NameOrder::s_kOtherSection ) == areOthers )
-                rough.Add( a_names[i], static_cast<int>( i ) );
-        }
-        const std::vector<int> part = NearlySorted( a_names, a_order ).Sort( rough.Sorted() );
+        const std::vector<int> rough = names[static_cast<size_t>( section )].Sorted();
+        const std::vector<int> part = NearlySorted( a_names, a_order ).Sort( rough );
         sorted.insert( sorted.end(), part.begin(), part.end() );
     }
     return sorted;

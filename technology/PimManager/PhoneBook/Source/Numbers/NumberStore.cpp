@@ -72,12 +72,6 @@ int NumberStore::ContactOf( int a_number ) const
     return static_cast<int>( after - m_firsts.begin() ) - 1;
 }
 
-int NumberStore::First( int a_contact ) const
-{
-    const auto contact = static_cast<size_t>( a_contact );
-    return contact < m_firsts.size() ? static_cast<int>( m_firsts[contact] ) : Size();
-}
-
 size_t NumberStore::Bytes() const
 {
     return m_bytes.capacity() + ( m_begins.capacity() + m_firsts.capacity() ) * sizeof( quint32 );

@@ -5,6 +5,7 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,7 +51,11 @@ public:
     /// \param a_contact an index of a contact; may be larger than those of all numbers.
     /// \return the index of the first number of the contact. If it has none, that of the next contact that has one;
     ///         Size() if there is none. The numbers of a contact end at First( a_contact + 1 ). Constant time.
-    int First( int a_contact ) const;
+    int First( int a_contact ) const
+    {
+        const auto contact = static_cast<size_t>( a_contact );
+        return contact < m_firsts.size() ? static_cast<int>( m_firsts[contact] ) : Size();
+    }
 
     /// \return true if the digits begin with others.
     bool BeginsWith( int a_number, std::string_view a_digits ) const
@@ -58,7 +63,8 @@ public:
         size_t place = Begin( a_number ) + 1;
         while ( IsMarked( place ) )
             ++place;
-        return m_bytes.compare( place, a_digits.size(), a_digits ) == 0;
+        return m_bytes.size() - place >= a_digits.size() &&
+               std::equal( a_digits.begin(), a_digits.end(), m_bytes.data() + place );
     }
 
     /// \param a_contact as in First().

@@ -25,6 +25,9 @@ public:
     /// The number of words of a set.
     static size_t WordsFor( size_t a_contacts ) { return ( a_contacts + s_kBits - 1 ) / s_kBits; }
 
+    /// The bits.
+    quint64* Words() { return m_words.data(); }
+
     void Add( quint32 a_rank ) { m_words[a_rank / s_kBits] |= BitOf( a_rank ); }
     void Remove( quint32 a_rank ) { m_words[a_rank / s_kBits] &= ~BitOf( a_rank ); }
     bool Has( quint32 a_rank ) const { return ( m_words[a_rank / s_kBits] & BitOf( a_rank ) ) != 0; }

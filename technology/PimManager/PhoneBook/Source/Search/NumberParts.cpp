@@ -3,7 +3,6 @@
 #include "Numbers/NumberStore.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 namespace PimManager::PhoneBook
@@ -58,26 +57,50 @@ Bytes BytesAt( const char* a_place )
     return bytes;
 }
 
-/// \return true if a text contains digits, of which there are at least three. Compares the first three of them at
-///         several places at once.
-bool Contains( std::string_view a_text, std::string_view a_digits )
+/// Finds digits, of which there are at least three, in texts. Compares the first three at several places at once.
+class DigitSearch
 {
-    const auto spread = [a_digits]( size_t a_place ) { return s_kOnes * static_cast<uchar>( a_digits[a_place] ); };
-    const std::array<Bytes, s_kTriple> first = { spread( 0 ), spread( 1 ), spread( 2 ) };
-    size_t place = 0;
-    for ( ; place + sizeof( Bytes ) + s_kTriple - 1 <= a_text.size(); place += sizeof( Bytes ) )
+public:
+    explicit DigitSearch( std::string_view a_digits ) :
+        m_digits( a_digits ),
+        m_first( Spread( 0 ) ),
+        m_second( Spread( 1 ) ),
+        m_third( Spread( 2 ) )
     {
-        const char* const bytes = a_text.data() + place;
-        const Bytes different =
-            ( BytesAt( bytes ) ^ first[0] ) | ( BytesAt( bytes + 1 ) ^ first[1] ) | ( BytesAt( bytes + 2 ) ^ first[2] );
-        if ( ( ( different - s_kOnes ) & ~different & s_kHighBits ) == 0 )
-            continue;
-        if ( a_digits.size() == s_kTriple ||
-             a_text.substr( place, sizeof( Bytes ) + a_digits.size() - 1 ).find( a_digits ) != std::string_view::npos )
-            return true;
     }
-    return a_text.find( a_digits, place ) != std::string_view::npos;
-}
+
+    bool IsIn( std::string_view a_text ) const
+    {
+        const char* place = a_text.data();
+        const char* const end = place + a_text.size();
+        for ( ; end - place >= s_kCompared; place += sizeof( Bytes ) )
+        {
+            const Bytes different = ( BytesAt( place ) ^ m_first ) | ( BytesAt( place + 1 ) ^ m_second ) |
+                                    ( BytesAt( place + 2 ) ^ m_third );
+            const bool hasZero = ( ( different - s_kOnes ) & ~different & s_kHighBits ) != 0;
+            if ( hasZero && ( m_digits.size() == s_kTriple || IsNear( place, end ) ) )
+                return true;
+        }
+        return std::string_view( place, static_cast<size_t>( end - place ) ).find( m_digits ) != std::string_view::npos;
+    }
+
+private:
+    static constexpr auto s_kCompared = static_cast<ptrdiff_t>( sizeof( Bytes ) + s_kTriple - 1 );
+
+    Bytes Spread( size_t a_place ) const { return s_kOnes * static_cast<uchar>( m_digits[a_place] ); }
+
+    /// \return true if the digits begin at one of the places that are compared at once.
+    bool IsNear( const char* a_place, const char* a_end ) const
+    {
+        const size_t size = std::min( sizeof( Bytes ) + m_digits.size() - 1, static_cast<size_t>( a_end - a_place ) );
+        return std::string_view( a_place, size ).find( m_digits ) != std::string_view::npos;
+    }
+
+    std::string_view m_digits;
+    Bytes m_first;
+    Bytes m_second;
+    Bytes m_third;
+};
 
 } // namespace
 
@@ -208,10 +231,11 @@ ContactSet NumberParts::Candidates( std::string_view a_digits ) const
 void NumberParts::AddContaining( std::string_view a_digits, const ContactSet& a_candidates,
                                  ContactSet& a_matches ) const
 {
+    const DigitSearch search( a_digits );
     a_candidates.ForEach(
         [&]( quint32 a_rank )
         {
-            if ( Contains( BlockOf( a_rank ), a_digits ) )
+            if ( search.IsIn( BlockOf( a_rank ) ) )
                 a_matches.Add( a_rank );
         } );
 }

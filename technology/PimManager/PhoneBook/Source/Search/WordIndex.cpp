@@ -3,6 +3,7 @@
 #include "Search/Keypad.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace PimManager::PhoneBook
@@ -17,20 +18,28 @@ constexpr quint32 s_kBitsOfPart = 6;
 constexpr quint32 s_kPart = ( 1U << s_kBitsOfPart ) - 1;
 static_assert( WordCollector::s_kMostBytes / 2 <= s_kPart );
 
-/// Adds the contacts of places: to the whole words up to a_wholeEnd.
-void Take( const quint32* a_places, size_t a_begin, size_t a_wholeEnd, size_t a_end, WordMatches& a_matches )
+/// Adds the contacts of places to the sets of names and of organisations.
+class PlaceTaker
 {
-    for ( size_t i = a_begin; i < a_wholeEnd; ++i )
+public:
+    PlaceTaker( ContactSet& a_names, ContactSet& a_organisations ) :
+        m_sets{ a_names.Words(), a_organisations.Words() }
     {
-        const bool isOrganisation = ( a_places[i] & s_kOrganisation ) != 0;
-        ( isOrganisation ? a_matches.m_wholeOrganisation : a_matches.m_wholeName ).Add( a_places[i] >> 1 );
     }
-    for ( size_t i = a_begin; i < a_end; ++i )
+
+    void Take( const quint32* a_place, const quint32* a_end ) const
     {
-        const bool isOrganisation = ( a_places[i] & s_kOrganisation ) != 0;
-        ( isOrganisation ? a_matches.m_organisation : a_matches.m_name ).Add( a_places[i] >> 1 );
+        for ( ; a_place != a_end; ++a_place )
+        {
+            const quint32 rank = *a_place >> 1;
+            m_sets[*a_place & s_kOrganisation][rank / ContactSet::s_kBits] |= quint64( 1 )
+                                                                              << ( rank % ContactSet::s_kBits );
+        }
     }
-}
+
+private:
+    std::array<quint64*, 2> m_sets;
+};
 
 } // namespace
 
@@ -138,8 +147,12 @@ void WordIndex::Find( std::string_view a_beginning, WordMatches& a_matches ) con
     const std::string_view beginning = WordCollector::Cut( a_beginning );
     const size_t first = FirstWord( beginning );
     const size_t end = EndOfWords( beginning, first );
-    const size_t wholeEnd = first < end && WordAt( first ) == beginning ? first + 1 : first;
-    Take( m_places.data(), m_firstPlaces[first], m_firstPlaces[wholeEnd], m_firstPlaces[end], a_matches );
+    const quint32* const places = m_places.data();
+    PlaceTaker( a_matches.m_name, a_matches.m_organisation )
+        .Take( places + m_firstPlaces[first], places + m_firstPlaces[end] );
+    if ( first < end && WordAt( first ) == beginning )
+        PlaceTaker( a_matches.m_wholeName, a_matches.m_wholeOrganisation )
+            .Take( places + m_firstPlaces[first], places + m_firstPlaces[first + 1] );
 }
 
 void WordIndex::FindByKeys( std::string_view a_keys, WordMatches& a_matches ) const
@@ -150,12 +163,19 @@ void WordIndex::FindByKeys( std::string_view a_keys, WordMatches& a_matches ) co
     const size_t first = FirstKeyWord( keys.First(), 0 );
     const size_t wholeEnd = FirstKeyWord( keys.First() + 1, first );
     const size_t end = FirstKeyWord( keys.Last() + 1, wholeEnd );
-    for ( size_t i = first; i < end; ++i )
+    TakeKeyWords( first, end, PlaceTaker( a_matches.m_name, a_matches.m_organisation ) );
+    TakeKeyWords( first, wholeEnd, PlaceTaker( a_matches.m_wholeName, a_matches.m_wholeOrganisation ) );
+}
+
+template <class Taker>
+void WordIndex::TakeKeyWords( size_t a_first, size_t a_end, const Taker& a_taker ) const
+{
+    const quint32* const places = m_places.data();
+    const quint32* const firstPlaces = m_firstPlaces.data();
+    for ( size_t i = a_first; i < a_end; ++i )
     {
         const quint32 word = m_keyWords[i] >> s_kBitsOfPart;
-        const size_t begin = m_firstPlaces[word];
-        const size_t placesEnd = m_firstPlaces[word + 1];
-        Take( m_places.data(), begin, i < wholeEnd ? placesEnd : begin, placesEnd, a_matches );
+        a_taker.Take( places + firstPlaces[word], places + firstPlaces[word + 1] );
     }
 }
 

@@ -95,6 +95,8 @@ private:
     void BuildKeys();
     quint64 KeysAt( size_t a_keyWord ) const;
     size_t FirstKeyWord( quint64 a_keys, size_t a_from ) const;
+    template <class Taker>
+    void TakeKeyWords( size_t a_first, size_t a_end, const Taker& a_taker ) const;
     size_t FirstWord( std::string_view a_beginning ) const;
     size_t EndOfWords( std::string_view a_beginning, size_t a_first ) const;
 

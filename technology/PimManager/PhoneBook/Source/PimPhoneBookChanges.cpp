@@ -1,17 +1,84 @@
 #include <PimManager/PhoneBook/PimPhoneBookChanges.h>
 
+#include "Changes/BookPairing.h"
+#include "Changes/ContentMatches.h"
+#include "Changes/IdentifierMatches.h"
+#include "Changes/Identifiers.h"
+#include "Changes/LineDifferences.h"
+#include "Changes/Moves.h"
+#include "Changes/NameMatches.h"
+
 #include <QSharedData>
+
+#include <iterator>
 
 namespace PimManager::PhoneBook
 {
 
+using Contacts::PimContact;
+using Contacts::PimContactBook;
+
+namespace
+{
+
+constexpr PimPhoneBookBasis s_kIdentifierBases[] = { PimPhoneBookBasis::Uid, PimPhoneBookBasis::BluetoothUid };
+
+void PairContacts( BookPairing& a_pairing, int a_endingDigits )
+{
+    ContentMatches contents( a_pairing );
+    contents.PairSameCards();
+    for ( int i = 0; a_pairing.HasFree() && i < IdentifierNames().size(); ++i )
+        PairByIdentifier( a_pairing, contents, IdentifierNames().at( i ), s_kIdentifierBases[i] );
+    if ( a_pairing.HasFree() )
+        contents.PairEqualContacts( a_pairing.FreeOld(), a_pairing.FreeNew(), PimPhoneBookBasis::Content );
+    if ( a_pairing.HasFree() )
+        PairByName( a_pairing, a_endingDigits );
+}
+
+bool IsChanged( const BookPairing& a_pairing, const PimPhoneBookPair& a_pair )
+{
+    return !a_pairing.IsKnownSame( a_pair.m_new ) &&
+           !AreEqualContacts( a_pairing.OldBook().CardAt( a_pair.m_old ), a_pairing.NewBook().CardAt( a_pair.m_new ) );
+}
+
+QVector<int> WithoutPartner( const QVector<int>& a_partners )
+{
+    QVector<int> contacts;
+    for ( int i = 0; i < a_partners.size(); ++i )
+    {
+        if ( a_partners.at( i ) < 0 )
+            contacts.append( i );
+    }
+    return contacts;
+}
+
+} // namespace
+
 class PimPhoneBookChangesPrivate : public QSharedData
 {
 public:
+    PimPhoneBookChangesPrivate() = default;
+    explicit PimPhoneBookChangesPrivate( const BookPairing& a_pairing ) :
+        m_newOf( a_pairing.NewOf() ),
+        m_oldOf( a_pairing.OldOf() )
+    {
+        QVector<int> olds;
+        for ( int i = 0; i < m_oldOf.size(); ++i )
+        {
+            if ( m_oldOf.at( i ) < 0 )
+                continue;
+            m_pairs.append( a_pairing.PairOf( i ) );
+            olds.append( m_oldOf.at( i ) );
+            if ( IsChanged( a_pairing, m_pairs.constLast() ) )
+                m_changed.append( m_pairs.constLast() );
+        }
+        for ( const int move : FewestMoves( olds ) )
+            m_moved.append( m_pairs.at( move ) );
+    }
+
     QVector<int> m_newOf;
     QVector<int> m_oldOf;
-    QVector<int> m_added;
-    QVector<int> m_removed;
+    QVector<PimPhoneBookPair> m_pairs;
     QVector<PimPhoneBookPair> m_changed;
     QVector<PimPhoneBookPair> m_moved;
 };
@@ -27,48 +94,34 @@ PimPhoneBookChanges& PimPhoneBookChanges::operator=( const PimPhoneBookChanges& 
 PimPhoneBookChanges& PimPhoneBookChanges::operator=( PimPhoneBookChanges&& a_other ) noexcept = default;
 PimPhoneBookChanges::~PimPhoneBookChanges() = default;
 
-PimPhoneBookChanges PimPhoneBookChanges::Compare( const Contacts::PimContactBook& a_old,
-                                                  const Contacts::PimContactBook& a_new )
+PimPhoneBookChanges PimPhoneBookChanges::Compare( const PimContactBook& a_old, const PimContactBook& a_new,
+                                                  const PimPhoneBookOptions& a_options )
 {
+    BookPairing pairing( a_old, a_new );
+    PairContacts( pairing, a_options.EndingDigits() );
     PimPhoneBookChanges changes;
-    changes.d->m_newOf.fill( -1, a_old.Size() );
-    changes.d->m_oldOf.fill( -1, a_new.Size() );
-    for ( int newIndex = 0; newIndex < a_new.Size(); ++newIndex )
-    {
-        for ( int oldIndex = 0; oldIndex < a_old.Size() && changes.d->m_oldOf[newIndex] < 0; ++oldIndex )
-        {
-            if ( changes.d->m_newOf[oldIndex] >= 0 ||
-                 a_old.At( oldIndex ).DisplayName() != a_new.At( newIndex ).DisplayName() )
-                continue;
-            changes.d->m_newOf[oldIndex] = newIndex;
-            changes.d->m_oldOf[newIndex] = oldIndex;
-            if ( a_old.At( oldIndex ) != a_new.At( newIndex ) )
-                changes.d->m_changed.append( { oldIndex, newIndex } );
-        }
-        if ( changes.d->m_oldOf[newIndex] < 0 )
-            changes.d->m_added.append( newIndex );
-    }
-    for ( int oldIndex = 0; oldIndex < a_old.Size(); ++oldIndex )
-    {
-        if ( changes.d->m_newOf[oldIndex] < 0 )
-            changes.d->m_removed.append( oldIndex );
-    }
+    changes.d = new PimPhoneBookChangesPrivate( pairing );
     return changes;
+}
+
+PimPhoneBookLines PimPhoneBookChanges::LinesOf( const PimContact& a_old, const PimContact& a_new )
+{
+    return DifferentLines( a_old.Card(), a_new.Card() );
 }
 
 bool PimPhoneBookChanges::IsEmpty() const
 {
-    return d->m_added.isEmpty() && d->m_removed.isEmpty() && d->m_changed.isEmpty();
+    return d->m_changed.isEmpty() && d->m_pairs.size() == d->m_newOf.size() && d->m_pairs.size() == d->m_oldOf.size();
 }
 
 QVector<int> PimPhoneBookChanges::Added() const
 {
-    return d->m_added;
+    return WithoutPartner( d->m_oldOf );
 }
 
 QVector<int> PimPhoneBookChanges::Removed() const
 {
-    return d->m_removed;
+    return WithoutPartner( d->m_newOf );
 }
 
 QVector<PimPhoneBookPair> PimPhoneBookChanges::Changed() const
@@ -81,14 +134,19 @@ QVector<PimPhoneBookPair> PimPhoneBookChanges::Moved() const
     return d->m_moved;
 }
 
+QVector<PimPhoneBookPair> PimPhoneBookChanges::Pairs() const
+{
+    return d->m_pairs;
+}
+
 int PimPhoneBookChanges::NewOf( int a_old ) const
 {
-    return d->m_newOf.at( a_old );
+    return d->m_newOf.value( a_old, -1 );
 }
 
 int PimPhoneBookChanges::OldOf( int a_new ) const
 {
-    return d->m_oldOf.at( a_new );
+    return d->m_oldOf.value( a_new, -1 );
 }
 
 } // namespace PimManager::PhoneBook

@@ -13,6 +13,8 @@
 
 #include <QByteArray>
 #include <QExplicitlySharedDataPointer>
+#include <QLatin1String>
+#include <QList>
 #include <QtGlobal>
 
 #include <iterator>
@@ -122,6 +124,23 @@ public:
     /// \note Example: a card with `N:J\xF6rg` and no CHARSET uses the default. With `N;CHARSET=KOI8-R:J\xF6rg` it does
     ///       not, and neither does a card in UTF-8.
     bool UsesDefaultCharset() const;
+
+    /// Compares the lines with their folds undone, in their order. It is much faster than the comparison of contacts.
+    /// \param a_except the names of properties that do not count, in ASCII and in any letter case.
+    /// \return true if the lines have the same groups and names in any letter case, and the same parameters, encodings,
+    ///         character sets, values and nested cards, and if both cards have the same version.
+    ///         PimContact::operator==() is then true as well, unless the lines that do not count differ. It may also be
+    ///         true if this is false. Two null cards are equal. Linear in the length of both.
+    bool HasSameLines( const PimContactCard& a_other,
+                       const QList<QLatin1String>& a_except = QList<QLatin1String>() ) const;
+
+    /// A number to find cards with the same lines among many. Linear in the length of the card.
+    /// \param a_seed   any number. A random one protects from cards that were made to have equal numbers.
+    /// \param a_except as for HasSameLines().
+    /// \return the same number for cards of which HasSameLines() is true, also if they have other groups, lines or
+    ///         parameters are in another order, or parameters in another letter case. Others rarely have the same
+    ///         number. 0 if no lines count.
+    quint64 ContentHash( quint64 a_seed, const QList<QLatin1String>& a_except = QList<QLatin1String>() ) const;
 
     /// \return true if bytes, index and record are equal. The position in the file is not compared.
     bool operator==( const PimContactCard& a_other ) const;

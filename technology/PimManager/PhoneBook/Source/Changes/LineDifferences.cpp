@@ -1,0 +1,85 @@
+#include "Changes/LineDifferences.h"
+
+#include "Changes/ComparedLines.h"
+#include "Changes/FieldMatches.h"
+#include "Changes/Identifiers.h"
+#include "Changes/Moves.h"
+
+#include <algorithm>
+
+namespace PimManager::PhoneBook
+{
+
+using Contacts::PimContactCard;
+
+namespace
+{
+
+void MatchTexts( ComparedLines& a_old, ComparedLines& a_new )
+{
+    QHash<QString, QVector<int>> places;
+    for ( int place = a_old.Size(); --place >= 0; )
+        places[a_old.At( place ).m_text].append( place );
+    for ( int place = 0; place < a_new.Size(); ++place )
+    {
+        const auto same = places.find( a_new.At( place ).m_text );
+        if ( same == places.end() || same->isEmpty() )
+            continue;
+        a_new.At( place ).m_partner = same->takeLast();
+        a_old.At( a_new.At( place ).m_partner ).m_partner = place;
+    }
+}
+
+PimPhoneBookLines LinesAt( const ComparedLines& a_old, const ComparedLines& a_new, const QVector<int>& a_newPlaces )
+{
+    QVector<int> oldPlaces;
+    for ( const int place : a_newPlaces )
+        oldPlaces.append( a_new.At( place ).m_partner );
+    std::sort( oldPlaces.begin(), oldPlaces.end() );
+    return { a_old.LinesAt( oldPlaces ), a_new.LinesAt( a_newPlaces ) };
+}
+
+// The functions below are for cards in which each line has a partner.
+
+QVector<int> MovedLines( const ComparedLines& a_new )
+{
+    QVector<int> partners;
+    for ( int place = 0; place < a_new.Size(); ++place )
+        partners.append( a_new.At( place ).m_partner );
+    return FewestMoves( partners );
+}
+
+QVector<int> RegroupedLines( const ComparedLines& a_old, const ComparedLines& a_new )
+{
+    QVector<int> places;
+    for ( int place = 0; place < a_new.Size(); ++place )
+    {
+        const QByteArray group = a_old.At( a_new.At( place ).m_partner ).m_line.Group();
+        if ( group.toUpper() != a_new.At( place ).m_line.Group().toUpper() )
+            places.append( place );
+    }
+    return places;
+}
+
+PimPhoneBookLines Rearranged( const ComparedLines& a_old, const ComparedLines& a_new )
+{
+    const QVector<int> moved = MovedLines( a_new );
+    return LinesAt( a_old, a_new, moved.isEmpty() ? RegroupedLines( a_old, a_new ) : moved );
+}
+
+} // namespace
+
+PimPhoneBookLines DifferentLines( const PimContactCard& a_old, const PimContactCard& a_new )
+{
+    if ( AreEqualContacts( a_old, a_new ) )
+        return PimPhoneBookLines();
+    const QList<QLatin1String> ignored = IgnoredIdentifiers( a_old, a_new );
+    ComparedLines olds( a_old, ignored );
+    ComparedLines news( a_new, ignored );
+    MatchTexts( olds, news );
+    MatchFields( olds, news );
+    const PimPhoneBookLines lines = { olds.Alone(), news.Alone() };
+    return lines.m_old.isEmpty() && lines.m_new.isEmpty() ? Rearranged( olds, news ) : lines;
+}
+
+} // namespace PimManager::PhoneBook

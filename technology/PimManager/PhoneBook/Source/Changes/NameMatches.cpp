@@ -1,0 +1,136 @@
+#include "Changes/NameMatches.h"
+
+#include "Changes/Candidates.h"
+#include "Changes/KeyedContacts.h"
+
+#include <algorithm>
+
+namespace PimManager::PhoneBook
+{
+
+using Contacts::PimContactBook;
+
+namespace
+{
+
+using People = std::vector<Person>;
+
+People PeopleIn( const PimContactBook& a_book, const std::vector<int>& a_contacts, int a_endingDigits,
+                 PersonTexts& a_texts )
+{
+    People people;
+    people.reserve( a_contacts.size() );
+    for ( const int contact : a_contacts )
+        people.emplace_back( a_book.CardAt( contact ), contact, a_endingDigits, a_texts );
+    return people;
+}
+
+/// Pairs people by their names.
+class PeoplePairing
+{
+public:
+    PeoplePairing( BookPairing& a_pairing, int a_endingDigits ) :
+        m_pairing( a_pairing ),
+        m_old( PeopleIn( a_pairing.OldBook(), a_pairing.FreeOld(), a_endingDigits, m_texts ) ),
+        m_new( PeopleIn( a_pairing.NewBook(), a_pairing.FreeNew(), a_endingDigits, m_texts ) ),
+        m_oldCounts( m_old.size() ),
+        m_newCounts( m_new.size() )
+    {
+    }
+
+    void PairByNameAndNumber()
+    {
+        const std::vector<Candidate> candidates = FindCandidates( m_old, m_new, m_texts );
+        for ( auto begin = candidates.begin(); begin != candidates.end(); )
+        {
+            const auto end =
+                std::find_if( begin, candidates.end(),
+                              [begin]( const Candidate& a_candidate ) { return !a_candidate.IsAsGoodAs( *begin ); } );
+            PairEquallyGood( { begin, end } );
+            begin = end;
+        }
+    }
+
+    void PairByNameAlone()
+    {
+        KeyedContacts olds = FreeNames( m_old, &PeoplePairing::IsOldFree );
+        KeyedContacts news = FreeNames( m_new, &PeoplePairing::IsNewFree );
+        VisitCommonKeys( olds, news,
+                         [this]( const ContactRun& a_oldRun, const ContactRun& a_newRun )
+                         {
+                             if ( a_oldRun.Size() == 1 && a_newRun.Size() == 1 )
+                                 PairOnlyOnes( a_oldRun.begin()->m_contact, a_newRun.begin()->m_contact );
+                         } );
+    }
+
+private:
+    bool IsOldFree( int a_place ) const { return m_pairing.IsOldFree( At( m_old, a_place ).m_index ); }
+    bool IsNewFree( int a_place ) const { return m_pairing.IsNewFree( At( m_new, a_place ).m_index ); }
+    static const Person& At( const People& a_people, int a_place ) { return a_people[static_cast<size_t>( a_place )]; }
+    bool IsFree( const Candidate& a_candidate ) const
+    {
+        return IsOldFree( a_candidate.m_old ) && IsNewFree( a_candidate.m_new );
+    }
+    int& OldCount( const Candidate& a_candidate ) { return m_oldCounts[static_cast<size_t>( a_candidate.m_old )]; }
+    int& NewCount( const Candidate& a_candidate ) { return m_newCounts[static_cast<size_t>( a_candidate.m_new )]; }
+
+    void PairEquallyGood( std::vector<Candidate> a_candidates )
+    {
+        const auto isTaken = [this]( const Candidate& a_candidate ) { return !IsFree( a_candidate ); };
+        a_candidates.erase( std::remove_if( a_candidates.begin(), a_candidates.end(), isTaken ), a_candidates.end() );
+        for ( const Candidate& candidate : a_candidates )
+        {
+            ++OldCount( candidate );
+            ++NewCount( candidate );
+        }
+        for ( const Candidate& candidate : a_candidates )
+        {
+            const bool isOnly = OldCount( candidate ) == 1 && NewCount( candidate ) == 1;
+            if ( IsFree( candidate ) && ( isOnly || candidate.m_agreement == NameAgreement::Same ) )
+                Pair( candidate.m_old, candidate.m_new, PimPhoneBookBasis::NameAndNumber );
+        }
+        for ( const Candidate& candidate : a_candidates )
+            OldCount( candidate ) = NewCount( candidate ) = 0;
+    }
+
+    KeyedContacts FreeNames( const People& a_people, bool ( PeoplePairing::*a_isFree )( int ) const ) const
+    {
+        KeyedContacts names;
+        for ( int i = 0; i < static_cast<int>( a_people.size() ); ++i )
+        {
+            if ( ( this->*a_isFree )( i ) && !At( a_people, i ).m_name.IsEmpty() )
+                names.push_back( { At( a_people, i ).m_nameNumber, i } );
+        }
+        return names;
+    }
+
+    void PairOnlyOnes( int a_old, int a_new )
+    {
+        if ( At( m_old, a_old ).m_addresses.empty() || At( m_new, a_new ).m_addresses.empty() )
+            Pair( a_old, a_new, PimPhoneBookBasis::Name );
+    }
+
+    void Pair( int a_old, int a_new, PimPhoneBookBasis a_basis )
+    {
+        m_pairing.Pair( At( m_old, a_old ).m_index, At( m_new, a_new ).m_index, a_basis );
+    }
+
+    BookPairing& m_pairing;
+    PersonTexts m_texts;
+    const People m_old;
+    const People m_new;
+    // For equally good candidates: in how many of them each person is.
+    std::vector<int> m_oldCounts;
+    std::vector<int> m_newCounts;
+};
+
+} // namespace
+
+void PairByName( BookPairing& a_pairing, int a_endingDigits )
+{
+    PeoplePairing people( a_pairing, a_endingDigits );
+    people.PairByNameAndNumber();
+    people.PairByNameAlone();
+}
+
+} // namespace PimManager::PhoneBook

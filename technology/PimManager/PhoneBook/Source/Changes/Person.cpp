@@ -1,0 +1,86 @@
+#include "Changes/Person.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace PimManager::PhoneBook
+{
+
+using Contacts::PimContact;
+using Contacts::PimContactCard;
+using Contacts::PimContactLine;
+using Contacts::PimContactMail;
+using Contacts::PimContactPhone;
+
+namespace
+{
+
+constexpr int s_kLeastDigits = 3;
+constexpr size_t s_kMostLineNumbers = 64;
+
+/// \return the last digits of a number. Empty for a text that is no number.
+QString EndingOf( const PimContactPhone& a_phone, int a_endingDigits )
+{
+    QString digits;
+    for ( const QChar character : a_phone.Number() )
+    {
+        if ( character.isDigit() )
+            digits += QChar( '0' + character.digitValue() );
+    }
+    const QString extension = a_phone.Extension();
+    if ( digits.size() < s_kLeastDigits )
+        return QString();
+    return digits.right( a_endingDigits ) + ( extension.isEmpty() ? QString() : QLatin1Char( 'x' ) + extension );
+}
+
+std::vector<quint64> AddressesOf( const PimContact& a_contact, int a_endingDigits, TextNumbers& a_numbers )
+{
+    std::vector<quint64> addresses;
+    const auto add = [&]( const QString& a_text )
+    {
+        if ( !a_text.isEmpty() )
+            addresses.push_back( a_numbers.NumberOf( a_text ) );
+    };
+    for ( const PimContactPhone& phone : a_contact.Phones() )
+        add( EndingOf( phone, a_endingDigits ) );
+    for ( const PimContactMail& mail : a_contact.Mails() )
+        add( mail.Address().contains( QLatin1Char( '@' ) ) ? mail.Address().trimmed().toLower() : QString() );
+    std::sort( addresses.begin(), addresses.end() );
+    addresses.erase( std::unique( addresses.begin(), addresses.end() ), addresses.end() );
+    return addresses;
+}
+
+std::vector<quint64> WordsOf( const PersonName& a_name, TextNumbers& a_numbers )
+{
+    std::vector<quint64> words;
+    for ( const QString& word : a_name.Words() )
+        words.push_back( a_numbers.NumberOf( word ) );
+    std::sort( words.begin(), words.end() );
+    words.erase( std::unique( words.begin(), words.end() ), words.end() );
+    return words;
+}
+
+} // namespace
+
+Person::Person( const PimContactCard& a_card, int a_index, int a_endingDigits, PersonTexts& a_texts ) :
+    m_card( a_card ),
+    m_index( a_index ),
+    m_name( PimContact( a_card ) ),
+    m_nameNumber( a_texts.m_names.NumberOf( m_name.Key() ) ),
+    m_words( WordsOf( m_name, a_texts.m_words ) ),
+    m_addresses( AddressesOf( PimContact( a_card ), a_endingDigits, a_texts.m_addresses ) )
+{
+}
+
+std::vector<quint64> LineNumbers( const PimContactCard& a_card )
+{
+    std::vector<quint64> numbers;
+    for ( const PimContactLine& line : a_card )
+        numbers.push_back( qHash( line.Name().toUpper() + ':' + line.Value() ) );
+    std::sort( numbers.begin(), numbers.end() );
+    numbers.resize( std::min( numbers.size(), s_kMostLineNumbers ) );
+    return numbers;
+}
+
+} // namespace PimManager::PhoneBook

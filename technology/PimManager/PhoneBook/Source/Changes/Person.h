@@ -1,0 +1,44 @@
+/// \file
+/// What a contact is recognised by: its name, numbers and mail addresses.
+
+#pragma once
+
+#include "Changes/PersonName.h"
+#include "Changes/TextNumbers.h"
+
+#include <PimManager/Contacts/PimContactBook.h>
+
+#include <vector>
+
+namespace PimManager::PhoneBook
+{
+
+/// The texts of both books, as numbers.
+struct PersonTexts
+{
+    TextNumbers m_words;
+    TextNumbers m_names;
+    TextNumbers m_addresses;
+};
+
+/// A contact with its name, numbers and mail addresses.
+struct Person
+{
+    /// Reads a contact.
+    /// \param a_endingDigits the number of last digits that count.
+    Person( const Contacts::PimContactCard& a_card, int a_index, int a_endingDigits, PersonTexts& a_texts );
+
+    Contacts::PimContactCard m_card;
+    int m_index;
+    PersonName m_name;
+    quint64 m_nameNumber;
+    std::vector<quint64> m_words;
+    /// Numbers and mail addresses, each once.
+    std::vector<quint64> m_addresses;
+};
+
+/// \return a number for each line, ascending; the smallest ones if there are many, so that two cards with the same
+///         lines have the same numbers. Different lines may have equal numbers as well, so they are no proof.
+std::vector<quint64> LineNumbers( const Contacts::PimContactCard& a_card );
+
+} // namespace PimManager::PhoneBook

@@ -46,13 +46,20 @@ private:
     static constexpr quint64 s_kFirst = 0xD6E8FEB86659FD93U;
     static constexpr quint64 s_kSecond = 0x9E3779B97F4A7C15U;
 
+    // The last eight bytes may overlap with those before them.
     template <typename Change>
     void AddEights( std::string_view a_part, Change a_change )
     {
-        Add( a_part.size() );
-        for ( ; a_part.size() > s_kWord; a_part.remove_prefix( s_kWord ) )
-            Add( a_change( WordAt( a_part.data() ) ) );
-        Add( a_change( FirstEight( a_part ) ) );
+        const quint64 size = a_part.size();
+        if ( size < s_kWord )
+        {
+            Add( a_change( FirstEight( a_part ) ) + size * s_kFirst );
+            return;
+        }
+        const char* const last = a_part.data() + size - s_kWord;
+        for ( const char* place = a_part.data(); place < last; place += s_kWord )
+            Add( a_change( WordAt( place ) ) );
+        Add( a_change( WordAt( last ) ) + size * s_kFirst );
     }
 
     quint64 m_seed;

@@ -3,6 +3,7 @@
 #include "Changes/KeyedContacts.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <tuple>
 #include <utility>
 
@@ -16,6 +17,9 @@ using People = std::vector<Person>;
 
 // Of a number that more have, such as that of a company, those are compared that have a name or a word in common.
 constexpr qint64 s_kMostCompared = 64;
+
+// As much as two lines in common.
+constexpr int s_kEvidenceOfAddress = 2;
 
 /// An address that two people have in common.
 struct Link
@@ -118,28 +122,43 @@ std::vector<Link> LinksOf( const People& a_old, const People& a_new, const Perso
     return search.Links();
 }
 
+/// \return the number of links of the same people, from one on.
+size_t LinksFrom( const std::vector<Link>& a_links, size_t a_begin )
+{
+    size_t end = a_begin;
+    while ( end < a_links.size() && a_links[end].m_old == a_links[a_begin].m_old &&
+            a_links[end].m_new == a_links[a_begin].m_new )
+        ++end;
+    return end - a_begin;
+}
+
+// If both have other numbers, a son of the same name may have the number of his father.
+int EvidenceOf( const Person& a_old, const Person& a_new, size_t a_addresses )
+{
+    const bool haveOthers = a_old.m_addresses.size() > a_addresses && a_new.m_addresses.size() > a_addresses;
+    return s_kEvidenceOfAddress * ( static_cast<int>( a_addresses ) - ( haveOthers ? 1 : 0 ) );
+}
+
 /// \return a candidate for all links of the same people whose names agree.
-std::vector<Candidate> CandidatesOf( const std::vector<Link>& a_links, const People& a_old, const People& a_new )
+std::vector<Candidate> CandidatesOf( const std::vector<Link>& a_links, const People& a_old, const People& a_new,
+                                     bool a_doUidsCount )
 {
     std::vector<Candidate> candidates;
-    for ( size_t i = 0; i < a_links.size(); ++i )
+    size_t links = 0;
+    for ( size_t i = 0; i < a_links.size(); i += links )
     {
         const Link& link = a_links[i];
-        if ( i > 0 && a_links[i - 1].m_old == link.m_old && a_links[i - 1].m_new == link.m_new )
-        {
-            ++candidates.back().m_addresses;
-            continue;
-        }
-        const PersonName& oldName = a_old[static_cast<size_t>( link.m_old )].m_name;
-        const PersonName& newName = a_new[static_cast<size_t>( link.m_new )].m_name;
-        candidates.push_back( { link.m_old, link.m_new, oldName.Compare( newName ), 1 } );
+        links = LinksFrom( a_links, i );
+        const Person& old = a_old[static_cast<size_t>( link.m_old )];
+        const Person& other = a_new[static_cast<size_t>( link.m_new )];
+        const NameAgreement agreement = old.m_name.Compare( other.m_name );
+        if ( agreement != NameAgreement::None && !( a_doUidsCount && HaveOtherUids( old, other ) ) )
+            candidates.push_back( { link.m_old, link.m_new, agreement, EvidenceOf( old, other, links ) } );
     }
-    const auto isNone = []( const Candidate& a_candidate ) { return a_candidate.m_agreement == NameAgreement::None; };
-    candidates.erase( std::remove_if( candidates.begin(), candidates.end(), isNone ), candidates.end() );
     return candidates;
 }
 
-/// Counts the lines that candidates have in common, if somebody is in several candidates.
+/// Adds the lines that candidates have in common to the evidence, if somebody is in several candidates.
 class LineCounts
 {
 public:
@@ -153,7 +172,7 @@ public:
     {
     }
 
-    void Set( std::vector<Candidate>& a_candidates )
+    void AddTo( std::vector<Candidate>& a_candidates )
     {
         for ( const Candidate& candidate : a_candidates )
         {
@@ -164,7 +183,7 @@ public:
         {
             if ( m_oldCounts[static_cast<size_t>( candidate.m_old )] > 1 ||
                  m_newCounts[static_cast<size_t>( candidate.m_new )] > 1 )
-                candidate.m_lines = CommonLines( candidate );
+                candidate.m_evidence += CommonLines( candidate );
         }
     }
 
@@ -197,9 +216,9 @@ private:
     std::vector<int> m_newCounts;
 };
 
-std::tuple<int, int, int> ValueOf( const Candidate& a_candidate )
+std::pair<int, NameAgreement> ValueOf( const Candidate& a_candidate )
 {
-    return { static_cast<int>( a_candidate.m_agreement ), a_candidate.m_addresses, a_candidate.m_lines };
+    return { a_candidate.m_evidence, a_candidate.m_agreement };
 }
 
 } // namespace
@@ -209,16 +228,24 @@ bool Candidate::IsAsGoodAs( const Candidate& a_other ) const
     return ValueOf( *this ) == ValueOf( a_other );
 }
 
+// It does not matter which book is the old one.
 bool Candidate::operator<( const Candidate& a_other ) const
 {
-    return IsAsGoodAs( a_other ) ? std::tie( m_old, m_new ) < std::tie( a_other.m_old, a_other.m_new )
-                                 : ValueOf( *this ) > ValueOf( a_other );
+    if ( !IsAsGoodAs( a_other ) )
+        return ValueOf( *this ) > ValueOf( a_other );
+    const auto orderOf = []( const Candidate& a_candidate )
+    {
+        return std::make_tuple( qint64( a_candidate.m_old ) + a_candidate.m_new,
+                                std::abs( a_candidate.m_old - a_candidate.m_new ), a_candidate.m_old );
+    };
+    return orderOf( *this ) < orderOf( a_other );
 }
 
-std::vector<Candidate> FindCandidates( const People& a_old, const People& a_new, const PersonTexts& a_texts )
+std::vector<Candidate> FindCandidates( const People& a_old, const People& a_new, const PersonTexts& a_texts,
+                                       bool a_doUidsCount )
 {
-    std::vector<Candidate> candidates = CandidatesOf( LinksOf( a_old, a_new, a_texts ), a_old, a_new );
-    LineCounts( a_old, a_new ).Set( candidates );
+    std::vector<Candidate> candidates = CandidatesOf( LinksOf( a_old, a_new, a_texts ), a_old, a_new, a_doUidsCount );
+    LineCounts( a_old, a_new ).AddTo( candidates );
     std::sort( candidates.begin(), candidates.end() );
     return candidates;
 }

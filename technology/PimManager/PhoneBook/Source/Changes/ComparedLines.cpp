@@ -37,13 +37,19 @@ QString ParametersOf( const PimContactLine& a_line )
     return texts.join( QLatin1Char( ';' ) );
 }
 
+// All of them: other functions stop at a null byte.
+QString CharactersOf( const QByteArray& a_bytes )
+{
+    return QString::fromLatin1( a_bytes.constData(), a_bytes.size() );
+}
+
 QString ValueOf( const PimContactLine& a_line )
 {
     const PimContactCard nested = a_line.NestedCard();
     if ( !nested.IsNull() )
-        return QString::fromLatin1( nested.Bytes() );
+        return CharactersOf( nested.Bytes() );
     const PimContactBinary binary = a_line.Binary();
-    return binary.IsNull() ? a_line.Text() : QString::fromLatin1( binary.Bytes() );
+    return binary.IsNull() ? a_line.Text() : CharactersOf( binary.Bytes() );
 }
 
 bool IsOfText( QChar a_character )

@@ -19,12 +19,8 @@ namespace
 // So many different contents with one hash are told apart. More occur only if cards were made for it.
 constexpr size_t s_kMostContents = 8;
 
-/// Old contacts with equal content, in the order of their book.
-struct EqualContacts
-{
-    std::vector<int> m_contacts;
-    size_t m_next = 0;
-};
+/// Contacts of one book with equal content, in its order.
+using EqualContacts = std::vector<int>;
 
 KeyedContacts Hashed( const PimContactBook& a_book, const std::vector<int>& a_contacts, quint64 a_seed,
                       const QList<QLatin1String>& a_except )
@@ -43,16 +39,13 @@ std::vector<EqualContacts> ContentsIn( const PimContactBook& a_book, const Conta
     for ( const KeyedContact& contact : a_run )
     {
         const PimContactCard& card = a_book.CardAt( contact.m_contact );
-        const auto content = std::find_if( contents.begin(), contents.end(),
-                                           [&]( const EqualContacts& a_content )
-                                           {
-                                               const int first = a_content.m_contacts.front();
-                                               return a_areEqual( a_book.CardAt( first ), card );
-                                           } );
-        if ( content != contents.end() )
-            content->m_contacts.push_back( contact.m_contact );
+        const auto same = std::find_if( contents.begin(), contents.end(),
+                                        [&]( const EqualContacts& a_contacts )
+                                        { return a_areEqual( a_book.CardAt( a_contacts.front() ), card ); } );
+        if ( same != contents.end() )
+            same->push_back( contact.m_contact );
         else if ( contents.size() < s_kMostContents )
-            contents.push_back( { { contact.m_contact } } );
+            contents.push_back( { contact.m_contact } );
     }
     return contents;
 }
@@ -61,21 +54,26 @@ template <typename AreEqual>
 void PairRun( BookPairing& a_pairing, const ContactRun& a_old, const ContactRun& a_new, AreEqual a_areEqual,
               PimPhoneBookBasis a_basis, bool a_isSame )
 {
-    std::vector<EqualContacts> contents = ContentsIn( a_pairing.OldBook(), a_old, a_areEqual );
-    for ( const KeyedContact& contact : a_new )
+    if ( a_old.Size() == 1 && a_new.Size() == 1 )
     {
-        const PimContactCard& card = a_pairing.NewBook().CardAt( contact.m_contact );
-        for ( EqualContacts& content : contents )
-        {
-            if ( content.m_next == content.m_contacts.size() )
-                continue;
-            const int old = content.m_contacts[content.m_next];
-            if ( !a_areEqual( a_pairing.OldBook().CardAt( old ), card ) )
-                continue;
-            a_pairing.Pair( old, contact.m_contact, a_basis, a_isSame );
-            ++content.m_next;
-            break;
-        }
+        const int old = a_old.begin()->m_contact;
+        const int other = a_new.begin()->m_contact;
+        if ( a_areEqual( a_pairing.OldBook().CardAt( old ), a_pairing.NewBook().CardAt( other ) ) )
+            a_pairing.Pair( old, other, a_basis, a_isSame );
+        return;
+    }
+    const std::vector<EqualContacts> olds = ContentsIn( a_pairing.OldBook(), a_old, a_areEqual );
+    const std::vector<EqualContacts> news = ContentsIn( a_pairing.NewBook(), a_new, a_areEqual );
+    for ( const EqualContacts& old : olds )
+    {
+        const PimContactCard& card = a_pairing.OldBook().CardAt( old.front() );
+        const auto same = std::find_if( news.begin(), news.end(),
+                                        [&]( const EqualContacts& a_contacts ) {
+                                            return a_areEqual( card, a_pairing.NewBook().CardAt( a_contacts.front() ) );
+                                        } );
+        const size_t pairs = same == news.end() ? 0 : std::min( old.size(), same->size() );
+        for ( size_t i = 0; i < pairs; ++i )
+            a_pairing.Pair( old[i], ( *same )[i], a_basis, a_isSame );
     }
 }
 

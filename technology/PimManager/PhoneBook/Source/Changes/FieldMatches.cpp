@@ -6,6 +6,7 @@ namespace PimManager::PhoneBook
 {
 
 using Contacts::PimContact;
+using Contacts::PimContactEvent;
 using Contacts::PimContactList;
 using Contacts::PimContactMedia;
 
@@ -45,8 +46,14 @@ QString KeyOf( const ComparedLines& a_lines, int a_place, const PimContactList<F
     return a_lines.Contact().FieldOf( a_lines.At( a_place ).m_line ).Text();
 }
 
-// The same picture has many texts, and contacts have few pictures.
+// The same picture and the same date have many texts, and contacts have few of them.
+
 QString KeyOf( const ComparedLines&, int, const PimContactList<PimContactMedia>& )
+{
+    return QString();
+}
+
+QString KeyOf( const ComparedLines&, int, const PimContactList<PimContactEvent>& )
 {
     return QString();
 }

@@ -18,6 +18,11 @@ const QList<QLatin1String>& IdentifierNames();
 /// \return the first value that is not empty, in lower case and without `urn:uuid:`. Empty if there is none.
 QString IdentifierOf( const Contacts::PimContactCard& a_card, QLatin1String a_name );
 
+inline QString UidOf( const Contacts::PimContactCard& a_card )
+{
+    return IdentifierOf( a_card, IdentifierNames().constFirst() );
+}
+
 /// \return the identifiers that do not count when two cards are compared: those that not both of them have.
 QList<QLatin1String> IgnoredIdentifiers( const Contacts::PimContactCard& a_first,
                                          const Contacts::PimContactCard& a_second );

@@ -1,6 +1,7 @@
 #include "Changes/NameMatches.h"
 
 #include "Changes/Candidates.h"
+#include "Changes/Identifiers.h"
 #include "Changes/KeyedContacts.h"
 
 #include <algorithm>
@@ -25,6 +26,20 @@ People PeopleIn( const PimContactBook& a_book, const std::vector<int>& a_contact
     return people;
 }
 
+// Some programs give new UIDs to all contacts. Then no contact has kept its UID.
+bool AreUidsKept( const BookPairing& a_pairing )
+{
+    for ( int i = 0; i < a_pairing.OldOf().size(); ++i )
+    {
+        if ( a_pairing.IsNewFree( i ) )
+            continue;
+        const QString uid = UidOf( a_pairing.NewBook().CardAt( i ) );
+        if ( !uid.isEmpty() && uid == UidOf( a_pairing.OldBook().CardAt( a_pairing.OldOf().at( i ) ) ) )
+            return true;
+    }
+    return false;
+}
+
 /// Pairs people by their names.
 class PeoplePairing
 {
@@ -33,6 +48,7 @@ public:
         m_pairing( a_pairing ),
         m_old( PeopleIn( a_pairing.OldBook(), a_pairing.FreeOld(), a_endingDigits, m_texts ) ),
         m_new( PeopleIn( a_pairing.NewBook(), a_pairing.FreeNew(), a_endingDigits, m_texts ) ),
+        m_doUidsCount( AreUidsKept( a_pairing ) ),
         m_oldCounts( m_old.size() ),
         m_newCounts( m_new.size() )
     {
@@ -40,7 +56,7 @@ public:
 
     void PairByNameAndNumber()
     {
-        const std::vector<Candidate> candidates = FindCandidates( m_old, m_new, m_texts );
+        const std::vector<Candidate> candidates = FindCandidates( m_old, m_new, m_texts, m_doUidsCount );
         for ( auto begin = candidates.begin(); begin != candidates.end(); )
         {
             const auto end =
@@ -106,7 +122,10 @@ private:
 
     void PairOnlyOnes( int a_old, int a_new )
     {
-        if ( At( m_old, a_old ).m_addresses.empty() || At( m_new, a_new ).m_addresses.empty() )
+        const Person& old = At( m_old, a_old );
+        const Person& other = At( m_new, a_new );
+        if ( ( old.m_addresses.empty() || other.m_addresses.empty() ) &&
+             !( m_doUidsCount && HaveOtherUids( old, other ) ) )
             Pair( a_old, a_new, PimPhoneBookBasis::Name );
     }
 
@@ -119,6 +138,7 @@ private:
     PersonTexts m_texts;
     const People m_old;
     const People m_new;
+    const bool m_doUidsCount;
     // For equally good candidates: in how many of them each person is.
     std::vector<int> m_oldCounts;
     std::vector<int> m_newCounts;

@@ -1,8 +1,11 @@
 #include "Changes/Person.h"
 
+#include "Changes/Identifiers.h"
+
 #include <QHash>
 
 #include <algorithm>
+#include <array>
 
 namespace PimManager::PhoneBook
 {
@@ -61,6 +64,15 @@ std::vector<quint64> WordsOf( const PersonName& a_name, TextNumbers& a_numbers )
     return words;
 }
 
+// Names, numbers and mail addresses are compared otherwise. The others differ, or are the same for many contacts.
+bool IsOtherEvidence( const PimContactLine& a_line )
+{
+    constexpr std::array s_kNames = { "FN",      "N",   "NICKNAME", "ORG", "TEL",   "EMAIL",
+                                      "VERSION", "UID", "X-BT-UID", "REV", "PRODID" };
+    return std::any_of( s_kNames.begin(), s_kNames.end(),
+                        [&a_line]( const char* a_name ) { return a_line.IsNamed( QLatin1String( a_name ) ); } );
+}
+
 } // namespace
 
 Person::Person( const PimContactCard& a_card, int a_index, int a_endingDigits, PersonTexts& a_texts ) :
@@ -69,15 +81,24 @@ Person::Person( const PimContactCard& a_card, int a_index, int a_endingDigits, P
     m_name( PimContact( a_card ) ),
     m_nameNumber( a_texts.m_names.NumberOf( m_name.Key() ) ),
     m_words( WordsOf( m_name, a_texts.m_words ) ),
+    m_uid( UidOf( a_card ) ),
     m_addresses( AddressesOf( PimContact( a_card ), a_endingDigits, a_texts.m_addresses ) )
 {
+}
+
+bool HaveOtherUids( const Person& a_first, const Person& a_second )
+{
+    return !a_first.m_uid.isEmpty() && !a_second.m_uid.isEmpty() && a_first.m_uid != a_second.m_uid;
 }
 
 std::vector<quint64> LineNumbers( const PimContactCard& a_card )
 {
     std::vector<quint64> numbers;
     for ( const PimContactLine& line : a_card )
-        numbers.push_back( qHash( line.Name().toUpper() + ':' + line.Value() ) );
+    {
+        if ( !IsOtherEvidence( line ) )
+            numbers.push_back( qHash( line.Name().toUpper() + ':' + line.Value() ) );
+    }
     std::sort( numbers.begin(), numbers.end() );
     numbers.resize( std::min( numbers.size(), s_kMostLineNumbers ) );
     return numbers;

@@ -33,12 +33,17 @@ struct Person
     PersonName m_name;
     quint64 m_nameNumber;
     std::vector<quint64> m_words;
+    QString m_uid;
     /// Numbers and mail addresses, each once.
     std::vector<quint64> m_addresses;
 };
 
-/// \return a number for each line, ascending; the smallest ones if there are many, so that two cards with the same
-///         lines have the same numbers. Different lines may have equal numbers as well, so they are no proof.
+/// \return true if both have a UID, but not the same one.
+bool HaveOtherUids( const Person& a_first, const Person& a_second );
+
+/// \return a number for each line other than names, numbers, mail addresses and the like, ascending; the smallest ones
+///         if there are many, so that two cards with the same lines have the same numbers. Different lines may have
+///         equal numbers as well, so they are no proof.
 std::vector<quint64> LineNumbers( const Contacts::PimContactCard& a_card );
 
 } // namespace PimManager::PhoneBook

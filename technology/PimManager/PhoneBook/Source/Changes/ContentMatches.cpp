@@ -50,32 +50,85 @@ std::vector<EqualContacts> ContentsIn( const PimContactBook& a_book, const Conta
     return contents;
 }
 
-template <typename AreEqual>
-void PairRun( BookPairing& a_pairing, const ContactRun& a_old, const ContactRun& a_new, AreEqual a_areEqual,
-              PimPhoneBookBasis a_basis, bool a_isSame )
+/// Pairs contacts that are equal.
+class EqualContactsPairing
 {
-    if ( a_old.Size() == 1 && a_new.Size() == 1 )
+public:
+    EqualContactsPairing( BookPairing& a_pairing, PimPhoneBookBasis a_basis, bool a_haveSameLines ) :
+        m_pairing( a_pairing ),
+        m_basis( a_basis ),
+        m_haveSameLines( a_haveSameLines )
     {
-        const int old = a_old.begin()->m_contact;
-        const int other = a_new.begin()->m_contact;
-        if ( a_areEqual( a_pairing.OldBook().CardAt( old ), a_pairing.NewBook().CardAt( other ) ) )
-            a_pairing.Pair( old, other, a_basis, a_isSame );
-        return;
     }
-    const std::vector<EqualContacts> olds = ContentsIn( a_pairing.OldBook(), a_old, a_areEqual );
-    const std::vector<EqualContacts> news = ContentsIn( a_pairing.NewBook(), a_new, a_areEqual );
-    for ( const EqualContacts& old : olds )
+
+    template <typename AreEqual>
+    void PairRuns( const ContactRun& a_old, const ContactRun& a_new, AreEqual a_areEqual )
     {
-        const PimContactCard& card = a_pairing.OldBook().CardAt( old.front() );
-        const auto same = std::find_if( news.begin(), news.end(),
-                                        [&]( const EqualContacts& a_contacts ) {
-                                            return a_areEqual( card, a_pairing.NewBook().CardAt( a_contacts.front() ) );
-                                        } );
-        const size_t pairs = same == news.end() ? 0 : std::min( old.size(), same->size() );
-        for ( size_t i = 0; i < pairs; ++i )
-            a_pairing.Pair( old[i], ( *same )[i], a_basis, a_isSame );
+        if ( a_old.Size() == 1 && a_new.Size() == 1 )
+        {
+            const int old = a_old.begin()->m_contact;
+            const int other = a_new.begin()->m_contact;
+            if ( a_areEqual( OldCard( old ), NewCard( other ) ) )
+                m_pairing.Pair( old, other, m_basis, m_haveSameLines );
+            return;
+        }
+        const std::vector<EqualContacts> olds = ContentsIn( m_pairing.OldBook(), a_old, a_areEqual );
+        const std::vector<EqualContacts> news = ContentsIn( m_pairing.NewBook(), a_new, a_areEqual );
+        for ( const EqualContacts& old : olds )
+        {
+            const auto same =
+                std::find_if( news.begin(), news.end(),
+                              [&]( const EqualContacts& a_contacts )
+                              { return a_areEqual( OldCard( old.front() ), NewCard( a_contacts.front() ) ); } );
+            if ( same != news.end() )
+                PairAll( old, *same );
+        }
     }
-}
+
+private:
+    const PimContactCard& OldCard( int a_old ) const { return m_pairing.OldBook().CardAt( a_old ); }
+    const PimContactCard& NewCard( int a_new ) const { return m_pairing.NewBook().CardAt( a_new ); }
+
+    // Contacts with the same identifier are already paired. So those with one go first to those without one.
+    void PairAll( EqualContacts a_old, EqualContacts a_new )
+    {
+        if ( m_haveSameLines )
+            return PairInOrder( a_old, a_new );
+        const auto isOldNamed = [this]( int a_contact ) { return HasIdentifier( OldCard( a_contact ) ); };
+        const auto isNewNamed = [this]( int a_contact ) { return HasIdentifier( NewCard( a_contact ) ); };
+        EqualContacts namedOld = TakenFrom( a_old, isOldNamed );
+        EqualContacts namedNew = TakenFrom( a_new, isNewNamed );
+        PairInOrder( a_old, namedNew );
+        PairInOrder( namedOld, a_new );
+        PairInOrder( a_old, a_new );
+        PairInOrder( namedOld, namedNew );
+    }
+
+    template <typename Is>
+    static EqualContacts TakenFrom( EqualContacts& a_contacts, Is a_is )
+    {
+        const auto taken = std::stable_partition( a_contacts.begin(), a_contacts.end(),
+                                                  [a_is]( int a_contact ) { return !a_is( a_contact ); } );
+        EqualContacts contacts( taken, a_contacts.end() );
+        a_contacts.erase( taken, a_contacts.end() );
+        return contacts;
+    }
+
+    /// Removes the contacts that were paired.
+    void PairInOrder( EqualContacts& a_old, EqualContacts& a_new )
+    {
+        const auto pairs = static_cast<int>( std::min( a_old.size(), a_new.size() ) );
+        for ( int i = 0; i < pairs; ++i )
+            m_pairing.Pair( a_old[static_cast<size_t>( i )], a_new[static_cast<size_t>( i )], m_basis,
+                            m_haveSameLines );
+        a_old.erase( a_old.begin(), a_old.begin() + pairs );
+        a_new.erase( a_new.begin(), a_new.begin() + pairs );
+    }
+
+    BookPairing& m_pairing;
+    const PimPhoneBookBasis m_basis;
+    const bool m_haveSameLines;
+};
 
 } // namespace
 
@@ -98,18 +151,19 @@ void ContentMatches::PairSameCards()
 {
     const auto areSame = []( const PimContactCard& a_first, const PimContactCard& a_second )
     { return a_first.HasSameLines( a_second ); };
+    EqualContactsPairing pairing( m_pairing, PimPhoneBookBasis::Content, true );
     VisitRuns( m_pairing.FreeOld(), m_pairing.FreeNew(), {},
-               [&]( const ContactRun& a_old, const ContactRun& a_new )
-               { PairRun( m_pairing, a_old, a_new, areSame, PimPhoneBookBasis::Content, true ); } );
+               [&]( const ContactRun& a_old, const ContactRun& a_new ) { pairing.PairRuns( a_old, a_new, areSame ); } );
 }
 
 void ContentMatches::PairEqualContacts( const std::vector<int>& a_old, const std::vector<int>& a_new,
                                         PimPhoneBookBasis a_basis )
 {
     const QList<QLatin1String> except = IdentifierNames() + QList<QLatin1String>{ QLatin1String( "VERSION" ) };
+    EqualContactsPairing pairing( m_pairing, a_basis, false );
     VisitRuns( a_old, a_new, except,
                [&]( const ContactRun& a_oldRun, const ContactRun& a_newRun )
-               { PairRun( m_pairing, a_oldRun, a_newRun, AreEqualButForIdentifiers, a_basis, false ); } );
+               { pairing.PairRuns( a_oldRun, a_newRun, AreEqualButForIdentifiers ); } );
 }
 
 } // namespace PimManager::PhoneBook

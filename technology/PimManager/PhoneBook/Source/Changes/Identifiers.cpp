@@ -70,6 +70,13 @@ QString IdentifierOf( const PimContactCard& a_card, QLatin1String a_name )
     return QString();
 }
 
+bool HasIdentifier( const PimContactCard& a_card )
+{
+    const QList<QLatin1String>& names = IdentifierNames();
+    return std::any_of( names.begin(), names.end(),
+                        [&a_card]( QLatin1String a_name ) { return !IdentifierOf( a_card, a_name ).isEmpty(); } );
+}
+
 QList<QLatin1String> IgnoredIdentifiers( const PimContactCard& a_first, const PimContactCard& a_second )
 {
     QList<QLatin1String> ignored;

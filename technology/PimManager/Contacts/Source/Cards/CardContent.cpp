@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <utility>
 
 namespace PimManager::Contacts
 {
@@ -69,19 +68,18 @@ public:
     {
         while ( Is( EntryKind::Boundary ) )
             Skip();
+        const quint32 before = m_reader.Place();
         if ( m_reader.AtEnd() || !m_reader.IsPlain() )
             return false;
-        IndexReader reader = m_reader;
         a_piece.m_begin = m_bytes;
-        a_piece.m_line = reader.SkipPlain();
-        std::swap( reader, m_reader );
-        if ( !a_piece.m_line.m_hasFolds && ( Is( EntryKind::Line ) || Is( EntryKind::Boundary ) || m_reader.AtEnd() ) )
+        a_piece.m_line = m_reader.SkipPlain();
+        if ( a_piece.m_line.m_hasFolds || Is( EntryKind::Nested ) || Is( EntryKind::Blank ) )
         {
-            m_bytes += a_piece.m_line.m_length;
-            return true;
+            m_reader.StepTo( before );
+            return false;
         }
-        m_reader = reader;
-        return false;
+        m_bytes += a_piece.m_line.m_length;
+        return true;
     }
 
     /// Reads a line of any kind and steps after it, and after blank lines.
@@ -186,10 +184,12 @@ quint64 HashOfParameters( std::string_view a_parameters, ContentHasher& a_hasher
     return sum;
 }
 
-// The group is left out: whoever writes a card anew may number groups anew.
+// The group is left out, and so are empty lines: whoever writes a card anew may number groups anew and leave out lines.
 quint64 HashOfLine( std::string_view a_name, std::string_view a_parameters, std::string_view a_value,
                     std::string_view a_nested, ContentHasher& a_hasher )
 {
+    if ( a_value.empty() && a_nested.empty() )
+        return 0;
     const quint64 ofParameters = a_parameters.empty() ? 0 : HashOfParameters( a_parameters, a_hasher );
     a_hasher.Clear();
     a_hasher.Add( ofParameters );

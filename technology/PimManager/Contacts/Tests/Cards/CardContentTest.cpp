@@ -51,6 +51,7 @@ constexpr std::array s_kSameHashes = {
     Row{ "ParameterOrder", "TEL;A=b;TYPE=home:1\r\n", "TEL;TYPE=home;A=b:1\r\n" },
     Row{ "ParameterCase", "TEL;TYPE=home:1\r\n", "TEL;type=HOME:1\r\n" },
     Row{ "Groups", "a.TEL:1\r\n", "TEL:1\r\n" },
+    Row{ "EmptyLines", "FN:x\r\nTEL:\r\nADR;HOME:\r\n", "FN:x\r\n" },
 };
 
 constexpr std::array s_kOther = {

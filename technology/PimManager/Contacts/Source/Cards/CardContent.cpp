@@ -8,6 +8,7 @@
 #include <PimManager/Contacts/PimContactCard.h>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace PimManager::Contacts
@@ -15,6 +16,10 @@ namespace PimManager::Contacts
 
 namespace
 {
+
+constexpr size_t s_kShortValue = 512;
+// A break at the end of a value may have more line feeds than bytes.
+constexpr size_t s_kMostLineFeeds = 3;
 
 std::string_view ViewOf( QLatin1String a_name )
 {
@@ -44,7 +49,6 @@ struct Piece
     }
     std::string_view Part( ByteRange a_range ) const { return { m_begin + a_range.m_begin, a_range.m_length }; }
     std::string_view Name() const { return Part( m_line.m_name ); }
-    std::string_view Parameters() const { return Part( m_line.m_parameters ); }
     std::string_view Value() const
     {
         const quint32 begin = m_line.m_parameters.End() + 1;
@@ -150,9 +154,18 @@ public:
         const ByteRange range = m_line.ValueRange();
         if ( !m_line.IsContinued() )
             return range.In( m_line.m_text );
-        m_valueBuffer.resize( 0 );
-        AppendUnfolded( m_line.Pieces( range ), range.m_length, m_valueBuffer );
-        return Contacts::ViewOf( m_valueBuffer );
+        if ( range.m_length + s_kMostLineFeeds > m_shortValue.size() )
+        {
+            m_longValue = Unfolded( m_line.m_text, m_line.m_entry, m_line.m_card.m_record.FoldStyle(), range );
+            return Contacts::ViewOf( m_longValue );
+        }
+        char* end = m_shortValue.data();
+        for ( LinePieces pieces = m_line.Pieces( range ); pieces.Next(); )
+        {
+            end = std::fill_n( end, pieces.LineFeeds(), '\n' );
+            end = std::copy( pieces.Text().begin(), pieces.Text().end(), end );
+        }
+        return std::string_view( m_shortValue.data(), static_cast<size_t>( end - m_shortValue.data() ) );
     }
 
 private:
@@ -162,37 +175,17 @@ private:
     QByteArray m_nameBuffer;
     QByteArray m_groupBuffer;
     QByteArray m_parameterBuffer;
-    QByteArray m_valueBuffer;
+    // The last value without folds. The memory of most values need not be allocated.
+    std::array<char, s_kShortValue> m_shortValue;
+    QByteArray m_longValue;
 };
 
-quint64 HashOfParameter( std::string_view a_parameter, ContentHasher& a_hasher )
-{
-    a_hasher.Clear();
-    a_hasher.AddUpper( a_parameter );
-    return a_hasher.Result();
-}
-
-// The same for each order of the parameters.
-quint64 HashOfParameters( std::string_view a_parameters, ContentHasher& a_hasher )
-{
-    if ( a_parameters.find( ';', 1 ) == std::string_view::npos )
-        return HashOfParameter( a_parameters.substr( 1 ), a_hasher );
-    quint64 sum = 0;
-    ParameterSplitter splitter( a_parameters );
-    for ( std::string_view parameter; splitter.Next( parameter ); )
-        sum += HashOfParameter( parameter, a_hasher );
-    return sum;
-}
-
-// The group is left out, and so are empty lines: whoever writes a card anew may number groups anew and leave out lines.
-quint64 HashOfLine( std::string_view a_name, std::string_view a_parameters, std::string_view a_value,
-                    std::string_view a_nested, ContentHasher& a_hasher )
+quint64 HashOfLine( std::string_view a_name, std::string_view a_value, std::string_view a_nested,
+                    ContentHasher& a_hasher )
 {
     if ( a_value.empty() && a_nested.empty() )
         return 0;
-    const quint64 ofParameters = a_parameters.empty() ? 0 : HashOfParameters( a_parameters, a_hasher );
     a_hasher.Clear();
-    a_hasher.Add( ofParameters );
     a_hasher.AddUpper( a_name );
     a_hasher.Add( a_value );
     if ( !a_nested.empty() )
@@ -208,7 +201,7 @@ quint64 HashOfPieces( ContentCursor& a_cursor, ContentHasher& a_hasher )
     for ( Piece piece; place.Next( piece ); )
     {
         if ( !a_cursor.IsException( piece.Name() ) )
-            sum += HashOfLine( piece.Name(), piece.Parameters(), piece.Value(), std::string_view(), a_hasher );
+            sum += HashOfLine( piece.Name(), piece.Value(), std::string_view(), a_hasher );
     }
     a_cursor.Place() = place;
     return sum;
@@ -257,7 +250,7 @@ quint64 PimContactCard::ContentHash( quint64 a_seed, const QList<QLatin1String>&
     quint64 sum = HashOfPieces( cursor, hasher );
     while ( cursor.Next() )
     {
-        sum += HashOfLine( cursor.Name(), cursor.Parameters(), cursor.Value(), cursor.Nested(), hasher );
+        sum += HashOfLine( cursor.Name(), cursor.Value(), cursor.Nested(), hasher );
         sum += HashOfPieces( cursor, hasher );
     }
     return sum;

@@ -6,6 +6,8 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace PimManager::PhoneBook
 {
@@ -18,6 +20,26 @@ namespace
 
 // So many different contents with one hash are told apart. More occur only if cards were made for it.
 constexpr size_t s_kMostContents = 8;
+
+// The sets of identifiers, see IdentifiersOf(). Contacts with more of them fit fewer others, so they are first.
+constexpr size_t s_kIdentifierSets = 4;
+constexpr std::array<std::pair<size_t, size_t>, s_kIdentifierSets* s_kIdentifierSets> s_kIdentifierOrder = {
+    { { 3, 0 },
+      { 0, 3 },
+      { 1, 2 },
+      { 2, 1 },
+      { 1, 0 },
+      { 0, 1 },
+      { 2, 0 },
+      { 0, 2 },
+      { 0, 0 },
+      { 1, 1 },
+      { 2, 2 },
+      { 3, 3 },
+      { 1, 3 },
+      { 3, 1 },
+      { 2, 3 },
+      { 3, 2 } } };
 
 /// Contacts of one book with equal content, in its order.
 using EqualContacts = std::vector<int>;
@@ -89,32 +111,35 @@ private:
     const PimContactCard& OldCard( int a_old ) const { return m_pairing.OldBook().CardAt( a_old ); }
     const PimContactCard& NewCard( int a_new ) const { return m_pairing.NewBook().CardAt( a_new ); }
 
-    // Contacts with the same identifier are already paired. So those with one go first to those without one.
-    void PairAll( EqualContacts a_old, EqualContacts a_new )
+    // Contacts with the same identifier are already paired. So two contacts with an identifier of one kind differ in
+    // it, and are paired last.
+    void PairAll( const EqualContacts& a_old, const EqualContacts& a_new )
     {
         if ( m_haveSameLines )
-            return PairInOrder( a_old, a_new );
-        const auto isOldNamed = [this]( int a_contact ) { return HasIdentifier( OldCard( a_contact ) ); };
-        const auto isNewNamed = [this]( int a_contact ) { return HasIdentifier( NewCard( a_contact ) ); };
-        EqualContacts namedOld = TakenFrom( a_old, isOldNamed );
-        EqualContacts namedNew = TakenFrom( a_new, isNewNamed );
-        PairInOrder( a_old, namedNew );
-        PairInOrder( namedOld, a_new );
-        PairInOrder( a_old, a_new );
-        PairInOrder( namedOld, namedNew );
+            return PairInOrder( EqualContacts( a_old ), EqualContacts( a_new ) );
+        auto olds = ByIdentifiers( m_pairing.OldBook(), a_old );
+        auto news = ByIdentifiers( m_pairing.NewBook(), a_new );
+        for ( const bool mayDiffer : { false, true } )
+        {
+            for ( const auto& [old, other] : s_kIdentifierOrder )
+            {
+                if ( mayDiffer || ( old & other ) == 0 )
+                    PairInOrder( olds.at( old ), news.at( other ) );
+            }
+        }
     }
 
-    template <typename Is>
-    static EqualContacts TakenFrom( EqualContacts& a_contacts, Is a_is )
+    static std::array<EqualContacts, s_kIdentifierSets> ByIdentifiers( const PimContactBook& a_book,
+                                                                       const EqualContacts& a_contacts )
     {
-        const auto taken = std::stable_partition( a_contacts.begin(), a_contacts.end(),
-                                                  [a_is]( int a_contact ) { return !a_is( a_contact ); } );
-        EqualContacts contacts( taken, a_contacts.end() );
-        a_contacts.erase( taken, a_contacts.end() );
-        return contacts;
+        std::array<EqualContacts, s_kIdentifierSets> sets;
+        for ( const int contact : a_contacts )
+            sets.at( IdentifiersOf( a_book.CardAt( contact ) ) ).push_back( contact );
+        return sets;
     }
 
     /// Removes the contacts that were paired.
+    void PairInOrder( EqualContacts&& a_old, EqualContacts&& a_new ) { PairInOrder( a_old, a_new ); }
     void PairInOrder( EqualContacts& a_old, EqualContacts& a_new )
     {
         const auto pairs = static_cast<int>( std::min( a_old.size(), a_new.size() ) );

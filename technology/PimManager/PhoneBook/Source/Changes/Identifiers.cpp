@@ -70,11 +70,16 @@ QString IdentifierOf( const PimContactCard& a_card, QLatin1String a_name )
     return QString();
 }
 
-bool HasIdentifier( const PimContactCard& a_card )
+size_t IdentifiersOf( const PimContactCard& a_card )
 {
-    const QList<QLatin1String>& names = IdentifierNames();
-    return std::any_of( names.begin(), names.end(),
-                        [&a_card]( QLatin1String a_name ) { return !IdentifierOf( a_card, a_name ).isEmpty(); } );
+    size_t identifiers = 0;
+    size_t bit = 1;
+    for ( const QLatin1String name : IdentifierNames() )
+    {
+        identifiers |= IdentifierOf( a_card, name ).isEmpty() ? 0 : bit;
+        bit <<= 1U;
+    }
+    return identifiers;
 }
 
 QList<QLatin1String> IgnoredIdentifiers( const PimContactCard& a_first, const PimContactCard& a_second )

@@ -23,8 +23,8 @@ inline QString UidOf( const Contacts::PimContactCard& a_card )
     return IdentifierOf( a_card, IdentifierNames().constFirst() );
 }
 
-/// \return true if the card has any of the identifiers.
-bool HasIdentifier( const Contacts::PimContactCard& a_card );
+/// \return which identifiers the card has: a bit for each of IdentifierNames(), the first one lowest.
+size_t IdentifiersOf( const Contacts::PimContactCard& a_card );
 
 /// \return the identifiers that do not count when two cards are compared: those that not both of them have.
 QList<QLatin1String> IgnoredIdentifiers( const Contacts::PimContactCard& a_first,

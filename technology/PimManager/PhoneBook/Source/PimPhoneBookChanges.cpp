@@ -23,7 +23,7 @@ namespace
 
 constexpr PimPhoneBookBasis s_kIdentifierBases[] = { PimPhoneBookBasis::Uid, PimPhoneBookBasis::BluetoothUid };
 
-void PairContacts( BookPairing& a_pairing, int a_endingDigits )
+void PairContacts( BookPairing& a_pairing, const PimPhoneBookOptions& a_options )
 {
     ContentMatches contents( a_pairing );
     contents.PairSameCards();
@@ -32,7 +32,7 @@ void PairContacts( BookPairing& a_pairing, int a_endingDigits )
     if ( a_pairing.HasFree() )
         contents.PairEqualContacts( a_pairing.FreeOld(), a_pairing.FreeNew(), PimPhoneBookBasis::Content );
     if ( a_pairing.HasFree() )
-        PairByName( a_pairing, a_endingDigits );
+        PairByName( a_pairing, a_options );
 }
 
 bool IsChanged( const BookPairing& a_pairing, const PimPhoneBookPair& a_pair )
@@ -98,7 +98,7 @@ PimPhoneBookChanges PimPhoneBookChanges::Compare( const PimContactBook& a_old, c
                                                   const PimPhoneBookOptions& a_options )
 {
     BookPairing pairing( a_old, a_new );
-    PairContacts( pairing, a_options.EndingDigits() );
+    PairContacts( pairing, a_options );
     PimPhoneBookChanges changes;
     changes.d = new PimPhoneBookChangesPrivate( pairing );
     return changes;

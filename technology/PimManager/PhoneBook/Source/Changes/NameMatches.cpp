@@ -16,13 +16,13 @@ namespace
 
 using People = std::vector<Person>;
 
-People PeopleIn( const PimContactBook& a_book, const std::vector<int>& a_contacts, int a_endingDigits,
+People PeopleIn( const PimContactBook& a_book, const std::vector<int>& a_contacts, const PimPhoneBookOptions& a_options,
                  PersonTexts& a_texts )
 {
     People people;
     people.reserve( a_contacts.size() );
     for ( const int contact : a_contacts )
-        people.emplace_back( a_book.CardAt( contact ), contact, a_endingDigits, a_texts );
+        people.emplace_back( a_book.CardAt( contact ), contact, a_options, a_texts );
     return people;
 }
 
@@ -44,10 +44,10 @@ bool AreUidsKept( const BookPairing& a_pairing )
 class PeoplePairing
 {
 public:
-    PeoplePairing( BookPairing& a_pairing, int a_endingDigits ) :
+    PeoplePairing( BookPairing& a_pairing, const PimPhoneBookOptions& a_options ) :
         m_pairing( a_pairing ),
-        m_old( PeopleIn( a_pairing.OldBook(), a_pairing.FreeOld(), a_endingDigits, m_texts ) ),
-        m_new( PeopleIn( a_pairing.NewBook(), a_pairing.FreeNew(), a_endingDigits, m_texts ) ),
+        m_old( PeopleIn( a_pairing.OldBook(), a_pairing.FreeOld(), a_options, m_texts ) ),
+        m_new( PeopleIn( a_pairing.NewBook(), a_pairing.FreeNew(), a_options, m_texts ) ),
         m_doUidsCount( AreUidsKept( a_pairing ) ),
         m_oldCounts( m_old.size() ),
         m_newCounts( m_new.size() )
@@ -146,9 +146,9 @@ private:
 
 } // namespace
 
-void PairByName( BookPairing& a_pairing, int a_endingDigits )
+void PairByName( BookPairing& a_pairing, const PimPhoneBookOptions& a_options )
 {
-    PeoplePairing people( a_pairing, a_endingDigits );
+    PeoplePairing people( a_pairing, a_options );
     people.PairByNameAndNumber();
     people.PairByNameAlone();
 }

@@ -8,8 +8,8 @@
 namespace PimManager::PhoneBook
 {
 
-/// Pairs free contacts by name and number or mail address, and then by a name that only they have.
-/// \param a_endingDigits the number of last digits that count.
-void PairByName( BookPairing& a_pairing, int a_endingDigits );
+/// Pairs free contacts by name and number or mail address, and then by a name that only they have. The options say how
+/// numbers are compared.
+void PairByName( BookPairing& a_pairing, const PimPhoneBookOptions& a_options );
 
 } // namespace PimManager::PhoneBook

@@ -2,6 +2,8 @@
 
 #include "Changes/Identifiers.h"
 
+#include <PimManager/PhoneBook/PimPhoneBookNumber.h>
+
 #include <QHash>
 
 #include <algorithm>
@@ -23,21 +25,18 @@ constexpr int s_kLeastDigits = 3;
 constexpr size_t s_kMostLineNumbers = 64;
 
 /// \return the last digits of a number. Empty for a text that is no number.
-QString EndingOf( const PimContactPhone& a_phone, int a_endingDigits )
+QString EndingOf( const PimContactPhone& a_phone, const PimPhoneBookOptions& a_options )
 {
-    QString digits;
-    for ( const QChar character : a_phone.Number() )
-    {
-        if ( character.isDigit() )
-            digits += QChar( '0' + character.digitValue() );
-    }
-    const QString extension = a_phone.Extension();
+    const auto number = PimPhoneBookNumber::FromPhone( a_phone, a_options.Region() );
+    const QString digits = number.National();
+    const QString extension = number.Extension();
     if ( digits.size() < s_kLeastDigits )
         return QString();
-    return digits.right( a_endingDigits ) + ( extension.isEmpty() ? QString() : QLatin1Char( 'x' ) + extension );
+    return digits.right( a_options.EndingDigits() ) + QLatin1Char( 'x' ) + extension;
 }
 
-std::vector<quint64> AddressesOf( const PimContact& a_contact, int a_endingDigits, TextNumbers& a_numbers )
+std::vector<quint64> AddressesOf( const PimContact& a_contact, const PimPhoneBookOptions& a_options,
+                                  TextNumbers& a_numbers )
 {
     std::vector<quint64> addresses;
     const auto add = [&]( const QString& a_text )
@@ -46,7 +45,7 @@ std::vector<quint64> AddressesOf( const PimContact& a_contact, int a_endingDigit
             addresses.push_back( a_numbers.NumberOf( a_text ) );
     };
     for ( const PimContactPhone& phone : a_contact.Phones() )
-        add( EndingOf( phone, a_endingDigits ) );
+        add( EndingOf( phone, a_options ) );
     for ( const PimContactMail& mail : a_contact.Mails() )
         add( mail.Address().contains( QLatin1Char( '@' ) ) ? mail.Address().trimmed().toLower() : QString() );
     std::sort( addresses.begin(), addresses.end() );
@@ -75,14 +74,15 @@ bool IsOtherEvidence( const PimContactLine& a_line )
 
 } // namespace
 
-Person::Person( const PimContactCard& a_card, int a_index, int a_endingDigits, PersonTexts& a_texts ) :
+Person::Person( const PimContactCard& a_card, int a_index, const PimPhoneBookOptions& a_options,
+                PersonTexts& a_texts ) :
     m_card( a_card ),
     m_index( a_index ),
     m_name( PimContact( a_card ) ),
     m_nameNumber( a_texts.m_names.NumberOf( m_name.Key() ) ),
     m_words( WordsOf( m_name, a_texts.m_words ) ),
     m_uid( UidOf( a_card ) ),
-    m_addresses( AddressesOf( PimContact( a_card ), a_endingDigits, a_texts.m_addresses ) )
+    m_addresses( AddressesOf( PimContact( a_card ), a_options, a_texts.m_addresses ) )
 {
 }
 

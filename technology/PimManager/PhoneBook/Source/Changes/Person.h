@@ -7,6 +7,7 @@
 #include "Changes/TextNumbers.h"
 
 #include <PimManager/Contacts/PimContactBook.h>
+#include <PimManager/PhoneBook/PimPhoneBookOptions.h>
 
 #include <vector>
 
@@ -24,9 +25,9 @@ struct PersonTexts
 /// A contact with its name, numbers and mail addresses.
 struct Person
 {
-    /// Reads a contact.
-    /// \param a_endingDigits the number of last digits that count.
-    Person( const Contacts::PimContactCard& a_card, int a_index, int a_endingDigits, PersonTexts& a_texts );
+    /// Reads a contact. The options say how numbers are read and how many of their last digits count.
+    Person( const Contacts::PimContactCard& a_card, int a_index, const PimPhoneBookOptions& a_options,
+            PersonTexts& a_texts );
 
     Contacts::PimContactCard m_card;
     int m_index;

@@ -178,6 +178,16 @@ TEST( PimPhoneBookChangesTest, EndingDigitsAreThoseOfTheOptions )
     EXPECT_EQ( TextOf( changes ), "0-0 number changed" );
 }
 
+TEST( PimPhoneBookChangesTest, RegionIsThatOfTheOptions )
+{
+    const auto old = BookOf( "FN:A B\nTEL:+49 30 1234" );
+    const auto other = BookOf( "FN:A B\nTEL:030 1234" );
+    PimPhoneBookOptions options;
+    EXPECT_EQ( TextOf( PimPhoneBookChanges::Compare( old, other, options ) ), "+0, -0" );
+    options.SetRegion( QStringLiteral( "DE" ) );
+    EXPECT_EQ( TextOf( PimPhoneBookChanges::Compare( old, other, options ) ), "0-0 number changed" );
+}
+
 TEST( PimPhoneBookChangesTest, CopyKeepsItsChanges )
 {
     PimPhoneBookChanges changes = PimPhoneBookChanges::Compare( BookOf( "FN:A" ), BookOf( "FN:B" ) );

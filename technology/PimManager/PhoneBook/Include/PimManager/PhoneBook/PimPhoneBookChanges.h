@@ -75,10 +75,13 @@ struct PimPhoneBookLines
 /// not
 ///   count. With a number or mail address in common, one word may have a typing error (a letter that is missing, added,
 ///   wrong, or exchanged with the next one), or words may be missing. If two contacts fit equally well, those that have
-///   more lines in common are paired. If there are none, equal names are paired in the order of the books, and others
-///   remain added and removed.
-/// - Numbers are in common if their last digits are equal, as many as PimPhoneBookOptions::EndingDigits() says. Shorter
-///   numbers are equal as a whole. Mail addresses are compared without letter case.
+///   more numbers and lines in common are paired. If there are none, equal names are paired in the order of the books,
+///   and others remain added and removed.
+/// - Numbers are in common if their last digits are equal, as many as PimPhoneBookOptions::EndingDigits() says, and
+/// their
+///   extensions. Shorter numbers are equal as a whole, see PimPhoneBookNumber::National(). Mail addresses are compared
+///   without letter case.
+/// - If any contact kept its UID, contacts with different UIDs are not the same by name.
 ///
 /// **What is a change.** A pair has changed unless the contacts are equal by Contacts::PimContact::operator==(). Then
 /// version, folds, encodings, character sets, group names, and the letter case and order of parameters do not count,
@@ -98,7 +101,7 @@ public:
     /// Compares two books. Equal contacts cost about as much as reading their bytes twice. For books of n bytes, the
     /// work is in the order of n log n, whatever they contain. Memory: about 50 bytes for each contact, and up to a few
     /// hundred for each contact that has no equal one.
-    /// \param a_options only EndingDigits() is used.
+    /// \param a_options Region() and EndingDigits() are used to compare numbers.
     static PimPhoneBookChanges Compare( const Contacts::PimContactBook& a_old, const Contacts::PimContactBook& a_new,
                                         const PimPhoneBookOptions& a_options = PimPhoneBookOptions() );
 

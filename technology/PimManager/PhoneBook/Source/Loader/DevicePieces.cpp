@@ -1,0 +1,76 @@
+#include "Loader/DevicePieces.h"
+
+#include <QFileDevice>
+#include <QThread>
+
+namespace PimManager::PhoneBook
+{
+
+namespace
+{
+
+constexpr int s_kPieceBytes = 64 * 1024;
+constexpr int s_kWaitMilliseconds = 50;
+// What QIODevice::read() never returns.
+constexpr qint64 s_kClosed = -2;
+
+} // namespace
+
+DevicePieces::DevicePieces( QIODevice& a_device, qint64 a_mostIdle ) :
+    m_device( a_device ),
+    m_mostIdle( a_mostIdle ),
+    m_connection( QObject::connect( &a_device, &QIODevice::readChannelFinished, [this] { m_isFinished = true; } ) )
+{
+    m_idle.start();
+}
+
+DevicePieces::~DevicePieces()
+{
+    QObject::disconnect( m_connection );
+}
+
+qint64 DevicePieces::Size() const
+{
+    return m_device.isSequential() ? -1 : m_device.size() - m_device.pos();
+}
+
+PieceState DevicePieces::Next()
+{
+    m_piece.resize( s_kPieceBytes );
+    const qint64 length = m_device.isReadable() ? m_device.read( m_piece.data(), s_kPieceBytes ) : s_kClosed;
+    m_piece.resize( static_cast<int>( qMax<qint64>( length, 0 ) ) );
+    if ( length <= 0 )
+        return StateWithoutData( length );
+    m_idle.start();
+    return PieceState::Data;
+}
+
+PieceState DevicePieces::StateWithoutData( qint64 a_length )
+{
+    const auto* const file = qobject_cast<QFileDevice*>( &m_device );
+    const bool isStream = file == nullptr && m_device.isSequential();
+    const bool isEnd = isStream ? m_isFinished || a_length == s_kClosed : a_length == 0;
+    if ( isEnd && ( file == nullptr || file->error() == QFileDevice::NoError ) )
+        return PieceState::End;
+    return isStream && a_length == 0 ? Wait() : Fail( m_device.errorString() );
+}
+
+// A device that cannot wait returns at once.
+PieceState DevicePieces::Wait()
+{
+    if ( m_idle.elapsed() > m_mostIdle )
+        return Fail( QStringLiteral( "the device sent no more data" ) );
+    QElapsedTimer waiting;
+    waiting.start();
+    if ( !m_device.waitForReadyRead( s_kWaitMilliseconds ) )
+        QThread::msleep( static_cast<unsigned long>( qMax<qint64>( s_kWaitMilliseconds - waiting.elapsed(), 0 ) ) );
+    return PieceState::Waiting;
+}
+
+PieceState DevicePieces::Fail( const QString& a_text )
+{
+    m_errorText = a_text;
+    return PieceState::Failed;
+}
+
+} // namespace PimManager::PhoneBook

@@ -3,19 +3,26 @@
 
 #pragma once
 
-#include <PimManager/Contacts/PimContact.h>
+#include <PimManager/Contacts/PimContactMedia.h>
 
+#include <QCache>
+#include <QMutex>
 #include <QQuickImageProvider>
-#include <QVector>
+#include <QString>
 
-/// Decodes the preferred photo of a contact when QML requests it. The id is the row of the contact.
+/// Decodes photos when QML requests them, in the thread of QML for images. Equal photos have the same address, so a
+/// photo that did not change is not loaded again with another phone book.
 class ContactPhotos : public QQuickImageProvider
 {
 public:
-    explicit ContactPhotos( const QVector<PimManager::Contacts::PimContact>& a_contacts );
+    ContactPhotos();
+
+    /// \return the address of a photo at this provider, which is named `photos`.
+    QString Source( const PimManager::Contacts::PimContactMedia& a_photo );
 
     QImage requestImage( const QString& a_id, QSize* a_size, const QSize& a_wanted ) override;
 
 private:
-    QVector<PimManager::Contacts::PimContact> m_contacts;
+    QMutex m_mutex;
+    QCache<QString, PimManager::Contacts::PimContactMedia> m_photos;
 };

@@ -1,68 +1,129 @@
-// The contacts of a book. The model has the roles contact, phone, section, initials and picture; see ContactsModel.h.
-// Texts of cards are shown as plain text, so that markup in a card has no effect.
+// A phone book: search, list and dial pad, side by side on a wide screen. Texts of cards are shown as plain text, so that
+// markup in a card has no effect.
 import QtQuick 2.15
+import "Theme.js" as Theme
 
-ListView {
-    id: list
+Rectangle {
+    id: page
+
+    readonly property bool isWide: width > height
+    property bool isPadWanted: false
+    readonly property bool isPadShown: isWide || isPadWanted
 
     width: 360
     height: 640
-    model: contacts
-    section.property: "section"
-    section.delegate: Text {
-        objectName: "section"
-        x: 12
-        height: 28
-        verticalAlignment: Text.AlignBottom
-        color: "#5c7c8a"
-        text: section
-        textFormat: Text.PlainText
-    }
-    delegate: Item {
-        objectName: "row"
-        width: list.width
-        height: 56
+    color: Theme.background
 
+    Item {
+        id: side
+        anchors { left: parent.left; top: parent.top; bottom: pad.top; right: parent.right }
+
+        SearchField {
+            id: search
+            anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.margin }
+        }
         Rectangle {
-            id: circle
-            x: 12
-            anchors.verticalCenter: parent.verticalCenter
-            width: 40
-            height: 40
-            radius: 20
-            color: "#5c7c8a"
-
-            Text {
-                objectName: "initials"
-                anchors.centerIn: parent
-                visible: photo.status !== Image.Ready
-                color: "white"
-                text: model.initials
+            objectName: "progress"
+            anchors { left: search.left; top: search.bottom; topMargin: 4 }
+            width: search.width * loader.progress
+            height: 3
+            radius: 1.5
+            color: Theme.accent
+            visible: loader.loading
+        }
+        Text {
+            id: error
+            objectName: "error"
+            anchors { left: search.left; right: search.right; top: search.bottom; topMargin: 8 }
+            height: text ? implicitHeight + 4 : 0
+            color: Theme.error
+            font.pixelSize: Theme.small
+            text: loader.errorText
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+        }
+        ListView {
+            id: list
+            objectName: "list"
+            anchors { left: parent.left; right: parent.right; top: error.bottom; bottom: parent.bottom }
+            clip: true
+            model: contacts
+            // The round button hides no row at the end.
+            footer: Item { height: page.isPadShown ? 8 : 84 }
+            section.property: contacts.filter || contacts.keys ? "" : "section"
+            section.delegate: Text {
+                objectName: "section"
+                x: Theme.margin + 4
+                height: 30
+                verticalAlignment: Text.AlignVCenter
+                color: Theme.accent
+                font { pixelSize: Theme.small; bold: true }
+                text: section
                 textFormat: Text.PlainText
             }
-        }
-        Image {
-            id: photo
-            objectName: "photo"
-            anchors.fill: circle
-            source: model.picture
-            sourceSize: Qt.size(circle.width, circle.height)
-            fillMode: Image.PreserveAspectCrop
-        }
-        Text {
-            objectName: "name"
-            anchors { left: circle.right; leftMargin: 12; right: parent.right; top: circle.top }
-            elide: Text.ElideRight
-            text: model.contact.displayName
-            textFormat: Text.PlainText
+            delegate: ContactRow {
+                width: list.width
+                onClicked: {
+                    contacts.keys = model.number
+                    page.isPadWanted = true
+                }
+            }
         }
         Text {
-            objectName: "number"
-            anchors { left: circle.right; leftMargin: 12; right: parent.right; bottom: circle.bottom }
-            elide: Text.ElideRight
-            color: "gray"
-            text: [model.phone.text, model.phone.purpose].filter(Boolean).join("  ")
-            textFormat: Text.PlainText
+            objectName: "nothing"
+            anchors.centerIn: list
+            visible: contacts.count === 0 && !loader.loading
+            color: Theme.faint
+            font.pixelSize: Theme.medium
+            text: "no contact"
         }
     }
+
+    DialPad {
+        id: pad
+        width: parent.width
+        anchors { right: parent.right; bottom: parent.bottom }
+        visible: page.isPadShown
+        hasHandle: !page.isWide
+        onClosed: page.isPadWanted = false
+    }
+
+    Rectangle {
+        objectName: "padButton"
+        anchors { right: parent.right; bottom: parent.bottom; margins: 16 }
+        width: 60
+        height: 60
+        radius: 30
+        color: Theme.accent
+        visible: !page.isPadShown
+
+        Grid {
+            anchors.centerIn: parent
+            columns: 3
+            spacing: 5
+
+            Repeater {
+                model: 9
+                Rectangle { width: 6; height: 6; radius: 3; color: "white" }
+            }
+        }
+        MouseArea {
+            anchors.fill: parent
+            onClicked: page.isPadWanted = true
+        }
+    }
+
+    states: [
+        State {
+            name: "wide"
+            when: page.isWide
+            AnchorChanges { target: side; anchors.bottom: page.bottom; anchors.right: pad.left }
+            PropertyChanges { target: pad; width: Math.round(page.width * 0.42); height: page.height }
+        },
+        State {
+            name: "list"
+            when: !page.isPadShown
+            AnchorChanges { target: side; anchors.bottom: page.bottom }
+        }
+    ]
 }

@@ -1,20 +1,19 @@
-// qml-contacts FILE: shows the contacts of an address book.
+// qml-contacts FILE: shows the contacts of an address book, finds them and tells who has a number.
 #include "ContactsView.h"
 
-#include <PimManager/Contacts/PimContactBook.h>
+#include <PimManager/PhoneBook/PimPhoneBookLoader.h>
 
 #include <QDebug>
 #include <QGuiApplication>
 
-using namespace PimManager::Contacts;
+using namespace PimManager::PhoneBook;
 
 int main( int argc, char* argv[] )
 {
     const QGuiApplication application( argc, argv );
-    const QString name = QGuiApplication::arguments().value( 1, QStringLiteral( "contacts.vcf" ) );
-    const PimContactBook book = PimContactBook::ReadFile( name );
-    qInfo().noquote() << book.Report().Summary();
-    ContactsView view( book );
+    ContactsView view( QGuiApplication::arguments().value( 1, QStringLiteral( "contacts.vcf" ) ) );
+    QObject::connect( &view.Loader(), &PimPhoneBookLoader::Loaded, &view,
+                      [&view] { qInfo().noquote() << view.Loader().Report().Summary(); } );
     view.show();
     return QGuiApplication::exec();
 }

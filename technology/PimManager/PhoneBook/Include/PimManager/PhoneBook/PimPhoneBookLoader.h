@@ -62,7 +62,7 @@ public:
     using DeviceMaker = std::function<std::unique_ptr<QIODevice>()>;
 
     explicit PimPhoneBookLoader( QObject* a_parent = nullptr );
-    /// Stops the loading and does not wait for it. The program waits before it ends.
+    /// Stops the loading and does not wait for its thread. The destructor of QCoreApplication does.
     ~PimPhoneBookLoader() override;
 
     /// The limits and the filter for reading. Default: those of PimContactOptions.

@@ -4,6 +4,7 @@
 #include <QEvent>
 
 #include <memory>
+#include <thread>
 #include <utility>
 
 namespace PimManager::PhoneBook
@@ -59,6 +60,25 @@ LoaderNews LoaderJob::TakeNews()
     m_news.m_book.reset();
     m_news.m_end.reset();
     return news;
+}
+
+void LoaderJob::SetDone()
+{
+    const std::lock_guard lock( m_mutex );
+    m_isDone = true;
+    m_end.notify_all();
+}
+
+bool LoaderJob::WaitForEnd( std::chrono::milliseconds a_most )
+{
+    std::unique_lock lock( m_mutex );
+    return m_end.wait_for( lock, a_most, [this] { return IsDone(); } );
+}
+
+void LoaderJob::ReturnUnlessAbandoned() const
+{
+    while ( m_isAbandoned )
+        std::this_thread::sleep_for( std::chrono::hours( 1 ) );
 }
 
 // The receiver may not have taken all former phone books.

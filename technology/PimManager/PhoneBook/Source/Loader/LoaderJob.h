@@ -15,6 +15,8 @@
 #include <QtGlobal>
 
 #include <atomic>
+#include <chrono>
+#include <condition_variable>
 #include <mutex>
 #include <optional>
 
@@ -77,6 +79,17 @@ public:
 
     LoaderNews TakeNews();
 
+    /// The last that the thread does with the job.
+    void SetDone();
+    bool IsDone() const { return m_isDone; }
+    /// \return false if the thread is not done after this time.
+    bool WaitForEnd( std::chrono::milliseconds a_most );
+
+    /// The program ends while a device does not answer. From now on, ReturnUnlessAbandoned() does not return, so that
+    /// the thread uses nothing that is being destroyed.
+    void Abandon() { m_isAbandoned = true; }
+    void ReturnUnlessAbandoned() const;
+
 private:
     template <class Change>
     void Tell( const Change& a_change );
@@ -84,6 +97,9 @@ private:
 
     const LoaderTask m_task;
     std::atomic<bool> m_isCancelled = false;
+    std::atomic<bool> m_isAbandoned = false;
+    std::atomic<bool> m_isDone = false;
+    std::condition_variable m_end;
     std::mutex m_mutex;
     QObject* m_receiver;
     LoaderNews m_news;

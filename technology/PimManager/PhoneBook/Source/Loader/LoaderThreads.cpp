@@ -7,7 +7,7 @@
 #include <QtGlobal>
 
 #include <algorithm>
-#include <atomic>
+#include <chrono>
 #include <mutex>
 #include <system_error>
 #include <thread>
@@ -19,36 +19,48 @@ namespace PimManager::PhoneBook
 namespace
 {
 
+constexpr std::chrono::seconds s_kMostWait( 3 );
+
 /// One thread. Not a QThread, whose end the thread sanitizer does not see.
 class LoaderThread
 {
 public:
     explicit LoaderThread( const std::shared_ptr<LoaderJob>& a_job ) :
         m_job( a_job ),
-        m_thread( [this] { Run(); } )
+        m_thread( [a_job] { Do( *a_job ); } )
     {
     }
 
-    ~LoaderThread()
-    {
-        m_job->Cancel();
-        m_thread.join();
-    }
+    ~LoaderThread();
     Q_DISABLE_COPY( LoaderThread )
 
-    bool IsDone() const { return m_isDone; }
+    bool IsDone() const { return m_job->IsDone(); }
 
 private:
-    void Run()
-    {
-        LoaderWork( *m_job ).Run();
-        m_isDone = true;
-    }
+    static void Do( LoaderJob& a_job );
 
     const std::shared_ptr<LoaderJob> m_job;
-    std::atomic<bool> m_isDone = false;
     std::thread m_thread;
 };
+
+// A device may not answer for a long time, and a program must be able to end.
+LoaderThread::~LoaderThread()
+{
+    m_job->Cancel();
+    if ( m_job->WaitForEnd( s_kMostWait ) )
+    {
+        m_thread.join();
+        return;
+    }
+    m_job->Abandon();
+    m_thread.detach();
+}
+
+void LoaderThread::Do( LoaderJob& a_job )
+{
+    LoaderWork( a_job ).Run();
+    a_job.SetDone();
+}
 
 /// The threads that have not been waited for yet.
 class LoaderThreads

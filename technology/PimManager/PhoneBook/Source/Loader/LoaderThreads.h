@@ -10,8 +10,8 @@ namespace PimManager::PhoneBook
 
 class LoaderJob;
 
-/// Does a job in a thread of its own, without waiting for it. When the program ends or the library is unloaded, all
-/// jobs are cancelled and waited for.
+/// Does a job in a thread of its own, without waiting for it. The destructor of QCoreApplication cancels all jobs and
+/// waits for their threads, but at most three seconds for each.
 void StartLoaderThread( const std::shared_ptr<LoaderJob>& a_job );
 
 } // namespace PimManager::PhoneBook

@@ -72,6 +72,7 @@ QString LoaderWork::ReadDevice()
 {
     const LoaderTask& task = m_job.Task();
     const std::unique_ptr<QIODevice> device = task.m_maker ? task.m_maker() : nullptr;
+    m_job.ReturnUnlessAbandoned();
     if ( !device )
         return QStringLiteral( "there is no device" );
     if ( !device->isReadable() )
@@ -88,6 +89,7 @@ QString LoaderWork::ReadPieces( QIODevice& a_device )
     while ( !m_job.IsCancelled() )
     {
         const PieceState state = pieces.Next();
+        m_job.ReturnUnlessAbandoned();
         if ( state == PieceState::End || state == PieceState::Failed )
             return pieces.ErrorText();
         m_job.TellRead( pieces.Piece().size() );

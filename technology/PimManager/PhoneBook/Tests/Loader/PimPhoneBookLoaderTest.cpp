@@ -372,6 +372,20 @@ TEST_F( PimPhoneBookLoaderTest, SlotMayStopOrDeleteTheLoader )
     }
 }
 
+TEST_F( PimPhoneBookLoaderTest, DeviceThatHangsDelaysNeitherTheLoaderNorTheEndOfTheProgram )
+{
+    PimPhoneBookModel model;
+    PimPhoneBookLoader loader;
+    LoaderEvents events( loader );
+    loader.SetModel( &model );
+    loader.LoadDevice( Maker( TextOf( ManyContacts( 40 ) ), TestEnd::Hangs ) );
+    ASSERT_TRUE( WaitFor( [&] { return model.Count() == 32; } ) );
+    loader.LoadBytes( TextOf( ManyContacts( 50 ) ) );
+    ASSERT_TRUE( events.WaitForEnd() );
+    EXPECT_EQ( model.Count(), 50 );
+    // The fixture now deletes the application.
+}
+
 TEST_F( PimPhoneBookLoaderTest, ModelMayBeDeletedFirst )
 {
     auto model = std::make_unique<PimPhoneBookModel>();

@@ -10,7 +10,6 @@
 
 #include "LoaderEvents.h"
 
-
 #include <atomic>
 #include <random>
 #include <thread>

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QIODevice>
+#include <QThread>
 
 #include <cstring>
 #include <stdexcept>
@@ -20,6 +21,7 @@ enum class TestEnd
     Fails,
     Throws,
     IsSilent, ///< sends nothing, and waits for more
+    Hangs,    ///< does not return
     IsEndless ///< begins again
 };
 
@@ -57,6 +59,8 @@ protected:
 private:
     qint64 AtEnd()
     {
+        while ( m_end == TestEnd::Hangs )
+            QThread::sleep( 1 );
         if ( m_end == TestEnd::Throws )
             throw std::runtime_error( "thrown by the device" );
         if ( m_end == TestEnd::Finishes )

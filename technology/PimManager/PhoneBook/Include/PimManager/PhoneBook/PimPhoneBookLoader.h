@@ -62,7 +62,8 @@ public:
     using DeviceMaker = std::function<std::unique_ptr<QIODevice>()>;
 
     explicit PimPhoneBookLoader( QObject* a_parent = nullptr );
-    /// Stops the loading and does not wait for its thread. The destructor of QCoreApplication does.
+    /// Stops the loading and does not wait for its thread. The destructor of QCoreApplication does, but no more than
+    /// three seconds if the device does not answer.
     ~PimPhoneBookLoader() override;
 
     /// The limits and the filter for reading. Default: those of PimContactOptions.

@@ -4,7 +4,6 @@
 #include <QEvent>
 
 #include <memory>
-#include <thread>
 #include <utility>
 
 namespace PimManager::PhoneBook
@@ -66,19 +65,31 @@ void LoaderJob::SetDone()
 {
     const std::lock_guard lock( m_mutex );
     m_isDone = true;
-    m_end.notify_all();
+    m_changed.notify_all();
 }
 
-bool LoaderJob::WaitForEnd( std::chrono::milliseconds a_most )
+bool LoaderJob::WaitForEnd( std::chrono::milliseconds a_mostOfDevice )
 {
     std::unique_lock lock( m_mutex );
-    return m_end.wait_for( lock, a_most, [this] { return IsDone(); } );
+    m_changed.wait_for( lock, a_mostOfDevice, [this] { return IsDone(); } );
+    m_changed.wait( lock, [this] { return IsDone() || m_isInDevice; } );
+    m_isAbandoned = !IsDone();
+    return IsDone();
 }
 
-void LoaderJob::ReturnUnlessAbandoned() const
+LoaderJob::DeviceCall::DeviceCall( LoaderJob& a_job ) :
+    m_job( a_job )
 {
-    while ( m_isAbandoned )
-        std::this_thread::sleep_for( std::chrono::hours( 1 ) );
+    const std::lock_guard lock( m_job.m_mutex );
+    m_job.m_isInDevice = true;
+    m_job.m_changed.notify_all();
+}
+
+LoaderJob::DeviceCall::~DeviceCall()
+{
+    std::unique_lock lock( m_job.m_mutex );
+    m_job.m_isInDevice = false;
+    m_job.m_changed.wait( lock, [this] { return !m_job.m_isAbandoned; } );
 }
 
 // The receiver may not have taken all former phone books.

@@ -82,25 +82,42 @@ public:
     /// The last that the thread does with the job.
     void SetDone();
     bool IsDone() const { return m_isDone; }
-    /// \return false if the thread is not done after this time.
-    bool WaitForEnd( std::chrono::milliseconds a_most );
+    /// Waits until the thread is done. If a call of the device takes longer than a time, the thread is abandoned: it
+    /// never returns from that call, so that it uses nothing that is being destroyed.
+    /// \return false if the thread was abandoned.
+    bool WaitForEnd( std::chrono::milliseconds a_mostOfDevice );
 
-    /// The program ends while a device does not answer. From now on, ReturnUnlessAbandoned() does not return, so that
-    /// the thread uses nothing that is being destroyed.
-    void Abandon() { m_isAbandoned = true; }
-    void ReturnUnlessAbandoned() const;
+    /// Calls a function of a device.
+    template <class Function>
+    auto InDevice( const Function& a_function )
+    {
+        const DeviceCall call( *this );
+        return a_function();
+    }
 
 private:
+    class DeviceCall
+    {
+    public:
+        explicit DeviceCall( LoaderJob& a_job );
+        ~DeviceCall();
+        Q_DISABLE_COPY( DeviceCall )
+
+    private:
+        LoaderJob& m_job;
+    };
+
     template <class Change>
     void Tell( const Change& a_change );
     void SetBook( const LoaderBook& a_book );
 
     const LoaderTask m_task;
     std::atomic<bool> m_isCancelled = false;
-    std::atomic<bool> m_isAbandoned = false;
     std::atomic<bool> m_isDone = false;
-    std::condition_variable m_end;
     std::mutex m_mutex;
+    std::condition_variable m_changed;
+    bool m_isInDevice = false;
+    bool m_isAbandoned = false;
     QObject* m_receiver;
     LoaderNews m_news;
     PimPhoneBook m_receivers;

@@ -31,9 +31,11 @@ public:
     {
     }
 
+    /// Cancels the job, and waits.
     ~LoaderThread();
     Q_DISABLE_COPY( LoaderThread )
 
+    void Cancel() { m_job->Cancel(); }
     bool IsDone() const { return m_job->IsDone(); }
 
 private:
@@ -48,12 +50,9 @@ LoaderThread::~LoaderThread()
 {
     m_job->Cancel();
     if ( m_job->WaitForEnd( s_kMostWait ) )
-    {
         m_thread.join();
-        return;
-    }
-    m_job->Abandon();
-    m_thread.detach();
+    else
+        m_thread.detach();
 }
 
 void LoaderThread::Do( LoaderJob& a_job )
@@ -89,6 +88,8 @@ private:
     {
         LoaderThreads& threads = Instance();
         const std::lock_guard lock( threads.m_mutex );
+        for ( const auto& thread : threads.m_threads )
+            thread->Cancel();
         threads.m_threads.clear();
     }
 

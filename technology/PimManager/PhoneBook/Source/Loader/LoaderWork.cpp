@@ -71,13 +71,13 @@ void LoaderWork::Run()
 QString LoaderWork::ReadDevice()
 {
     const LoaderTask& task = m_job.Task();
-    const std::unique_ptr<QIODevice> device = task.m_maker ? task.m_maker() : nullptr;
-    m_job.ReturnUnlessAbandoned();
+    std::unique_ptr<QIODevice> device = m_job.InDevice( [&] { return task.m_maker ? task.m_maker() : nullptr; } );
     if ( !device )
         return QStringLiteral( "there is no device" );
     if ( !device->isReadable() )
         return device->errorString();
     QString errorText = ReadPieces( *device );
+    m_job.InDevice( [&] { device.reset(); } );
     m_reader.Finish();
     return errorText;
 }
@@ -88,8 +88,7 @@ QString LoaderWork::ReadPieces( QIODevice& a_device )
     m_job.TellSize( pieces.Size() );
     while ( !m_job.IsCancelled() )
     {
-        const PieceState state = pieces.Next();
-        m_job.ReturnUnlessAbandoned();
+        const PieceState state = m_job.InDevice( [&] { return pieces.Next(); } );
         if ( state == PieceState::End || state == PieceState::Failed )
             return pieces.ErrorText();
         m_job.TellRead( pieces.Piece().size() );

@@ -13,28 +13,29 @@ namespace PimManager::PhoneBook
 namespace
 {
 
-constexpr int s_kSearchSteps = 64;
-// Each step copies rows. The product of both numbers bounds the copies.
-constexpr int s_kStepsTimesRows = 10000000;
-
-int MostSteps( int a_rows )
-{
-    return std::max( s_kSearchSteps, s_kStepsTimesRows / std::max( a_rows, 1 ) );
-}
+// Each key waits for the steps of a search. The time for those of a phone book is in the order of their square.
+constexpr int s_kSearchSteps = 32;
+constexpr int s_kBookSteps = 2000;
 
 QVector<int> ContactsOf( const QVector<PimPhoneBookMatch>& a_matches )
 {
     QVector<int> contacts( a_matches.size() );
-    std::transform( a_matches.begin(), a_matches.end(), contacts.begin(),
-                    []( const PimPhoneBookMatch& a_match ) { return a_match.m_contact; } );
+    int* contact = contacts.data();
+    for ( const PimPhoneBookMatch& match : a_matches )
+        *contact++ = match.m_contact;
     return contacts;
 }
 
-QVector<int> InNextBook( const QVector<int>& a_contacts, const BookStep& a_step )
+/// \param a_gone what contacts are that are gone.
+QVector<int> InNextBook( const QVector<int>& a_contacts, const BookStep& a_step, int a_gone )
 {
     QVector<int> contacts( a_contacts.size() );
     std::transform( a_contacts.begin(), a_contacts.end(), contacts.begin(),
-                    [&]( int a_contact ) { return a_step.m_newOf[a_contact]; } );
+                    [&]( int a_contact )
+                    {
+                        const int contact = a_step.m_newOf.at( a_contact );
+                        return contact < 0 ? a_gone : contact;
+                    } );
     return contacts;
 }
 
@@ -73,10 +74,11 @@ void PimPhoneBookModelPrivate::SetRecentCalls( const QStringList& a_numbers )
 
 const Contacts::PimContact& PimPhoneBookModelPrivate::ContactOf( int a_row )
 {
-    if ( m_lastContact != m_rows.at( a_row ) )
+    const int contact = m_rows.IdAt( a_row );
+    if ( m_lastContact != contact )
     {
-        m_lastContact = m_rows.at( a_row );
-        m_last = m_phoneBook.At( m_lastContact );
+        m_lastContact = contact;
+        m_last = m_phoneBook.At( contact );
     }
     return m_last;
 }
@@ -86,13 +88,13 @@ void PimPhoneBookModelPrivate::Refresh()
     m_isOutdated = true;
     if ( m_isChanging )
         return;
-    const auto before = m_rows.size();
+    const int before = m_rows.Size();
     {
         const QScopedValueRollback<bool> isChanging( m_isChanging, true );
         while ( std::exchange( m_isOutdated, false ) )
             Update();
     }
-    if ( m_rows.size() != before )
+    if ( m_rows.Size() != before )
         emit m_model.CountChanged();
 }
 
@@ -116,22 +118,23 @@ void PimPhoneBookModelPrivate::Update()
 void PimPhoneBookModelPrivate::ShowPhoneBook( const PimPhoneBook& a_phoneBook, const BookStep& a_step )
 {
     const QVector<int> rows = RowsOf( a_phoneBook );
-    const RowChanges changes = RowChangesBetween( InNextBook( m_rows, a_step ), rows, a_phoneBook.Size(),
-                                                  MostSteps( static_cast<int>( rows.size() ) ) );
+    const QVector<int> former = InNextBook( m_rows.Ids(), a_step, a_phoneBook.Size() );
+    const RowChanges changes = RowChangesBetween( former, rows, a_phoneBook.Size(), s_kBookSteps );
     Remove( changes );
     m_phoneBook = a_phoneBook;
-    m_rows = InNextBook( m_rows, a_step );
     m_lastContact = -1;
+    m_rows.SetNewIds( rows, changes.m_staying );
     TellChanged( a_step.m_changed );
-    MoveAndInsert( changes, rows );
+    MoveAndInsert( changes );
 }
 
 void PimPhoneBookModelPrivate::ShowMatches()
 {
     const QVector<int> rows = RowsOf( m_phoneBook );
-    const RowChanges changes = RowChangesBetween( m_rows, rows, m_phoneBook.Size(), s_kSearchSteps );
+    const RowChanges changes = RowChangesBetween( m_rows.Ids(), rows, m_phoneBook.Size(), s_kSearchSteps );
     Remove( changes );
-    MoveAndInsert( changes, rows );
+    m_rows.SetNewIds( rows, changes.m_staying );
+    MoveAndInsert( changes );
 }
 
 QVector<int> PimPhoneBookModelPrivate::RowsOf( const PimPhoneBook& a_phoneBook ) const
@@ -146,36 +149,28 @@ void PimPhoneBookModelPrivate::Remove( const RowChanges& a_changes )
     for ( auto range = a_changes.m_removed.rbegin(); range != a_changes.m_removed.rend(); ++range )
     {
         m_model.beginRemoveRows( QModelIndex(), range->m_first, range->m_first + range->m_count - 1 );
-        m_rows.remove( range->m_first, range->m_count );
+        m_rows.Remove( *range );
         m_model.endRemoveRows();
     }
 }
 
-void PimPhoneBookModelPrivate::MoveAndInsert( const RowChanges& a_changes, const QVector<int>& a_rows )
+void PimPhoneBookModelPrivate::MoveAndInsert( const RowChanges& a_changes )
 {
     for ( const RowMove& move : a_changes.m_moved )
-        Move( move );
+    {
+        // Qt counts the target with the rows in their old places.
+        const int target = move.m_to > move.m_from ? move.m_to + move.m_count : move.m_to;
+        m_model.beginMoveRows( QModelIndex(), move.m_from, move.m_from + move.m_count - 1, QModelIndex(), target );
+        m_rows.Move( move );
+        m_model.endMoveRows();
+    }
     for ( const RowRange& range : a_changes.m_inserted )
     {
         m_model.beginInsertRows( QModelIndex(), range.m_first, range.m_first + range.m_count - 1 );
-        m_rows.insert( range.m_first, range.m_count, 0 );
-        std::copy_n( a_rows.begin() + range.m_first, range.m_count, m_rows.begin() + range.m_first );
+        m_rows.Insert( range );
         m_model.endInsertRows();
     }
-    m_rows = a_rows; // the same, and for all contacts without memory of its own
-}
-
-void PimPhoneBookModelPrivate::Move( const RowMove& a_move )
-{
-    const int last = a_move.m_from + a_move.m_count - 1;
-    // Qt counts the target with the rows in their old places.
-    const int target = a_move.m_to > a_move.m_from ? a_move.m_to + a_move.m_count : a_move.m_to;
-    m_model.beginMoveRows( QModelIndex(), a_move.m_from, last, QModelIndex(), target );
-    const QVector<int> rows = m_rows.mid( a_move.m_from, a_move.m_count );
-    m_rows.remove( a_move.m_from, a_move.m_count );
-    m_rows.insert( a_move.m_to, a_move.m_count, 0 );
-    std::copy( rows.begin(), rows.end(), m_rows.begin() + a_move.m_to );
-    m_model.endMoveRows();
+    m_rows.Finish();
 }
 
 void PimPhoneBookModelPrivate::TellChanged( const QVector<int>& a_contacts )
@@ -184,12 +179,12 @@ void PimPhoneBookModelPrivate::TellChanged( const QVector<int>& a_contacts )
     for ( const int contact : a_contacts )
         isChanged[static_cast<size_t>( contact )] = true;
     std::vector<RowRange> ranges;
-    for ( int row = 0; row < m_rows.size(); ++row )
+    for ( int row = 0; row < m_rows.Size(); ++row )
     {
-        if ( isChanged[static_cast<size_t>( m_rows.at( row ) )] )
+        if ( isChanged[static_cast<size_t>( m_rows.IdAt( row ) )] )
             AppendRow( ranges, row );
     }
-    if ( static_cast<int>( ranges.size() ) > MostSteps( static_cast<int>( m_rows.size() ) ) )
+    if ( ranges.size() > s_kBookSteps )
         ranges = { { ranges.front().m_first, ranges.back().m_first + ranges.back().m_count - ranges.front().m_first } };
     for ( const RowRange& range : ranges )
         emit m_model.dataChanged( m_model.index( range.m_first ), m_model.index( range.m_first + range.m_count - 1 ) );

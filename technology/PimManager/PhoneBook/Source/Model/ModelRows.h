@@ -5,6 +5,7 @@
 
 #include "Model/BookStep.h"
 #include "Model/RowChanges.h"
+#include "Model/RowList.h"
 
 #include <PimManager/PhoneBook/PimPhoneBookModel.h>
 
@@ -23,7 +24,7 @@ public:
     explicit PimPhoneBookModelPrivate( PimPhoneBookModel& a_model );
 
     const PimPhoneBook& PhoneBook() const { return m_phoneBook; }
-    const QVector<int>& Rows() const { return m_rows; }
+    const RowList& Rows() const { return m_rows; }
     const QString& Filter() const { return m_filter; }
     const QString& Keys() const { return m_keys; }
 
@@ -44,8 +45,7 @@ private:
     void ShowMatches();
     QVector<int> RowsOf( const PimPhoneBook& a_phoneBook ) const;
     void Remove( const RowChanges& a_changes );
-    void MoveAndInsert( const RowChanges& a_changes, const QVector<int>& a_rows );
-    void Move( const RowMove& a_move );
+    void MoveAndInsert( const RowChanges& a_changes );
     void TellChanged( const QVector<int>& a_contacts );
 
     PimPhoneBookModel& m_model;
@@ -53,7 +53,7 @@ private:
     QString m_filter;
     QString m_keys;
     std::optional<QStringList> m_recentCalls;
-    QVector<int> m_rows;
+    RowList m_rows;
     int m_lastContact = -1;
     Contacts::PimContact m_last;
 

@@ -51,17 +51,22 @@ void PimPhoneBookModel::SetRecentCalls( const QStringList& a_numbers )
 
 int PimPhoneBookModel::Count() const
 {
-    return static_cast<int>( d->Rows().size() );
+    return d->Rows().Size();
 }
 
 int PimPhoneBookModel::ContactAt( int a_row ) const
 {
-    return d->Rows().value( a_row, -1 );
+    return a_row >= 0 && a_row < Count() ? d->Rows().IdAt( a_row ) : -1;
 }
 
 int PimPhoneBookModel::RowOf( int a_contact ) const
 {
-    return static_cast<int>( d->Rows().indexOf( a_contact ) );
+    for ( int row = 0; row < Count(); ++row )
+    {
+        if ( d->Rows().IdAt( row ) == a_contact )
+            return row;
+    }
+    return -1;
 }
 
 int PimPhoneBookModel::rowCount( const QModelIndex& a_parent ) const

@@ -20,7 +20,7 @@ struct Rows
     int m_end;
 };
 
-/// Compares two lists. An id that a list has twice is different in each place but one.
+/// Compares two lists.
 class RowComparison
 {
 public:
@@ -29,23 +29,22 @@ public:
     RowChanges Result();
 
 private:
-    void MarkOld();
-    void CompareNew();
-    void CompareOld();
-    bool IsTooMuch() const { return m_steps > m_most; }
-    int Take( int a_id );
+    void FindNewRows();
+    bool CompareOld();
+    int NewRowOf( int a_oldRow ) const;
+    bool FindInserted();
+    void AddInserted( int a_first, int a_end );
+    std::vector<RowRange> MergedBlocks() const;
 
-    // Values below 0 in m_targets.
     static constexpr int sm_kNone = -1;
-    static constexpr int sm_kOld = -2;
 
     const Rows m_old;
     const Rows m_new;
     const int m_most;
-    int m_steps = 0;
-    /// For each id its row in the new list, where only the rows count that are in both lists.
-    std::vector<int> m_targets;
+    /// The row of each id in the new list, and for the rows without an id none.
+    std::vector<int> m_newRows;
     RowChanges m_changes;
+    /// Rows of the new list that are below each other in the old one too, in the order of the old list.
     std::vector<RowRange> m_blocks;
 };
 
@@ -53,21 +52,19 @@ RowComparison::RowComparison( const Rows& a_old, const Rows& a_new, int a_ids, i
     m_old( a_old ),
     m_new( a_new ),
     m_most( a_most ),
-    m_targets( static_cast<size_t>( a_ids ), sm_kNone )
+    m_newRows( static_cast<size_t>( a_ids ) + 1, sm_kNone )
 {
 }
 
 RowChanges RowComparison::Result()
 {
-    MarkOld();
-    CompareNew();
-    if ( !IsTooMuch() )
-        CompareOld();
-    if ( IsTooMuch() )
+    FindNewRows();
+    if ( !CompareOld() || !FindInserted() )
         return { { { m_old.m_first, m_old.m_end - m_old.m_first } },
                  {},
+                 {},
                  { { m_new.m_first, m_new.m_end - m_new.m_first } } };
-    m_changes.m_moved = MovesThatSort( m_blocks );
+    m_changes.m_moved = MovesThatSort( MergedBlocks() );
     for ( RowMove& move : m_changes.m_moved )
     {
         move.m_from += m_old.m_first;
@@ -76,43 +73,94 @@ RowChanges RowComparison::Result()
     return std::move( m_changes );
 }
 
-void RowComparison::MarkOld()
+void RowComparison::FindNewRows()
 {
-    for ( int row = m_old.m_first; row < m_old.m_end; ++row )
-    {
-        if ( m_old.m_ids[row] >= 0 )
-            m_targets[static_cast<size_t>( m_old.m_ids[row] )] = sm_kOld;
-    }
+    for ( int row = m_new.m_first; row < m_new.m_end; ++row )
+        m_newRows[static_cast<size_t>( m_new.m_ids[row] )] = row;
 }
 
-void RowComparison::CompareNew()
+// Once for each row in the worst case, so the inner loops are as short as possible.
+bool RowComparison::CompareOld()
 {
-    int target = m_new.m_first;
-    for ( int row = m_new.m_first; row < m_new.m_end && !IsTooMuch(); ++row )
+    int steps = 0;
+    for ( int row = m_old.m_first; row < m_old.m_end; ++steps )
     {
-        int& known = m_targets[static_cast<size_t>( m_new.m_ids[row] )];
-        if ( known == sm_kOld )
-            known = target++;
+        if ( steps == m_most )
+            return false;
+        const int first = row;
+        const int newRow = NewRowOf( row );
+        if ( newRow == sm_kNone )
+        {
+            while ( ++row < m_old.m_end && NewRowOf( row ) == sm_kNone )
+                continue;
+            m_changes.m_removed.push_back( { first, row - first } );
+        }
         else
-            m_steps += AppendRow( m_changes.m_inserted, row );
+        {
+            while ( ++row < m_old.m_end && NewRowOf( row ) == newRow + row - first )
+                continue;
+            m_blocks.push_back( { newRow, row - first } );
+        }
     }
+    return true;
 }
 
-void RowComparison::CompareOld()
+int RowComparison::NewRowOf( int a_oldRow ) const
 {
-    for ( int row = m_old.m_first; row < m_old.m_end && !IsTooMuch(); ++row )
+    return m_newRows[static_cast<size_t>( m_old.m_ids[a_oldRow] )];
+}
+
+// The rows between the blocks. Then the blocks get the rows that they have without these.
+bool RowComparison::FindInserted()
+{
+    m_changes.m_staying = m_blocks;
+    std::vector<RowRange*> sorted;
+    for ( RowRange& block : m_blocks )
+        sorted.push_back( &block );
+    std::sort( sorted.begin(), sorted.end(),
+               []( const RowRange* a_first, const RowRange* a_second )
+               { return a_first->m_first < a_second->m_first; } );
+    int row = m_new.m_first;
+    int target = 0;
+    for ( RowRange* const block : sorted )
     {
-        const int target = Take( m_old.m_ids[row] );
-        if ( target < 0 )
-            m_steps += AppendRow( m_changes.m_removed, row );
-        else
-            m_steps += AppendRow( m_blocks, target );
+        if ( block->m_first < row )
+            return false; // an id that the old list has twice
+        AddInserted( row, block->m_first );
+        row = block->m_first + block->m_count;
+        block->m_first = target;
+        target += block->m_count;
     }
+    AddInserted( row, m_new.m_end );
+    return true;
 }
 
-int RowComparison::Take( int a_id )
+void RowComparison::AddInserted( int a_first, int a_end )
 {
-    return a_id < 0 ? sm_kNone : std::exchange( m_targets[static_cast<size_t>( a_id )], sm_kNone );
+    if ( a_first < a_end )
+        m_changes.m_inserted.push_back( { a_first, a_end - a_first } );
+}
+
+std::vector<RowRange> RowComparison::MergedBlocks() const
+{
+    std::vector<RowRange> merged;
+    for ( const RowRange& block : m_blocks )
+    {
+        if ( !merged.empty() && merged.back().m_first + merged.back().m_count == block.m_first )
+            merged.back().m_count += block.m_count;
+        else
+            merged.push_back( block );
+    }
+    return merged;
+}
+
+/// Adds the equal rows at the start and at the end.
+void AddEqualRows( std::vector<RowRange>& a_staying, int a_start, const RowRange& a_end )
+{
+    if ( a_start > 0 )
+        a_staying.insert( a_staying.begin(), { 0, a_start } );
+    if ( a_end.m_count > 0 )
+        a_staying.push_back( a_end );
 }
 
 } // namespace
@@ -130,9 +178,11 @@ RowChanges RowChangesBetween( const QVector<int>& a_old, const QVector<int>& a_n
         --oldEnd;
         --newEnd;
     }
-    if ( start == oldEnd && start == newEnd )
-        return {};
-    return RowComparison( { oldIds, start, oldEnd }, { newIds, start, newEnd }, a_ids, a_most ).Result();
+    RowChanges changes;
+    if ( start < oldEnd || start < newEnd )
+        changes = RowComparison( { oldIds, start, oldEnd }, { newIds, start, newEnd }, a_ids, a_most ).Result();
+    AddEqualRows( changes.m_staying, start, { newEnd, static_cast<int>( a_new.size() ) - newEnd } );
+    return changes;
 }
 
 } // namespace PimManager::PhoneBook

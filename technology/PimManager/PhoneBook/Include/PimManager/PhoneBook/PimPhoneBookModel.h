@@ -41,9 +41,9 @@ class PimPhoneBookModelPrivate;
 ///
 /// **The list never jumps.** Whatever changes, the model removes, inserts and moves rows and is never reset. A contact
 /// that remains keeps its persistent indexes and with them the selection. There is one exception, which bounds the
-/// work: if a change scatters over too many ranges of rows, all rows between the first and the last difference are
-/// removed and inserted. A search has the limit 64. Another phone book has the limit 1,000 for 10,000 contacts, and in
-/// general ten millions divided by the number of contacts.
+/// work: if the rows that go and those that stay form too many ranges, all rows between the first and the last
+/// difference are removed and inserted. For a search, more than 32 ranges are too many. For another phone book, more
+/// than 2,000 are.
 ///
 /// **Memory.** The model keeps one number for each row. Contacts and texts are decoded when a view requests them.
 ///

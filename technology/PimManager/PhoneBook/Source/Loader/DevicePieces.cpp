@@ -45,12 +45,12 @@ PieceState DevicePieces::Next()
     return PieceState::Data;
 }
 
+// A file is at its end when nothing can be read, even if it is a pipe.
 PieceState DevicePieces::StateWithoutData( qint64 a_length )
 {
-    const auto* const file = qobject_cast<QFileDevice*>( &m_device );
-    const bool isStream = file == nullptr && m_device.isSequential();
+    const bool isStream = m_device.isSequential() && qobject_cast<QFileDevice*>( &m_device ) == nullptr;
     const bool isEnd = isStream ? m_isFinished || a_length == s_kClosed : a_length == 0;
-    if ( isEnd && ( file == nullptr || file->error() == QFileDevice::NoError ) )
+    if ( isEnd )
         return PieceState::End;
     return isStream && a_length == 0 ? Wait() : Fail( m_device.errorString() );
 }

@@ -35,7 +35,6 @@ public:
     ~LoaderThread();
     Q_DISABLE_COPY( LoaderThread )
 
-    void Cancel() { m_job->Cancel(); }
     bool IsDone() const { return m_job->IsDone(); }
 
 private:
@@ -88,8 +87,6 @@ private:
     {
         LoaderThreads& threads = Instance();
         const std::lock_guard lock( threads.m_mutex );
-        for ( const auto& thread : threads.m_threads )
-            thread->Cancel();
         threads.m_threads.clear();
     }
 

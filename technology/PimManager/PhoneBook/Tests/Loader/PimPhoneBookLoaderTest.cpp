@@ -15,6 +15,7 @@
 #include <QTemporaryFile>
 
 #include <algorithm>
+#include <atomic>
 
 namespace PimManager::PhoneBook
 {
@@ -143,6 +144,7 @@ TEST_F( PimPhoneBookLoaderTest, SecondLoadingTouchesOnlyWhatChanged )
     const ShadowList view( model );
     LoaderEvents events( loader );
     loader.LoadBytes( TextOf( contacts ) );
+    EXPECT_EQ( loader.Progress(), 0 );
     ASSERT_TRUE( events.WaitForEnd() );
     EXPECT_EQ( view.Steps(), 0 );
     loader.LoadBytes( TextOf( WithOtherNumber( contacts, 77 ) ) );
@@ -349,7 +351,13 @@ TEST_F( PimPhoneBookLoaderTest, SlotMayStopOrDeleteTheLoader )
             auto loader = std::make_unique<Loader>();
             loader->SetModel( &model );
             bool isDone = false;
+            int later = 0;
             QObject context;
+            const auto count = [&] { later += isDone ? 1 : 0; };
+            QObject::connect( loader.get(), &Loader::Grown, &context, count );
+            QObject::connect( loader.get(), &Loader::Loaded, &context, count );
+            QObject::connect( loader.get(), &Loader::Failed, &context, count );
+            QObject::connect( &model, &PimPhoneBookModel::rowsAboutToBeInserted, &context, count );
             const auto slot = [&, &perform = act]
             {
                 if ( !std::exchange( isDone, true ) )
@@ -368,8 +376,33 @@ TEST_F( PimPhoneBookLoaderTest, SlotMayStopOrDeleteTheLoader )
                 Maker( TextOf( ManyContacts( 100 ) ), isFailing ? TestEnd::Fails : TestEnd::Finishes ) );
             ASSERT_TRUE( WaitFor( [&] { return isDone && ( !loader || !loader->IsLoading() ); } ) );
             EXPECT_EQ( loader == nullptr, action == std::string( "delete" ) );
+            EXPECT_EQ( later, 0 );
         }
     }
+}
+
+TEST( PimPhoneBookLoaderWithoutApplicationTest, LoadingEndsWithTheApplication )
+{
+    struct CountedDevice : TestDevice
+    {
+        explicit CountedDevice( std::atomic<int>& a_deleted ) :
+            TestDevice( TextOf( ManyContacts( 40 ) ), TestEnd::IsEndless ),
+            m_deleted( a_deleted )
+        {
+        }
+        ~CountedDevice() override { ++m_deleted; }
+        std::atomic<int>& m_deleted;
+    };
+    std::atomic<int> deleted = 0;
+    PimPhoneBookLoader loader;
+    {
+        int count = 0;
+        const QCoreApplication application( count, nullptr );
+        loader.LoadDevice( [&] { return std::make_unique<CountedDevice>( deleted ); } );
+        loader.LoadDevice( [&] { return std::make_unique<CountedDevice>( deleted ); } );
+    }
+    EXPECT_EQ( deleted, 2 );
+    EXPECT_TRUE( loader.IsLoading() );
 }
 
 TEST_F( PimPhoneBookLoaderTest, DeviceThatHangsDelaysNeitherTheLoaderNorTheEndOfTheProgram )

@@ -113,7 +113,7 @@ TEST( RowChangesTest, StepsAreAsFewAsPossible )
         { "a block around a gap", { 0, 1, 9, 2, 3, 4 }, { 3, 4, 0, 1, 2 }, 1, 1, 0 },
         { "a block around an insertion", { 0, 1, 2, 3 }, { 3, 0, 1, 9, 2 }, 0, 1, 1 },
         { "unknown ids", { 10, 0, 10, 10, 1 }, { 0, 1 }, 2, 0, 0 },
-        { "an id twice before", { 0, 2, 0, 1 }, { 0, 1 }, 1, 0, 0 },
+        { "an id twice before", { 3, 0, 2, 0, 1, 4 }, { 4, 0, 1, 3 }, 1, 0, 1 },
         { "an id twice after", { 0, 1 }, { 0, 1, 0 }, 0, 0, 1 },
         { "everything at once", { 0, 1, 2, 3, 4 }, { 4, 5, 1, 2 }, 2, 1, 1 },
     };

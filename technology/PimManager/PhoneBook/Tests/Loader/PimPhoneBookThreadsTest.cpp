@@ -29,20 +29,24 @@ constexpr int s_kThreads = 4;
 TEST_F( PimPhoneBookThreadsTest, PhoneBookIsReadByFourThreadsAtOnce )
 {
     const PimPhoneBook phoneBook = PhoneBookOf( ManyContacts( 50 ) );
-    const auto found = phoneBook.Find( QStringLiteral( "Name10001" ) ).size();
-    const auto sections = phoneBook.Section( 0 );
-    std::atomic<int> right = 0;
     const auto read = [&]
     {
-        const bool isRight = phoneBook.Find( QStringLiteral( "Name10001" ) ).size() == found &&
-                             phoneBook.FindByKeys( QStringLiteral( "500012" ) ).size() == 1 &&
-                             phoneBook.WhoIs( QStringLiteral( "+49 30 500007" ) ).size() == 1 &&
-                             phoneBook.Section( 0 ) == sections && phoneBook.Sorted().size() == 50;
-        right += isRight ? 1 : 0;
+        std::vector<int> found;
+        for ( const PimPhoneBookMatch& match : phoneBook.Find( QStringLiteral( "Name10001" ) ) )
+            found.push_back( match.m_contact );
+        for ( const PimPhoneBookMatch& match : phoneBook.FindByKeys( QStringLiteral( "500012" ) ) )
+            found.push_back( match.m_contact );
+        for ( const PimPhoneBookCaller& caller : phoneBook.WhoIs( QStringLiteral( "+49 30 500007" ) ) )
+            found.push_back( caller.m_contact );
+        found.push_back( static_cast<int>( phoneBook.Section( phoneBook.Sorted().last() ).size() ) );
+        return found;
     };
+    const std::vector<int> alone = read();
+    EXPECT_GE( alone.size(), 13U );
+    std::atomic<int> right = 0;
     std::vector<std::thread> threads;
     for ( int i = 0; i < s_kThreads; ++i )
-        threads.emplace_back( read );
+        threads.emplace_back( [&] { right += read() == alone ? 1 : 0; } );
     for ( std::thread& thread : threads )
         thread.join();
     EXPECT_EQ( right, s_kThreads );

@@ -299,6 +299,32 @@ TEST( PimPhoneBookModelTest, EverySecondContactGoesAndTheOthersKeepTheirIndexes 
     EXPECT_EQ( view.Shown(), view.Expected() );
 }
 
+TEST( PimPhoneBookModelTest, RecentCallsApplyToThisAndTheNextPhoneBook )
+{
+    const QString text = QStringLiteral( "Name" );
+    const QStringList calls = { QStringLiteral( "+49 30 500003" ), QStringLiteral( "+49 30 500001" ) };
+    PimPhoneBookModel model;
+    const ShadowList view( model );
+    model.SetPhoneBook( PhoneBookOf( ManyContacts( 4 ) ) );
+    model.SetFilter( text );
+    for ( const QStringList& numbers : { calls, QStringList() } )
+    {
+        model.SetRecentCalls( numbers );
+        for ( const int size : { 4, 6 } )
+        {
+            SCOPED_TRACE( size );
+            PimPhoneBook phoneBook = PhoneBookOf( ManyContacts( size ) );
+            model.SetPhoneBook( phoneBook );
+            phoneBook.SetRecentCalls( numbers );
+            Texts expected;
+            for ( const PimPhoneBookMatch& match : phoneBook.Find( text ) )
+                expected.push_back( phoneBook.At( match.m_contact ).DisplayName().toStdString() );
+            EXPECT_EQ( Names( model ), expected );
+            EXPECT_EQ( view.Shown(), view.Expected() );
+        }
+    }
+}
+
 TEST( PimPhoneBookModelTest, SearchWithManyScatteredMatchesIsOneRemovalAndOneInsertion )
 {
     std::vector<TestContact> contacts = ManyContacts( 1000 );

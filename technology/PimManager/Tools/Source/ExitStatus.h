@@ -11,9 +11,10 @@ namespace PimManager::Tools
 /// What the shell gets, from good to bad.
 enum class ExitStatus
 {
-    /// Every card of every file was given.
+    /// Every card of every file was given. A search has found a contact; compared books are the same.
     AllGiven = 0,
     /// A card was refused, something of one was dropped, a file holds no vCard, or `check --standard` found something.
+    /// A search has found no contact; compared books differ.
     SomeRefused = 1,
     /// Wrong usage, or something that cannot be read or written.
     Trouble = 2,

@@ -3,11 +3,14 @@
 #include "Commands/CheckCommand.h"
 #include "Commands/CommandLine.h"
 #include "Commands/ConvertCommand.h"
+#include "Commands/DiffCommand.h"
+#include "Commands/FindCommand.h"
 #include "Commands/HelpCommand.h"
 #include "Commands/ListCommand.h"
 #include "Commands/ReadingCommand.h"
 #include "Commands/ShowCommand.h"
 #include "Commands/Version.h"
+#include "Commands/WhoCommand.h"
 
 #include <algorithm>
 #include <array>
@@ -28,9 +31,8 @@ struct Reading
 };
 
 constexpr std::array s_kReadings = {
-    Reading{ "list", RunList },
-    Reading{ "show", RunShow },
-    Reading{ "check", RunCheck },
+    Reading{ "list", RunList },       Reading{ "show", RunShow }, Reading{ "find", RunFind },
+    Reading{ "who", RunWho },         Reading{ "diff", RunDiff }, Reading{ "check", RunCheck },
     Reading{ "convert", RunConvert },
 };
 
@@ -78,6 +80,18 @@ bool IsUnknownCommand( const QByteArray& a_word )
     return isPlain && ::stat( a_word.constData(), &status ) != 0;
 }
 
+// What to write instead, if there are too few arguments; empty if there are enough.
+QString MissingArguments( const CommandLine& a_line )
+{
+    const CommandInfo& command = a_line.Command();
+    const auto least = command.m_arguments.split( QLatin1Char( ' ' ) ).size();
+    if ( a_line.Arguments().size() >= least )
+        return QString();
+    if ( least == 1 )
+        return QStringLiteral( "no file to %1; - is standard input" ).arg( command.m_name );
+    return QStringLiteral( "too few arguments; write \"pimvcard %1 %2\"" ).arg( command.m_name, command.m_arguments );
+}
+
 ExitStatus RunCommand( const CommandLine& a_line, Console& a_console )
 {
     if ( a_line.IsSet( s_kHelpOption ) )
@@ -91,9 +105,9 @@ ExitStatus RunCommand( const CommandLine& a_line, Console& a_console )
                       { return a_line.Command().m_name == QLatin1String( a_reading.m_command ); } );
     if ( reading == s_kReadings.end() )
         return RunHelp( a_line, a_console );
-    if ( a_line.Arguments().isEmpty() )
-        return RefuseUsage( a_console, a_line,
-                            QStringLiteral( "no file to %1; - is standard input" ).arg( a_line.Command().m_name ) );
+    const QString missing = MissingArguments( a_line );
+    if ( !missing.isEmpty() )
+        return RefuseUsage( a_console, a_line, missing );
     return reading->m_run( a_line, a_console );
 }
 

@@ -24,15 +24,45 @@ OptionInfo Valued( const QString& a_letter, const QString& a_name, const QString
     return { a_letter, a_name, a_argument, a_help, a_words };
 }
 
+// What the words behind the options of a command are, and what its exit status means.
+struct Usage
+{
+    QString m_arguments;
+    QStringList m_argumentsHelp;
+    QString m_status;
+};
+
+QString ExitStatuses( const QString& a_zero, const QString& a_one )
+{
+    return QStringLiteral( "Exit status: 0 %1, 1 %2, 2 wrong usage, or a file that cannot be read or written, 130 "
+                           "interrupted." )
+        .arg( a_zero, a_one );
+}
+
+Usage Delivery()
+{
+    return { QStringLiteral( "BOOK..." ),
+             { QStringLiteral( "Address books to read; - is standard input." ) },
+             ExitStatuses( QStringLiteral( "everything is delivered whole or repaired" ),
+                           QStringLiteral( "something is dropped or refused or a file contains no vCard" ) ) };
+}
+
+// \param a_name of the last argument.
+Usage Searching( const QString& a_name, const QString& a_help )
+{
+    return { QStringLiteral( "BOOK... " ) + a_name, Delivery().m_argumentsHelp + QStringList( a_help ),
+             ExitStatuses( QStringLiteral( "a contact is found" ), QStringLiteral( "none is found" ) ) };
+}
+
 // A command that reads address books. Its own options precede those that all of them have.
 CommandInfo Reading( const QString& a_name, const QString& a_summary, const std::vector<OptionInfo>& a_options,
-                     const QStringList& a_remarks )
+                     const QStringList& a_remarks, const Usage& a_usage = Delivery() )
 {
     CommandInfo command;
     command.m_name = a_name;
     command.m_summary = a_summary;
-    command.m_arguments = QStringLiteral( "BOOK..." );
-    command.m_argumentsHelp = QStringLiteral( "Address books to read; - is standard input." );
+    command.m_arguments = a_usage.m_arguments;
+    command.m_argumentsHelp = a_usage.m_argumentsHelp;
     command.m_options = a_options;
     command.m_options.push_back(
         Valued( QStringLiteral( "c" ), s_kCharsetOption, QStringLiteral( "NAME" ),
@@ -47,9 +77,7 @@ CommandInfo Reading( const QString& a_name, const QString& a_summary, const std:
             QStringLiteral( "A NUMBER may end in K, M or G for 1024, 1024 K or 1024 M. 0 means no limit. A line "
                             "beyond its limit is dropped, a card beyond one is refused, and the rest of the "
                             "file is read." ),
-            QStringLiteral( "Exit status: 0 everything is delivered whole or repaired, 1 something is dropped "
-                            "or refused or a file contains no vCard, 2 wrong usage, or a file that cannot be "
-                            "read or written, 130 interrupted." ) };
+            a_usage.m_status };
     return command;
 }
 
@@ -127,13 +155,59 @@ CommandInfo Convert()
                           "standard error." ) } );
 }
 
+CommandInfo Find()
+{
+    return Reading(
+        QStringLiteral( "find" ), QStringLiteral( "Finds contacts by their names, organisations and numbers." ),
+        { Flag( QStringLiteral( "k" ), s_kKeysOption,
+                QStringLiteral( "Takes TEXT for keys of a telephone: 686 finds Otmar. 0 and 1 part words." ) ),
+          Valued( QStringLiteral( "l" ), s_kLimitOption, QStringLiteral( "NUMBER" ),
+                  QStringLiteral( "The most contacts to print; no limit unless given." ) ) },
+        { QStringLiteral( "A contact is found if each word of TEXT begins a word of its name, nickname or "
+                          "organisation, or is a part of a number. Letter case and accents do not count. Names come "
+                          "before organisations, whole words before beginnings, and numbers last." ) },
+        Searching( QStringLiteral( "TEXT" ),
+                   QStringLiteral( "What to look for. Several words are one argument, in quotes." ) ) );
+}
+
+CommandInfo Who()
+{
+    return Reading(
+        QStringLiteral( "who" ), QStringLiteral( "Tells who has a telephone number." ),
+        { Valued( QStringLiteral( "R" ), s_kRegionOption, QStringLiteral( "REGION" ),
+                  QStringLiteral( "The region whose numbers are written without a country code: two letters "
+                                  "(ISO 3166-1), such as DE. Nothing is assumed unless given." ) ) },
+        { QStringLiteral( "MATCH tells how certain it is that a number is the same: exact, equal in international "
+                          "form; national, equal in the region; ending, only the last digits are equal. The most "
+                          "certain contacts come first. If there are several, the number alone does not tell whose it "
+                          "is." ) },
+        Searching( QStringLiteral( "PHONE" ), QStringLiteral( "A telephone number, written in any way." ) ) );
+}
+
+CommandInfo Diff()
+{
+    const Usage usage = { QStringLiteral( "OLD NEW" ),
+                          { QStringLiteral( "The address book as it was; - is standard input." ),
+                            QStringLiteral( "The address book as it is; - is standard input." ) },
+                          ExitStatuses( QStringLiteral( "the contacts are the same" ),
+                                        QStringLiteral( "they differ, or something of a book is left out" ) ) };
+    return Reading(
+        QStringLiteral( "diff" ),
+        QStringLiteral( "Shows what changed from one version of an address book to another." ),
+        { Flag( QStringLiteral( "F" ), s_kFullOption, QStringLiteral( "Prints long values whole." ) ),
+          Flag( QStringLiteral( "j" ), s_kJsonLinesOption,
+                QStringLiteral( "Prints an object (JSON) for each contact that was added, removed or changed, on a "
+                                "line of its own." ) ) },
+        { QStringLiteral( "The order of the contacts and the way in which cards are written do not count." ) }, usage );
+}
+
 CommandInfo Help()
 {
     CommandInfo command;
     command.m_name = QStringLiteral( "help" );
     command.m_summary = QStringLiteral( "Explains a command." );
     command.m_arguments = QStringLiteral( "[COMMAND]" );
-    command.m_argumentsHelp = QStringLiteral( "The command; without it, all of them." );
+    command.m_argumentsHelp = QStringList( QStringLiteral( "The command; without it, all of them." ) );
     return command;
 }
 
@@ -141,7 +215,8 @@ CommandInfo Help()
 
 const std::vector<CommandInfo>& Commands()
 {
-    static const std::vector<CommandInfo> s_kCommands = { List(), Show(), Check(), Convert(), Help() };
+    static const std::vector<CommandInfo> s_kCommands = { List(), Show(),  Find(),    Who(),
+                                                          Diff(), Check(), Convert(), Help() };
     return s_kCommands;
 }
 

@@ -37,8 +37,8 @@ struct CommandInfo
     std::vector<OptionInfo> m_options;
     /// What help says below the options, in paragraphs.
     QStringList m_helpTail;
-    /// What help says about the arguments.
-    QString m_argumentsHelp;
+    /// What help says about each word of m_arguments.
+    QStringList m_argumentsHelp;
 };
 
 /// \return all commands. The first one is used if the user names none.
@@ -72,5 +72,9 @@ inline const QString s_kSortOption = QStringLiteral( "sort" );
 inline const QString s_kColumnsOption = QStringLiteral( "columns" );
 inline const QString s_kMarkOption = QStringLiteral( "mark" );
 inline const QString s_kForceOption = QStringLiteral( "force" );
+inline const QString s_kKeysOption = QStringLiteral( "keys" );
+inline const QString s_kLimitOption = QStringLiteral( "limit" );
+inline const QString s_kRegionOption = QStringLiteral( "region" );
+inline const QString s_kJsonLinesOption = QStringLiteral( "json-lines" );
 
 } // namespace PimManager::Tools

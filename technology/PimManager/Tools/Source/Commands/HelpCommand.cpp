@@ -4,6 +4,8 @@
 #include "Commands/Suggestion.h"
 #include "Terminal/TerminalText.h"
 
+#include <QRegularExpression>
+
 namespace PimManager::Tools
 {
 
@@ -24,11 +26,15 @@ void AddOptions( const std::vector<OptionInfo>& a_options, Rows& a_rows )
     }
 }
 
-// `BOOK` for `BOOK...`, and `COMMAND` for `[COMMAND]`.
-QString ArgumentName( const CommandInfo& a_command )
+// A row for each argument: `BOOK` for `BOOK...`, and `COMMAND` for `[COMMAND]`.
+Rows ArgumentRows( const CommandInfo& a_command )
 {
-    QString name = a_command.m_arguments;
-    return name.remove( QLatin1Char( '.' ) ).remove( QLatin1Char( '[' ) ).remove( QLatin1Char( ']' ) );
+    static const QRegularExpression s_kMarks( QStringLiteral( "[].[]" ) );
+    Rows rows;
+    const QStringList names = QString( a_command.m_arguments ).remove( s_kMarks ).split( QLatin1Char( ' ' ) );
+    for ( int i = 0; i < names.size(); ++i )
+        rows << HelpText::Row{ names.at( i ), a_command.m_argumentsHelp.value( i ) };
+    return rows;
 }
 
 } // namespace
@@ -62,7 +68,7 @@ QString CommandText( const CommandInfo& a_command, const Screen& a_screen )
     AddOptions( CommonOptions(), options );
     text.AddRows( options );
     text.AddText( QStringLiteral( "\nArguments:" ) );
-    text.AddRows( { { ArgumentName( a_command ), a_command.m_argumentsHelp } } );
+    text.AddRows( ArgumentRows( a_command ) );
     for ( const QString& paragraph : a_command.m_helpTail )
         text.AddText( QLatin1Char( '\n' ) + paragraph );
     return text.Text();

@@ -61,12 +61,6 @@ QString HelpOf( const Limit& a_limit )
     return QStringLiteral( "%1; %2 unless given." ).arg( a_limit.m_what, standard );
 }
 
-QString ErrorText( const Limit& a_limit, const QByteArray& a_value )
-{
-    return QStringLiteral( "--%1: \"%2\" is not a number such as 500, 64K, 16M or 1G" )
-        .arg( a_limit.m_option, ToTerminalText( QString::fromUtf8( a_value ) ) );
-}
-
 } // namespace
 
 std::vector<OptionInfo> LimitOptions()
@@ -81,15 +75,25 @@ QString ApplyLimits( const CommandLine& a_line, PimContactOptions& a_options )
 {
     for ( const Limit& limit : Limits() )
     {
-        if ( !a_line.IsSet( limit.m_option ) )
-            continue;
-        const QByteArray text = a_line.Value( limit.m_option );
-        const std::optional<qint64> value = ScaledNumberFrom( text );
-        if ( !value )
-            return ErrorText( limit, text );
-        limit.m_set( a_options, *value );
+        qint64 number = limit.m_get( a_options );
+        QString mistake = ReadNumber( a_line, limit.m_option, number );
+        if ( !mistake.isEmpty() )
+            return mistake;
+        limit.m_set( a_options, number );
     }
     return QString();
+}
+
+QString ReadNumber( const CommandLine& a_line, const QString& a_option, qint64& a_number )
+{
+    if ( !a_line.IsSet( a_option ) )
+        return QString();
+    const QByteArray text = a_line.Value( a_option );
+    const std::optional<qint64> number = ScaledNumberFrom( text );
+    a_number = number.value_or( a_number );
+    return number ? QString()
+                  : QStringLiteral( "--%1: \"%2\" is not a number such as 500, 64K, 16M or 1G" )
+                        .arg( a_option, ToTerminalText( QString::fromUtf8( text ) ) );
 }
 
 } // namespace PimManager::Tools

@@ -43,19 +43,19 @@ QString ReadBookOptions( const CommandLine& a_line, BookOptions& a_options )
     return ApplyLimits( a_line, a_options.m_reader );
 }
 
-ExitStatus PrintBooks( const CommandLine& a_line, Console& a_console, std::unique_ptr<BookOutput> a_output )
+ExitStatus PrintBooks( const CommandLine& a_line, Console& a_console, const QList<QByteArray>& a_books,
+                       std::unique_ptr<BookOutput> a_output )
 {
     BookOptions options;
     const QString mistake = ReadBookOptions( a_line, options );
     if ( !mistake.isEmpty() )
         return RefuseUsage( a_console, a_line, mistake );
-    if ( !OutputClaims( a_console, a_line.Arguments() ).ClaimResults() )
+    if ( !OutputClaims( a_console, a_books ).ClaimResults() )
         return ExitStatus::Trouble;
     ContactRun::Outputs outputs;
     outputs.push_back( std::move( a_output ) );
     outputs.push_back( std::make_unique<BookNotes>( a_console ) );
-    return ContactRun( a_console, options, std::move( outputs ), BookRun::WithoutReader::Stop )
-        .Run( a_line.Arguments() );
+    return ContactRun( a_console, options, std::move( outputs ), BookRun::WithoutReader::Stop ).Run( a_books );
 }
 
 ExitStatus RefuseUsage( Console& a_console, const CommandLine& a_line, const QString& a_reason )

@@ -21,9 +21,11 @@ namespace PimManager::Tools
 ///         list of those that are known.
 QString ReadBookOptions( const CommandLine& a_line, BookOptions& a_options );
 
-/// Reads the books of a command line into an output on standard output, and sums up.
+/// Reads books into an output on standard output, and sums up.
+/// \param a_books  the names of the files.
 /// \param a_output writes to a_console.Out().
-ExitStatus PrintBooks( const CommandLine& a_line, Console& a_console, std::unique_ptr<BookOutput> a_output );
+ExitStatus PrintBooks( const CommandLine& a_line, Console& a_console, const QList<QByteArray>& a_books,
+                       std::unique_ptr<BookOutput> a_output );
 
 /// Reports wrong usage of a command.
 /// \return the exit status for it.

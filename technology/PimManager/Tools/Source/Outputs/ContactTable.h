@@ -37,7 +37,6 @@ public:
     void End() override { m_table.End(); }
 
 private:
-    QString CellText( const QString& a_text ) const;
     template <class Field>
     TextTable::Cell FieldCell( const Contacts::PimContactList<Field>& a_fields,
                                QString ( Field::*a_text )() const ) const;

@@ -1,0 +1,22 @@
+/// \file
+/// What the commands that search address books have in common.
+
+#pragma once
+
+#include "Commands/CommandLine.h"
+#include "ExitStatus.h"
+#include "Outputs/FoundTable.h"
+#include "Terminal/Console.h"
+
+namespace PimManager::Tools
+{
+
+/// \return what a search looks for: the last argument.
+QByteArray WantedText( const CommandLine& a_line );
+
+/// Searches the books of a command line, all arguments but the last one, and prints a table of what is found.
+/// \return AllGiven if a contact is found, and SomeRefused if none is.
+ExitStatus PrintFound( const CommandLine& a_line, Console& a_console, FoundTable::Grades a_grades,
+                       const FoundTable::Search& a_search );
+
+} // namespace PimManager::Tools

@@ -83,7 +83,8 @@ QString Fenced( const char* a_language )
 // Indented lines of a Markdown document that begin with the program, except for those that stand for many commands.
 QStringList CommandsIn( const QString& a_document )
 {
-    static const QRegularExpression s_kPlaceholder( QStringLiteral( "\\b(BOOK|FILE|DIR|OUT|NAME|COMMAND)\\b" ) );
+    static const QRegularExpression s_kPlaceholder(
+        QStringLiteral( "\\b(BOOK|FILE|DIR|OUT|NAME|COMMAND|OLD|TEXT|PHONE)\\b" ) );
     QStringList commands = AllMatches( a_document, QStringLiteral( "^    (?:\\$ )?((?:pimvcard|find) .*)$" ) );
     for ( auto i = commands.size() - 1; i >= 0; --i )
     {

@@ -11,6 +11,8 @@
 #include <QRegularExpression>
 #include <QSet>
 
+#include <algorithm>
+
 using namespace PimManager::vCard::Documents;
 using namespace PimManager::Tools;
 
@@ -77,7 +79,8 @@ std::string Joined( const QStringList& a_texts )
 
 bool ReadsBooks( const CommandInfo& a_command )
 {
-    return a_command.m_arguments == QLatin1String( "BOOK..." );
+    return std::any_of( a_command.m_options.begin(), a_command.m_options.end(),
+                        []( const OptionInfo& a_option ) { return a_option.m_name == s_kCharsetOption; } );
 }
 
 // The heading of the options of all commands that read books, such as `Of list, show and check`.

@@ -28,13 +28,17 @@ QByteArray LargeBook()
 TEST( CommandOutputTest, HostileFileReachesTheTerminalHarmlessly )
 {
     const Folder folder;
+    const QByteArray empty = folder.Write( "empty", "" );
     const QByteArray book = folder.Write( "evil\x1B[2J\x07\xC2\x9B\xE2\x80\xAE\n.vcf", HostileBook() );
     for ( const QList<QByteArray>& mode :
           { QList<QByteArray>{ "list" }, QList<QByteArray>{ "show" }, QList<QByteArray>{ "show", "--full" },
             QList<QByteArray>{ "convert", "--to", "json" }, QList<QByteArray>{ "convert", "--to", "json-lines" },
-            QList<QByteArray>{ "check" }, QList<QByteArray>{ "check", "--strict" } } )
+            QList<QByteArray>{ "check" }, QList<QByteArray>{ "check", "--strict" }, QList<QByteArray>{ "find" },
+            QList<QByteArray>{ "diff", empty }, QList<QByteArray>{ "diff", "--json-lines", empty } } )
     {
-        const ProgramRun run = RunPimvcard( mode + QList<QByteArray>{ book } );
+        const bool isSearch = mode.constFirst() == "find";
+        const QList<QByteArray> text = isSearch ? QList<QByteArray>{ "" } : QList<QByteArray>();
+        const ProgramRun run = RunPimvcard( mode + QList<QByteArray>{ book } + text );
         EXPECT_LE( run.m_status, 1 ) << mode.join( ' ' ).constData();
         EXPECT_GT( run.m_out.size(), 100U ) << mode.join( ' ' ).constData();
         EXPECT_TRUE( IsHarmless( run.m_out ) )
@@ -63,12 +67,32 @@ TEST( CommandOutputTest, BrokenPipeEndsTheProgramQuietly )
 {
     const Folder folder;
     const QByteArray large = folder.Write( "large", LargeBook() + PartCard() );
-    for ( const QList<QByteArray>& mode : { QList<QByteArray>{ "list" }, QList<QByteArray>{ "convert", "--to", "json" },
-                                            QList<QByteArray>{ "convert", "--to", "json-lines" } } )
+    for ( const QList<QByteArray>& mode :
+          { QList<QByteArray>{ "list", large }, QList<QByteArray>{ "convert", "--to", "json", large },
+            QList<QByteArray>{ "convert", "--to", "json-lines", large } } )
     {
-        const ProgramRun run = ProgramCall( mode + QList<QByteArray>{ large, large } ).WithBrokenPipe().Run();
+        const ProgramRun run = ProgramCall( mode + QList<QByteArray>{ large } ).WithBrokenPipe().Run();
         EXPECT_EQ( run.m_status, 0 ) << mode.join( ' ' ).constData();
         EXPECT_EQ( run.m_err, "" ) << mode.join( ' ' ).constData();
+    }
+}
+
+TEST( CommandOutputTest, BrokenPipeDoesNotChangeAnAnswer )
+{
+    const Folder folder;
+    const QByteArray large = folder.Write( "large", LargeBook() );
+    const QByteArray empty = folder.Write( "empty", "" );
+    struct Row
+    {
+        QList<QByteArray> m_arguments;
+        int m_status;
+    };
+    for ( const Row& row : { Row{ { "find", large, "nell" }, 0 }, Row{ { "diff", empty, large }, 1 },
+                             Row{ { "diff", "--json-lines", empty, large }, 1 } } )
+    {
+        const ProgramRun run = ProgramCall( row.m_arguments ).WithBrokenPipe().Run();
+        EXPECT_EQ( run.m_status, row.m_status ) << row.m_arguments.join( ' ' ).constData();
+        EXPECT_EQ( run.m_err, "" ) << row.m_arguments.join( ' ' ).constData();
     }
 }
 
@@ -86,13 +110,16 @@ TEST( CommandOutputTest, BrokenPipeDoesNotKeepFilesFromBeingWritten )
 TEST( CommandOutputTest, FullDiskIsReportedWithStatusTwo )
 {
     const Folder folder;
+    const QByteArray empty = folder.Write( "empty", "" );
     for ( const QByteArray& book : { folder.Write( "large", LargeBook() ), folder.Write( "small", CleanCard() ) } )
     {
         for ( const QList<QByteArray>& mode :
               { QList<QByteArray>{ "list" }, QList<QByteArray>{ "convert", "--to", "json" },
-                QList<QByteArray>{ "check" } } )
+                QList<QByteArray>{ "check" }, QList<QByteArray>{ "find", book }, QList<QByteArray>{ "diff", empty } } )
         {
-            const ProgramRun run = ProgramCall( mode + QList<QByteArray>{ book } ).WithOutputTo( "/dev/full" ).Run();
+            const bool isSearch = mode.constFirst() == "find";
+            const QByteArray last = isSearch ? QByteArray( "nell" ) : book;
+            const ProgramRun run = ProgramCall( mode + QList<QByteArray>{ last } ).WithOutputTo( "/dev/full" ).Run();
             EXPECT_EQ( run.m_status, 2 ) << mode.join( ' ' ).constData();
             EXPECT_EQ( run.m_err, "pimvcard: the output cannot be written: No space left on device\n" )
                 << mode.join( ' ' ).constData();

@@ -35,7 +35,7 @@ TEST( TerminalTest, TableFitsTheTerminal )
 TEST( TerminalTest, ExamplesFitTheTerminal )
 {
     const QByteArray folder = PIMVCARD_EXAMPLES;
-    for ( const char* command : { "list", "show", "check" } )
+    for ( const char* command : { "list", "show", "diff", "check" } )
     {
         for ( const int columns : { 40, 80 } )
         {
@@ -82,7 +82,7 @@ TEST( TerminalTest, UsersVariablesCount )
 
 TEST( TerminalTest, HelpFitsTheTerminal )
 {
-    for ( const char* command : { "list", "show", "check", "convert", "help" } )
+    for ( const char* command : { "list", "show", "find", "who", "diff", "check", "convert", "help" } )
     {
         for ( const int columns : { 40, 79, 100, 200 } )
         {

@@ -1,6 +1,6 @@
-SUMMARY = "A vCard 2.1 and 3.0 reader for embedded Linux"
-DESCRIPTION = "Reads the address books that phones and desktop programs write, and turns them into contacts. With \
-libraries for messy books, and the program pimvcard."
+SUMMARY = "Address books for embedded Linux: vCard 2.1, 3.0, 4.0 and jCard"
+DESCRIPTION = "Reads the address books that phones and desktop programs write, tells who is calling, finds contacts \
+as you type, and compares address books. With the program pimvcard."
 SECTION = "libs"
 
 # The owner has not chosen a licence yet, see docs/packaging.md.

@@ -23,7 +23,7 @@ endfunction()
 # pimvcard_code_example(CODE NAME LIST): writes the source NAME.cpp and appends it to LIST. An example that defines functions
 # or variables is written unchanged. Any other example becomes the body of a function.
 function(pimvcard_code_example code name list)
-  if(NOT code MATCHES "(^|\n)(TEST_F|thread_local|class PIM(VCARD|CONTACT)_EXPORT)")
+  if(NOT code MATCHES "(^|\n)(TEST_F|thread_local|class PIM(VCARD|CONTACT|PHONEBOOK)_EXPORT)")
     set(code "void Example();\nvoid Example()\n{\n${code}}\n")
   endif()
   file(CONFIGURE OUTPUT ${name}.cpp CONTENT "#include \"${surroundings}\"\n\nnamespace\n{\n${code}}\n" @ONLY)

@@ -1,5 +1,5 @@
 /// \file
-/// The declarations that the examples of PimManager::Contacts require: headers, the namespace, and objects of the
+/// The declarations that the examples of PimManager::Contacts and PimManager::PhoneBook require: headers, the namespace, and objects of the
 /// reader's program, which are declared but never defined.
 
 #pragma once
@@ -13,6 +13,8 @@
 #include <PimManager/Contacts/PimContactReader.h>
 #include <PimManager/Contacts/PimContactVCard.h>
 #include <PimManager/Contacts/PimContactWriter.h>
+#include <PimManager/PhoneBook/PimPhoneBook.h>
+#include <PimManager/PhoneBook/PimPhoneBookChanges.h>
 
 #include <PimVCard.h>
 
@@ -23,6 +25,7 @@
 #include <QString>
 
 using namespace PimManager::Contacts;
+using namespace PimManager::PhoneBook;
 
 /// Something that returns the pieces of a text.
 struct Connection
@@ -42,6 +45,7 @@ void ShowFaxIcon();
 void Show( const QByteArray& a_picture );
 
 extern const PimContact contact;
+extern const PimPhoneBook phoneBook;
 extern const PimContactPhoneKinds kinds;
 extern Image image;
 extern const PimContactCard card;

@@ -2,7 +2,7 @@
 # Written by scripts/update-completion from the program's table of commands.
 # The file belongs into the folder completions of bash-completion under the name pimvcard, or is read by "source".
 
-_pimvcard_commands='list show check convert help'
+_pimvcard_commands='list show find who diff check convert help'
 
 _pimvcard_options()
 {
@@ -11,6 +11,12 @@ _pimvcard_options()
       --max-book-bytes -q --quiet -h --help -v --version' ;;
     show) echo '-F --full -c --charset --max-card-bytes --max-line-bytes --max-card-lines --max-nesting --max-cards
       --max-book-bytes -q --quiet -h --help -v --version' ;;
+    find) echo '-k --keys -l --limit -c --charset --max-card-bytes --max-line-bytes --max-card-lines --max-nesting
+      --max-cards --max-book-bytes -q --quiet -h --help -v --version' ;;
+    who) echo '-R --region -c --charset --max-card-bytes --max-line-bytes --max-card-lines --max-nesting
+      --max-cards --max-book-bytes -q --quiet -h --help -v --version' ;;
+    diff) echo '-F --full -j --json-lines -c --charset --max-card-bytes --max-line-bytes --max-card-lines
+      --max-nesting --max-cards --max-book-bytes -q --quiet -h --help -v --version' ;;
     check) echo '-e --extents -S --standard -s --strict -c --charset --max-card-bytes --max-line-bytes
       --max-card-lines --max-nesting --max-cards --max-book-bytes -q --quiet -h --help -v --version' ;;
     convert) echo '-t --to -o --output -d --split -n --filter -s --sort -C --columns -m --mark -p --photos -r --rejects
@@ -35,6 +41,8 @@ _pimvcard_value()
     --max-nesting) echo other ;;
     --max-cards) echo other ;;
     --max-book-bytes) echo other ;;
+    -l | --limit) echo other ;;
+    -R | --region) echo other ;;
     -t | --to) echo 'words 2.1 3.0 4.0 jcard csv json json-lines html' ;;
     -o | --output) echo file ;;
     -d | --split) echo folder ;;

@@ -74,6 +74,18 @@ TEST( FindCommandTest, TextWithoutAWordFindsEveryContact )
     EXPECT_EQ( Names( RunFind( { "" } ) ), "Nell Brackwater;Nelly Fenwick;Bo Hollow;J\u00F6rg Maulwurf;" );
 }
 
+TEST( FindCommandTest, OrderIsTheSameInEveryLocale )
+{
+    const QByteArray book = CardText( "VERSION:3.0\r\nN:Zett;;;;\r\nFN:Zett\r\n" ) +
+                            CardText( "VERSION:3.0\r\nN:\u00C4rlig;;;;\r\nFN:\u00C4rlig\r\n" ) +
+                            CardText( "VERSION:3.0\r\nN:aber;;;;\r\nFN:aber\r\n" );
+    for ( const char* locale : { "LC_ALL=C", "LC_ALL=sv_SE.UTF-8", "LC_ALL=de_DE.UTF-8" } )
+    {
+        const ProgramRun run = ProgramCall( { "find", "-q", "-", "" } ).WithInput( book ).WithVariable( locale ).Run();
+        EXPECT_EQ( Names( run ), "aber;\u00C4rlig;Zett;" ) << locale;
+    }
+}
+
 TEST( FindCommandTest, NumberIsTheOneThatIsFoundOrThePreferredOne )
 {
     EXPECT_EQ( RunFind( { "brack" } ).m_out, "NAME             NUMBER            ORGANISATION\n"

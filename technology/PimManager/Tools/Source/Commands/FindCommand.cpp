@@ -65,7 +65,7 @@ QVector<int> FoundByNumber( const QVector<PimPhoneBookMatch>& a_matches )
 // With the numbers that are found, or else the preferred one.
 std::vector<FoundContact> Find( const PimContactBook& a_book, const Request& a_request )
 {
-    const QVector<PimPhoneBookMatch> matches = Matches( PimPhoneBook( a_book ), a_request );
+    const QVector<PimPhoneBookMatch> matches = Matches( PimPhoneBook( a_book, SearchOptions() ), a_request );
     const QVector<QList<int>> numbers =
         MatchingNumbers( a_book, FoundByNumber( matches ), a_request.m_text, a_request.m_as );
     std::vector<FoundContact> found;

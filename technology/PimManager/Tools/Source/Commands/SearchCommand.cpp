@@ -12,6 +12,13 @@ QByteArray WantedText( const CommandLine& a_line )
     return a_line.Arguments().constLast();
 }
 
+PhoneBook::PimPhoneBookOptions SearchOptions()
+{
+    PhoneBook::PimPhoneBookOptions options;
+    options.SetLocale( QLocale( QLocale::English ) );
+    return options;
+}
+
 ExitStatus PrintFound( const CommandLine& a_line, Console& a_console, FoundTable::Grades a_grades,
                        const FoundTable::Search& a_search )
 {

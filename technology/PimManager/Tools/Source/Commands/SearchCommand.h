@@ -8,11 +8,16 @@
 #include "Outputs/FoundTable.h"
 #include "Terminal/Console.h"
 
+#include <PimManager/PhoneBook/PimPhoneBookOptions.h>
+
 namespace PimManager::Tools
 {
 
 /// \return what a search looks for: the last argument.
 QByteArray WantedText( const CommandLine& a_line );
+
+/// \return the options of a phone book. Names are sorted in the same way in every locale.
+PhoneBook::PimPhoneBookOptions SearchOptions();
 
 /// Searches the books of a command line, all arguments but the last one, and prints a table of what is found.
 /// \return AllGiven if a contact is found, and SomeRefused if none is.

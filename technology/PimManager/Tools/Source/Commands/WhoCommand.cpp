@@ -54,7 +54,7 @@ std::vector<FoundContact> Callers( const PimPhoneBook& a_book, const QString& a_
 
 ExitStatus RunWho( const CommandLine& a_line, Console& a_console )
 {
-    PimPhoneBookOptions options;
+    PimPhoneBookOptions options = SearchOptions();
     const QString mistake = ReadRegion( a_line, options );
     if ( !mistake.isEmpty() )
         return RefuseUsage( a_console, a_line, mistake );

@@ -19,7 +19,7 @@ QByteArray Card( const QByteArray& a_name, const QByteArray& a_lines )
 }
 
 const QByteArray s_kAda = Card( "Ada", "TEL:+1-555-0101\r\nNOTE:Keeps bees.\r\n" );
-const QByteArray s_kBo = Card( "Bo", "TEL;TYPE=CELL:+1-555-0202\r\n" );
+const QByteArray s_kBo = Card( "Bo", "UID:b\r\nTEL;TYPE=CELL:+1-555-0202\r\n" );
 const QByteArray s_kCy = Card( "Cy", "EMAIL:cy@example.com\r\n" );
 
 // The old and the new book.
@@ -67,20 +67,20 @@ TEST( DiffCommandTest, EachContactGivesItsDifference )
         { "added", { s_kAda, s_kBo + s_kAda }, 1, "added: Bo (card 1)\n", "1 added, 0 removed, 0 changed, 0" },
         { "removed", { s_kAda + s_kBo, s_kAda }, 1, "removed: Bo (card 2)\n", "0 added, 1 removed, 0 changed, 0" },
         { "changed",
-          { s_kAda + s_kBo, s_kAda + QByteArray( s_kBo ).replace( "CELL", "WORK" ) },
+          { s_kAda + s_kBo, s_kAda + QByteArray( s_kBo ).replace( "CELL", "WORK" ).replace( "UID", "X-UID" ) },
           1,
-          "changed: Bo (card 2)\n  - TEL  cell  +1-555-0202\n  + TEL  work  +1-555-0202\n",
+          "changed: Bo (card 2, by name and number)\n  - TEL  cell  +1-555-0202\n  + TEL  work  +1-555-0202\n",
           "0 added, 0 removed, 1 changed, 0" },
         { "line added",
           { s_kAda, QByteArray( s_kAda ).replace( "END:", "NICKNAME:Bee\r\nEND:" ) },
           1,
-          "changed: Ada (card 1)\n  + NICKNAME  Bee\n",
+          "changed: Ada (card 1, by name and number)\n  + NICKNAME  Bee\n",
           "0 added, 0 removed, 1 changed, 0" },
         { "all",
           { s_kAda + s_kBo, s_kCy + QByteArray( s_kBo ).replace( "0202", "0303" ) },
           1,
           "removed: Ada (card 1)\nadded: Cy (card 1)\n"
-          "changed: Bo (card 2)\n  - TEL  cell  +1-555-0202\n  + TEL  cell  +1-555-0303\n",
+          "changed: Bo (card 2, by UID)\n  - TEL  cell  +1-555-0202\n  + TEL  cell  +1-555-0303\n",
           "1 added, 1 removed, 1 changed, 0" },
     };
     for ( const Row& row : rows )
@@ -118,7 +118,9 @@ TEST( DiffCommandTest, JsonHasBothVersionsAndTheIndicesOfTheirProperties )
         changes += Utf8( objects.back().value( QStringLiteral( "change" ) ).toString() ) + ':' +
                    Utf8( objects.back().keys().join( QLatin1Char( ',' ) ) ) + ';';
     }
-    EXPECT_EQ( changes, "removed:change,old;added:change,new;changed:change,new,newProperties,old,oldProperties;" );
+    EXPECT_EQ( changes,
+               "removed:change,old;added:change,new;changed:basis,change,new,newProperties,old,oldProperties;" );
+    EXPECT_EQ( Utf8( objects[2].value( QStringLiteral( "basis" ) ).toString() ), "uid" );
     const auto texts = []( const QJsonObject& a_object, const QString& a_version, const QString& a_indices )
     {
         const QJsonArray properties =

@@ -1,6 +1,5 @@
 #include "Outputs/BookDifference.h"
 
-#include "Outputs/ChangedLines.h"
 #include "Outputs/ReportText.h"
 
 #include <algorithm>
@@ -98,7 +97,7 @@ void BookDifference::Write()
     for ( const PimPhoneBookPair& pair : m_changes.Changed() )
     {
         writeAddedBefore( pair.m_new );
-        m_writer->WriteChanged( ChangedContactOf( before.CardAt( pair.m_old ), after.CardAt( pair.m_new ) ) );
+        m_writer->WriteChanged( { before.At( pair.m_old ), after.At( pair.m_new ), pair.m_basis } );
     }
     writeAddedBefore( after.Size() );
 }

@@ -53,7 +53,6 @@ private:
 
     bool AreComparable() const;
     void Write();
-    void WriteChanged( int a_new );
     void WarnOfLosses();
 
     Console& m_console;

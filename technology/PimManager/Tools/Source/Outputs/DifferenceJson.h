@@ -29,7 +29,9 @@ public:
 private:
     void Start( const char* a_change );
     void AppendCard( const char* a_member, Contacts::PimContactJson& a_json, const Contacts::PimContactCard& a_card );
-    void AppendIndices( const char* a_member, const QList<int>& a_ids );
+    void AppendText( const char* a_member, const char* a_text );
+    void AppendIndices( const char* a_member, const Contacts::PimContactCard& a_card,
+                        const QList<Contacts::PimContactLine>& a_lines );
     void Finish();
 
     QIODevice& m_device;

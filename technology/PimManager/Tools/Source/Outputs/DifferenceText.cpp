@@ -4,12 +4,36 @@
 #include "Outputs/PropertyText.h"
 
 #include <QIODevice>
-#include <QSet>
 
 namespace PimManager::Tools
 {
 
 using namespace Contacts;
+using namespace PhoneBook;
+
+namespace
+{
+
+// Why two versions are one contact.
+QString RemarkOn( PimPhoneBookBasis a_basis )
+{
+    switch ( a_basis )
+    {
+    case PimPhoneBookBasis::Uid:
+        return QStringLiteral( ", by UID" );
+    case PimPhoneBookBasis::BluetoothUid:
+        return QStringLiteral( ", by X-BT-UID" );
+    case PimPhoneBookBasis::Content:
+        return QStringLiteral( ", by content" );
+    case PimPhoneBookBasis::NameAndNumber:
+        return QStringLiteral( ", by name and number" );
+    case PimPhoneBookBasis::Name:
+        return QStringLiteral( ", by name" );
+    }
+    return QString();
+}
+
+} // namespace
 
 DifferenceText::DifferenceText( QIODevice& a_device, TextLength a_length, const Screen& a_screen ) :
     m_device( a_device ),
@@ -20,50 +44,45 @@ DifferenceText::DifferenceText( QIODevice& a_device, TextLength a_length, const 
 
 void DifferenceText::WriteRemoved( const PimContactCard& a_card )
 {
-    WriteHeading( QStringLiteral( "removed: " ), a_card );
+    WriteHeading( QStringLiteral( "removed: " ), PimContact( a_card ), QString() );
 }
 
 void DifferenceText::WriteAdded( const PimContactCard& a_card )
 {
-    WriteHeading( QStringLiteral( "added: " ), a_card );
+    WriteHeading( QStringLiteral( "added: " ), PimContact( a_card ), QString() );
 }
 
 void DifferenceText::WriteChanged( const ChangedContact& a_contact )
 {
     constexpr int s_kIndent = 4;
-    WriteHeading( QStringLiteral( "changed: " ), a_contact.m_new );
-    const std::vector<PropertyText> before = TextsOf( a_contact.m_old, a_contact.m_oldLines );
-    const std::vector<PropertyText> after = TextsOf( a_contact.m_new, a_contact.m_newLines );
+    WriteHeading( QStringLiteral( "changed: " ), a_contact.m_new, RemarkOn( a_contact.m_basis ) );
+    const PimPhoneBookLines lines = PimPhoneBookChanges::LinesOf( a_contact.m_old, a_contact.m_new );
+    const std::vector<PropertyText> before = TextsOf( a_contact.m_old, lines.m_old );
+    const std::vector<PropertyText> after = TextsOf( a_contact.m_new, lines.m_new );
     std::vector<PropertyText> all = before;
     all.insert( all.end(), after.begin(), after.end() );
-    const PropertyLines lines( m_device, m_screen, all, s_kIndent );
+    const PropertyLines columns( m_device, m_screen, all, s_kIndent );
     for ( const PropertyText& text : before )
-        lines.Write( text, QStringLiteral( "-" ) );
+        columns.Write( text, QStringLiteral( "-" ) );
     for ( const PropertyText& text : after )
-        lines.Write( text, QStringLiteral( "+" ) );
+        columns.Write( text, QStringLiteral( "+" ) );
 }
 
-void DifferenceText::WriteHeading( const QString& a_change, const PimContactCard& a_card )
+void DifferenceText::WriteHeading( const QString& a_change, const PimContact& a_contact, const QString& a_remark )
 {
     constexpr int s_kIndent = 2;
-    const QString heading =
-        a_change + ContactHeading( PimContact( a_card ), QStringLiteral( "card %1" ).arg( a_card.Number() ), m_screen );
-    const QStringList lines = m_screen.Wrapped( heading, s_kIndent ).split( QLatin1Char( '\n' ) );
-    for ( const QString& line : lines )
+    const QString remarks = QStringLiteral( "card %1" ).arg( a_contact.Card().Number() ) + a_remark;
+    const QString heading = m_screen.Wrapped( a_change + ContactHeading( a_contact, remarks, m_screen ), s_kIndent );
+    for ( const QString& line : heading.split( QLatin1Char( '\n' ) ) )
         m_device.write( m_screen.Painted( line, Ink::Heading ).toUtf8() + '\n' );
 }
 
-std::vector<PropertyText> DifferenceText::TextsOf( const PimContactCard& a_card, const QList<int>& a_ids ) const
+std::vector<PropertyText> DifferenceText::TextsOf( const PimContact& a_contact,
+                                                   const QList<PimContactLine>& a_lines ) const
 {
-    const PimContact contact( a_card );
-    const QSet<int> ids( a_ids.begin(), a_ids.end() );
     std::vector<PropertyText> texts;
-    int id = 0;
-    for ( const PimContactLine& line : a_card )
-    {
-        if ( ids.contains( ++id ) )
-            texts.push_back( PropertyTextOf( contact, line, m_length, m_screen ) );
-    }
+    for ( const PimContactLine& line : a_lines )
+        texts.push_back( PropertyTextOf( a_contact, line, m_length, m_screen ) );
     return texts;
 }
 

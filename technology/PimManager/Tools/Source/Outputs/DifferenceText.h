@@ -22,12 +22,12 @@ struct PropertyText;
 ///
 ///     removed: Barnaby Ashdrake (card 6)
 ///     added: Tobias Fenwick (card 2)
-///     changed: Nell Brackwater (card 3)
+///     changed: Nell Brackwater (card 3, by UID)
 ///       - TEL  cell        +1-555-0101
 ///       + TEL  boat phone  +1-555-0102
 ///
-/// A card is named by its number in the book that has it, a changed one by that in the new book. Linear in the length
-/// of the cards.
+/// A card is named by its number in the book that has it, a changed one by that in the new book, with the reason why the
+/// versions are one contact. In the order of n log n for cards of n bytes.
 class DifferenceText : public DifferenceWriter
 {
 public:
@@ -39,8 +39,9 @@ public:
     void WriteChanged( const ChangedContact& a_contact ) override;
 
 private:
-    void WriteHeading( const QString& a_change, const Contacts::PimContactCard& a_card );
-    std::vector<PropertyText> TextsOf( const Contacts::PimContactCard& a_card, const QList<int>& a_ids ) const;
+    void WriteHeading( const QString& a_change, const Contacts::PimContact& a_contact, const QString& a_remark );
+    std::vector<PropertyText> TextsOf( const Contacts::PimContact& a_contact,
+                                       const QList<Contacts::PimContactLine>& a_lines ) const;
 
     QIODevice& m_device;
     const TextLength m_length;

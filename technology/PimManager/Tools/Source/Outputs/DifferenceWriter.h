@@ -3,9 +3,10 @@
 
 #pragma once
 
+#include <PimManager/Contacts/PimContact.h>
 #include <PimManager/Contacts/PimContactCard.h>
+#include <PimManager/PhoneBook/PimPhoneBookChanges.h>
 
-#include <QList>
 #include <QString>
 #include <QtGlobal>
 
@@ -15,11 +16,9 @@ namespace PimManager::Tools
 /// Two versions of a contact.
 struct ChangedContact
 {
-    Contacts::PimContactCard m_old;
-    Contacts::PimContactCard m_new;
-    /// The ids of the lines that only one of the versions has.
-    QList<int> m_oldLines;
-    QList<int> m_newLines;
+    Contacts::PimContact m_old;
+    Contacts::PimContact m_new;
+    PhoneBook::PimPhoneBookBasis m_basis;
 };
 
 /// Writes differences, one after the other.

@@ -1,5 +1,7 @@
 #include <PimManager/PhoneBook/PimPhoneBookOptions.h>
 
+#include "Numbers/CallingCodes.h"
+
 #include <QSharedData>
 
 #include <algorithm>
@@ -40,7 +42,8 @@ QString PimPhoneBookOptions::Region() const
 
 void PimPhoneBookOptions::SetRegion( const QString& a_region )
 {
-    d->m_region = a_region.toUpper();
+    const QString region = a_region.toUpper();
+    d->m_region = HomeOf( region ).m_code != nullptr ? region : QString();
 }
 
 int PimPhoneBookOptions::EndingDigits() const

@@ -51,11 +51,11 @@ TEST( DifferenceTextTest, LinesOfChangedContactsAreMarked )
 {
     const QString text = Written( Screen(), []( DifferenceText& a_text ) { a_text.WriteChanged( ChangedNell() ); } );
     EXPECT_EQ( Utf8( text ), "changed: Nell Brackwater (card 1, by UID)\n"
-                             "  - TEL   cell        +1-555-0101\n"
-                             "  + TEL   boat phone  +1-555-0102\n"
-                             "  + item1.X-ABLabel   boat phone\n"
-                             "  + NOTE              One\n"
-                             "                      Two\n" );
+                             "  - TEL              cell        +1-555-0101\n"
+                             "  + TEL              boat phone  +1-555-0102\n"
+                             "  + item1.X-ABLabel              boat phone\n"
+                             "  + NOTE                         One\n"
+                             "                                 Two\n" );
 }
 
 TEST( DifferenceTextTest, ReasonForAPairIsTold )

@@ -43,7 +43,7 @@ public:
     /// The region in which numbers without a country code are dialled: two letters (ISO 3166-1), such as `DE`, in
     /// capitals. Empty by default; then nothing is assumed about such numbers.
     QString Region() const;
-    /// \param a_region in any letter case. An unknown region is the same as an empty one.
+    /// \param a_region in any letter case. An unknown region is the same as an empty one; Region() is then empty.
     void SetRegion( const QString& a_region );
 
     /// The number of last digits that must be equal for PimPhoneBookGrade::Ending. Default: 7.

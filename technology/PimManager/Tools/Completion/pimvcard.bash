@@ -11,8 +11,8 @@ _pimvcard_options()
       --max-book-bytes -q --quiet -h --help -v --version' ;;
     show) echo '-F --full -c --charset --max-card-bytes --max-line-bytes --max-card-lines --max-nesting --max-cards
       --max-book-bytes -q --quiet -h --help -v --version' ;;
-    find) echo '-k --keys -l --limit -c --charset --max-card-bytes --max-line-bytes --max-card-lines --max-nesting
-      --max-cards --max-book-bytes -q --quiet -h --help -v --version' ;;
+    find) echo '-k --keys -l --limit -R --region -c --charset --max-card-bytes --max-line-bytes --max-card-lines
+      --max-nesting --max-cards --max-book-bytes -q --quiet -h --help -v --version' ;;
     who) echo '-R --region -c --charset --max-card-bytes --max-line-bytes --max-card-lines --max-nesting
       --max-cards --max-book-bytes -q --quiet -h --help -v --version' ;;
     diff) echo '-F --full -j --json-lines -c --charset --max-card-bytes --max-line-bytes --max-card-lines

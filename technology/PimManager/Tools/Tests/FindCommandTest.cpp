@@ -108,7 +108,7 @@ TEST( FindCommandTest, KeysAreThoseOfATelephone )
     };
     const std::vector<Row> rows = {
         { "6355", "Nell Brackwater;Nelly Fenwick;Bo Hollow;" },
-        { "635502", "Nell Brackwater;" },
+        { "635502", "Nell Brackwater;Bo Hollow;" },
         { "628", "J\u00F6rg Maulwurf;" },
         { "0101", "Nell Brackwater;" },
     };
@@ -118,6 +118,13 @@ TEST( FindCommandTest, KeysAreThoseOfATelephone )
         EXPECT_EQ( run.m_status, 0 ) << row.m_keys;
         EXPECT_EQ( Names( run ), row.m_names ) << row.m_keys;
     }
+}
+
+TEST( FindCommandTest, NationalNumberIsFoundInItsRegion )
+{
+    EXPECT_EQ( RunFind( { "030 231" } ).m_status, 1 );
+    EXPECT_EQ( Names( RunFind( { "--region", "DE", "030 231" } ) ), "J\u00F6rg Maulwurf;" );
+    EXPECT_EQ( Names( RunFind( { "--region", "DE", "--keys", "030231" } ) ), "J\u00F6rg Maulwurf;" );
 }
 
 TEST( FindCommandTest, LimitLeavesTheBestContacts )
@@ -173,6 +180,8 @@ TEST( FindCommandTest, WrongUsageIsReportedWithStatusTwo )
         { { "book.vcf" }, "pimvcard: too few arguments; write \"pimvcard find BOOK... TEXT\"\n" },
         { { "-k", "book.vcf", "a\x1B" },
           "pimvcard: --keys: \"a\\x1b\" has no digit; write the keys, such as 686 for Otmar\n" },
+        { { "-R", "XX", "book.vcf", "a" },
+          "pimvcard: unknown region: \"XX\"; write the two letters of a country, such as DE\n" },
         { { "-l", "few", "book.vcf", "a" },
           "pimvcard: --limit: \"few\" is not a number such as 500, 64K, 16M or 1G\n" },
     };

@@ -39,15 +39,15 @@ TEST( MatchingNumbersTest, LinesAreThoseThatContainTheTextOrAWordOfIt )
     const std::vector<Row> rows = {
         { "0101", SearchedAs::Text, "2 ;;;" },    { "010", SearchedAs::Text, "2 ;;2 ;" },
         { "555", SearchedAs::Text, "2 4 ;;2 ;" }, { "cy 0102", SearchedAs::Text, ";;2 ;" },
-        { "999", SearchedAs::Text, ";;;" },       { "202", SearchedAs::Keys, "4 ;;;" },
+        { "999", SearchedAs::Text, ";;;" },       { "202", SearchedAs::Keys, "4 ;;2 ;" },
         { "999", SearchedAs::Keys, ";;;" },
     };
     for ( const Row& row : rows )
     {
         const std::string ids =
-            Joined( MatchingNumbers( book, { 0, 1, 2 }, QString::fromLatin1( row.m_text ), row.m_as ) );
+            Joined( MatchingNumbers( book, { 0, 1, 2 }, QString::fromLatin1( row.m_text ), row.m_as, {} ) );
         EXPECT_EQ( ids, row.m_ids ) << row.m_text;
     }
-    EXPECT_EQ( Joined( MatchingNumbers( book, { 2 }, QStringLiteral( "0" ), SearchedAs::Text ) ), "2 ;" );
-    EXPECT_EQ( Joined( MatchingNumbers( book, {}, QStringLiteral( "0" ), SearchedAs::Text ) ), "" );
+    EXPECT_EQ( Joined( MatchingNumbers( book, { 2 }, QStringLiteral( "0" ), SearchedAs::Text, {} ) ), "2 ;" );
+    EXPECT_EQ( Joined( MatchingNumbers( book, {}, QStringLiteral( "0" ), SearchedAs::Text, {} ) ), "" );
 }

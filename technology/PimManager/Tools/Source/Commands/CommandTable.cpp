@@ -155,6 +155,13 @@ CommandInfo Convert()
                           "standard error." ) } );
 }
 
+OptionInfo Region()
+{
+    return Valued( QStringLiteral( "R" ), s_kRegionOption, QStringLiteral( "REGION" ),
+                   QStringLiteral( "The region whose numbers are written without a country code: two letters "
+                                   "(ISO 3166-1), such as DE. Nothing is assumed unless given." ) );
+}
+
 CommandInfo Find()
 {
     return Reading(
@@ -162,7 +169,8 @@ CommandInfo Find()
         { Flag( QStringLiteral( "k" ), s_kKeysOption,
                 QStringLiteral( "Takes TEXT for keys of a telephone: 686 finds Otmar. 0 and 1 part words." ) ),
           Valued( QStringLiteral( "l" ), s_kLimitOption, QStringLiteral( "NUMBER" ),
-                  QStringLiteral( "The most contacts to print; no limit unless given." ) ) },
+                  QStringLiteral( "The most contacts to print; no limit unless given." ) ),
+          Region() },
         { QStringLiteral( "A contact is found if each word of TEXT begins a word of its name, nickname or "
                           "organisation, or is a part of a number. Letter case and accents do not count. Names come "
                           "before organisations, whole words before beginnings, and numbers last." ) },
@@ -173,10 +181,7 @@ CommandInfo Find()
 CommandInfo Who()
 {
     return Reading(
-        QStringLiteral( "who" ), QStringLiteral( "Tells who has a telephone number." ),
-        { Valued( QStringLiteral( "R" ), s_kRegionOption, QStringLiteral( "REGION" ),
-                  QStringLiteral( "The region whose numbers are written without a country code: two letters "
-                                  "(ISO 3166-1), such as DE. Nothing is assumed unless given." ) ) },
+        QStringLiteral( "who" ), QStringLiteral( "Tells who has a telephone number." ), { Region() },
         { QStringLiteral( "MATCH tells how certain it is that a number is the same: exact, equal in international "
                           "form; national, equal in the region; ending, only the last digits are equal. The most "
                           "certain contacts come first. If there are several, the number alone does not tell whose it "

@@ -24,6 +24,7 @@ struct Request
 {
     QString m_text;
     SearchedAs m_as = SearchedAs::Text;
+    PimPhoneBookOptions m_options;
     // 0 for all contacts.
     qint64 m_limit = 0;
 };
@@ -38,7 +39,8 @@ QString ReadRequest( const CommandLine& a_line, Request& a_request )
     if ( a_request.m_as == SearchedAs::Keys && !hasDigit )
         return QStringLiteral( "--keys: \"%1\" has no digit; write the keys, such as 686 for Otmar" )
             .arg( ToTerminalText( a_request.m_text ) );
-    return ReadNumber( a_line, s_kLimitOption, a_request.m_limit );
+    const QString mistake = ReadSearchOptions( a_line, a_request.m_options );
+    return mistake.isEmpty() ? ReadNumber( a_line, s_kLimitOption, a_request.m_limit ) : mistake;
 }
 
 QVector<PimPhoneBookMatch> Matches( const PimPhoneBook& a_book, const Request& a_request )
@@ -65,9 +67,9 @@ QVector<int> FoundByNumber( const QVector<PimPhoneBookMatch>& a_matches )
 // With the numbers that are found, or else the preferred one.
 std::vector<FoundContact> Find( const PimContactBook& a_book, const Request& a_request )
 {
-    const QVector<PimPhoneBookMatch> matches = Matches( PimPhoneBook( a_book, SearchOptions() ), a_request );
+    const QVector<PimPhoneBookMatch> matches = Matches( PimPhoneBook( a_book, a_request.m_options ), a_request );
     const QVector<QList<int>> numbers =
-        MatchingNumbers( a_book, FoundByNumber( matches ), a_request.m_text, a_request.m_as );
+        MatchingNumbers( a_book, FoundByNumber( matches ), a_request.m_text, a_request.m_as, a_request.m_options );
     std::vector<FoundContact> found;
     auto ofNumber = numbers.begin();
     for ( const PimPhoneBookMatch& match : matches )

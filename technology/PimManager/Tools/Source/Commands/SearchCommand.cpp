@@ -1,22 +1,28 @@
 #include "Commands/SearchCommand.h"
 
 #include "Commands/ReadingCommand.h"
+#include "Terminal/TerminalText.h"
 
 namespace PimManager::Tools
 {
 
 using namespace Contacts;
+using namespace PhoneBook;
 
 QByteArray WantedText( const CommandLine& a_line )
 {
     return a_line.Arguments().constLast();
 }
 
-PhoneBook::PimPhoneBookOptions SearchOptions()
+QString ReadSearchOptions( const CommandLine& a_line, PimPhoneBookOptions& a_options )
 {
-    PhoneBook::PimPhoneBookOptions options;
-    options.SetLocale( QLocale( QLocale::English ) );
-    return options;
+    const QString region = QString::fromUtf8( a_line.Value( s_kRegionOption ) );
+    a_options.SetLocale( QLocale( QLocale::English ) );
+    a_options.SetRegion( region );
+    const bool isKnown = !a_line.IsSet( s_kRegionOption ) || !a_options.Region().isEmpty();
+    return isKnown ? QString()
+                   : QStringLiteral( "unknown region: \"%1\"; write the two letters of a country, such as DE" )
+                         .arg( ToTerminalText( region ) );
 }
 
 ExitStatus PrintFound( const CommandLine& a_line, Console& a_console, FoundTable::Grades a_grades,

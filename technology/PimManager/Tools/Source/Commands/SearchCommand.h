@@ -16,8 +16,10 @@ namespace PimManager::Tools
 /// \return what a search looks for: the last argument.
 QByteArray WantedText( const CommandLine& a_line );
 
-/// \return the options of a phone book. Names are sorted in the same way in every locale.
-PhoneBook::PimPhoneBookOptions SearchOptions();
+/// Reads `--region`. Names are sorted in the same way in every locale.
+/// \param[out] a_options the options of a phone book.
+/// \return what is wrong, safe for a terminal; empty if nothing is.
+QString ReadSearchOptions( const CommandLine& a_line, PhoneBook::PimPhoneBookOptions& a_options );
 
 /// Searches the books of a command line, all arguments but the last one, and prints a table of what is found.
 /// \return AllGiven if a contact is found, and SomeRefused if none is.

@@ -2,7 +2,6 @@
 
 #include "Commands/ReadingCommand.h"
 #include "Commands/SearchCommand.h"
-#include "Terminal/TerminalText.h"
 
 #include <PimManager/PhoneBook/PimPhoneBook.h>
 
@@ -14,17 +13,6 @@ using namespace PhoneBook;
 
 namespace
 {
-
-// Returns what is wrong; empty if nothing is.
-QString ReadRegion( const CommandLine& a_line, PimPhoneBookOptions& a_options )
-{
-    const QString region = QString::fromUtf8( a_line.Value( s_kRegionOption ) );
-    a_options.SetRegion( region );
-    const bool isKnown = !a_line.IsSet( s_kRegionOption ) || !a_options.Region().isEmpty();
-    return isKnown ? QString()
-                   : QStringLiteral( "unknown region: \"%1\"; write the two letters of a country, such as DE" )
-                         .arg( ToTerminalText( region ) );
-}
 
 QString WordFor( PimPhoneBookGrade a_grade )
 {
@@ -54,8 +42,8 @@ std::vector<FoundContact> Callers( const PimPhoneBook& a_book, const QString& a_
 
 ExitStatus RunWho( const CommandLine& a_line, Console& a_console )
 {
-    PimPhoneBookOptions options = SearchOptions();
-    const QString mistake = ReadRegion( a_line, options );
+    PimPhoneBookOptions options;
+    const QString mistake = ReadSearchOptions( a_line, options );
     if ( !mistake.isEmpty() )
         return RefuseUsage( a_console, a_line, mistake );
     const QString number = QString::fromUtf8( WantedText( a_line ) );

@@ -19,7 +19,7 @@ namespace
 class Numbers
 {
 public:
-    Numbers( const PimContactBook& a_book, const QVector<int>& a_contacts );
+    Numbers( const PimContactBook& a_book, const QVector<int>& a_contacts, const PimPhoneBookOptions& a_options );
 
     /// Adds the numbers that a search has found to the contacts without any.
     void Take( const QVector<PimPhoneBookMatch>& a_matches );
@@ -42,8 +42,8 @@ private:
     QVector<QList<int>> m_found;
 };
 
-Numbers::Numbers( const PimContactBook& a_book, const QVector<int>& a_contacts ) :
-    m_book( ReadNumbers( a_book, a_contacts ) ),
+Numbers::Numbers( const PimContactBook& a_book, const QVector<int>& a_contacts, const PimPhoneBookOptions& a_options ) :
+    m_book( ReadNumbers( a_book, a_contacts ), a_options ),
     m_found( a_contacts.size() )
 {
 }
@@ -81,10 +81,10 @@ void Numbers::Take( const QVector<PimPhoneBookMatch>& a_matches )
 } // namespace
 
 QVector<QList<int>> MatchingNumbers( const PimContactBook& a_book, const QVector<int>& a_contacts,
-                                     const QString& a_text, SearchedAs a_as )
+                                     const QString& a_text, SearchedAs a_as, const PimPhoneBookOptions& a_options )
 {
     static const QRegularExpression s_kBlanks( QStringLiteral( "\\s+" ) );
-    Numbers numbers( a_book, a_contacts );
+    Numbers numbers( a_book, a_contacts, a_options );
     if ( a_as == SearchedAs::Keys )
     {
         numbers.Take( numbers.Book().FindByKeys( a_text ) );

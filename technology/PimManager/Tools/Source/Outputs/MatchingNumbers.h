@@ -4,6 +4,7 @@
 #pragma once
 
 #include <PimManager/Contacts/PimContactBook.h>
+#include <PimManager/PhoneBook/PimPhoneBookOptions.h>
 
 #include <QList>
 #include <QString>
@@ -22,6 +23,7 @@ enum class SearchedAs
 /// \return for each of the contacts the ids of the TEL lines that contain the text, or else one of its words. Linear in
 ///         the number of these lines.
 QVector<QList<int>> MatchingNumbers( const Contacts::PimContactBook& a_book, const QVector<int>& a_contacts,
-                                     const QString& a_text, SearchedAs a_as );
+                                     const QString& a_text, SearchedAs a_as,
+                                     const PhoneBook::PimPhoneBookOptions& a_options );
 
 } // namespace PimManager::Tools

@@ -15,6 +15,9 @@
 #include <PimManager/Contacts/PimContactWriter.h>
 #include <PimManager/PhoneBook/PimPhoneBook.h>
 #include <PimManager/PhoneBook/PimPhoneBookChanges.h>
+#include <PimManager/PhoneBook/PimPhoneBookLoader.h>
+#include <PimManager/PhoneBook/PimPhoneBookModel.h>
+#include <PimManager/PhoneBook/PimPhoneBookNumber.h>
 
 #include <PimVCard.h>
 
@@ -39,6 +42,16 @@ struct Image
     bool loadFromData( const QByteArray& a_bytes );
 };
 
+/// Something that shows QML, as QQuickView does.
+struct View
+{
+    struct Context
+    {
+        void setContextProperty( const QString& a_name, QObject* a_object );
+    };
+    Context* rootContext();
+};
+
 bool Store( const PimContactCard& a_card );
 void Write( const QString& a_address );
 void ShowFaxIcon();
@@ -48,6 +61,7 @@ extern const PimContact contact;
 extern const PimPhoneBook phoneBook;
 extern const PimContactPhoneKinds kinds;
 extern Image image;
+extern View view;
 extern const PimContactCard card;
 extern const PimContactLine line;
 extern const PimContactReport report;

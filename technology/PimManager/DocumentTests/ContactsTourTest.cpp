@@ -50,6 +50,19 @@ namespace Languages
 #include "developing-an-appExample9.cpp"
 }
 
+namespace Callers
+{
+#include "developing-an-appExample10.cpp"
+}
+namespace Search
+{
+#include "developing-an-appExample11.cpp"
+}
+namespace Changes
+{
+#include "developing-an-appExample12.cpp"
+}
+
 // The contact of the examples.
 const PimContact contact =
     PimContactBook::ReadFile( QStringLiteral( PIMVCARD_PROJECT "/examples/phonebook.vcf" ) ).At( 0 );
@@ -64,9 +77,18 @@ struct Row
 };
 
 const std::vector<Row> s_kRows = {
-    { "A book", Book::Example },   { "Names", Names::Example },   { "Phones", Phones::Example },
-    { "Dates", Dates::Example },   { "Photo", Photo::Example },   { "Editing", Editing::Example },
-    { "Saving", Saving::Example }, { "Faults", Faults::Example }, { "Languages", Languages::Example },
+    { "A book", Book::Example },
+    { "Names", Names::Example },
+    { "Phones", Phones::Example },
+    { "Dates", Dates::Example },
+    { "Photo", Photo::Example },
+    { "Editing", Editing::Example },
+    { "Saving", Saving::Example },
+    { "Faults", Faults::Example },
+    { "Languages", Languages::Example },
+    { "Who is calling", Callers::Example },
+    { "Find as you type", Search::Example },
+    { "What changed", Changes::Example },
 };
 
 QString g_printed;

@@ -14,7 +14,7 @@ class QIODevice;
 namespace PimManager::Tools
 {
 
-/// Writes each difference as an object on a line of its own, in the format of docs/program.md.
+/// Writes each difference as an object on a line of its own, in the format of docs/man/pimvcard.1.
 class DifferenceJson : public DifferenceWriter
 {
 public:

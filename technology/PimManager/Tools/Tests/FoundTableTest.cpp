@@ -50,6 +50,17 @@ TEST( FoundTableTest, RowsAreTheContactsThatAreFoundWithTheirNumbers )
         "                 +1-555-0102 boat phone\n" );
 }
 
+TEST( FoundTableTest, NumberInAnotherLanguageIsShown )
+{
+    const QByteArray card = CardText( "VERSION:4.0\r\nFN:Bo\r\nTEL;ALTID=1;LANGUAGE=en:+1-555-0101\r\n"
+                                      "TEL;ALTID=1;LANGUAGE=de;TYPE=home:+1-555-0102\r\n" );
+    EXPECT_EQ( Utf8( Table( { "a.vcf" }, card, Screen(), FoundTable::Grades::None,
+                            { { 0, { 4 }, {} }, { 0, { 0, 9 }, {} } } ) ),
+               "NAME  NUMBER            ORGANISATION\n"
+               "Bo    +1-555-0102 home\n"
+               "Bo\n" );
+}
+
 TEST( FoundTableTest, GradesAndBooksHaveColumns )
 {
     const std::vector<FoundContact> found = { { 1, {}, QStringLiteral( "exact" ) },

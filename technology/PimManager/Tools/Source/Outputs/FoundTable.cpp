@@ -3,8 +3,6 @@
 #include "Outputs/TableCells.h"
 #include "Terminal/ShortText.h"
 
-#include <QSet>
-
 #include <utility>
 
 namespace PimManager::Tools
@@ -72,14 +70,29 @@ void FoundTable::Write( const FoundContact& a_found )
 
 TextTable::Cell FoundTable::NumberCell( const PimContact& a_contact, const QList<int>& a_ids ) const
 {
-    const QSet<int> ids( a_ids.begin(), a_ids.end() );
+    QSet<int> ids( a_ids.begin(), a_ids.end() );
     QStringList texts;
     for ( const PimContactPhone& phone : a_contact.Phones() )
     {
-        if ( ids.contains( phone.Id() ) )
+        if ( ids.remove( phone.Id() ) )
             texts << EntryText( phone.Text(), phone, m_screen );
     }
-    return ShortenedList( texts );
+    return ShortenedList( texts + OtherNumbers( a_contact, ids ) );
+}
+
+// A number in another language than that of the contact is no field of its own.
+QStringList FoundTable::OtherNumbers( const PimContact& a_contact, const QSet<int>& a_ids ) const
+{
+    QStringList texts;
+    int id = 0;
+    for ( const PimContactLine& line : a_ids.isEmpty() ? PimContactCard() : a_contact.Card() )
+    {
+        if ( !a_ids.contains( ++id ) )
+            continue;
+        const PimContactText field = a_contact.FieldOf( line );
+        texts << EntryText( field.Text(), field, m_screen );
+    }
+    return texts;
 }
 
 } // namespace PimManager::Tools

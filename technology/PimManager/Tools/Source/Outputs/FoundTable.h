@@ -11,7 +11,9 @@
 #include <QByteArray>
 #include <QList>
 #include <QMap>
+#include <QSet>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <vector>
@@ -67,6 +69,7 @@ public:
 private:
     void Write( const FoundContact& a_found );
     TextTable::Cell NumberCell( const Contacts::PimContact& a_contact, const QList<int>& a_ids ) const;
+    QStringList OtherNumbers( const Contacts::PimContact& a_contact, const QSet<int>& a_ids ) const;
 
     const Screen m_screen;
     // What the table calls each file, by its name for messages; empty if there is one book.

@@ -173,6 +173,18 @@ TEST( TerminalTest, CtrlCEndsACheckBehindTheLastWholeCard )
     EXPECT_EQ( run.Screen(), "pimvcard: interrupted; the output has what was read before\n" );
 }
 
+TEST( TerminalTest, CtrlCEndsADiffWithoutDifferences )
+{
+    const Folder folder;
+    TerminalRun run( { "diff", folder.Write( "old", CleanCard() + CardText( "FN:Later\r\n" ) ), "-" },
+                     TerminalRun::Watched::ErrorsOnly );
+    run.Feed( CleanCard() );
+    run.Interrupt();
+    EXPECT_EQ( run.Finish(), 130 );
+    EXPECT_EQ( run.Pipe(), "" );
+    EXPECT_NE( run.Screen().find( "nothing is compared" ), std::string::npos ) << run.Screen();
+}
+
 TEST( TerminalTest, FilesBehindTheInterruptedOneAreNotRead )
 {
     const Folder folder;

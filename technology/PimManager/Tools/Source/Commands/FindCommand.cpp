@@ -71,10 +71,10 @@ std::vector<FoundContact> Find( const PimContactBook& a_book, const Request& a_r
     const QVector<QList<int>> numbers =
         MatchingNumbers( a_book, FoundByNumber( matches ), a_request.m_text, a_request.m_as, a_request.m_options );
     std::vector<FoundContact> found;
-    auto ofNumber = numbers.begin();
+    int next = 0;
     for ( const PimPhoneBookMatch& match : matches )
     {
-        QList<int> ids = match.m_place == PimPhoneBookPlace::Number ? *ofNumber++ : QList<int>();
+        QList<int> ids = match.m_place == PimPhoneBookPlace::Number ? numbers.at( next++ ) : QList<int>();
         if ( ids.isEmpty() )
             ids << a_book.At( match.m_contact ).Phones().Preferred().Id();
         found.push_back( { match.m_contact, ids, QString() } );

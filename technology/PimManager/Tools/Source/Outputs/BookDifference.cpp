@@ -87,12 +87,12 @@ void BookDifference::Write()
     m_writer->Begin( m_books[0].m_source, m_books[1].m_source );
     for ( const int removed : m_changes.Removed() )
         m_writer->WriteRemoved( before.CardAt( removed ) );
-    const QVector<int> allAdded = m_changes.Added();
-    auto added = allAdded.begin();
+    const QVector<int> added = m_changes.Added();
+    int next = 0;
     const auto writeAddedBefore = [&]( int a_index )
     {
-        for ( ; added != allAdded.end() && *added < a_index; ++added )
-            m_writer->WriteAdded( after.CardAt( *added ) );
+        for ( ; next < added.size() && added.at( next ) < a_index; ++next )
+            m_writer->WriteAdded( after.CardAt( added.at( next ) ) );
     };
     for ( const PimPhoneBookPair& pair : m_changes.Changed() )
     {

@@ -150,6 +150,25 @@ TEST( FindCommandTest, SeveralBooksAreSearchedAsOne )
         << run.m_err;
 }
 
+TEST( FindCommandTest, BookInPlaceOfTheTextIsTold )
+{
+    const Folder folder;
+    const QByteArray book = folder.Write( "book", s_kNell );
+    const QByteArray other = folder.Write( "other", s_kBo );
+    const std::string remark =
+        "pimvcard: " + other.toStdString() + " is a file, but was not read: the last argument is what to look for\n";
+    EXPECT_EQ( RunPimvcard( { "find", book, other } ).LastMessage(), remark );
+    EXPECT_EQ( RunPimvcard( { "who", book, other } ).LastMessage(), remark );
+    EXPECT_EQ( RunPimvcard( { "find", "--quiet", book, other } ).m_err, "" );
+}
+
+TEST( FindCommandTest, HelpNamesKeysThatFindTheContact )
+{
+    const ProgramRun run = RunPimvcard( { "find", "-q", "--keys", PIMVCARD_EXAMPLES "/phonebook.vcf", "686" } );
+    EXPECT_EQ( Names( run ), "Prof. Otmar von H\u00FCgelstein;" );
+    EXPECT_NE( RunPimvcard( { "help", "find" } ).m_out.find( "686 finds" ), std::string::npos );
+}
+
 TEST( FindCommandTest, LossesAreToldAndDoNotChangeTheAnswer )
 {
     const ProgramRun found = ProgramCall( { "find", "-", "tobias" } ).WithInput( PartCard() ).Run();

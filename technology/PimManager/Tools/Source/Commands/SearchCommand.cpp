@@ -3,11 +3,28 @@
 #include "Commands/ReadingCommand.h"
 #include "Terminal/TerminalText.h"
 
+#include <sys/stat.h>
+
 namespace PimManager::Tools
 {
 
 using namespace Contacts;
 using namespace PhoneBook;
+
+namespace
+{
+
+// A user who forgets the last argument has the last book taken for it.
+void RemarkOnFileName( const CommandLine& a_line, Console& a_console )
+{
+    const QByteArray wanted = WantedText( a_line );
+    struct stat status = {};
+    if ( ::stat( wanted.constData(), &status ) == 0 )
+        a_console.Remark( QStringLiteral( "%1 is a file, but was not read: the last argument is what to look for" )
+                              .arg( a_console.ErrScreen().Isolated( ToShownFileName( wanted ) ) ) );
+}
+
+} // namespace
 
 QByteArray WantedText( const CommandLine& a_line )
 {
@@ -42,6 +59,8 @@ ExitStatus PrintFound( const CommandLine& a_line, Console& a_console, FoundTable
                     std::make_unique<FoundTable>( a_console.Out(), a_console.OutScreen(), books, a_grades, search ) );
     // Whether something of a book is left out is told, and is no answer to the question.
     const bool isAnswered = status == ExitStatus::AllGiven || status == ExitStatus::SomeRefused;
+    if ( isAnswered && !isFound )
+        RemarkOnFileName( a_line, a_console );
     const ExitStatus answer = isFound ? ExitStatus::AllGiven : ExitStatus::SomeRefused;
     return isAnswered ? answer : status;
 }

@@ -48,6 +48,7 @@ public:
 
     /// The book that the phone book was made of.
     Contacts::PimContactBook Book() const;
+    /// The options that it was made with.
     PimPhoneBookOptions Options() const;
 
     /// The number of contacts.

@@ -50,6 +50,7 @@ struct PimPhoneBookPair
     int m_old;
     /// The index of the contact in the new book.
     int m_new;
+    /// Why they are the same.
     PimPhoneBookBasis m_basis;
 };
 

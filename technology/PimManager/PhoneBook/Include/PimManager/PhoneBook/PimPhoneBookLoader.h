@@ -61,6 +61,7 @@ public:
     /// deleted.
     using DeviceMaker = std::function<std::unique_ptr<QIODevice>()>;
 
+    /// Creates a loader that loads nothing.
     explicit PimPhoneBookLoader( QObject* a_parent = nullptr );
     /// Stops the loading and does not wait for its thread. The destructor of QCoreApplication does, but no more than
     /// three seconds if the device does not answer.
@@ -90,6 +91,7 @@ public:
     /// thread ends later, when the device and the present step allow it.
     void Stop();
 
+    /// \return true from Load() to Loaded(), Failed() or Stop().
     bool IsLoading() const;
 
     /// The bytes that were read of the present or last address book.
@@ -108,7 +110,9 @@ public:
     PimPhoneBook PhoneBook() const;
 
 signals:
+    /// IsLoading() or ErrorText() has changed.
     void LoadingChanged();
+    /// Progress() has changed.
     void ProgressChanged();
     /// There are more contacts. The model shows them already.
     void Grown( const PimPhoneBook& a_phoneBook );

@@ -36,6 +36,7 @@ struct PimPhoneBookCaller
     int m_contact;
     /// The id of the TEL line, see PimContact::Line().
     int m_line;
+    /// How certain it is that the number is the same. Never None.
     PimPhoneBookGrade m_grade;
 };
 
@@ -59,6 +60,7 @@ struct PimPhoneBookMatch
 {
     /// The index of the contact in the book.
     int m_contact;
+    /// The best place.
     PimPhoneBookPlace m_place;
 };
 

@@ -81,6 +81,7 @@ public:
     explicit PimPhoneBookModel( QObject* a_parent = nullptr );
     ~PimPhoneBookModel() override;
 
+    /// The phone book that is shown.
     PimPhoneBook PhoneBook() const;
     /// Replaces the phone book. A contact remains if PimPhoneBookChanges::Compare() finds it in both books. The filter
     /// and the keys remain as well.
@@ -113,14 +114,19 @@ public:
     /// \return the row of the contact. -1 if it is not shown. Linear in the number of rows.
     int RowOf( int a_contact ) const;
 
+    /// \return Count(); 0 below a row.
     int rowCount( const QModelIndex& a_parent = QModelIndex() ) const override;
+    /// \return what a row shows, see Role. Invalid for another role or row.
     QVariant data( const QModelIndex& a_index, int a_role = Qt::DisplayRole ) const override;
+    /// \return the names in QML, see Role.
     QHash<int, QByteArray> roleNames() const override;
 
 signals:
-    /// The rows are up to date when these are emitted.
+    /// Emitted when the rows are up to date.
     void FilterChanged();
+    /// Emitted when the rows are up to date.
     void KeysChanged();
+    /// Emitted when the rows are up to date.
     void CountChanged();
 
 private:

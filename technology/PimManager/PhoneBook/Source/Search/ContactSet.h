@@ -64,6 +64,9 @@ public:
             m_words[i] &= ~a_other.m_words[i];
     }
 
+    /// The memory in bytes.
+    size_t Bytes() const { return m_words.capacity() * sizeof( quint64 ); }
+
     bool IsEmpty() const;
     int Size() const;
 

@@ -199,6 +199,7 @@ void NumberParts::FindBeginning( std::string_view a_digits, ContactSet& a_matche
         return m_beginnings.AddTo( a_matches, list );
     ContactSet candidates( static_cast<int>( m_sorted->size() ) );
     m_beginnings.AddTo( candidates, list );
+    candidates &= Candidates( a_digits );
     candidates.Remove( a_matches );
     candidates.ForEach(
         [&]( quint32 a_rank )

@@ -13,6 +13,8 @@ namespace
 {
 
 constexpr quint32 s_kOrganisation = 1;
+constexpr size_t s_kFirstKey = 2;
+constexpr size_t s_kKeys = 8;
 // A word has at most 48 parts between the digits 0 and 1.
 constexpr quint32 s_kBitsOfPart = 6;
 constexpr quint32 s_kPart = ( 1U << s_kBitsOfPart ) - 1;
@@ -64,11 +66,12 @@ void WordIndex::Build( const WordCollector& a_words, const std::vector<quint32>&
     m_text.shrink_to_fit();
     m_begins.shrink_to_fit();
     m_firstPlaces.shrink_to_fit();
-    BuildKeys();
+    BuildKeys( static_cast<int>( a_ranks.size() ) );
 }
 
-void WordIndex::BuildKeys()
+void WordIndex::BuildKeys( int a_contacts )
 {
+    m_firstKeys.assign( 2 * s_kKeys, ContactSet( a_contacts ) );
     std::vector<std::pair<quint64, quint32>> keys;
     keys.reserve( m_begins.size() );
     for ( quint32 word = 0; word + 1 < m_begins.size(); ++word )
@@ -85,7 +88,18 @@ void WordIndex::BuildKeys()
                []( const auto& a_first, const auto& a_second ) { return a_first.first < a_second.first; } );
     m_keyWords.reserve( keys.size() );
     for ( const auto& [key, entry] : keys )
+    {
         m_keyWords.push_back( entry );
+        AddFirstKey( key, entry >> s_kBitsOfPart );
+    }
+}
+
+void WordIndex::AddFirstKey( quint64 a_keys, size_t a_word )
+{
+    constexpr uint s_kFirst = 60;
+    const size_t set = 2 * ( static_cast<size_t>( a_keys >> s_kFirst ) - s_kFirstKey );
+    for ( size_t place = m_firstPlaces[a_word]; place < m_firstPlaces[a_word + 1]; ++place )
+        m_firstKeys[set + ( m_places[place] & s_kOrganisation )].Add( m_places[place] >> 1 );
 }
 
 quint64 WordIndex::KeysAt( size_t a_keyWord ) const
@@ -160,11 +174,20 @@ void WordIndex::FindByKeys( std::string_view a_keys, WordMatches& a_matches ) co
     KeyWord keys;
     for ( const char key : a_keys )
         keys.Add( key - '0' );
+    if ( m_keyWords.empty() )
+        return;
     const size_t first = FirstKeyWord( keys.First(), 0 );
     const size_t wholeEnd = FirstKeyWord( keys.First() + 1, first );
+    TakeKeyWords( first, wholeEnd, PlaceTaker( a_matches.m_wholeName, a_matches.m_wholeOrganisation ) );
+    if ( a_keys.size() == 1 )
+    {
+        const size_t set = 2 * ( static_cast<size_t>( a_keys.front() - '0' ) - s_kFirstKey );
+        a_matches.m_name |= m_firstKeys[set];
+        a_matches.m_organisation |= m_firstKeys[set + 1];
+        return;
+    }
     const size_t end = FirstKeyWord( keys.Last() + 1, wholeEnd );
     TakeKeyWords( first, end, PlaceTaker( a_matches.m_name, a_matches.m_organisation ) );
-    TakeKeyWords( first, wholeEnd, PlaceTaker( a_matches.m_wholeName, a_matches.m_wholeOrganisation ) );
 }
 
 template <class Taker>
@@ -183,7 +206,8 @@ size_t WordIndex::Bytes() const
 {
     return m_text.capacity() +
            ( m_begins.capacity() + m_firstPlaces.capacity() + m_keyWords.capacity() ) * sizeof( quint32 ) +
-           m_places.capacity() * sizeof( Place );
+           m_places.capacity() * sizeof( Place ) +
+           m_firstKeys.size() * ( m_firstKeys.empty() ? 0 : m_firstKeys.front().Bytes() );
 }
 
 } // namespace PimManager::PhoneBook

@@ -92,7 +92,8 @@ private:
     {
         return std::string_view( m_text ).substr( m_begins[a_word], m_begins[a_word + 1] - m_begins[a_word] );
     }
-    void BuildKeys();
+    void BuildKeys( int a_contacts );
+    void AddFirstKey( quint64 a_keys, size_t a_word );
     quint64 KeysAt( size_t a_keyWord ) const;
     size_t FirstKeyWord( quint64 a_keys, size_t a_from ) const;
     template <class Taker>
@@ -106,6 +107,8 @@ private:
     std::vector<quint32> m_firstPlaces;
     std::vector<Place> m_places;
 
+    // For each key from 2 to 9, the contacts with a name, and those with an organisation, that begins with it.
+    std::vector<ContactSet> m_firstKeys;
     // The key words in their order: for each the index of its word, and in the last bits its index in the word.
     std::vector<quint32> m_keyWords;
 };

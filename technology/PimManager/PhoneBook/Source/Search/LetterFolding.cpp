@@ -161,7 +161,7 @@ void Fold( FoldedLetter& a_letter )
     a_letter.m_kind = KindOf( a_letter.m_character );
     if ( a_letter.m_kind < LetterKind::Letter )
         return;
-    const auto character = static_cast<uint>( a_letter.m_character );
+    const char32_t character = a_letter.m_character;
     const auto decomposed = QString::fromUcs4( &character, 1 ).normalized( QString::NormalizationForm_KD ).toUcs4();
     for ( const uint part : decomposed )
         AppendFolded( part, a_letter );

@@ -120,8 +120,7 @@ QString FirstLetters( const QString& a_name )
 
 QString TextOf( char32_t a_character )
 {
-    const auto character = static_cast<uint>( a_character );
-    return QString::fromUcs4( &character, 1 );
+    return QString::fromUcs4( &a_character, 1 );
 }
 
 /// \return the letter without marks.

@@ -161,6 +161,7 @@ TEST( PimPhoneBookSectionTest, SortTextComesFromTheCard )
         SortRow{ u"N:Berg;Anna;;;|SORT-STRING:Zorn|FN:x", "Z", "A" },
         SortRow{ u"sort-string:Zorn|N:Berg;Anna;;;|FN:x", "Z", "A" },
         SortRow{ u"N:\\;Berg;Anna;;|FN:x", "#", "A" },
+        SortRow{ u"N:x\\;Berg;Anna;;|FN:x", "X", "A" },
         SortRow{ u"N:Berg;Anna;;;|N:Zorn;Otto;;;|FN:x", "B", "A" },
         SortRow{ u"N:;;;;|N:Zorn;Otto;;;|FN:x", "Z", "O" },
         SortRow{ u"FN:Anna Berg", "A", "A" },

@@ -21,7 +21,8 @@ namespace
 // So many different contents with one hash are told apart. More occur only if cards were made for it.
 constexpr size_t s_kMostContents = 8;
 
-// The sets of identifiers, see IdentifiersOf(). Contacts with more of them fit fewer others, so they are first.
+// The sets of identifiers, see IdentifiersOf(). Sets with a common one are last. Contacts with more identifiers fit
+// fewer others, so they are first.
 constexpr size_t s_kIdentifierSets = 4;
 constexpr std::array<std::pair<size_t, size_t>, s_kIdentifierSets* s_kIdentifierSets> s_kIdentifierOrder = {
     { { 3, 0 },
@@ -119,14 +120,8 @@ private:
             return PairInOrder( EqualContacts( a_old ), EqualContacts( a_new ) );
         auto olds = ByIdentifiers( m_pairing.OldBook(), a_old );
         auto news = ByIdentifiers( m_pairing.NewBook(), a_new );
-        for ( const bool mayDiffer : { false, true } )
-        {
-            for ( const auto& [old, other] : s_kIdentifierOrder )
-            {
-                if ( mayDiffer || ( old & other ) == 0 )
-                    PairInOrder( olds.at( old ), news.at( other ) );
-            }
-        }
+        for ( const auto& [old, other] : s_kIdentifierOrder )
+            PairInOrder( olds.at( old ), news.at( other ) );
     }
 
     static std::array<EqualContacts, s_kIdentifierSets> ByIdentifiers( const PimContactBook& a_book,

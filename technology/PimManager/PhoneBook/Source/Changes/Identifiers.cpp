@@ -12,8 +12,8 @@ using Contacts::PimContactLine;
 namespace
 {
 
-constexpr QLatin1String s_kUid( "UID" );
-constexpr QLatin1String s_kBluetoothUid( "X-BT-UID" );
+const QLatin1String s_kUid( "UID" );
+const QLatin1String s_kBluetoothUid( "X-BT-UID" );
 
 QString KeyOf( const QString& a_text )
 {

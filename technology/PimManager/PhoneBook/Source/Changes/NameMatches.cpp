@@ -87,6 +87,11 @@ private:
     {
         return IsOldFree( a_candidate.m_old ) && IsNewFree( a_candidate.m_new );
     }
+    void Count( const Candidate& a_candidate, int a_number )
+    {
+        OldCount( a_candidate ) += a_number;
+        NewCount( a_candidate ) += a_number;
+    }
     int& OldCount( const Candidate& a_candidate ) { return m_oldCounts[static_cast<size_t>( a_candidate.m_old )]; }
     int& NewCount( const Candidate& a_candidate ) { return m_newCounts[static_cast<size_t>( a_candidate.m_new )]; }
 
@@ -95,10 +100,7 @@ private:
         const auto isTaken = [this]( const Candidate& a_candidate ) { return !IsFree( a_candidate ); };
         a_candidates.erase( std::remove_if( a_candidates.begin(), a_candidates.end(), isTaken ), a_candidates.end() );
         for ( const Candidate& candidate : a_candidates )
-        {
-            ++OldCount( candidate );
-            ++NewCount( candidate );
-        }
+            Count( candidate, 1 );
         for ( const Candidate& candidate : a_candidates )
         {
             const bool isOnly = OldCount( candidate ) == 1 && NewCount( candidate ) == 1;
@@ -107,6 +109,9 @@ private:
         }
         for ( const Candidate& candidate : a_candidates )
             OldCount( candidate ) = NewCount( candidate ) = 0;
+        // Who fits several people equally well is nobody who fits less.
+        for ( const Candidate& candidate : a_candidates )
+            Count( candidate, IsFree( candidate ) ? 1 : 0 );
     }
 
     KeyedContacts FreeNames( const People& a_people, bool ( PeoplePairing::*a_isFree )( int ) const ) const
@@ -139,7 +144,7 @@ private:
     const People m_old;
     const People m_new;
     const bool m_doUidsCount;
-    // For equally good candidates: in how many of them each person is.
+    // In how many equally good candidates each person is, and in how many better ones that were not decided.
     std::vector<int> m_oldCounts;
     std::vector<int> m_newCounts;
 };

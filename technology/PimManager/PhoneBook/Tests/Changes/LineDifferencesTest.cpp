@@ -59,6 +59,8 @@ constexpr std::array s_kRows = {
          "-X-A:b +X-A:c" },
     Row{ "FormsOfValues", "N:a;b\nGEO:1;2\nKIND:Group\nREV:2000-01-01\nX-A:b",
          "VERSION:4.0\nN:a;b;;;\nGEO:geo:1,2\nKIND:group\nREV:20000101\nX-A:c", "-X-A:b +X-A:c" },
+    Row{ "TwoRevisions", "FN:a\nREV:2000-01-01\nREV:2001-01-01", "FN:a\nREV:20000101\nREV:2002-01-01",
+         "-REV:2000-01-01 -REV:2001-01-01 +REV:20000101 +REV:2002-01-01" },
     Row{ "Nicknames", "NICKNAME:a,b\nFN:x\nNOTE:x", "NICKNAME:a,b\nFN:x\nNOTE:y", "-NOTE:x +NOTE:y" },
     Row{ "EmptyLines", "FN:a\nTEL:\nADR:;;;;;;\nNOTE:x", "FN:a\nNOTE:y", "-NOTE:x +NOTE:y" },
     Row{ "UidMissing", "UID:1\nFN:a\nX-BT-UID:2", "FN:a\nNOTE:y", "+NOTE:y" },

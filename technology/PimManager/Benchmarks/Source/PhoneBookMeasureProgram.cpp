@@ -6,8 +6,9 @@
 //   index FILE [SNAPSHOT]        the same, and makes a phone book of it.
 //   queries FILE                 prints what can be typed in up to four keys so that something is found: the beginnings
 //                                of words, and all digits. Each line is `find TEXT` or `keys DIGITS`.
-//   each FILE QUERIES            carries out each line of the file QUERIES once. Under callgrind, the instructions of
-//                                each are dumped with the line as its trigger.
+//   model FILE QUERIES           types each line of the file QUERIES in a model. Under callgrind, the instructions of
+//   the
+//                                last key, rows included, are dumped with the line as their trigger.
 //   find|keys FILE TEXT TIMES    carries out one query that many times.
 //   who FILE TIMES               asks that many times for the caller of each number of the book.
 //   compare OLD NEW              compares two books.
@@ -15,6 +16,7 @@
 #include <PimManager/Contacts/PimContactBook.h>
 #include <PimManager/PhoneBook/PimPhoneBook.h>
 #include <PimManager/PhoneBook/PimPhoneBookChanges.h>
+#include <PimManager/PhoneBook/PimPhoneBookModel.h>
 
 #include <QByteArray>
 #include <QFile>
@@ -124,22 +126,30 @@ void PrintQueries( const char* a_name )
     }
 }
 
-void Each( const char* a_name, const char* a_queries )
+void Model( const char* a_name, const char* a_queries )
 {
-    const PimPhoneBook phoneBook = PhoneBookOf( ReadBook( a_name ) );
+    PimPhoneBookModel model;
+    model.SetPhoneBook( PhoneBookOf( ReadBook( a_name ) ) );
     QFile file( QString::fromLocal8Bit( a_queries ) );
     if ( !file.open( QIODevice::ReadOnly ) )
         std::exit( s_kWrongUse );
-    volatile int found = 0;
     for ( QByteArray line = file.readLine().trimmed(); !line.isEmpty(); line = file.readLine().trimmed() )
     {
         const QByteArray kind = line.left( 4 );
         const QString text = QString::fromUtf8( line.mid( 5 ) );
+        const auto search = [&]( const QString& a_text )
+        {
+            if ( kind == "keys" )
+                model.SetKeys( a_text );
+            else
+                model.SetFilter( a_text );
+        };
+        search( text.left( text.size() - 1 ) );
         CALLGRIND_ZERO_STATS;
-        found = found + Found( phoneBook, kind, text );
+        search( text );
         CALLGRIND_DUMP_STATS_AT( line.constData() );
     }
-    End( phoneBook.Size() );
+    End( model.PhoneBook().Size() );
 }
 
 void Find( const QByteArray& a_kind, const char* a_name, const char* a_text, int a_times )
@@ -195,8 +205,8 @@ int main( int argc, char* argv[] )
         PrintQueries( argv[2] );
         return 0;
     }
-    if ( command == "each" && argc > 3 )
-        Each( argv[2], argv[3] );
+    if ( command == "model" && argc > 3 )
+        Model( argv[2], argv[3] );
     if ( ( command == "find" || command == "keys" ) && argc > 4 )
         Find( command, argv[2], argv[3], std::atoi( argv[4] ) );
     if ( command == "who" && argc > 3 )
@@ -205,7 +215,7 @@ int main( int argc, char* argv[] )
         Compare( argv[2], argv[3] );
     std::fputs( "usage: pimvcard-measure-phonebook book|index FILE [SNAPSHOT]\n"
                 "       pimvcard-measure-phonebook queries FILE\n"
-                "       pimvcard-measure-phonebook each FILE QUERIES\n"
+                "       pimvcard-measure-phonebook model FILE QUERIES\n"
                 "       pimvcard-measure-phonebook find|keys FILE TEXT TIMES\n"
                 "       pimvcard-measure-phonebook who FILE TIMES\n"
                 "       pimvcard-measure-phonebook compare OLD NEW\n",

@@ -1,7 +1,8 @@
 #include "Changes/PersonName.h"
 
+#include "Search/FoldedText.h"
+
 #include <algorithm>
-#include <utility>
 
 namespace PimManager::PhoneBook
 {
@@ -11,7 +12,7 @@ using Contacts::PimContact;
 namespace
 {
 
-// Longer names do not occur, and some functions for texts are slow for them.
+// Longer names do not occur.
 constexpr int s_kMostCharacters = 256;
 constexpr int s_kMostWords = 8;
 // Short words are others' names if a letter changes: Jan and Jana, Max and Maxi.
@@ -48,32 +49,21 @@ QString NameOf( const PimContact& a_contact )
     return HasName( a_contact ) ? a_contact.DisplayName() : OrganisationOf( a_contact );
 }
 
-QString Folded( const QString& a_text )
-{
-    QString folded;
-    for ( const QChar character : a_text.left( s_kMostCharacters ).normalized( QString::NormalizationForm_KD ) )
-    {
-        if ( character.category() != QChar::Mark_NonSpacing )
-            folded += character;
-    }
-    return folded.toCaseFolded();
-}
-
-bool IsOfWord( QChar a_character )
-{
-    return a_character.isLetterOrNumber() || a_character.isSurrogate() || a_character.isMark();
-}
-
 QStringList WordsIn( const QString& a_text )
 {
+    FoldedText text;
+    text.Append( a_text.left( s_kMostCharacters ) );
     QStringList words;
-    QString word;
-    for ( const QChar character : Folded( a_text ) + QLatin1Char( ' ' ) )
+    for ( const FoldedText::Chain& chain : text.Chains() )
     {
-        if ( IsOfWord( character ) )
-            word += character;
-        else if ( !word.isEmpty() && words.size() < s_kMostWords )
-            words.append( std::exchange( word, QString() ) );
+        for ( quint32 start = 0; start < chain.m_starts; ++start )
+        {
+            const quint32 begin = text.StartAt( chain, start ).m_plain;
+            if ( !text.StartAt( chain, start ).m_isWord || words.size() == s_kMostWords )
+                continue;
+            const std::string_view word = text.Text( begin, text.EndOf( chain, start ).m_plain );
+            words.append( QString::fromUtf8( word.data(), static_cast<int>( word.size() ) ) );
+        }
     }
     return words;
 }

@@ -1,6 +1,7 @@
 #include "Checks/SearchLaws.h"
 
 #include <PimManager/PhoneBook/PimPhoneBook.h>
+#include <PimManager/PhoneBook/PimPhoneBookNumber.h>
 
 #include <algorithm>
 #include <numeric>
@@ -53,11 +54,6 @@ bool IsCallerBefore( const PimPhoneBookCaller& a_first, const PimPhoneBookCaller
 bool IsPlaceBefore( const PimPhoneBookMatch& a_first, const PimPhoneBookMatch& a_second )
 {
     return a_first.m_place < a_second.m_place;
-}
-
-bool HasDigits( const QString& a_text )
-{
-    return std::any_of( a_text.begin(), a_text.end(), []( QChar a_character ) { return a_character.isDigit(); } );
 }
 
 /// A phone book, and the laws.
@@ -127,7 +123,9 @@ private:
     {
         for ( const PimContactPhone& phone : m_phoneBook.At( a_contact ).Phones() )
         {
-            if ( HasDigits( phone.Number() ) && !Contains( m_phoneBook.WhoIs( phone.Number() ), a_contact ) )
+            const auto own = PimPhoneBookNumber::FromPhone( phone );
+            const PimPhoneBookGrade grade = PimPhoneBookNumber::FromText( phone.Number() ).Compare( own );
+            if ( grade != PimPhoneBookGrade::None && !Contains( m_phoneBook.WhoIs( phone.Number() ), a_contact ) )
                 return false;
         }
         return true;

@@ -10,7 +10,7 @@
 
 #include <QSharedData>
 
-#include <iterator>
+#include <array>
 
 namespace PimManager::PhoneBook
 {
@@ -21,14 +21,18 @@ using Contacts::PimContactBook;
 namespace
 {
 
-constexpr PimPhoneBookBasis s_kIdentifierBases[] = { PimPhoneBookBasis::Uid, PimPhoneBookBasis::BluetoothUid };
+// In the order of IdentifierNames().
+constexpr std::array<PimPhoneBookBasis, s_kIdentifiers> s_kIdentifierBases = { PimPhoneBookBasis::Uid,
+                                                                               PimPhoneBookBasis::BluetoothUid };
 
 void PairContacts( BookPairing& a_pairing, const PimPhoneBookOptions& a_options )
 {
     ContentMatches contents( a_pairing );
     contents.PairSameCards();
-    for ( int i = 0; a_pairing.HasFree() && i < IdentifierNames().size(); ++i )
-        PairByIdentifier( a_pairing, contents, IdentifierNames().at( i ), s_kIdentifierBases[i] );
+    if ( a_pairing.HasFree() )
+        a_pairing.ReadIdentifiers();
+    for ( size_t i = 0; a_pairing.HasFree() && i < s_kIdentifiers; ++i )
+        PairByIdentifier( a_pairing, contents, i, s_kIdentifierBases.at( i ) );
     if ( a_pairing.HasFree() )
         contents.PairEqualContacts( a_pairing.FreeOld(), a_pairing.FreeNew(), PimPhoneBookBasis::Content );
     if ( a_pairing.HasFree() )
@@ -37,8 +41,12 @@ void PairContacts( BookPairing& a_pairing, const PimPhoneBookOptions& a_options 
 
 bool IsChanged( const BookPairing& a_pairing, const PimPhoneBookPair& a_pair )
 {
-    return !a_pairing.IsKnownSame( a_pair.m_new ) &&
-           !AreEqualContacts( a_pairing.OldBook().CardAt( a_pair.m_old ), a_pairing.NewBook().CardAt( a_pair.m_new ) );
+    if ( a_pairing.IsKnownSame( a_pair.m_new ) )
+        return false;
+    const QList<QLatin1String> ignored =
+        IgnoredIdentifiers( a_pairing.OldIdentifiers( a_pair.m_old ), a_pairing.NewIdentifiers( a_pair.m_new ) );
+    return !AreEqualWithout( a_pairing.OldBook().CardAt( a_pair.m_old ), a_pairing.NewBook().CardAt( a_pair.m_new ),
+                             ignored );
 }
 
 QVector<int> WithoutPartner( const QVector<int>& a_partners )

@@ -23,6 +23,16 @@ std::vector<int> BookPairing::FreeIn( const QVector<int>& a_partners )
     return free;
 }
 
+void BookPairing::ReadIdentifiers()
+{
+    m_oldIdentifiers.resize( static_cast<size_t>( m_newOf.size() ) );
+    m_newIdentifiers.resize( static_cast<size_t>( m_oldOf.size() ) );
+    for ( const int contact : FreeOld() )
+        m_oldIdentifiers[static_cast<size_t>( contact )] = IdentifiersOf( m_oldBook.CardAt( contact ) );
+    for ( const int contact : FreeNew() )
+        m_newIdentifiers[static_cast<size_t>( contact )] = IdentifiersOf( m_newBook.CardAt( contact ) );
+}
+
 void BookPairing::Pair( int a_old, int a_new, PimPhoneBookBasis a_basis, bool a_isSame )
 {
     Q_ASSERT( IsOldFree( a_old ) && IsNewFree( a_new ) );

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Changes/Identifiers.h"
+
 #include <PimManager/PhoneBook/PimPhoneBookChanges.h>
 
 #include <QVector>
@@ -30,8 +32,13 @@ public:
     std::vector<int> FreeOld() const { return FreeIn( m_newOf ); }
     std::vector<int> FreeNew() const { return FreeIn( m_oldOf ); }
 
+    /// Reads the identifiers of the free contacts. The functions below return them, and none for other contacts.
+    void ReadIdentifiers();
+    const Identifiers& OldIdentifiers( int a_old ) const { return m_oldIdentifiers[static_cast<size_t>( a_old )]; }
+    const Identifiers& NewIdentifiers( int a_new ) const { return m_newIdentifiers[static_cast<size_t>( a_new )]; }
+
     /// Makes a pair of two contacts that are both free.
-    /// \param a_isSame the cards are known to have the same lines.
+    /// \param a_isSame the contacts are known to be equal, apart from identifiers that do not count.
     void Pair( int a_old, int a_new, PimPhoneBookBasis a_basis, bool a_isSame = false );
 
     const QVector<int>& NewOf() const { return m_newOf; }
@@ -48,6 +55,8 @@ private:
     const Contacts::PimContactBook& m_newBook;
     QVector<int> m_newOf;
     QVector<int> m_oldOf;
+    std::vector<Identifiers> m_oldIdentifiers;
+    std::vector<Identifiers> m_newIdentifiers;
     // For each new contact: the basis of its pair, and s_kIsSame.
     QVector<quint8> m_facts;
     int m_pairs = 0;

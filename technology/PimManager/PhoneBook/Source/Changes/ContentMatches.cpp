@@ -21,9 +21,9 @@ namespace
 // So many different contents with one hash are told apart. More occur only if cards were made for it.
 constexpr size_t s_kMostContents = 8;
 
-// The sets of identifiers, see IdentifiersOf(). Sets with a common one are last. Contacts with more identifiers fit
+// The sets of identifiers, with a bit for each. Sets with a common one are last. Contacts with more identifiers fit
 // fewer others, so they are first.
-constexpr size_t s_kIdentifierSets = 4;
+constexpr size_t s_kIdentifierSets = size_t( 1 ) << s_kIdentifiers;
 constexpr std::array<std::pair<size_t, size_t>, s_kIdentifierSets* s_kIdentifierSets> s_kIdentifierOrder = {
     { { 3, 0 },
       { 0, 3 },
@@ -44,6 +44,14 @@ constexpr std::array<std::pair<size_t, size_t>, s_kIdentifierSets* s_kIdentifier
 
 /// Contacts of one book with equal content, in its order.
 using EqualContacts = std::vector<int>;
+
+size_t SetOf( const Identifiers& a_identifiers )
+{
+    size_t set = 0;
+    for ( size_t i = 0; i < s_kIdentifiers; ++i )
+        set |= a_identifiers.at( i ).isEmpty() ? 0 : size_t( 1 ) << i;
+    return set;
+}
 
 KeyedContacts Hashed( const PimContactBook& a_book, const std::vector<int>& a_contacts, quint64 a_seed,
                       const QList<QLatin1String>& a_except )
@@ -92,7 +100,7 @@ public:
             const int old = a_old.begin()->m_contact;
             const int other = a_new.begin()->m_contact;
             if ( a_areEqual( OldCard( old ), NewCard( other ) ) )
-                m_pairing.Pair( old, other, m_basis, m_haveSameLines );
+                Pair( old, other );
             return;
         }
         const std::vector<EqualContacts> olds = ContentsIn( m_pairing.OldBook(), a_old, a_areEqual );
@@ -109,6 +117,15 @@ public:
     }
 
 private:
+    // An identifier that both have counts.
+    void Pair( int a_old, int a_new )
+    {
+        const bool isSame = m_haveSameLines || ( OldSet( a_old ) & NewSet( a_new ) ) == 0;
+        m_pairing.Pair( a_old, a_new, m_basis, isSame );
+    }
+
+    size_t OldSet( int a_old ) const { return SetOf( m_pairing.OldIdentifiers( a_old ) ); }
+    size_t NewSet( int a_new ) const { return SetOf( m_pairing.NewIdentifiers( a_new ) ); }
     const PimContactCard& OldCard( int a_old ) const { return m_pairing.OldBook().CardAt( a_old ); }
     const PimContactCard& NewCard( int a_new ) const { return m_pairing.NewBook().CardAt( a_new ); }
 
@@ -118,19 +135,14 @@ private:
     {
         if ( m_haveSameLines )
             return PairInOrder( EqualContacts( a_old ), EqualContacts( a_new ) );
-        auto olds = ByIdentifiers( m_pairing.OldBook(), a_old );
-        auto news = ByIdentifiers( m_pairing.NewBook(), a_new );
+        std::array<EqualContacts, s_kIdentifierSets> olds;
+        std::array<EqualContacts, s_kIdentifierSets> news;
+        for ( const int contact : a_old )
+            olds.at( OldSet( contact ) ).push_back( contact );
+        for ( const int contact : a_new )
+            news.at( NewSet( contact ) ).push_back( contact );
         for ( const auto& [old, other] : s_kIdentifierOrder )
             PairInOrder( olds.at( old ), news.at( other ) );
-    }
-
-    static std::array<EqualContacts, s_kIdentifierSets> ByIdentifiers( const PimContactBook& a_book,
-                                                                       const EqualContacts& a_contacts )
-    {
-        std::array<EqualContacts, s_kIdentifierSets> sets;
-        for ( const int contact : a_contacts )
-            sets.at( IdentifiersOf( a_book.CardAt( contact ) ) ).push_back( contact );
-        return sets;
     }
 
     /// Removes the contacts that were paired.
@@ -139,8 +151,7 @@ private:
     {
         const auto pairs = static_cast<int>( std::min( a_old.size(), a_new.size() ) );
         for ( int i = 0; i < pairs; ++i )
-            m_pairing.Pair( a_old[static_cast<size_t>( i )], a_new[static_cast<size_t>( i )], m_basis,
-                            m_haveSameLines );
+            Pair( a_old[static_cast<size_t>( i )], a_new[static_cast<size_t>( i )] );
         a_old.erase( a_old.begin(), a_old.begin() + pairs );
         a_new.erase( a_new.begin(), a_new.begin() + pairs );
     }
@@ -180,10 +191,12 @@ void ContentMatches::PairEqualContacts( const std::vector<int>& a_old, const std
                                         PimPhoneBookBasis a_basis )
 {
     const QList<QLatin1String> except = IdentifierNames() + QList<QLatin1String>{ QLatin1String( "VERSION" ) };
+    const auto areEqual = []( const PimContactCard& a_first, const PimContactCard& a_second )
+    { return AreEqualWithout( a_first, a_second, IdentifierNames() ); };
     EqualContactsPairing pairing( m_pairing, a_basis, false );
     VisitRuns( a_old, a_new, except,
                [&]( const ContactRun& a_oldRun, const ContactRun& a_newRun )
-               { pairing.PairRuns( a_oldRun, a_newRun, AreEqualButForIdentifiers ); } );
+               { pairing.PairRuns( a_oldRun, a_newRun, areEqual ); } );
 }
 
 } // namespace PimManager::PhoneBook

@@ -22,7 +22,7 @@ public:
 
     /// Pairs contacts that have the same lines, identifiers included.
     void PairSameCards();
-    /// Pairs contacts that are equal apart from their identifiers.
+    /// Pairs contacts that are equal apart from their identifiers, which the pairing has read.
     /// \param a_old, a_new free contacts, ascending.
     void PairEqualContacts( const std::vector<int>& a_old, const std::vector<int>& a_new, PimPhoneBookBasis a_basis );
 

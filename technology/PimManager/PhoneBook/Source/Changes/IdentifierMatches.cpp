@@ -1,6 +1,5 @@
 #include "Changes/IdentifierMatches.h"
 
-#include "Changes/Identifiers.h"
 #include "Changes/KeyedContacts.h"
 #include "Changes/PersonName.h"
 #include "Changes/TextNumbers.h"
@@ -102,17 +101,16 @@ private:
 
 } // namespace
 
-void PairByIdentifier( BookPairing& a_pairing, ContentMatches& a_contents, QLatin1String a_identifier,
+void PairByIdentifier( BookPairing& a_pairing, ContentMatches& a_contents, size_t a_identifier,
                        PimPhoneBookBasis a_basis )
 {
     TextNumbers numbers;
-    const auto identifierIn = [a_identifier]( const PimContactBook& a_book )
-    {
-        return [&a_book, a_identifier]( int a_contact )
-        { return IdentifierOf( a_book.CardAt( a_contact ), a_identifier ); };
-    };
-    KeyedContacts olds = Keyed( a_pairing.FreeOld(), numbers, identifierIn( a_pairing.OldBook() ) );
-    KeyedContacts news = Keyed( a_pairing.FreeNew(), numbers, identifierIn( a_pairing.NewBook() ) );
+    KeyedContacts olds =
+        Keyed( a_pairing.FreeOld(), numbers,
+               [&]( int a_contact ) { return a_pairing.OldIdentifiers( a_contact ).at( a_identifier ); } );
+    KeyedContacts news =
+        Keyed( a_pairing.FreeNew(), numbers,
+               [&]( int a_contact ) { return a_pairing.NewIdentifiers( a_contact ).at( a_identifier ); } );
     VisitCommonKeys( olds, news,
                      [&]( const ContactRun& a_old, const ContactRun& a_new )
                      { IdentifierGroup( a_pairing, a_basis, a_old, a_new ).Pair( a_contents ); } );

@@ -44,13 +44,6 @@ void RemoveBluetoothUids( PimContact& a_contact, const PimContactCard& a_card )
     }
 }
 
-bool AreEqualWithout( const PimContactCard& a_first, const PimContactCard& a_second,
-                      const QList<QLatin1String>& a_names )
-{
-    return a_first.HasSameLines( a_second, a_names ) ||
-           ContactWithout( a_first, a_names ) == ContactWithout( a_second, a_names );
-}
-
 } // namespace
 
 const QList<QLatin1String>& IdentifierNames()
@@ -59,36 +52,28 @@ const QList<QLatin1String>& IdentifierNames()
     return s_names;
 }
 
-QString IdentifierOf( const PimContactCard& a_card, QLatin1String a_name )
+Identifiers IdentifiersOf( const PimContactCard& a_card )
 {
+    Identifiers identifiers;
+    const QList<QLatin1String>& names = IdentifierNames();
     for ( const PimContactLine& line : a_card )
     {
-        const QString key = line.IsNamed( a_name ) ? KeyOf( line.Text() ) : QString();
-        if ( !key.isEmpty() )
-            return key;
-    }
-    return QString();
-}
-
-size_t IdentifiersOf( const PimContactCard& a_card )
-{
-    size_t identifiers = 0;
-    size_t bit = 1;
-    for ( const QLatin1String name : IdentifierNames() )
-    {
-        identifiers |= IdentifierOf( a_card, name ).isEmpty() ? 0 : bit;
-        bit <<= 1U;
+        for ( size_t i = 0; i < s_kIdentifiers; ++i )
+        {
+            if ( line.IsNamed( names.at( static_cast<int>( i ) ) ) && identifiers.at( i ).isEmpty() )
+                identifiers.at( i ) = KeyOf( line.Text() );
+        }
     }
     return identifiers;
 }
 
-QList<QLatin1String> IgnoredIdentifiers( const PimContactCard& a_first, const PimContactCard& a_second )
+QList<QLatin1String> IgnoredIdentifiers( const Identifiers& a_first, const Identifiers& a_second )
 {
     QList<QLatin1String> ignored;
-    for ( const QLatin1String name : IdentifierNames() )
+    for ( size_t i = 0; i < s_kIdentifiers; ++i )
     {
-        if ( IdentifierOf( a_first, name ).isEmpty() || IdentifierOf( a_second, name ).isEmpty() )
-            ignored.append( name );
+        if ( a_first.at( i ).isEmpty() || a_second.at( i ).isEmpty() )
+            ignored.append( IdentifierNames().at( static_cast<int>( i ) ) );
     }
     return ignored;
 }
@@ -103,14 +88,11 @@ PimContact ContactWithout( const PimContactCard& a_card, const QList<QLatin1Stri
     return contact;
 }
 
-bool AreEqualContacts( const PimContactCard& a_first, const PimContactCard& a_second )
+bool AreEqualWithout( const PimContactCard& a_first, const PimContactCard& a_second,
+                      const QList<QLatin1String>& a_identifiers )
 {
-    return AreEqualWithout( a_first, a_second, IgnoredIdentifiers( a_first, a_second ) );
-}
-
-bool AreEqualButForIdentifiers( const PimContactCard& a_first, const PimContactCard& a_second )
-{
-    return AreEqualWithout( a_first, a_second, IdentifierNames() );
+    return a_first.HasSameLines( a_second, a_identifiers ) ||
+           ContactWithout( a_first, a_identifiers ) == ContactWithout( a_second, a_identifiers );
 }
 
 } // namespace PimManager::PhoneBook

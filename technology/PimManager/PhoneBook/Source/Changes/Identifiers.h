@@ -9,35 +9,35 @@
 #include <QList>
 #include <QString>
 
+#include <array>
+
 namespace PimManager::PhoneBook
 {
+
+constexpr size_t s_kIdentifiers = 2;
+/// The index of UID.
+constexpr size_t s_kUidIdentifier = 0;
 
 /// The names of the lines, the most reliable one first.
 const QList<QLatin1String>& IdentifierNames();
 
-/// \return the first value that is not empty, in lower case and without `urn:uuid:`. Empty if there is none.
-QString IdentifierOf( const Contacts::PimContactCard& a_card, QLatin1String a_name );
+/// The values of the lines in the order of IdentifierNames(), in lower case and without `urn:uuid:`. Empty if there is
+/// none that is not empty.
+using Identifiers = std::array<QString, s_kIdentifiers>;
 
-inline QString UidOf( const Contacts::PimContactCard& a_card )
-{
-    return IdentifierOf( a_card, IdentifierNames().constFirst() );
-}
+/// Reads all identifiers of a card.
+Identifiers IdentifiersOf( const Contacts::PimContactCard& a_card );
 
-/// \return which identifiers the card has: a bit for each of IdentifierNames(), the first one lowest.
-size_t IdentifiersOf( const Contacts::PimContactCard& a_card );
-
-/// \return the identifiers that do not count when two cards are compared: those that not both of them have.
-QList<QLatin1String> IgnoredIdentifiers( const Contacts::PimContactCard& a_first,
-                                         const Contacts::PimContactCard& a_second );
+/// \return the names of the identifiers that do not count when two cards are compared: those that not both of them
+/// have.
+QList<QLatin1String> IgnoredIdentifiers( const Identifiers& a_first, const Identifiers& a_second );
 
 /// \return the contact of a card without some of the identifiers.
 Contacts::PimContact ContactWithout( const Contacts::PimContactCard& a_card,
                                      const QList<QLatin1String>& a_identifiers );
 
-/// \return true if two contacts are equal, apart from identifiers that do not count.
-bool AreEqualContacts( const Contacts::PimContactCard& a_first, const Contacts::PimContactCard& a_second );
-
-/// \return true if two contacts are equal apart from their identifiers.
-bool AreEqualButForIdentifiers( const Contacts::PimContactCard& a_first, const Contacts::PimContactCard& a_second );
+/// \return true if two contacts are equal apart from some identifiers.
+bool AreEqualWithout( const Contacts::PimContactCard& a_first, const Contacts::PimContactCard& a_second,
+                      const QList<QLatin1String>& a_identifiers );
 
 } // namespace PimManager::PhoneBook

@@ -71,9 +71,9 @@ PimPhoneBookLines Rearranged( const ComparedLines& a_old, const ComparedLines& a
 
 PimPhoneBookLines DifferentLines( const PimContactCard& a_old, const PimContactCard& a_new )
 {
-    if ( AreEqualContacts( a_old, a_new ) )
+    const QList<QLatin1String> ignored = IgnoredIdentifiers( IdentifiersOf( a_old ), IdentifiersOf( a_new ) );
+    if ( AreEqualWithout( a_old, a_new, ignored ) )
         return PimPhoneBookLines();
-    const QList<QLatin1String> ignored = IgnoredIdentifiers( a_old, a_new );
     ComparedLines olds( a_old, ignored );
     ComparedLines news( a_new, ignored );
     MatchTexts( olds, news );

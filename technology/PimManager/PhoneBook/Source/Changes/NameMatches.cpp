@@ -9,21 +9,34 @@
 namespace PimManager::PhoneBook
 {
 
-using Contacts::PimContactBook;
+using Contacts::PimContactCard;
 
 namespace
 {
 
 using People = std::vector<Person>;
 
-People PeopleIn( const PimContactBook& a_book, const std::vector<int>& a_contacts, const PimPhoneBookOptions& a_options,
-                 PersonTexts& a_texts )
+People OldPeople( const BookPairing& a_pairing, const PimPhoneBookOptions& a_options, PersonTexts& a_texts )
 {
     People people;
-    people.reserve( a_contacts.size() );
-    for ( const int contact : a_contacts )
-        people.emplace_back( a_book.CardAt( contact ), contact, a_options, a_texts );
+    for ( const int old : a_pairing.FreeOld() )
+        people.emplace_back( a_pairing.OldBook().CardAt( old ), old,
+                             a_pairing.OldIdentifiers( old ).at( s_kUidIdentifier ), a_options, a_texts );
     return people;
+}
+
+People NewPeople( const BookPairing& a_pairing, const PimPhoneBookOptions& a_options, PersonTexts& a_texts )
+{
+    People people;
+    for ( const int other : a_pairing.FreeNew() )
+        people.emplace_back( a_pairing.NewBook().CardAt( other ), other,
+                             a_pairing.NewIdentifiers( other ).at( s_kUidIdentifier ), a_options, a_texts );
+    return people;
+}
+
+QString UidOf( const PimContactCard& a_card )
+{
+    return IdentifiersOf( a_card ).at( s_kUidIdentifier );
 }
 
 // Some programs give new UIDs to all contacts. Then no contact has kept its UID.
@@ -46,8 +59,8 @@ class PeoplePairing
 public:
     PeoplePairing( BookPairing& a_pairing, const PimPhoneBookOptions& a_options ) :
         m_pairing( a_pairing ),
-        m_old( PeopleIn( a_pairing.OldBook(), a_pairing.FreeOld(), a_options, m_texts ) ),
-        m_new( PeopleIn( a_pairing.NewBook(), a_pairing.FreeNew(), a_options, m_texts ) ),
+        m_old( OldPeople( a_pairing, a_options, m_texts ) ),
+        m_new( NewPeople( a_pairing, a_options, m_texts ) ),
         m_doUidsCount( AreUidsKept( a_pairing ) ),
         m_oldCounts( m_old.size() ),
         m_newCounts( m_new.size() )

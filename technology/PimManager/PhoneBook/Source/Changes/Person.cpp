@@ -1,7 +1,5 @@
 #include "Changes/Person.h"
 
-#include "Changes/Identifiers.h"
-
 #include <PimManager/PhoneBook/PimPhoneBookNumber.h>
 
 #include <QHash>
@@ -74,14 +72,14 @@ bool IsOtherEvidence( const PimContactLine& a_line )
 
 } // namespace
 
-Person::Person( const PimContactCard& a_card, int a_index, const PimPhoneBookOptions& a_options,
+Person::Person( const PimContactCard& a_card, int a_index, const QString& a_uid, const PimPhoneBookOptions& a_options,
                 PersonTexts& a_texts ) :
     m_card( a_card ),
     m_index( a_index ),
     m_name( PimContact( a_card ) ),
     m_nameNumber( a_texts.m_names.NumberOf( m_name.Key() ) ),
     m_words( WordsOf( m_name, a_texts.m_words ) ),
-    m_uid( UidOf( a_card ) ),
+    m_uid( a_uid ),
     m_addresses( AddressesOf( PimContact( a_card ), a_options, a_texts.m_addresses ) )
 {
 }

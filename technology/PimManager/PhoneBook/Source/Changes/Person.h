@@ -26,8 +26,8 @@ struct PersonTexts
 struct Person
 {
     /// Reads a contact. The options say how numbers are read and how many of their last digits count.
-    Person( const Contacts::PimContactCard& a_card, int a_index, const PimPhoneBookOptions& a_options,
-            PersonTexts& a_texts );
+    Person( const Contacts::PimContactCard& a_card, int a_index, const QString& a_uid,
+            const PimPhoneBookOptions& a_options, PersonTexts& a_texts );
 
     Contacts::PimContactCard m_card;
     int m_index;

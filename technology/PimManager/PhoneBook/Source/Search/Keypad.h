@@ -5,6 +5,7 @@
 
 #include <QtGlobal>
 
+#include <array>
 #include <string_view>
 
 namespace PimManager::PhoneBook
@@ -22,24 +23,25 @@ public:
 
     void Add( int a_key )
     {
-        if ( m_size == s_kMostKeys )
+        if ( m_shift < 0 )
             return;
-        m_keys |= static_cast<quint64>( a_key ) << Shift( m_size );
-        ++m_size;
+        m_keys |= static_cast<quint64>( a_key ) << m_shift;
+        m_shift -= s_kBits;
     }
-    bool IsEmpty() const { return m_size == 0; }
+    bool IsEmpty() const { return m_keys == 0; }
 
     quint64 First() const { return m_keys; }
     quint64 Last() const
     {
-        return m_size == 0 ? ~quint64( 0 ) : m_keys + ( ( quint64( 1 ) << Shift( m_size - 1 ) ) - 1 );
+        return IsEmpty() ? ~quint64( 0 ) : m_keys + ( ( quint64( 1 ) << ( m_shift + s_kBits ) ) - 1 );
     }
 
 private:
-    static constexpr int Shift( int a_place ) { return 4 * ( s_kMostKeys - 1 - a_place ); }
+    static constexpr int s_kBits = 4;
 
     quint64 m_keys = 0;
-    int m_size = 0;
+    // The place of the next key; negative if there is none.
+    int m_shift = s_kBits * ( s_kMostKeys - 1 );
 };
 
 /// \return the key of a folded character, from 2 to 9; for the digits 0 and 1, that digit; -1 if it is on no key.
@@ -73,18 +75,28 @@ inline KeyWord KeyWordAt( std::string_view a_word, quint32 a_index )
 /// \return its key, as KeyOf() does.
 int TakeOtherKey( std::string_view& a_text );
 
+/// The keys of ASCII characters; a digit is its own key.
+constexpr std::array<signed char, 0x80> s_kKeysOfAscii = []
+{
+    constexpr std::string_view s_kLetters = "22233344455566677778889999";
+    std::array<signed char, 0x80> keys = {};
+    for ( signed char& key : keys )
+        key = -1;
+    for ( size_t i = 0; i < s_kLetters.size(); ++i )
+        keys['a' + i] = static_cast<signed char>( s_kLetters[i] - '0' );
+    for ( size_t i = 0; i < 10; ++i )
+        keys['0' + i] = static_cast<signed char>( i );
+    return keys;
+}();
+
 /// The same for any character.
 inline int TakeKey( std::string_view& a_text )
 {
-    // A digit is its own key.
-    constexpr std::string_view s_kLetters = "22233344455566677778889999";
-    const char first = a_text.front();
-    if ( static_cast<uchar>( first ) >= 0x80 )
+    const auto first = static_cast<uchar>( a_text.front() );
+    if ( first >= s_kKeysOfAscii.size() )
         return TakeOtherKey( a_text );
     a_text.remove_prefix( 1 );
-    if ( first >= 'a' && first <= 'z' )
-        return s_kLetters[static_cast<size_t>( first - 'a' )] - '0';
-    return first >= '0' && first <= '9' ? first - '0' : -1;
+    return s_kKeysOfAscii[first];
 }
 
 template <class Take>
@@ -95,10 +107,10 @@ void ForEachKeyWord( std::string_view a_word, Take a_take )
     while ( !a_word.empty() )
     {
         const int key = TakeKey( a_word );
-        if ( key < 0 )
-            isEnded = true;
-        else if ( key > 1 && !isEnded )
+        if ( key > 1 && !isEnded )
             keys.Add( key );
+        else if ( key < 0 )
+            isEnded = true;
         else if ( key <= 1 )
         {
             if ( !keys.IsEmpty() && !a_take( keys ) )

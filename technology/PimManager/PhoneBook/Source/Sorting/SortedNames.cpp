@@ -14,7 +14,7 @@ namespace
 
 constexpr size_t s_kHead = sizeof( quint64 );
 // Names that are equal so far are rare, and are compared by the alphabet anyway.
-constexpr size_t s_kMostBytes = 24;
+constexpr size_t s_kMostBytes = 16;
 
 /// A name as it is sorted first: without accents, by its bytes.
 struct Rough

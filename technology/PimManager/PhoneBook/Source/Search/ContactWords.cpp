@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
 
 namespace PimManager::PhoneBook
 {
@@ -38,11 +39,16 @@ CardSigns SignsOf( std::string_view a_card )
 {
     constexpr size_t s_kNear = 5;
     CardSigns signs;
-    signs.m_hasEscape = a_card.find( '\\' ) != std::string_view::npos || a_card.find( "=3" ) != std::string_view::npos;
+    signs.m_hasEscape = a_card.find( '\\' ) != std::string_view::npos;
+    for ( size_t sign = a_card.find( '=' ); sign != std::string_view::npos; sign = a_card.find( '=', sign + 1 ) )
+        signs.m_hasEscape = signs.m_hasEscape || a_card.substr( sign + 1, 1 ) == "3";
     for ( size_t dash = a_card.find( '-' ); dash != std::string_view::npos; dash = a_card.find( '-', dash + 1 ) )
     {
         const size_t size = std::min( dash, s_kNear );
         const std::string_view before = a_card.substr( dash - size, size );
+        // Most dashes are in numbers.
+        if ( size > 0 && before.back() >= '0' && before.back() <= '9' )
+            continue;
         // A name may be folded.
         const bool isFolded = before.find( '\n' ) != std::string_view::npos;
         signs.m_hasSortText = signs.m_hasSortText || EndsWith( before, "sort" ) || isFolded;
@@ -141,10 +147,17 @@ bool IsSpoken( QStringView a_text, const PlainName& a_name )
     return a_text == a_name.m_family;
 }
 
-QString SortNameOf( const PlainName& a_name, PimPhoneBookSorting a_sorting )
+/// \param a_text the text of the plain name, which is not needed any more.
+QString SortNameOf( const PlainName& a_name, QString& a_text, PimPhoneBookSorting a_sorting )
 {
-    return a_sorting == PimPhoneBookSorting::GivenName ? Joined( a_name.m_given, a_name.m_family )
-                                                       : Joined( a_name.m_family, a_name.m_given );
+    if ( a_sorting == PimPhoneBookSorting::GivenName )
+        return Joined( a_name.m_given, a_name.m_family );
+    const auto familyEnd = static_cast<int>( a_name.m_family.size() );
+    const auto givenEnd = familyEnd + 1 + static_cast<int>( a_name.m_given.size() );
+    QString name = std::move( a_text );
+    name.truncate( givenEnd );
+    name[familyEnd] = QLatin1Char( ' ' );
+    return name;
 }
 
 } // namespace
@@ -189,13 +202,13 @@ QString ContactWords::Finish( const PimContactCard& a_card, PimPhoneBookSorting 
     const bool hasNames = !m_names.Chains().empty() || !m_organisations.Chains().empty();
     const bool isPlain = name.m_isPlain && m_namesRead == 1 && !signs.m_hasSortText && !signs.m_hasEscape;
     if ( isPlain && hasNames && !signs.m_hasExtension )
-        return SortNameOf( name, a_sorting );
+        return SortNameOf( name, m_name, a_sorting );
     const PimContact contact( a_card );
     if ( signs.m_hasExtension )
         AddFurtherNames( contact );
     if ( m_names.Chains().empty() && m_organisations.Chains().empty() )
         m_names.Append( contact.DisplayName() );
-    return isPlain ? SortNameOf( name, a_sorting ) : SortNameOf( contact, a_sorting );
+    return isPlain ? SortNameOf( name, m_name, a_sorting ) : SortNameOf( contact, a_sorting );
 }
 
 // What programs write instead of, or in addition to, standard properties.

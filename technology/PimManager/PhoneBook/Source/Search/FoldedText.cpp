@@ -95,7 +95,8 @@ void FoldedText::AddLetters( std::string_view a_plain, std::string_view a_spelle
 {
     if ( !m_isInChain || m_isAfterJoint || a_kind != m_last || a_kind == LetterKind::Ideograph )
         BeginWord( a_kind );
-    if ( a_plain != a_spelled )
+    // Most letters are passed twice, and need not be compared.
+    if ( a_plain.data() != a_spelled.data() && a_plain != a_spelled )
         BeginSpelling();
     m_text += a_plain;
     if ( m_hasSpelling )

@@ -15,6 +15,8 @@ namespace
 constexpr size_t s_kHead = sizeof( quint64 );
 // Names that are equal so far are rare, and are compared by the alphabet anyway.
 constexpr size_t s_kMostBytes = 16;
+constexpr char16_t s_kAscii = 0x80;
+constexpr char16_t s_kLowerCase = 0x20;
 
 /// A name as it is sorted first: without accents, by its bytes.
 struct Rough
@@ -56,17 +58,14 @@ private:
     void AddText( const QString& a_name )
     {
         const size_t end = m_text.size() + s_kMostBytes;
-        for ( const QChar character : a_name )
+        for ( const QChar *character = a_name.constData(), *last = character + a_name.size();
+              character != last && m_text.size() < end; ++character )
         {
-            if ( m_text.size() >= end )
-                return;
-            const char16_t unit = character.unicode();
-            if ( unit >= u'A' && unit <= u'Z' )
-                m_text += static_cast<char>( unit + ( 'a' - 'A' ) );
-            else if ( unit < 0x80 )
-                m_text += static_cast<char>( unit );
-            else
+            const char16_t unit = character->unicode();
+            if ( unit >= s_kAscii )
                 m_text += m_letters.Of( unit ).m_plain;
+            else
+                m_text.push_back( static_cast<char>( unit >= u'A' && unit <= u'Z' ? unit | s_kLowerCase : unit ) );
         }
     }
 

@@ -1,6 +1,6 @@
 /// \file
-/// The declarations that the examples of PimManager::Contacts and PimManager::PhoneBook require: headers, the namespaces,
-/// and objects of the reader's program, which are declared but never defined.
+/// The declarations that the examples of PimManager::Contacts and PimManager::PhoneBook require: headers, the
+/// namespaces, and objects of the reader's program, which are declared but never defined.
 
 #pragma once
 

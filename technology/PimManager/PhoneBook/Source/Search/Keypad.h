@@ -75,8 +75,7 @@ inline KeyWord KeyWordAt( std::string_view a_word, quint32 a_index )
 /// \return its key, as KeyOf() does.
 int TakeOtherKey( std::string_view& a_text );
 
-/// The keys of ASCII characters; a digit is its own key.
-constexpr std::array<signed char, 0x80> s_kKeysOfAscii = []
+constexpr std::array<signed char, 0x80> FindKeysOfAscii()
 {
     constexpr std::string_view s_kLetters = "22233344455566677778889999";
     std::array<signed char, 0x80> keys = {};
@@ -87,7 +86,10 @@ constexpr std::array<signed char, 0x80> s_kKeysOfAscii = []
     for ( size_t i = 0; i < 10; ++i )
         keys['0' + i] = static_cast<signed char>( i );
     return keys;
-}();
+}
+
+/// The keys of ASCII characters; a digit is its own key.
+constexpr std::array<signed char, 0x80> s_kKeysOfAscii = FindKeysOfAscii();
 
 /// The same for any character.
 inline int TakeKey( std::string_view& a_text )

@@ -26,8 +26,8 @@ struct PropertyText;
 ///       - TEL  cell        +1-555-0101
 ///       + TEL  boat phone  +1-555-0102
 ///
-/// A card is named by its number in the book that has it, a changed one by that in the new book, with the reason why the
-/// versions are one contact. In the order of n log n for cards of n bytes.
+/// A card is named by its number in the book that has it, a changed one by that in the new book, with the reason why
+/// the versions are one contact. In the order of n log n for cards of n bytes.
 class DifferenceText : public DifferenceWriter
 {
 public:

@@ -137,7 +137,8 @@ public:
     /// A number to find cards with the same lines among many. Linear in the length of the card.
     /// \param a_seed   any number. A random one protects from cards that were made to have equal numbers.
     /// \param a_except as for HasSameLines().
-    /// \return a number that depends on the names and values of the lines: the same for cards of which HasSameLines() is
+    /// \return a number that depends on the names and values of the lines: the same for cards of which HasSameLines()
+    /// is
     ///         true, also if their groups, parameters, empty lines or the order of lines differ. Others rarely have the
     ///         same number. 0 if no lines count.
     quint64 ContentHash( quint64 a_seed, const QList<QLatin1String>& a_except = QList<QLatin1String>() ) const;

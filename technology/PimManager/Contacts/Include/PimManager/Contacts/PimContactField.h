@@ -112,8 +112,9 @@ class PimContactList : public QVarLengthArray<Field, 2>
 public:
     using QVarLengthArray<Field, 2>::QVarLengthArray;
 
-    /// \return the first or the last field. The list must not be empty.
+    /// \return the first field. The list must not be empty.
     const Field& constFirst() const { return this->first(); }
+    /// \return the last field. The list must not be empty.
     const Field& constLast() const { return this->last(); }
 
     /// \return the preferred field: the one with the lowest Preference(), or else the first one. An empty field if

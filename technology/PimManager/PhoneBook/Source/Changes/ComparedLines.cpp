@@ -57,16 +57,20 @@ bool IsOfText( QChar a_character )
     return !a_character.isSpace() && a_character != QLatin1Char( ';' ) && a_character != QLatin1Char( ',' );
 }
 
-// An empty line says nothing.
-bool DoesCount( const PimContactLine& a_line, const QString& a_value, const QList<QLatin1String>& a_except )
+bool IsEmpty( const QString& a_value )
 {
-    return !a_line.IsNamed( QLatin1String( "VERSION" ) ) && !IsNamedOneOf( a_line, a_except ) &&
-           std::any_of( a_value.begin(), a_value.end(), IsOfText );
+    return std::none_of( a_value.begin(), a_value.end(), IsOfText );
+}
+
+bool DoesCount( const PimContactLine& a_line, const QList<QLatin1String>& a_except )
+{
+    return !a_line.IsNamed( QLatin1String( "VERSION" ) ) && !IsNamedOneOf( a_line, a_except );
 }
 
 } // namespace
 
-ComparedLines::ComparedLines( const PimContactCard& a_card, const QList<QLatin1String>& a_except ) :
+ComparedLines::ComparedLines( const PimContactCard& a_card, const QList<QLatin1String>& a_except,
+                              bool a_doEmptyCount ) :
     m_contact( a_card )
 {
     const QList<int> ids = m_contact.LineIds();
@@ -75,7 +79,7 @@ ComparedLines::ComparedLines( const PimContactCard& a_card, const QList<QLatin1S
     {
         const int id = ids.at( next++ );
         const QString value = ValueOf( line );
-        if ( !DoesCount( line, value, a_except ) )
+        if ( !DoesCount( line, a_except ) || ( !a_doEmptyCount && IsEmpty( value ) ) )
             continue;
         const QString name = QString::fromLatin1( line.Name().toUpper() );
         m_places.insert( id, Size() );

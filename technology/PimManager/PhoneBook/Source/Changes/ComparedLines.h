@@ -31,7 +31,8 @@ class ComparedLines
 {
 public:
     /// \param a_except the names of lines that do not count. VERSION never counts.
-    ComparedLines( const Contacts::PimContactCard& a_card, const QList<QLatin1String>& a_except );
+    /// \param a_doEmptyCount lines without a value count.
+    ComparedLines( const Contacts::PimContactCard& a_card, const QList<QLatin1String>& a_except, bool a_doEmptyCount );
 
     const Contacts::PimContact& Contact() const { return m_contact; }
     int Size() const { return static_cast<int>( m_lines.size() ); }

@@ -15,6 +15,11 @@ using Contacts::PimContactCard;
 namespace
 {
 
+bool IsEmpty( const PimPhoneBookLines& a_lines )
+{
+    return a_lines.m_old.isEmpty() && a_lines.m_new.isEmpty();
+}
+
 void MatchTexts( ComparedLines& a_old, ComparedLines& a_new )
 {
     QHash<QString, QVector<int>> places;
@@ -67,19 +72,26 @@ PimPhoneBookLines Rearranged( const ComparedLines& a_old, const ComparedLines& a
     return LinesAt( a_old, a_new, moved.isEmpty() ? RegroupedLines( a_old, a_new ) : moved );
 }
 
+PimPhoneBookLines Compared( ComparedLines a_old, ComparedLines a_new )
+{
+    MatchTexts( a_old, a_new );
+    MatchFields( a_old, a_new );
+    const PimPhoneBookLines lines = { a_old.Alone(), a_new.Alone() };
+    return IsEmpty( lines ) ? Rearranged( a_old, a_new ) : lines;
+}
+
 } // namespace
 
+// Most programs leave empty lines out, so they are no difference unless there is no other one.
 PimPhoneBookLines DifferentLines( const PimContactCard& a_old, const PimContactCard& a_new )
 {
     const QList<QLatin1String> ignored = IgnoredIdentifiers( IdentifiersOf( a_old ), IdentifiersOf( a_new ) );
     if ( AreEqualWithout( a_old, a_new, ignored ) )
         return PimPhoneBookLines();
-    ComparedLines olds( a_old, ignored );
-    ComparedLines news( a_new, ignored );
-    MatchTexts( olds, news );
-    MatchFields( olds, news );
-    const PimPhoneBookLines lines = { olds.Alone(), news.Alone() };
-    return lines.m_old.isEmpty() && lines.m_new.isEmpty() ? Rearranged( olds, news ) : lines;
+    const PimPhoneBookLines lines =
+        Compared( ComparedLines( a_old, ignored, false ), ComparedLines( a_new, ignored, false ) );
+    return IsEmpty( lines ) ? Compared( ComparedLines( a_old, ignored, true ), ComparedLines( a_new, ignored, true ) )
+                            : lines;
 }
 
 } // namespace PimManager::PhoneBook

@@ -63,6 +63,7 @@ constexpr std::array s_kRows = {
          "-REV:2000-01-01 -REV:2001-01-01 +REV:20000101 +REV:2002-01-01" },
     Row{ "Nicknames", "NICKNAME:a,b\nFN:x\nNOTE:x", "NICKNAME:a,b\nFN:x\nNOTE:y", "-NOTE:x +NOTE:y" },
     Row{ "EmptyLines", "FN:a\nTEL:\nADR:;;;;;;\nNOTE:x", "FN:a\nNOTE:y", "-NOTE:x +NOTE:y" },
+    Row{ "OnlyEmptyLines", "FN:a", "FN:a\nX-A:", "+X-A:" },
     Row{ "UidMissing", "UID:1\nFN:a\nX-BT-UID:2", "FN:a\nNOTE:y", "+NOTE:y" },
     Row{ "UidDiffers", "UID:1\nFN:a", "UID:2\nFN:a", "-UID:1 +UID:2" },
     Row{ "Agent", "FN:a\nAGENT:\nBEGIN:VCARD\nFN:b\nEND:VCARD\nNOTE:x",

@@ -62,15 +62,14 @@ bool IsEmpty( const QString& a_value )
     return std::none_of( a_value.begin(), a_value.end(), IsOfText );
 }
 
-bool DoesCount( const PimContactLine& a_line, const QList<QLatin1String>& a_except )
+bool IsMinor( const PimContactLine& a_line, const QString& a_value )
 {
-    return !a_line.IsNamed( QLatin1String( "VERSION" ) ) && !IsNamedOneOf( a_line, a_except );
+    return a_line.IsNamed( QLatin1String( "VERSION" ) ) || IsEmpty( a_value );
 }
 
 } // namespace
 
-ComparedLines::ComparedLines( const PimContactCard& a_card, const QList<QLatin1String>& a_except,
-                              bool a_doEmptyCount ) :
+ComparedLines::ComparedLines( const PimContactCard& a_card, const QList<QLatin1String>& a_except, bool a_doAllCount ) :
     m_contact( a_card )
 {
     const QList<int> ids = m_contact.LineIds();
@@ -79,7 +78,7 @@ ComparedLines::ComparedLines( const PimContactCard& a_card, const QList<QLatin1S
     {
         const int id = ids.at( next++ );
         const QString value = ValueOf( line );
-        if ( !DoesCount( line, a_except ) || ( !a_doEmptyCount && IsEmpty( value ) ) )
+        if ( IsNamedOneOf( line, a_except ) || ( !a_doAllCount && IsMinor( line, value ) ) )
             continue;
         const QString name = QString::fromLatin1( line.Name().toUpper() );
         m_places.insert( id, Size() );
@@ -102,6 +101,14 @@ QList<PimContactLine> ComparedLines::Alone() const
         if ( line.m_partner < 0 )
             lines.append( line.m_line );
     }
+    return lines;
+}
+
+QList<PimContactLine> ComparedLines::All() const
+{
+    QList<PimContactLine> lines;
+    for ( const ComparedLine& line : m_lines )
+        lines.append( line.m_line );
     return lines;
 }
 

@@ -30,9 +30,9 @@ struct ComparedLine
 class ComparedLines
 {
 public:
-    /// \param a_except the names of lines that do not count. VERSION never counts.
-    /// \param a_doEmptyCount lines without a value count.
-    ComparedLines( const Contacts::PimContactCard& a_card, const QList<QLatin1String>& a_except, bool a_doEmptyCount );
+    /// \param a_except the names of lines that do not count.
+    /// \param a_doAllCount lines without a value count as well, and so does VERSION.
+    ComparedLines( const Contacts::PimContactCard& a_card, const QList<QLatin1String>& a_except, bool a_doAllCount );
 
     const Contacts::PimContact& Contact() const { return m_contact; }
     int Size() const { return static_cast<int>( m_lines.size() ); }
@@ -43,6 +43,8 @@ public:
     int PlaceOf( int a_id ) const;
     /// The lines without a partner.
     QList<Contacts::PimContactLine> Alone() const;
+    /// All lines that count.
+    QList<Contacts::PimContactLine> All() const;
     /// The lines at some places.
     QList<Contacts::PimContactLine> LinesAt( const QVector<int>& a_places ) const;
 

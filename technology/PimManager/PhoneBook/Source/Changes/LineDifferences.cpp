@@ -82,16 +82,21 @@ PimPhoneBookLines Compared( ComparedLines a_old, ComparedLines a_new )
 
 } // namespace
 
-// Most programs leave empty lines out, so they are no difference unless there is no other one.
+// Empty lines and VERSION are no difference unless there is no other one. If there is none at all, the cards are read
+// in different ways, such as with different default character sets.
 PimPhoneBookLines DifferentLines( const PimContactCard& a_old, const PimContactCard& a_new )
 {
     const QList<QLatin1String> ignored = IgnoredIdentifiers( IdentifiersOf( a_old ), IdentifiersOf( a_new ) );
     if ( AreEqualWithout( a_old, a_new, ignored ) )
         return PimPhoneBookLines();
-    const PimPhoneBookLines lines =
-        Compared( ComparedLines( a_old, ignored, false ), ComparedLines( a_new, ignored, false ) );
-    return IsEmpty( lines ) ? Compared( ComparedLines( a_old, ignored, true ), ComparedLines( a_new, ignored, true ) )
-                            : lines;
+    PimPhoneBookLines lines;
+    for ( const bool doAllCount : { false, true } )
+    {
+        lines = Compared( ComparedLines( a_old, ignored, doAllCount ), ComparedLines( a_new, ignored, doAllCount ) );
+        if ( !IsEmpty( lines ) )
+            return lines;
+    }
+    return { ComparedLines( a_old, ignored, true ).All(), ComparedLines( a_new, ignored, true ).All() };
 }
 
 } // namespace PimManager::PhoneBook

@@ -64,6 +64,7 @@ constexpr std::array s_kRows = {
     Row{ "Nicknames", "NICKNAME:a,b\nFN:x\nNOTE:x", "NICKNAME:a,b\nFN:x\nNOTE:y", "-NOTE:x +NOTE:y" },
     Row{ "EmptyLines", "FN:a\nTEL:\nADR:;;;;;;\nNOTE:x", "FN:a\nNOTE:y", "-NOTE:x +NOTE:y" },
     Row{ "OnlyEmptyLines", "FN:a", "FN:a\nX-A:", "+X-A:" },
+    Row{ "SecondVersion", "VERSION:3.0\nFN:a", "VERSION:a\nVERSION:3.0\nFN:a", "+VERSION:a" },
     Row{ "UidMissing", "UID:1\nFN:a\nX-BT-UID:2", "FN:a\nNOTE:y", "+NOTE:y" },
     Row{ "UidDiffers", "UID:1\nFN:a", "UID:2\nFN:a", "-UID:1 +UID:2" },
     Row{ "Agent", "FN:a\nAGENT:\nBEGIN:VCARD\nFN:b\nEND:VCARD\nNOTE:x",

@@ -107,7 +107,7 @@ public:
                                         const PimPhoneBookOptions& a_options = PimPhoneBookOptions() );
 
     /// Compares two contacts line by line. Lines that are written differently but say the same are left out, and so are
-    /// VERSION, and UID and X-BT-UID that do not count.
+    /// UID and X-BT-UID that do not count. VERSION and empty lines are shown only if nothing else differs.
     /// \return the lines that differ; none if the contacts are equal, see above. If they differ only in the order of
     ///         lines or in their groups, the lines that must move, in both lists. In the order of n log n.
     static PimPhoneBookLines LinesOf( const Contacts::PimContact& a_old, const Contacts::PimContact& a_new );

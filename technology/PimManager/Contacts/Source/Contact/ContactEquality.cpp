@@ -49,10 +49,11 @@ bool AreSameValues( const PimContactLine& a_first, const PimContactLine& a_secon
 {
     if ( IsSingleDate( PropertyOf( ViewOf( a_first.Name() ) ) ) )
         return DateOf( a_first ) == DateOf( a_second );
-    const PimContactBinary binary = a_first.Binary();
-    if ( binary.IsNull() )
-        return a_second.Binary().IsNull() && a_first.Text() == a_second.Text();
-    return binary.Bytes() == a_second.Binary().Bytes();
+    const PimContactBinary first = a_first.Binary();
+    const PimContactBinary second = a_second.Binary();
+    if ( first.IsNull() || second.IsNull() )
+        return first.IsNull() == second.IsNull() && a_first.Text() == a_second.Text();
+    return first.Bytes() == second.Bytes();
 }
 
 bool AreSameLines( const PimContactLine& a_first, const PimContactLine& a_second )

@@ -149,6 +149,7 @@ constexpr std::array s_kOther = {
     Row{ "OtherLineValue", "3.0", "X-ANY:a\r\n", "3.0", "X-ANY:A\r\n" },
     Row{ "OtherLineParameter", "3.0", "X-ANY;B=c:a\r\n", "3.0", "X-ANY;B=d:a\r\n" },
     Row{ "OtherLineBytes", "3.0", "X-ANY;ENCODING=b:AAAA\r\n", "3.0", "X-ANY;ENCODING=b:AAAB\r\n" },
+    Row{ "OtherLineWithoutBytes", "3.0", "X-ANY;ENCODING=b:D\r\n", "3.0", "X-ANY:UUUV\r\n" },
     Row{ "OtherLineCount", "3.0", "X-ANY:a\r\n", "3.0", "X-ANY:a\r\nX-ANY:a\r\n" },
 };
 

@@ -13,24 +13,54 @@ namespace PimManager::PhoneBook
 namespace
 {
 
-void AddNumber( NumberStore& a_numbers, int a_contact, int a_id, const QString& a_text )
+/// The numbers of a card, in the order of its lines.
+class CardNumbers
 {
-    const WrittenNumber number = ReadWrittenNumber( a_text );
-    a_numbers.Append( a_contact, a_id, number.Digits(), number.m_form, number.m_extension.View() );
-}
+public:
+    explicit CardNumbers( const Contacts::PimContactCard& a_card ) :
+        m_card( a_card )
+    {
+    }
+
+    WrittenNumber Read( const QString& a_text, int a_id )
+    {
+        const bool isUri = a_text.trimmed().startsWith( QLatin1String( "tel:" ), Qt::CaseInsensitive );
+        return isUri ? ReadUri( a_text, a_id ) : ReadWrittenNumber( a_text );
+    }
+
+private:
+    // Few cards have URIs, so the fields are read at the first one.
+    WrittenNumber ReadUri( const QString& a_text, int a_id )
+    {
+        if ( m_phones.isEmpty() )
+            m_phones = Contacts::PimContact( m_card ).Phones();
+        while ( m_next < m_phones.size() && m_phones.at( m_next ).Id() < a_id )
+            ++m_next;
+        const bool isFound = m_next < m_phones.size() && m_phones.at( m_next ).Id() == a_id;
+        return isFound ? ReadWrittenNumber( m_phones.at( m_next ) ) : ReadWrittenNumber( a_text );
+    }
+
+    const Contacts::PimContactCard& m_card;
+    Contacts::PimContactList<Contacts::PimContactPhone> m_phones;
+    decltype( m_phones.size() ) m_next = 0;
+};
 
 // The lines of a card are read faster than the fields of a contact. The ids of its lines count from 1.
 void AddCard( const Contacts::PimContactCard& a_card, int a_contact, NumberStore& a_numbers,
               SearchIndexBuilder& a_search )
 {
+    CardNumbers numbers( a_card );
     int id = 0;
     for ( const Contacts::PimContactLine& line : a_card )
     {
         ++id;
-        if ( line.IsNamed( QLatin1String( "TEL" ) ) )
-            AddNumber( a_numbers, a_contact, id, line.Text() );
-        else
+        if ( !line.IsNamed( QLatin1String( "TEL" ) ) )
+        {
             a_search.AddLine( line );
+            continue;
+        }
+        const WrittenNumber number = numbers.Read( line.Text(), id );
+        a_numbers.Append( a_contact, id, number.Digits(), number.m_form, number.m_extension.View() );
     }
     a_search.EndCard( a_card );
 }

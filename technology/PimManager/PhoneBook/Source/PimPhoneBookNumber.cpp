@@ -19,14 +19,6 @@ size_t EndingSize( int a_digits )
     return static_cast<size_t>( std::max( a_digits, s_kLeastEndingDigits ) );
 }
 
-WrittenNumber ReadPhone( const Contacts::PimContactPhone& a_phone )
-{
-    WrittenNumber number = ReadWrittenNumber( a_phone.Number() );
-    SetContext( number, a_phone.Context() );
-    SetExtension( number, a_phone.Extension() );
-    return number;
-}
-
 QString TextOf( std::string_view a_digits )
 {
     return QString::fromLatin1( a_digits.data(), static_cast<int>( a_digits.size() ) );
@@ -72,7 +64,7 @@ PimPhoneBookNumber PimPhoneBookNumber::FromText( const QString& a_text, const QS
 
 PimPhoneBookNumber PimPhoneBookNumber::FromPhone( const Contacts::PimContactPhone& a_phone, const QString& a_region )
 {
-    return PimPhoneBookNumber( new PimPhoneBookNumberPrivate( ReadPhone( a_phone ), a_region ) );
+    return PimPhoneBookNumber( new PimPhoneBookNumberPrivate( ReadWrittenNumber( a_phone ), a_region ) );
 }
 
 bool PimPhoneBookNumber::IsNull() const

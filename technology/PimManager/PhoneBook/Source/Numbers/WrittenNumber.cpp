@@ -291,6 +291,14 @@ WrittenNumber ReadWrittenNumber( QStringView a_text )
     return Reader( a_text ).Read();
 }
 
+WrittenNumber ReadWrittenNumber( const Contacts::PimContactPhone& a_phone )
+{
+    WrittenNumber number = ReadWrittenNumber( a_phone.Number() );
+    SetContext( number, a_phone.Context() );
+    SetExtension( number, a_phone.Extension() );
+    return number;
+}
+
 void SetExtension( WrittenNumber& a_number, QStringView a_text )
 {
     if ( !a_number.m_extension.IsEmpty() )

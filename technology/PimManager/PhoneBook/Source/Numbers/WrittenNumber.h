@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <PimManager/Contacts/PimContactPhone.h>
+
 #include <QStringView>
 #include <QtGlobal>
 
@@ -82,6 +84,9 @@ struct WrittenNumber
 /// extensions, pauses, codes such as `*31#` before a number, and letters in service numbers such as 1-800-FLOWERS.
 /// \return the number. Without digits if there is none. Linear in the length of the text.
 WrittenNumber ReadWrittenNumber( QStringView a_text );
+
+/// Reads the number of a contact, with its extension and its phone-context.
+WrittenNumber ReadWrittenNumber( const Contacts::PimContactPhone& a_phone );
 
 /// Replaces the extension by the digits of a text, unless it has none.
 void SetExtension( WrittenNumber& a_number, QStringView a_text );

@@ -1,4 +1,5 @@
 #include <PimManager/PhoneBook/PimPhoneBook.h>
+#include <PimManager/PhoneBook/PimPhoneBookNumber.h>
 
 #include <gtest/gtest.h>
 
@@ -80,6 +81,24 @@ TEST( WhoIsTest, LineIsThatOfThePhone )
         ASSERT_EQ( callers.size(), 1 ) << qPrintable( phone.Number() );
         EXPECT_EQ( callers.first().m_line, phone.Id() ) << qPrintable( phone.Number() );
         EXPECT_EQ( callers.first().m_grade, PimPhoneBookGrade::Exact ) << qPrintable( phone.Number() );
+    }
+}
+
+// A URI is found by the number that the contact reads in it.
+TEST( WhoIsTest, UriIsReadAsTheContactReadsIt )
+{
+    for ( const char* const uri : { "tel:+49-3N;0-5550;ext=13", "TEL:+49%2030%201234567", "tel:5550123;x=1;ext=2",
+                                    "tel:1234567;phone-context=+49;ext=%31%32" } )
+    {
+        const PimPhoneBook phoneBook = BookOf( CardOf( "TEL: " + QByteArray( uri ) + "\r\nTEL:tel:1\r\n" ), {} );
+        const PimContactPhone phone = phoneBook.At( 0 ).Phones().constFirst();
+        const auto number = PimPhoneBookNumber::FromPhone( phone );
+        const QString written = ( number.International().isEmpty() ? number.Digits() : number.International() ) +
+                                QLatin1String( ";ext=" ) + number.Extension();
+        const auto callers = phoneBook.WhoIs( written );
+        ASSERT_EQ( callers.size(), 1 ) << uri << qPrintable( written );
+        EXPECT_EQ( callers.first().m_line, phone.Id() ) << uri;
+        EXPECT_GE( callers.first().m_grade, PimPhoneBookGrade::National ) << uri;
     }
 }
 

@@ -82,10 +82,8 @@ public:
         {
             if ( m_random() % 3 != 0 )
                 book.Append( a_book.CardAt( i ) );
-            if ( m_random() % 3 != 0 )
-                book.Move( static_cast<int>( m_random() % static_cast<unsigned>( book.Size() + 1 ) ) %
-                               std::max( 1, book.Size() ),
-                           0 );
+            if ( !book.IsEmpty() && m_random() % 3 != 0 )
+                book.Move( static_cast<int>( m_random() % static_cast<unsigned>( book.Size() ) ), 0 );
         }
         return book;
     }

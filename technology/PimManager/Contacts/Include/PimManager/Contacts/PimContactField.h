@@ -112,6 +112,13 @@ class PimContactList : public QVarLengthArray<Field, 2>
 public:
     using QVarLengthArray<Field, 2>::QVarLengthArray;
 
+    PimContactList() = default;
+    PimContactList( const PimContactList& a_other ) = default;
+    PimContactList( PimContactList&& a_other ) = default;
+    ~PimContactList() = default;
+    // There is no move assignment, because that of Qt 6.4 loses memory. A list is copied instead.
+    PimContactList& operator=( const PimContactList& a_other ) = default;
+
     /// \return the first field. The list must not be empty.
     const Field& constFirst() const { return this->first(); }
     /// \return the last field. The list must not be empty.

@@ -5,19 +5,69 @@
 namespace PimManager::Contacts
 {
 
-// All slots are searched, but only for lines that break the sequence.
+namespace
+{
+
+constexpr uint s_kHashShift = 64 - 7; // for s_kHashes
+
+size_t HashOf( quint64 a_first, quint64 a_last, size_t a_length )
+{
+    const quint64 mixed = ( a_first * 0x9E3779B97F4A7C15ULL + a_last + a_length ) * 0xD6E8FEB86659FD93ULL;
+    return static_cast<size_t>( mixed >> s_kHashShift );
+}
+
+// The first and the last eight bytes, which may overlap.
+size_t HashOfText( std::string_view a_text )
+{
+    return HashOf( FirstEight( a_text ), FirstEight( a_text.substr( std::max( a_text.size(), s_kWord ) - s_kWord ) ),
+                   a_text.size() );
+}
+
+// Most heads that begin alike differ in the second eight bytes, as `TEL;TYPE=HOME:` and `TEL;TYPE=CELL:`.
+bool FindHashOfStart( std::string_view a_line, size_t& a_hash )
+{
+    if ( a_line.size() < 2 * s_kWord )
+        return false;
+    a_hash = HashOf( WordAt( a_line.data() ), WordAt( a_line.data() + s_kWord ), 0 );
+    return true;
+}
+
+} // namespace
+
+const LineHead* HeadSequence::NextByStart( std::string_view a_line )
+{
+    size_t hash = 0;
+    if ( !FindHashOfStart( a_line, hash ) || !m_slots[m_byStart[hash]].Begins( a_line ) )
+        return nullptr;
+    StepTo( m_byStart[hash] );
+    return &m_slots[m_current].m_head;
+}
+
 void HeadSequence::Learn( std::string_view a_line, const LineHead& a_head )
 {
     const std::string_view text = a_line.substr( 0, a_head.m_valueBegin );
     if ( text.size() > s_kLongest )
         return;
-    const auto known = std::find_if( m_slots.begin() + 1, m_slots.end(),
-                                     [text]( const Slot& a_slot ) { return a_slot.Text() == text; } );
-    const auto place = known == m_slots.end() ? NextToFill() : static_cast<quint8>( known - m_slots.begin() );
-    if ( known == m_slots.end() )
-        m_slots[place].Set( text, a_head );
-    m_slots[m_current].m_next = place;
-    m_current = place;
+    StepTo( SlotOf( text, a_head ) );
+    size_t hash = 0;
+    if ( FindHashOfStart( a_line, hash ) )
+        m_byStart[hash] = m_current;
+}
+
+void HeadSequence::StepTo( quint8 a_slot )
+{
+    m_slots[m_current].m_next = a_slot;
+    m_current = a_slot;
+}
+
+quint8 HeadSequence::SlotOf( std::string_view a_text, const LineHead& a_head )
+{
+    quint8& slot = m_byText[HashOfText( a_text )];
+    if ( m_slots[slot].Text() == a_text )
+        return slot;
+    slot = NextToFill();
+    m_slots[slot].Set( a_text, a_head );
+    return slot;
 }
 
 quint8 HeadSequence::NextToFill()

@@ -15,31 +15,32 @@ namespace PimManager::Contacts
 {
 
 /// The cards of a book have nearly the same heads in the same order, such as `N:`, `FN:`, `TEL;TYPE=CELL:`. A
-/// comparison with the head that followed the last one before is faster than reading a head.
+/// comparison with the head that followed the last one before is faster than reading a head. So is one with the last
+/// head that began with the same bytes, if the order changes.
 class HeadSequence
 {
 public:
     /// Begins a card.
     void Restart() { m_current = s_kStart; }
 
-    /// \return the head of the next line if it is the expected one; null if it must be read. Valid until Learn().
+    /// \return the head of the next line if it is an expected one; null if it must be read. Valid until Learn().
     const LineHead* Next( std::string_view a_line )
     {
         const quint8 expected = m_slots[m_current].m_next;
-        const Slot& slot = m_slots[expected];
-        if ( !slot.Begins( a_line ) )
-            return nullptr;
+        if ( !m_slots[expected].Begins( a_line ) )
+            return NextByStart( a_line );
         m_current = expected;
-        return &slot.m_head;
+        return &m_slots[expected].m_head;
     }
 
-    /// Remembers the head of a line that was not the expected one. A long head is not remembered.
+    /// Remembers the head of a line that was not an expected one. A long head is not remembered.
     /// \param a_head LineHead::Read() has returned true for it.
     void Learn( std::string_view a_line, const LineHead& a_head );
 
 private:
     static constexpr size_t s_kLongest = 48;
     static constexpr size_t s_kSlots = 32;
+    static constexpr size_t s_kHashes = 128;
     // The slot before the first line. It has no head.
     static constexpr quint8 s_kStart = 0;
 
@@ -57,12 +58,18 @@ private:
         LineHead m_head;
     };
 
+    const LineHead* NextByStart( std::string_view a_line );
+    void StepTo( quint8 a_slot );
+    quint8 SlotOf( std::string_view a_text, const LineHead& a_head );
     quint8 NextToFill();
 
     std::array<Slot, s_kSlots> m_slots;
     quint8 m_current = s_kStart;
     // The slot that was filled last.
     size_t m_filled = s_kStart;
+    // The last slots for the heads with a hash value, and for the lines with one of their first bytes.
+    std::array<quint8, s_kHashes> m_byText = {};
+    std::array<quint8, s_kHashes> m_byStart = {};
 };
 
 // Most lines differ in the first eight bytes or not at all. The last eight bytes overlap those before.

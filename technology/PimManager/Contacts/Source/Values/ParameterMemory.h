@@ -4,9 +4,11 @@
 #pragma once
 
 #include "Text/Bytes.h"
+#include "Text/EightBytes.h"
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <string_view>
@@ -71,10 +73,13 @@ private:
     // are not empty. Phones, mails and addresses have the same parameters, but each has its own reader.
     static size_t SlotOf( std::string_view a_parameters, Reader a_reader )
     {
-        const auto at = [a_parameters]( size_t a_place ) { return static_cast<uchar>( a_parameters[a_place] ); };
+        constexpr uint s_kShift = 64 - 5; // for half of the slots
         const size_t size = a_parameters.size();
-        const size_t text = size + at( size / 2 ) * 3U + at( size / 4 ) * 5U + at( size - 1 );
-        return ( text + ( reinterpret_cast<quintptr>( a_reader ) >> 4U ) * 7U ) % ( s_kSlots / 2 ) * 2;
+        const quint64 first = FirstEight( a_parameters );
+        const quint64 last = FirstEight( a_parameters.substr( size - std::min( size, s_kWord ) ) );
+        const quint64 reader = reinterpret_cast<quintptr>( a_reader );
+        const quint64 mixed = ( ( first + reader ) * 0x9E3779B97F4A7C15ULL + last + size ) * 0xD6E8FEB86659FD93ULL;
+        return static_cast<size_t>( mixed >> s_kShift ) * 2;
     }
 
     std::array<Slot, s_kSlots> m_slots;

@@ -13,6 +13,14 @@ namespace PimManager::PhoneBook
 namespace
 {
 
+// Most numbers begin with a digit or a "+".
+bool IsUri( const QString& a_text )
+{
+    const QChar first = a_text.isEmpty() ? QChar() : a_text.at( 0 );
+    const bool mayBe = first == QLatin1Char( 't' ) || first == QLatin1Char( 'T' ) || first.isSpace();
+    return mayBe && a_text.trimmed().startsWith( QLatin1String( "tel:" ), Qt::CaseInsensitive );
+}
+
 /// The numbers of a card, in the order of its lines.
 class CardNumbers
 {
@@ -24,8 +32,7 @@ public:
 
     WrittenNumber Read( const QString& a_text, int a_id )
     {
-        const bool isUri = a_text.trimmed().startsWith( QLatin1String( "tel:" ), Qt::CaseInsensitive );
-        return isUri ? ReadUri( a_text, a_id ) : ReadWrittenNumber( a_text );
+        return IsUri( a_text ) ? ReadUri( a_text, a_id ) : ReadWrittenNumber( a_text );
     }
 
 private:

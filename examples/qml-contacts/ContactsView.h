@@ -31,7 +31,8 @@ public:
     Q_INVOKABLE QString Caller( const QString& a_number ) const;
     /// Prints a number as if it was called. Later searches prefer its contact.
     Q_INVOKABLE void Call( const QString& a_number );
-    /// \param a_photo a photo as the model gives it. \return its address; empty if there is none.
+    /// \param a_photo a photo as the model gives it.
+    /// \return its address; empty if there is none.
     Q_INVOKABLE QString PhotoSource( const QVariant& a_photo );
 
     PimManager::PhoneBook::PimPhoneBookModel& Model() { return *m_model; }

@@ -2,6 +2,7 @@
 
 #include "Numbers/WrittenNumber.h"
 #include "PhoneBookIndex.h"
+#include "Search/SearchIndexBuilder.h"
 
 #include <memory>
 #include <string>

@@ -8,19 +8,10 @@ namespace PimManager::Contacts
 namespace
 {
 
-constexpr uint s_kHashShift = 64 - 7; // for s_kHashes
-
-size_t HashOf( quint64 a_first, quint64 a_last, size_t a_length )
+size_t HashOf( std::string_view a_text )
 {
-    const quint64 mixed = ( a_first * 0x9E3779B97F4A7C15ULL + a_last + a_length ) * 0xD6E8FEB86659FD93ULL;
-    return static_cast<size_t>( mixed >> s_kHashShift );
-}
-
-// The first and the last eight bytes, which may overlap.
-size_t HashOfText( std::string_view a_text )
-{
-    return HashOf( FirstEight( a_text ), FirstEight( a_text.substr( std::max( a_text.size(), s_kWord ) - s_kWord ) ),
-                   a_text.size() );
+    constexpr uint s_kShift = 64 - 7; // for s_kHashes
+    return static_cast<size_t>( HashOfEnds( a_text ) >> s_kShift );
 }
 
 // Most heads that begin alike differ in the second eight bytes, as `TEL;TYPE=HOME:` and `TEL;TYPE=CELL:`.
@@ -28,7 +19,7 @@ bool FindHashOfStart( std::string_view a_line, size_t& a_hash )
 {
     if ( a_line.size() < 2 * s_kWord )
         return false;
-    a_hash = HashOf( WordAt( a_line.data() ), WordAt( a_line.data() + s_kWord ), 0 );
+    a_hash = HashOf( a_line.substr( 0, 2 * s_kWord ) );
     return true;
 }
 
@@ -62,7 +53,7 @@ void HeadSequence::StepTo( quint8 a_slot )
 
 quint8 HeadSequence::SlotOf( std::string_view a_text, const LineHead& a_head )
 {
-    quint8& slot = m_byText[HashOfText( a_text )];
+    quint8& slot = m_byText[HashOf( a_text )];
     if ( m_slots[slot].Text() == a_text )
         return slot;
     slot = NextToFill();

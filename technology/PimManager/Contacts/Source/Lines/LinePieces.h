@@ -63,6 +63,7 @@ private:
     PimContactJoin m_join = PimContactJoin::Fold;
 };
 
+/// \param a_entry its joins, and m_hasFolds, are read.
 /// \return a part of a line without its breaks, see LinePieces.
 QByteArray Unfolded( std::string_view a_line, const IndexEntry& a_entry, PimContactFoldStyle a_style,
                      ByteRange a_range );

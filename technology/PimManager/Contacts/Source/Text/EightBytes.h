@@ -57,6 +57,16 @@ inline quint64 FirstEightOf( std::string_view a_text, size_t a_length )
     return WordAt( a_text.data() ) & ( ~quint64( 0 ) >> ( 8 * missing ) );
 }
 
+/// \return a hash value of a short text: of its length, and of its first and last eight bytes, which may overlap. Its
+///         highest bits are mixed best.
+/// \param a_seed distinguishes equal texts.
+inline quint64 HashOfEnds( std::string_view a_text, quint64 a_seed = 0 )
+{
+    const quint64 first = FirstEight( a_text ) + a_seed;
+    const quint64 last = FirstEight( a_text.substr( a_text.size() - std::min( a_text.size(), s_kWord ) ) );
+    return ( first * 0x9E3779B97F4A7C15ULL + last + a_text.size() ) * 0xD6E8FEB86659FD93ULL;
+}
+
 /// The same as FirstEight(), but after a shorter text, the bytes are those of a filler.
 inline quint64 FirstEight( std::string_view a_text, char a_filler )
 {

@@ -8,7 +8,6 @@
 
 #include <QtGlobal>
 
-#include <algorithm>
 #include <array>
 #include <cstring>
 #include <string_view>
@@ -74,12 +73,8 @@ private:
     static size_t SlotOf( std::string_view a_parameters, Reader a_reader )
     {
         constexpr uint s_kShift = 64 - 5; // for half of the slots
-        const size_t size = a_parameters.size();
-        const quint64 first = FirstEight( a_parameters );
-        const quint64 last = FirstEight( a_parameters.substr( size - std::min( size, s_kWord ) ) );
-        const quint64 reader = reinterpret_cast<quintptr>( a_reader );
-        const quint64 mixed = ( ( first + reader ) * 0x9E3779B97F4A7C15ULL + last + size ) * 0xD6E8FEB86659FD93ULL;
-        return static_cast<size_t>( mixed >> s_kShift ) * 2;
+        const quint64 hash = HashOfEnds( a_parameters, reinterpret_cast<quintptr>( a_reader ) );
+        return static_cast<size_t>( hash >> s_kShift ) * 2;
     }
 
     std::array<Slot, s_kSlots> m_slots;

@@ -92,6 +92,18 @@ TEST( HeadSequenceTest, HeadThatBeginsAlikeIsNotExpected )
     }
 }
 
+TEST( HeadSequenceTest, HeadInAnotherOrderIsExpectedByItsFirstBytes )
+{
+    HeadSequence sequence;
+    const std::array<std::string, 3> lines = { "TEL;TYPE=HOME:5550101", "TEL;TYPE=CELL:5550102",
+                                               "EMAIL;TYPE=HOME:a@b" };
+    for ( const std::string& line : lines )
+        EXPECT_FALSE( IsExpected( sequence, line ) ) << line;
+    for ( const size_t i : { 2U, 0U, 1U, 1U, 0U, 2U } )
+        EXPECT_TRUE( IsExpected( sequence, lines.at( i ) ) ) << lines.at( i );
+    EXPECT_FALSE( IsExpected( sequence, "TEL;TYPE=HOME,X:5550103" ) );
+}
+
 TEST( HeadSequenceTest, PropertyIsRemembered )
 {
     HeadSequence sequence;

@@ -27,7 +27,8 @@ struct DialledNumber
         Written
     };
 
-    /// \param a_digits as NumberStore has them. \param a_form flags of WrittenNumber::Form.
+    /// \param a_digits as NumberStore has them.
+    /// \param a_form   flags of WrittenNumber::Form.
     DialledNumber( std::string_view a_digits, uint a_form, const Home& a_home );
     DialledNumber( const WrittenNumber& a_number, const Home& a_home ) :
         DialledNumber( a_number.Digits(), a_number.m_form, a_home )

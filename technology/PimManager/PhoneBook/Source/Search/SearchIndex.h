@@ -3,14 +3,11 @@
 
 #pragma once
 
-#include "Search/ContactWords.h"
 #include "Search/NumberParts.h"
 #include "Search/SearchedText.h"
 #include "Search/WordIndex.h"
 
-#include <PimManager/Contacts/PimContactCard.h>
 #include <PimManager/PhoneBook/PimPhoneBookMatch.h>
-#include <PimManager/PhoneBook/PimPhoneBookOptions.h>
 
 #include <QString>
 #include <QVector>
@@ -19,9 +16,6 @@
 
 namespace PimManager::PhoneBook
 {
-
-class NameOrder;
-class NumberStore;
 
 /// The sorted list of the contacts, and where it contains which words and digits. Const functions may run in several
 /// threads at once.
@@ -62,35 +56,6 @@ private:
     std::vector<SectionBegin> m_sections;
     WordIndex m_words;
     NumberParts m_numbers;
-};
-
-/// Reads the lines of one card after another and makes a SearchIndex of them.
-class SearchIndexBuilder
-{
-public:
-    explicit SearchIndexBuilder( const PimPhoneBookOptions& a_options ) :
-        m_options( a_options )
-    {
-    }
-
-    /// Adds a line of a card. Numbers may be left out.
-    void AddLine( const Contacts::PimContactLine& a_line ) { m_contact.Add( a_line ); }
-
-    /// Ends a card: it is the next contact of the book.
-    void EndCard( const Contacts::PimContactCard& a_card );
-
-    /// \param a_numbers the numbers of all contacts; must outlive the index.
-    /// \param a_index the index of the contacts that were added.
-    void Build( const NumberStore& a_numbers, SearchIndex& a_index );
-
-private:
-    void Sort( SearchIndex& a_index );
-    void AddSections( const std::vector<int>& a_sections, const NameOrder& a_order, SearchIndex& a_index ) const;
-
-    PimPhoneBookOptions m_options;
-    ContactWords m_contact;
-    WordCollector m_words;
-    std::vector<QString> m_sortNames;
 };
 
 } // namespace PimManager::PhoneBook

@@ -1,4 +1,5 @@
-#include "Search/SearchIndex.h"
+#include "Search/SearchIndexBuilder.h"
+
 #include "Sorting/NameOrder.h"
 
 #include <algorithm>

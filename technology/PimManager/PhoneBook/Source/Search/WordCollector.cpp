@@ -1,4 +1,4 @@
-#include "Search/WordIndex.h"
+#include "Search/WordCollector.h"
 
 #include <QtEndian>
 

@@ -43,6 +43,21 @@ private:
     std::array<quint64*, 2> m_sets;
 };
 
+/// \return the first number of a range for which a condition is false, found by halves: it is true for all before.
+template <class Condition>
+size_t EndOf( size_t a_first, size_t a_end, const Condition& a_isBefore )
+{
+    while ( a_first < a_end )
+    {
+        const size_t middle = a_first + ( a_end - a_first ) / 2;
+        if ( a_isBefore( middle ) )
+            a_first = middle + 1;
+        else
+            a_end = middle;
+    }
+    return a_first;
+}
+
 } // namespace
 
 void WordIndex::Build( const WordCollector& a_words, const std::vector<quint32>& a_ranks )
@@ -111,47 +126,18 @@ quint64 WordIndex::KeysAt( size_t a_keyWord ) const
 /// \return the first key word that is not less than keys.
 size_t WordIndex::FirstKeyWord( quint64 a_keys, size_t a_from ) const
 {
-    size_t first = a_from;
-    size_t end = m_keyWords.size();
-    while ( first < end )
-    {
-        const size_t middle = first + ( end - first ) / 2;
-        if ( KeysAt( middle ) < a_keys )
-            first = middle + 1;
-        else
-            end = middle;
-    }
-    return first;
+    return EndOf( a_from, m_keyWords.size(), [&]( size_t a_keyWord ) { return KeysAt( a_keyWord ) < a_keys; } );
 }
 
 size_t WordIndex::FirstWord( std::string_view a_beginning ) const
 {
-    size_t first = 0;
-    size_t end = m_begins.size() - 1;
-    while ( first < end )
-    {
-        const size_t middle = first + ( end - first ) / 2;
-        if ( WordAt( middle ) < a_beginning )
-            first = middle + 1;
-        else
-            end = middle;
-    }
-    return first;
+    return EndOf( 0, m_begins.size() - 1, [&]( size_t a_word ) { return WordAt( a_word ) < a_beginning; } );
 }
 
 size_t WordIndex::EndOfWords( std::string_view a_beginning, size_t a_first ) const
 {
-    size_t first = a_first;
-    size_t end = m_begins.size() - 1;
-    while ( first < end )
-    {
-        const size_t middle = first + ( end - first ) / 2;
-        if ( WordAt( middle ).substr( 0, a_beginning.size() ) == a_beginning )
-            first = middle + 1;
-        else
-            end = middle;
-    }
-    return first;
+    return EndOf( a_first, m_begins.size() - 1,
+                  [&]( size_t a_word ) { return WordAt( a_word ).substr( 0, a_beginning.size() ) == a_beginning; } );
 }
 
 void WordIndex::Find( std::string_view a_beginning, WordMatches& a_matches ) const

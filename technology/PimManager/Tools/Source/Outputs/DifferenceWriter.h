@@ -30,7 +30,7 @@ public:
     Q_DISABLE_COPY( DifferenceWriter )
 
     /// Called once, before the others.
-    /// \param a_oldSource and \param a_newSource the names of the books, safe for a terminal.
+    /// \param a_oldSource, a_newSource the names of the books, safe for a terminal.
     virtual void Begin( const QString& /*a_oldSource*/, const QString& /*a_newSource*/ ) {}
     virtual void WriteRemoved( const Contacts::PimContactCard& a_card ) = 0;
     virtual void WriteAdded( const Contacts::PimContactCard& a_card ) = 0;

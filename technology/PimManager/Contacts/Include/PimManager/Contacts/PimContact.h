@@ -271,7 +271,9 @@ public:
     PimContactText FieldOf( const PimContactLine& a_line ) const;
     /// \}
 
-    /// \name Edits Each edit adds, replaces or removes lines. A new line is written in the version of the card. It is
+    /// \name Edits
+    ///
+    /// Each edit adds, replaces or removes lines. A new line is written in the version of the card. It is
     /// in UTF-8, and in version 2.1 also in QUOTED-PRINTABLE if it is not ASCII. Control characters other than tabs and
     /// line breaks are left out.
     ///

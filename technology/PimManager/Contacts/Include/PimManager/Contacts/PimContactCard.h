@@ -137,10 +137,9 @@ public:
     /// A number to find cards with the same lines among many. Linear in the length of the card.
     /// \param a_seed   any number. A random one protects from cards that were made to have equal numbers.
     /// \param a_except as for HasSameLines().
-    /// \return a number that depends on the names and values of the lines: the same for cards of which HasSameLines()
-    /// is
-    ///         true, also if their groups, parameters, empty lines or the order of lines differ. Others rarely have the
-    ///         same number. 0 if no lines count.
+    /// \return a number that depends on the names and values of the lines, and not on groups, parameters, empty lines
+    ///         and the order of lines. It is the same if HasSameLines() is true, and rarely if not. 0 if no lines
+    ///         count.
     quint64 ContentHash( quint64 a_seed, const QList<QLatin1String>& a_except = QList<QLatin1String>() ) const;
 
     /// \return true if bytes, index and record are equal. The position in the file is not compared.

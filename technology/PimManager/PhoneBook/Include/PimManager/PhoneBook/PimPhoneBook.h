@@ -38,6 +38,7 @@ public:
     PimPhoneBook();
     /// Reads names, nicknames, organisations and numbers of each contact. For n contacts of bounded length, the work is
     /// in the order of n log n.
+    /// \param a_book any book; may be empty. It is shared with the phone book.
     explicit PimPhoneBook( const Contacts::PimContactBook& a_book,
                            const PimPhoneBookOptions& a_options = PimPhoneBookOptions() );
     PimPhoneBook( const PimPhoneBook& a_other );
@@ -97,18 +98,18 @@ public:
     ///   `mueller` also find Mueller. The same applies to other letters with two spellings, such as `ø` (`o`, `oe`),
     ///   `å` (`a`, `aa`), `ß` (`s`, `ss`) and `đ` (`d`, `dj`). Vowel marks of Hebrew and Arabic are ignored. Katakana
     ///   is the same as hiragana, and full width the same as half width.
-    /// - **Names** are N, FN and NICKNAME in all languages of the card, the pronunciation and the maiden name. A
-    /// contact
-    ///   without these and without an organisation is found by the name that is shown for it, such as a mail address.
+    /// - **Names** are N, FN and NICKNAME in all languages of the card, the pronunciation and the maiden name. If a
+    ///   contact has none of these and no organisation, it is found by DisplayName(), such as its mail address.
     /// - **Numbers** are found by their digits, in whichever notation. Digits after `+` or beginning with `0` may also
     ///   begin a number in another notation, if that has three digits: `030` finds +49 30 and `+49 30` finds 030 if the
     ///   region is `DE`, and `0049 30` finds +49 30.
     ///
     /// For n contacts, each word takes time in the order of n / 64 and of the words and contacts found. Parts of
-    /// numbers take time in the order of the contacts that contain each three of the digits. \param a_text what a
-    /// person has typed so far; may be anything. \return the contacts, the best place first. Within one place contacts
-    /// that called recently are first, then the
-    ///         contacts are in the order of Sorted(). All contacts if the text has no word. Empty if none contains it.
+    /// numbers take time in the order of the contacts that contain each three of the digits.
+    ///
+    /// \param a_text what a person has typed so far; may be anything.
+    /// \return the contacts, the best place first. Within one place, contacts that called recently come first, and the
+    ///         others follow in the order of Sorted(). All contacts if the text has no word. Empty if none contains it.
     QVector<PimPhoneBookMatch> Find( const QString& a_text ) const;
 
     /// Finds the contacts whose names begin with letters on the keys of a telephone, or that have the keys in a number.

@@ -72,16 +72,14 @@ struct PimPhoneBookLines
 ///
 /// - A UID is compared without `urn:uuid:` and letter case. If several contacts have the same one, those with equal
 ///   content are paired, then those with equal names, then the rest in the order of the books. X-BT-UID likewise.
-/// - A name is the words of FN, or else of N, NICKNAME or ORG, in any order. Letter case, accents and punctuation do
-/// not
-///   count. With a number or mail address in common, one word may have a typing error (a letter that is missing, added,
-///   wrong, or exchanged with the next one), or words may be missing. If two contacts fit equally well, those that have
-///   more numbers and lines in common are paired. If there are none, equal names are paired in the order of the books,
-///   and others remain added and removed.
-/// - Numbers are in common if their last digits are equal, as many as PimPhoneBookOptions::EndingDigits() says, and
-/// their
-///   extensions. Shorter numbers are equal as a whole, see PimPhoneBookNumber::National(). Mail addresses are compared
-///   without letter case.
+/// - A name is the words of FN, or else of N, NICKNAME or ORG, in any order, without letter case, accents and
+///   punctuation. With a number or mail address in common, one word may have a typing error (a letter that is missing,
+///   added, wrong, or exchanged with the next one), or words may be missing. If two contacts fit equally well, those
+///   that have more numbers and lines in common are paired. If there are none, equal names are paired in the order of
+///   the books, and others remain added and removed.
+/// - Numbers are in common if their extensions and their last digits are equal. PimPhoneBookOptions::EndingDigits() is
+///   the number of these digits. Shorter numbers are equal as a whole, see PimPhoneBookNumber::National(). Mail
+///   addresses are compared without letter case.
 /// - If any contact kept its UID, contacts with different UIDs are not the same by name.
 ///
 /// **What is a change.** A pair has changed unless the contacts are equal by Contacts::PimContact::operator==(). Then
@@ -99,10 +97,13 @@ public:
     PimPhoneBookChanges& operator=( PimPhoneBookChanges&& a_other ) noexcept;
     ~PimPhoneBookChanges();
 
-    /// Compares two books. Equal contacts are found without reading their fields. For books of n bytes, the work is in
-    /// the order of n log n, whatever they contain. The changes need about 50 bytes for each contact; the comparison
-    /// needs about 200 bytes for each contact without an equal one, and 3 KB if it has no UID of the other book either.
+    /// Compares two books, which may be empty. Equal contacts are found without reading their fields. For books of n
+    /// bytes, the work is in the order of n log n, whatever they contain. The changes need about 50 bytes for each
+    /// contact. The comparison needs about 200 bytes for each contact without an equal one, and 3 KB if it has no UID
+    /// of the other book either.
+    ///
     /// \param a_options Region() and EndingDigits() are used to compare numbers.
+    /// \return the differences. There is no error: a contact that fits nobody is added or removed.
     static PimPhoneBookChanges Compare( const Contacts::PimContactBook& a_old, const Contacts::PimContactBook& a_new,
                                         const PimPhoneBookOptions& a_options = PimPhoneBookOptions() );
 

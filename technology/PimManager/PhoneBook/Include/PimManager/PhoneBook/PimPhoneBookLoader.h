@@ -77,9 +77,9 @@ public:
     void SetModel( PimPhoneBookModel* a_model );
 
     /// Starts to read a file. If something is being loaded, that is stopped. Both options and the phone book of the
-    /// model are those at this moment.
+    /// model are those at this moment. If the file cannot be opened, Failed() is emitted later.
     void Load( const QString& a_fileName );
-    /// Starts to read bytes.
+    /// Starts to read bytes; may be empty, which results in an empty phone book.
     void LoadBytes( const QByteArray& a_bytes );
     /// Starts to read a device to its end. If a sequential device has no data, the thread waits up to 30 seconds for
     /// more, each time.

@@ -86,7 +86,7 @@ public:
     /// Replaces the phone book. A contact remains if PimPhoneBookChanges::Compare() finds it in both books. The filter
     /// and the keys remain as well.
     ///
-    /// Comparing takes the time that it takes. PimPhoneBookLoader compares in its own thread.
+    /// The books are compared in the thread of the caller. PimPhoneBookLoader compares them in its own.
     void SetPhoneBook( const PimPhoneBook& a_phoneBook );
 
     /// The text that the contacts contain. Empty by default; then all contacts are shown.

@@ -45,12 +45,20 @@ PimContactDate DateOf( const PimContactLine& a_line )
     return PimContactDatePrivate::Read( ViewOf( text ) );
 }
 
+// A value of blanks alone has no bytes, even if its line says that it is BASE64.
+PimContactBinary BytesOf( const PimContactLine& a_line )
+{
+    const PimContactBinary binary = a_line.Binary();
+    const bool isBlank = !binary.IsNull() && binary.Bytes().isEmpty() && Trimmed( ViewOf( a_line.Value() ) ).empty();
+    return isBlank ? PimContactBinary() : binary;
+}
+
 bool AreSameValues( const PimContactLine& a_first, const PimContactLine& a_second )
 {
     if ( IsSingleDate( PropertyOf( ViewOf( a_first.Name() ) ) ) )
         return DateOf( a_first ) == DateOf( a_second );
-    const PimContactBinary first = a_first.Binary();
-    const PimContactBinary second = a_second.Binary();
+    const PimContactBinary first = BytesOf( a_first );
+    const PimContactBinary second = BytesOf( a_second );
     if ( first.IsNull() || second.IsNull() )
         return first.IsNull() == second.IsNull() && a_first.Text() == a_second.Text();
     return first.Bytes() == second.Bytes();

@@ -17,9 +17,8 @@ LinePieces::LinePieces( std::string_view a_line, const IndexEntry& a_entry, PimC
     m_range( a_range ),
     m_place( a_range.m_begin )
 {
-    do
-        ReadJoin();
-    while ( m_hasNext && m_next.m_begin < m_place );
+    for ( ReadJoin(); m_hasNext && m_next.m_begin < m_range.m_begin; ReadJoin() )
+        m_place = std::clamp( m_next.End(), m_place, m_range.End() );
 }
 
 void LinePieces::ReadJoin()
@@ -105,11 +104,12 @@ char* CopyJoined( std::string_view a_line, const IndexEntry& a_entry, ByteRange 
     quint32 place = a_range.m_begin;
     for ( LineJoin join; joins.Next( join ) && join.m_begin < a_range.End(); )
     {
-        if ( join.m_begin < a_range.m_begin )
-            continue;
-        a_out = Copy( a_line.substr( place, join.m_begin - place ), a_out );
-        a_out = std::fill_n( a_out, join.m_lineFeeds, '\n' );
-        place = std::min( join.End(), a_range.End() );
+        if ( join.m_begin >= a_range.m_begin )
+        {
+            a_out = Copy( a_line.substr( place, join.m_begin - place ), a_out );
+            a_out = std::fill_n( a_out, join.m_lineFeeds, '\n' );
+        }
+        place = std::clamp( join.End(), place, a_range.End() );
     }
     return Copy( a_line.substr( place, a_range.End() - place ), a_out );
 }

@@ -24,7 +24,8 @@ class LinePieces
 public:
     /// \param a_line  the bytes of the line without its last line ending; must outlive the pieces.
     /// \param a_entry its entry in the index, of which only the joins are read.
-    /// \param a_range the part of the line to iterate over.
+    /// \param a_range the part of the line to iterate over. If it begins inside a join, the first piece begins after
+    ///                the join.
     LinePieces( std::string_view a_line, const IndexEntry& a_entry, PimContactFoldStyle a_style, ByteRange a_range );
 
     /// \return false after the last piece.

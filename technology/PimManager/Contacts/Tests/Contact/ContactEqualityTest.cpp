@@ -38,6 +38,7 @@ constexpr std::array s_kSame = {
     Row{ "BlankLines", "3.0", "TEL:1\r\n\r\n\r\nFN:x\r\n", "3.0", "TEL:1\nFN:x\n" },
     Row{ "OtherLineParameters", "3.0", "X-ANY;B=c;TYPE=home:x\r\n", "2.1", "x-any;HOME;b=C:x\r\n" },
     Row{ "OtherLineEncoding", "3.0", "X-ANY:J\xC3\xB6rg\r\n", "2.1", "X-ANY;QUOTED-PRINTABLE:J=C3=B6rg\r\n" },
+    Row{ "OtherLineBlank", "2.1", "X-ANY;ENCODING=BASE64:\r\n\r\n", "2.1", "X-ANY:\r\n" },
     Row{ "SecondRevision", "3.0", "REV:2000\r\nREV:2009-05-05 10:11:12\r\n", "3.0",
          "REV:2000\r\nREV:2009-05-05T10:11:12\r\n" },
     Row{ "Messenger", "2.1", "X-SKYPE:omega\r\n", "3.0", "IMPP;X-SERVICE-TYPE=Skype;VALUE=text:omega\r\n" },

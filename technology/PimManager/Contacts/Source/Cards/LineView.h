@@ -84,7 +84,8 @@ private:
     std::string_view HeadPart( ByteRange a_range, QByteArray& a_buffer ) const
     {
         const std::string_view part( m_text.data() + a_range.m_begin, a_range.m_length );
-        return IsContinued() ? Unfolded( part, a_range, a_buffer ) : part;
+        const bool mayBeBroken = !part.empty() && m_entry.MayHaveBreakBefore( a_range.End() );
+        return mayBeBroken ? Unfolded( part, a_range, a_buffer ) : part;
     }
     std::string_view Unfolded( std::string_view a_part, ByteRange a_range, QByteArray& a_buffer ) const;
 };

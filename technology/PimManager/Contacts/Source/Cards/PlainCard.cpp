@@ -52,9 +52,9 @@ bool PlainCard::EndsPlainly( std::string_view a_line )
 {
     m_lastTextEnd = static_cast<quint32>( a_line.data() + a_line.size() - m_text.data() );
     const char last = a_line.back();
-    m_isSoftBreakOpen = last == '=' && m_head->m_encoding == PimContactEncoding::QuotedPrintable;
+    m_isSoftBreakOpen = last == '=' && Head().m_encoding == PimContactEncoding::QuotedPrintable;
     if ( last == '=' )
-        return m_head->m_encoding != PimContactEncoding::None;
+        return Head().m_encoding != PimContactEncoding::None;
     return !IsBlank( last ) || !EndsWith( TrimmedRight( a_line ), "=" );
 }
 
@@ -62,7 +62,7 @@ PlainCard::Step PlainCard::TakeContinuation( const Line& a_line )
 {
     const bool mayBeBoundary = CardBoundary::MayEndAsOne( a_line.m_text );
     if ( !m_isOpen || m_isSoftBreakOpen || m_isBehindEmptyLine ||
-         ( !m_isHeadPlain && MayContinueInFold( *m_head, m_text.substr( m_begin ) ) ) ||
+         ( !m_isHeadPlain && MayContinueInFold( Head(), m_text.substr( m_begin ) ) ) ||
          ( mayBeBoundary && CardBoundary::Of( a_line.m_text ).m_kind != CardBoundary::Kind::None ) )
         return Step::Stop;
     if ( HoldsFoldEvidence() )
@@ -98,13 +98,13 @@ void PlainCard::CloseLine()
         return;
     m_isOpen = false;
     const std::string_view line( m_text.data() + m_begin, m_lastTextEnd - m_begin );
-    const std::string_view value( line.data() + m_head->m_valueBegin, line.size() - m_head->m_valueBegin );
+    const std::string_view value( line.data() + Head().m_valueBegin, line.size() - Head().m_valueBegin );
     if ( m_isWide )
         CloseCharacters();
     if ( m_facts.m_version == PimContactVersion::Unknown )
-        m_facts.m_version = VersionOf( m_head->m_name.In( line ), value );
+        m_facts.m_version = VersionOf( Head().m_name.In( line ), value );
     const bool mayHaveEscapes = m_facts.m_version != PimContactVersion::V21 &&
-                                m_head->m_encoding != PimContactEncoding::Base64 &&
+                                Head().m_encoding != PimContactEncoding::Base64 &&
                                 std::memchr( value.data(), '\\', value.size() ) != nullptr;
     if ( mayHaveEscapes && HasUnknownEscapes( line, Entry() ) )
         NoteOddity( PimContactOddity::UnknownEscape );
@@ -113,37 +113,39 @@ void PlainCard::CloseLine()
         NoteOddity( PimContactOddity::ControlCharacters );
         m_facts.m_mayBeShifted = m_facts.m_mayBeShifted || MayBeShifted( line );
     }
-    if ( m_isHeadPlain )
-        m_index.AddPlain( *m_head, m_end - m_begin, m_hasFolds, m_joins.Bytes() );
-    else
+    if ( !m_isHeadPlain )
         WriteOdd();
+    else if ( m_head->m_entry.IsNull() )
+        m_index.AddPlain( Head(), m_end - m_begin, m_hasFolds, m_joins.Bytes() );
+    else
+        m_index.AddPlain( m_head->m_entry, m_end - m_begin, m_hasFolds, m_joins.Bytes() );
     Wrote( EntryKind::Line, m_end - m_begin );
 }
 
-bool PlainCard::ReadHead( std::string_view a_line, LineHead& a_head )
+const KnownHead* PlainCard::ReadHead( std::string_view a_line, bool& a_isPlain )
 {
-    if ( const LineHead* const known = m_sequence.Next( a_line ) )
-    {
-        a_head = *known;
-        return true;
-    }
-    const bool isPlain = a_head.Read( a_line );
-    a_head.m_property = PropertyOf( a_head.m_name.In( a_line ) );
-    if ( isPlain )
-        m_sequence.Learn( a_line, a_head );
-    return isPlain;
+    a_isPlain = true;
+    if ( const KnownHead* const known = m_sequence.Next( a_line ) )
+        return known;
+    KnownHead& read = m_head == m_heads.data() ? m_heads.back() : m_heads.front();
+    LineHead& head = read.m_head;
+    a_isPlain = head.Read( a_line );
+    head.m_property = PropertyOf( head.m_name.In( a_line ) );
+    if ( a_isPlain )
+        m_sequence.Learn( a_line, head );
+    return &read;
 }
 
 PlainCard::Step PlainCard::TakeProperty( const Line& a_line )
 {
-    LineHead& head = m_head == m_heads.data() ? m_heads.back() : m_heads.front();
-    const bool isPlain = ReadHead( a_line.m_text, head );
-    if ( ( !isPlain && !IsSurelyProperty( head ) ) || IsAgent( head, a_line.m_text ) )
+    bool isPlain = false;
+    const KnownHead* const head = ReadHead( a_line.m_text, isPlain );
+    if ( ( !isPlain && !IsSurelyProperty( head->m_head ) ) || IsAgent( head->m_head, a_line.m_text ) )
         return Step::Stop;
     CloseLine();
     WriteBlankUpTo( a_line.m_begin );
     m_linesClosed = m_physicalLines - 1;
-    m_head = &head;
+    m_head = head;
     m_isHeadPlain = isPlain;
     m_isOpen = true;
     m_isBehindEmptyLine = false;
@@ -296,7 +298,9 @@ void PlainCard::CloseCharacters()
 
 void PlainCard::NoteOddity( PimContactOddity a_oddity )
 {
-    m_head->m_oddities |= a_oddity;
+    m_oddHead = *m_head;
+    m_oddHead.m_head.m_oddities |= a_oddity;
+    m_head = &m_oddHead;
     m_isHeadPlain = false;
 }
 
@@ -312,7 +316,7 @@ IndexEntry PlainCard::Entry() const
 {
     IndexEntry entry;
     entry.m_length = m_end - m_begin;
-    entry.SetHead( *m_head );
+    entry.SetHead( Head() );
     entry.m_hasFolds = m_hasFolds;
     entry.m_joins = m_joins.Bytes();
     return entry;

@@ -87,13 +87,14 @@ private:
     Q_ALWAYS_INLINE Step TakeContinuation( const Line& a_line );
     Step TakeSoftBreak( const Line& a_line );
     Q_ALWAYS_INLINE Step TakeProperty( const Line& a_line );
-    Q_ALWAYS_INLINE bool ReadHead( std::string_view a_line, LineHead& a_head );
+    Q_ALWAYS_INLINE const KnownHead* ReadHead( std::string_view a_line, bool& a_isPlain );
     Step TakeEnd( const Line& a_line, bool a_isMended );
     Q_ALWAYS_INLINE bool EndsPlainly( std::string_view a_line );
     void WaitForLineEnd( const LineEndSearch& a_search, size_t a_next, size_t a_searched );
+    const LineHead& Head() const { return m_head->m_head; }
     bool HoldsFoldEvidence() const
     {
-        return m_head->m_encoding == PimContactEncoding::None && MayFoldByLength( m_facts.m_version );
+        return Head().m_encoding == PimContactEncoding::None && MayFoldByLength( m_facts.m_version );
     }
     void NoteFold( const Line& a_line );
     Q_ALWAYS_INLINE void CloseLine();
@@ -149,10 +150,12 @@ private:
     bool m_isWide = false;
     bool m_hasControls = false;
     bool m_hasFolds = false;
-    // The head of the line, and space for that of the next line.
-    std::array<LineHead, 2> m_heads;
+    // The head of the line is in m_sequence or one of these: two for heads that are not known, because that of the next
+    // line is read before the line is closed, and one for a head with oddities of the value.
+    std::array<KnownHead, 2> m_heads;
+    KnownHead m_oddHead;
     HeadSequence m_sequence;
-    LineHead* m_head = m_heads.data();
+    const KnownHead* m_head = m_heads.data();
     // LineHead::Read() has returned true for it.
     bool m_isHeadPlain = false;
     JoinWriter m_joins;

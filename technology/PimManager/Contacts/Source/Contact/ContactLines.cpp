@@ -34,6 +34,12 @@ bool IsFamiliar( std::optional<PropertyId> a_property )
     return a_property && *a_property != PropertyId::Other;
 }
 
+ByteRange PlainValueOf( const IndexReader::Outline& a_outline, quint32 a_begin )
+{
+    const quint32 value = a_outline.m_plainValue;
+    return value > 0 ? ByteRange{ a_begin + value, a_outline.m_length - value } : ByteRange();
+}
+
 PropertyId PropertyOfLine( const PimContactLine& a_line )
 {
     QByteArray buffer;
@@ -63,7 +69,7 @@ ContactLines::ContactLines( const PimContactCard& a_card ) :
         {
             const PropertyId property =
                 IsFamiliar( outline.m_property ) ? *outline.m_property : PropertyIn( outline, place );
-            m_lines.emplace_back( m_nextId++, 0U, place, property );
+            m_lines.emplace_back( m_nextId++, 0U, place, property, PlainValueOf( outline, begin ) );
             Note( property );
         }
         begin += outline.m_length;
@@ -177,7 +183,8 @@ ContactLine ContactLines::Added( const PimContactCard& a_line )
     PimContactLine line;
     for ( const PimContactLine& each : a_line )
         line = each;
-    return { m_nextId++, static_cast<quint32>( m_added.size() ), LineView::PlaceOf( line ), PropertyOfLine( line ) };
+    return { m_nextId++, static_cast<quint32>( m_added.size() ), LineView::PlaceOf( line ), PropertyOfLine( line ),
+             ByteRange() };
 }
 
 void ContactLines::NoteAll()

@@ -34,11 +34,12 @@ PropertyId PropertyNamed( std::string_view a_name );
 /// A line of a contact.
 struct ContactLine
 {
-    ContactLine( int a_id, quint32 a_card, LinePlace a_place, PropertyId a_property ) :
+    ContactLine( int a_id, quint32 a_card, LinePlace a_place, PropertyId a_property, ByteRange a_value ) :
         m_id( a_id ),
         m_card( a_card ),
         m_place( a_place ),
-        m_property( a_property )
+        m_property( a_property ),
+        m_plainValue( a_value )
     {
     }
 
@@ -48,6 +49,9 @@ struct ContactLine
     quint32 m_card;
     LinePlace m_place;
     PropertyId m_property;
+    /// The value in the bytes of the card, with the line ending, if it is UTF-8 text as written, except for its
+    /// escapes. At 0 for any other value, and in an added card.
+    ByteRange m_plainValue;
 };
 
 /// The lines in their order. Each added line is in its own card, so that all lines are read in the same way.
@@ -105,10 +109,9 @@ public:
     /// \return false for any other value.
     bool FindPlainValue( size_t a_index, std::string_view& a_value ) const
     {
-        const ContactLine& line = m_lines[a_index];
-        const IndexReader reader( m_view.m_index, line.m_place.m_entry, line.m_place.m_entry );
-        return line.m_card == 0 && !m_view.m_record.Has( CardRecord::IsOtherCharset ) &&
-               reader.FindValue( m_view.m_bytes.data() + line.m_place.m_begin, a_value );
+        const ByteRange value = m_lines[a_index].m_plainValue;
+        a_value = std::string_view( m_view.m_bytes.data() + value.m_begin, value.m_length );
+        return value.m_begin > 0 && !m_view.m_record.Has( CardRecord::IsOtherCharset );
     }
     PimContactLine LineOf( size_t a_index ) const
     {

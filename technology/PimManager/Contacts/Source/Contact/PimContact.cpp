@@ -25,10 +25,22 @@ namespace PimManager::Contacts
 namespace
 {
 
-/// \return the first FN that is not empty.
+// Most names need no decoding, and then no reader.
+std::string_view PlainFormattedName( const ContactLines& a_lines )
+{
+    std::string_view value;
+    const bool isPlain = a_lines.FindPlainValue( a_lines.Next( PropertyId::Fn, 0 ), value ) &&
+                         value.find( '\\' ) == std::string_view::npos;
+    return isPlain ? WithoutOuterSpace( WithoutLineEnd( value ) ) : std::string_view();
+}
+
+/// \return the first FN that is not empty. There must be a line with FN.
 QString FormattedName( const PimContactPrivate& a_contact )
 {
     QByteArray buffer;
+    const std::string_view plain = WordsIn( PlainFormattedName( a_contact.m_lines ), buffer );
+    if ( !plain.empty() )
+        return StringOf( plain );
     for ( FieldReader reader( a_contact ); reader.Next( PropertyId::Fn ); )
     {
         const std::string_view words = WordsIn( reader.Text(), buffer );

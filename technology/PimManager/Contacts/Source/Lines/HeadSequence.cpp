@@ -25,7 +25,7 @@ bool FindHashOfStart( std::string_view a_line, size_t& a_hash )
 
 } // namespace
 
-const LineHead* HeadSequence::NextByStart( std::string_view a_line )
+const KnownHead* HeadSequence::NextByStart( std::string_view a_line )
 {
     size_t hash = 0;
     if ( !FindHashOfStart( a_line, hash ) || !m_slots[m_byStart[hash]].Begins( a_line ) )
@@ -61,9 +61,12 @@ quint8 HeadSequence::SlotOf( std::string_view a_text, const LineHead& a_head )
     return slot;
 }
 
+// The head of the line before is still in use.
 quint8 HeadSequence::NextToFill()
 {
-    m_filled = m_filled + 1 == s_kSlots ? 1 : m_filled + 1;
+    do
+        m_filled = m_filled + 1 == s_kSlots ? 1 : m_filled + 1;
+    while ( m_filled == m_current );
     return static_cast<quint8>( m_filled );
 }
 
@@ -71,7 +74,10 @@ void HeadSequence::Slot::Set( std::string_view a_text, const LineHead& a_head )
 {
     std::copy( a_text.begin(), a_text.end(), m_text.begin() );
     m_length = static_cast<quint8>( a_text.size() );
-    m_head = a_head;
+    const size_t missing = s_kWord - std::min( a_text.size(), s_kWord );
+    m_mask = ~quint64( 0 ) >> ( 8 * missing );
+    m_word = FirstEight( a_text );
+    m_head = { a_head, HeadEntry( a_head ) };
 }
 
 } // namespace PimManager::Contacts

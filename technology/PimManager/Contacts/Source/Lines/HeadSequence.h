@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Lines/LineHead.h"
+#include "Lines/LineIndex.h"
 #include "Text/EightBytes.h"
 
 #include <QtGlobal>
@@ -14,6 +15,14 @@
 namespace PimManager::Contacts
 {
 
+/// The head of a line, and its part of the entry of the line in the index.
+struct KnownHead
+{
+    LineHead m_head;
+    /// Null if the head has not been remembered.
+    HeadEntry m_entry;
+};
+
 /// The cards of a book have nearly the same heads in the same order, such as `N:`, `FN:`, `TEL;TYPE=CELL:`. A
 /// comparison with the head that followed the last one before is faster than reading a head. So is one with the last
 /// head that began with the same bytes, if the order changes.
@@ -23,8 +32,9 @@ public:
     /// Begins a card.
     void Restart() { m_current = s_kStart; }
 
-    /// \return the head of the next line if it is an expected one; null if it must be read. Valid until Learn().
-    const LineHead* Next( std::string_view a_line )
+    /// \return the head of the next line if it is an expected one; null if it must be read. Valid until the second line
+    ///         after it.
+    const KnownHead* Next( std::string_view a_line )
     {
         const quint8 expected = m_slots[m_current].m_next;
         if ( !m_slots[expected].Begins( a_line ) )
@@ -50,15 +60,19 @@ private:
         void Set( std::string_view a_text, const LineHead& a_head );
         std::string_view Text() const { return std::string_view( m_text.data(), m_length ); }
 
+        // The first eight bytes of the head, and which bits of the first eight of a line they are compared with.
+        // Without a head, no line is equal.
+        quint64 m_word = 1;
+        quint64 m_mask = 0;
         std::array<char, s_kLongest> m_text = {};
         // 0 if there is no head.
         quint8 m_length = 0;
         // The slot of the head that followed the last time.
         quint8 m_next = s_kStart;
-        LineHead m_head;
+        KnownHead m_head;
     };
 
-    const LineHead* NextByStart( std::string_view a_line );
+    const KnownHead* NextByStart( std::string_view a_line );
     void StepTo( quint8 a_slot );
     quint8 SlotOf( std::string_view a_text, const LineHead& a_head );
     quint8 NextToFill();
@@ -75,10 +89,16 @@ private:
 // Most lines differ in the first eight bytes or not at all. The last eight bytes overlap those before.
 inline bool HeadSequence::Slot::Begins( std::string_view a_line ) const
 {
-    if ( a_line.size() < m_length || m_length < s_kWord )
+    if ( a_line.size() < s_kWord )
         return m_length > 0 && a_line.substr( 0, m_length ) == Text();
+    if ( ( WordAt( a_line.data() ) & m_mask ) != m_word )
+        return false;
+    if ( m_length <= s_kWord )
+        return true;
+    if ( a_line.size() < m_length )
+        return false;
     const size_t last = m_length - s_kWord;
-    for ( size_t place = 0; place < last; place += s_kWord )
+    for ( size_t place = s_kWord; place < last; place += s_kWord )
     {
         if ( WordAt( m_text.data() + place ) != WordAt( a_line.data() + place ) )
             return false;

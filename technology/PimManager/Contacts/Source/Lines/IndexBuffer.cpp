@@ -5,16 +5,17 @@
 namespace PimManager::Contacts
 {
 
-quint32 ReadLongNumber( const uchar*& a_place )
+NumberEnd ReadLongNumber( const uchar* a_place )
 {
-    uint byte = *a_place++;
+    const uchar* place = a_place;
+    uint byte = *place++;
     quint32 number = byte & ~s_kNumberContinues;
     for ( uint shift = s_kBitsOfNumberByte; byte >= s_kNumberContinues; shift += s_kBitsOfNumberByte )
     {
-        byte = *a_place++;
+        byte = *place++;
         number |= ( byte & ~s_kNumberContinues ) << shift;
     }
-    return number;
+    return { place, number };
 }
 
 // Large indexes grow by a quarter and do not double, because they count towards the memory limit of a reader.

@@ -31,13 +31,25 @@ inline uchar* WriteNumber( uchar* a_place, quint32 a_number )
     return a_place + 1;
 }
 
-/// Reads a number of at least two bytes and steps after it.
-quint32 ReadLongNumber( const uchar*& a_place );
+/// A number, and the position after it.
+struct NumberEnd
+{
+    const uchar* m_end;
+    quint32 m_number;
+};
+
+/// Reads a number of at least two bytes.
+NumberEnd ReadLongNumber( const uchar* a_place );
 
 /// Reads a number and steps after it.
 inline quint32 ReadNumber( const uchar*& a_place )
 {
-    return *a_place < s_kNumberContinues ? *a_place++ : ReadLongNumber( a_place );
+    if ( *a_place < s_kNumberContinues )
+        return *a_place++;
+    // Without the address of a_place, which stays in a register.
+    const NumberEnd number = ReadLongNumber( a_place );
+    a_place = number.m_end;
+    return number.m_number;
 }
 
 /// A growing run of bytes. It keeps its memory when it is cleared.

@@ -18,6 +18,7 @@
 
 #include <QtGlobal>
 
+#include <array>
 #include <optional>
 
 namespace PimManager::Contacts
@@ -96,6 +97,13 @@ struct IndexEntry
         return m_hasColon ? m_oddities : m_oddities | PimContactOddity::MissingColon;
     }
 
+    /// \return true if there may be a break in the first a_length bytes of the line.
+    bool MayHaveBreakBefore( quint32 a_length ) const
+    {
+        const uchar* firstJoin = m_joins.m_data;
+        return m_hasFolds || ( m_joins.m_size > 0 && ReadNumber( firstJoin ) < a_length );
+    }
+
     /// For Nested: the position and length of the record and the index of the nested card.
     quint32 m_indexBegin = 0;
     quint32 m_indexLength = 0;
@@ -152,6 +160,23 @@ struct IndexHeader
     static constexpr uint s_kExtraPlaces = 0x40;
 };
 
+/// The bytes that all entries of plain lines with the same short head have in common.
+struct HeadEntry
+{
+    HeadEntry() = default;
+    /// \param a_head LineHead::Read() has returned true for it. Its lengths must be less than 0x80.
+    explicit HeadEntry( const LineHead& a_head );
+
+    bool IsNull() const { return m_lengthBytes == 0; }
+
+    uchar m_header = 0;
+    uchar m_property = 0;
+    /// The lengths of name, group and parameters, and the number of bytes in use.
+    std::array<uchar, 4> m_lengths = {};
+    uchar m_lengthBytes = 0;
+    PimContactEncoding m_encoding = PimContactEncoding::None;
+};
+
 /// Writes entries.
 class IndexWriter
 {
@@ -161,6 +186,8 @@ public:
     void Add( const IndexEntry& a_entry );
     /// Adds a line without oddities for whose head LineHead::Read() returned true.
     void AddPlain( const LineHead& a_head, quint32 a_length, bool a_hasFolds, IndexBytes a_joins );
+    /// The same for a head whose entry is known.
+    void AddPlain( const HeadEntry& a_head, quint32 a_length, bool a_hasFolds, IndexBytes a_joins );
     void AddPart( EntryKind a_kind, quint32 a_length ) { AddPart( a_kind, a_length, 0 ); }
     void AddDropped( DropReason a_reason, quint32 a_length );
     void AddBoundary( quint32 a_length, bool a_isMended )
@@ -176,6 +203,7 @@ public:
 
 private:
     void AddPart( EntryKind a_kind, quint32 a_length, uint a_detail );
+    void EndPlain( uchar* a_place, uint a_extras, IndexBytes a_joins );
     static uchar* WriteExtras( uchar* a_place, const IndexEntry& a_entry, uint a_extras );
 
     IndexBuffer m_buffer;
@@ -220,10 +248,12 @@ public:
         std::optional<PropertyId> m_property;
         /// For a line: there may be line endings in the name.
         bool m_isContinued = false;
+        /// The position of a value that is UTF-8 text as written, except for its escapes; 0 for any other line.
+        quint32 m_plainValue = 0;
     };
 
     /// Steps after the next entry and reads only these data.
-    Outline Skip()
+    Q_ALWAYS_INLINE Outline Skip()
     {
         const uchar* place = m_base + m_place;
         const uint header = *place;
@@ -232,13 +262,17 @@ public:
         if ( outline.m_kind == EntryKind::Line )
         {
             const LineLengths lengths = ReadLengths( place );
-            const uint extras = ( header & IndexHeader::s_kHasExtras ) != 0 ? SkipExtras( place ) : 0;
+            const NumberEnd extras =
+                ( header & IndexHeader::s_kHasExtras ) != 0 ? SkipExtras( place ) : NumberEnd{ place, 0 };
+            place = extras.m_end;
             outline.m_length = lengths.m_line;
             outline.m_property = lengths.Property();
-            if ( ( extras & IndexHeader::s_kExtraPlaces ) == 0 )
+            if ( ( extras.m_number & IndexHeader::s_kExtraPlaces ) == 0 )
                 outline.m_name = { lengths.NameBegin(), lengths.m_name };
+            if ( HasPlainValue( header ) )
+                outline.m_plainValue = lengths.ValueBegin();
             outline.m_isContinued =
-                ( header & IndexHeader::s_kHasFolds ) != 0 || ( extras & IndexHeader::s_kExtraJoins ) != 0;
+                ( header & IndexHeader::s_kHasFolds ) != 0 || ( extras.m_number & IndexHeader::s_kExtraJoins ) != 0;
         }
         else
         {
@@ -287,11 +321,10 @@ public:
     bool FindValue( const char* a_line, std::string_view& a_value ) const
     {
         const uchar* place = m_base + m_place;
-        if ( ( *place & ( IndexHeader::s_kHasFolds | IndexHeader::s_kHasExtras | IndexHeader::s_kHasColon ) ) !=
-             IndexHeader::s_kHasColon )
+        if ( !HasPlainValue( *place ) )
             return false;
         const LineLengths lengths = ReadLengths( place );
-        const quint32 begin = lengths.NameBegin() + lengths.m_name + lengths.m_parameters + 1;
+        const quint32 begin = lengths.ValueBegin();
         a_value = std::string_view( a_line + begin, lengths.m_line - begin );
         return true;
     }
@@ -312,7 +345,14 @@ private:
             return m_property == 0 ? std::nullopt : std::optional( static_cast<PropertyId>( m_property - 1 ) );
         }
         quint32 NameBegin() const { return m_group == 0 ? 0 : m_group + 1; }
+        // If there is a colon.
+        quint32 ValueBegin() const { return NameBegin() + m_name + m_parameters + 1; }
     };
+    static bool HasPlainValue( uint a_header )
+    {
+        return ( a_header & ( IndexHeader::s_kHasFolds | IndexHeader::s_kHasExtras | IndexHeader::s_kHasColon ) ) ==
+               IndexHeader::s_kHasColon;
+    }
     static LineLengths ReadLengths( const uchar*& a_place )
     {
         const uint header = *a_place++;
@@ -326,7 +366,8 @@ private:
             lengths.m_parameters = ReadNumber( a_place );
         return lengths;
     }
-    static uint SkipExtras( const uchar*& a_place );
+    /// \return the flags of the extras, and the position after the extras.
+    static NumberEnd SkipExtras( const uchar* a_place );
 
     void ReadBrief( IndexEntry& a_entry );
     void ReadPart( IndexEntry& a_entry );

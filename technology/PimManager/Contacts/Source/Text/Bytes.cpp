@@ -5,6 +5,10 @@
 #include <algorithm>
 #include <cstring>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 namespace PimManager::Contacts
 {
 
@@ -26,6 +30,17 @@ void Widen( const char* a_from, QChar* a_to )
     const Units units = __builtin_convertvector( bytes, Units );
     std::memcpy( static_cast<void*>( a_to ), &units, sizeof( units ) );
 }
+
+#ifdef __SSE2__
+// One instruction, for which the compiler takes five.
+template <>
+void Widen<EightBytes, EightUnits>( const char* a_from, QChar* a_to )
+{
+    const __m128i bytes = _mm_loadl_epi64( reinterpret_cast<const __m128i*>( a_from ) );
+    const __m128i units = _mm_unpacklo_epi8( bytes, _mm_setzero_si128() );
+    _mm_storeu_si128( reinterpret_cast<__m128i*>( a_to ), units );
+}
+#endif
 
 // The last ones may overlap those before them.
 template <class Bytes, class Units>
@@ -119,7 +134,8 @@ bool AreAllAscii( std::string_view a_text )
 QString AsciiString( std::string_view a_text )
 {
     QString string( static_cast<int>( a_text.size() ), Qt::Uninitialized );
-    QChar* const out = string.data();
+    // The string is not shared yet.
+    auto* const out = const_cast<QChar*>( string.constData() );
     if ( a_text.size() >= s_kWord )
         WidenAll<EightBytes, EightUnits>( a_text, out );
     else if ( a_text.size() >= s_kFour )

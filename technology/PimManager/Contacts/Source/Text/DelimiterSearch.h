@@ -10,10 +10,93 @@
 
 #include <string_view>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 namespace PimManager::Contacts
 {
 
-/// Iterates over the positions of two bytes in a text. It examines eight bytes at once.
+#ifdef __SSE2__
+/// Finds two bytes, none of which is NUL, in 16 bytes at once.
+class DelimiterBlock
+{
+public:
+    static constexpr size_t s_kBytes = 16;
+    /// A bit for each byte, the first one lowest.
+    using Matches = uint;
+
+    DelimiterBlock( char a_first, char a_second ) :
+        m_first( _mm_set1_epi8( a_first ) ),
+        m_second( _mm_set1_epi8( a_second ) )
+    {
+    }
+
+    /// \return the matches in the bytes from a position on, which is less than the length of the text.
+    Matches In( std::string_view a_text, size_t a_place ) const
+    {
+        if ( a_text.size() < s_kBytes )
+            return In( _mm_set_epi64x( Eight( a_text, s_kWord ), Eight( a_text, 0 ) ) ) >> a_place;
+        // The last bytes overlap those before.
+        const size_t place = std::min( a_place, a_text.size() - s_kBytes );
+        return In( _mm_loadu_si128( reinterpret_cast<const __m128i*>( a_text.data() + place ) ) ) >>
+               ( a_place - place );
+    }
+    static size_t PlaceOfFirst( Matches a_matches ) { return qCountTrailingZeroBits( a_matches ); }
+
+private:
+    static qint64 Eight( std::string_view a_text, size_t a_place )
+    {
+        return static_cast<qint64>( FirstEight( a_text.substr( std::min( a_place, a_text.size() ) ) ) );
+    }
+    Matches In( __m128i a_bytes ) const
+    {
+        const __m128i matches = _mm_or_si128( _mm_cmpeq_epi8( a_bytes, m_first ), _mm_cmpeq_epi8( a_bytes, m_second ) );
+        return static_cast<Matches>( _mm_movemask_epi8( matches ) );
+    }
+
+    __m128i m_first;
+    __m128i m_second;
+};
+#else
+/// Finds two bytes, none of which is NUL, in eight bytes at once.
+class DelimiterBlock
+{
+public:
+    static constexpr size_t s_kBytes = s_kWord;
+    /// The high bit of each byte, the first one lowest.
+    using Matches = quint64;
+
+    DelimiterBlock( char a_first, char a_second ) :
+        m_first( s_kOnes * static_cast<uchar>( a_first ) ),
+        m_second( s_kOnes * static_cast<uchar>( a_second ) )
+    {
+    }
+
+    /// \return the matches in the bytes from a position on, which is less than the length of the text.
+    Matches In( std::string_view a_text, size_t a_place ) const
+    {
+        const quint64 word = FirstEight( std::string_view( a_text.data() + a_place, a_text.size() - a_place ) );
+        return ZeroBytesOf( word ^ m_first ) | ZeroBytesOf( word ^ m_second );
+    }
+    static size_t PlaceOfFirst( Matches a_matches ) { return qCountTrailingZeroBits( a_matches ) / s_kByteBits; }
+
+private:
+    static constexpr uint s_kByteBits = 8;
+    static constexpr quint64 s_kLowBits = ~s_kHighBits;
+
+    // The high bit of each byte that is zero, and no others.
+    static quint64 ZeroBytesOf( quint64 a_word )
+    {
+        return ~( ( ( a_word & s_kLowBits ) + s_kLowBits ) | a_word | s_kLowBits );
+    }
+
+    quint64 m_first;
+    quint64 m_second;
+};
+#endif
+
+/// Iterates over the positions of two bytes, none of which is NUL, in a text.
 ///
 /// \code
 /// for ( DelimiterSearch search( "a;b,c", ';', ',' ); search.Next(); )
@@ -25,8 +108,7 @@ public:
     /// \param a_text must outlive the search.
     DelimiterSearch( std::string_view a_text, char a_first, char a_second ) :
         m_text( a_text ),
-        m_first( EachByte( a_first ) ),
-        m_second( EachByte( a_second ) )
+        m_delimiters( a_first, a_second )
     {
     }
 
@@ -40,12 +122,11 @@ public:
                 m_place = m_text.size();
                 return false;
             }
-            m_word = m_next;
-            const quint64 word = WordAt( m_next );
-            m_matches = ZeroBytesOf( word ^ m_first ) | ZeroBytesOf( word ^ m_second );
-            m_next += sizeof( quint64 );
+            m_block = m_next;
+            m_matches = m_delimiters.In( m_text, m_block );
+            m_next += DelimiterBlock::s_kBytes;
         }
-        m_place = m_word + qCountTrailingZeroBits( m_matches ) / s_kByteBits;
+        m_place = m_block + DelimiterBlock::PlaceOfFirst( m_matches );
         m_matches &= m_matches - 1;
         return true;
     }
@@ -53,30 +134,12 @@ public:
     size_t Place() const { return m_place; }
 
 private:
-    static constexpr uint s_kByteBits = 8;
-    static constexpr quint64 s_kLowBits = ~s_kHighBits;
-
-    static constexpr quint64 EachByte( char a_byte ) { return s_kOnes * static_cast<uchar>( a_byte ); }
-
-    /// \return a word with the high bit of each byte that is zero, and no others.
-    static quint64 ZeroBytesOf( quint64 a_word )
-    {
-        return ~( ( ( a_word & s_kLowBits ) + s_kLowBits ) | a_word | s_kLowBits );
-    }
-
-    // The first byte is the lowest. NUL follows the text, and it is not a delimiter.
-    quint64 WordAt( size_t a_place ) const
-    {
-        return FirstEight( std::string_view( m_text.data() + a_place, m_text.size() - a_place ) );
-    }
-
     std::string_view m_text;
-    quint64 m_first;
-    quint64 m_second;
+    DelimiterBlock m_delimiters;
     size_t m_next = 0;
-    // The start of the last word, and its remaining positions.
-    size_t m_word = 0;
-    quint64 m_matches = 0;
+    // The start of the last block, and its remaining positions.
+    size_t m_block = 0;
+    DelimiterBlock::Matches m_matches = 0;
     size_t m_place = 0;
 };
 

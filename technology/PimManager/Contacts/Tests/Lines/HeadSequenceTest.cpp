@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <random>
 #include <string>
@@ -15,10 +16,10 @@ namespace
 /// \param[out] a_isExpected true if the head was the expected one.
 LineHead HeadOf( HeadSequence& a_sequence, std::string_view a_line, bool& a_isExpected )
 {
-    const LineHead* const known = a_sequence.Next( a_line );
+    const KnownHead* const known = a_sequence.Next( a_line );
     a_isExpected = known != nullptr;
     if ( known != nullptr )
-        return *known;
+        return known->m_head;
     LineHead head;
     if ( head.Read( a_line ) )
         a_sequence.Learn( a_line, head );
@@ -111,9 +112,33 @@ TEST( HeadSequenceTest, PropertyIsRemembered )
     head.m_property = PropertyId::Tel;
     sequence.Learn( "TEL:1", head );
     sequence.Restart();
-    const LineHead* const known = sequence.Next( "TEL:2" );
+    const KnownHead* const known = sequence.Next( "TEL:2" );
     ASSERT_NE( known, nullptr );
-    EXPECT_EQ( known->m_property, PropertyId::Tel );
+    EXPECT_EQ( known->m_head.m_property, PropertyId::Tel );
+}
+
+// The head of a line is used until the next line has been read.
+TEST( HeadSequenceTest, HeadOfTheLineBeforeIsNotReplaced )
+{
+    const auto lineOf = []( int a_number ) { return "X-" + std::to_string( 10000 + a_number ) + "-OF-MANY-HEADS:1"; };
+    HeadSequence sequence;
+    int known = 0;
+    for ( int last = 0; last < 100; ++last )
+    {
+        EXPECT_FALSE( IsExpected( sequence, lineOf( last ) ) ) << last;
+        for ( int line = std::max( last - 40, 0 ); line <= last; ++line )
+        {
+            HeadSequence copy = sequence;
+            const KnownHead* const head = copy.Next( lineOf( line ) );
+            if ( head == nullptr )
+                continue;
+            const std::string before = Described( head->m_head );
+            EXPECT_FALSE( IsExpected( copy, "OTHER;TYPE=HOME:1" ) );
+            EXPECT_EQ( Described( head->m_head ), before ) << line << " of " << last;
+            ++known;
+        }
+    }
+    EXPECT_GT( known, 1000 );
 }
 
 TEST( HeadSequenceTest, LongHeadIsNotRemembered )

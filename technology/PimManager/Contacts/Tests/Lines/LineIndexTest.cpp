@@ -4,6 +4,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace PimManager::Contacts
@@ -168,6 +169,11 @@ std::vector<EntryRow> Entries()
     };
 }
 
+std::vector<uchar> Copied( IndexBytes a_bytes )
+{
+    return std::vector<uchar>( a_bytes.m_data, a_bytes.m_data + a_bytes.m_size );
+}
+
 IndexReader ReaderOf( IndexBytes a_bytes )
 {
     return IndexReader( a_bytes.m_data, 0, a_bytes.m_size );
@@ -311,16 +317,53 @@ TEST( LineIndexTest, CleanLinesAreWrittenLikeOthers )
             entry.m_hasFolds = true;
             entry.m_joins = bytes;
             IndexWriter clean;
+            IndexWriter known;
             IndexWriter other;
             clean.AddPlain( head, 200, true, bytes );
+            known.AddPlain( HeadEntry( head ), 200, true, bytes );
             other.Add( entry );
-            const IndexBytes first = clean.Bytes();
-            const IndexBytes second = other.Bytes();
-            EXPECT_EQ( std::vector<uchar>( first.m_data, first.m_data + first.m_size ),
-                       std::vector<uchar>( second.m_data, second.m_data + second.m_size ) )
-                << text;
+            EXPECT_EQ( Copied( clean.Bytes() ), Copied( other.Bytes() ) ) << text;
+            EXPECT_EQ( Copied( known.Bytes() ), Copied( other.Bytes() ) ) << text;
         }
     }
+}
+
+TEST( LineIndexTest, PlainValueIsFoundInEachWay )
+{
+    constexpr std::array s_kPlain = { "FN:a", "item1.TEL;TYPE=home:1", "X:" };
+    constexpr std::array s_kOther = { "NOTE;QUOTED-PRINTABLE:a", "FN" };
+    const auto placeIn = []( const char* a_text, bool a_hasFolds )
+    {
+        const auto length = static_cast<quint32>( std::string_view( a_text ).size() );
+        IndexWriter writer;
+        writer.AddPlain( LineHead::Of( a_text ), length, a_hasFolds, {} );
+        std::string_view value;
+        const bool isFound = ReaderOf( writer.Bytes() ).FindValue( a_text, value );
+        const quint32 place = ReaderOf( writer.Bytes() ).Skip().m_plainValue;
+        EXPECT_EQ( isFound ? static_cast<quint32>( value.data() - a_text ) : 0, place ) << a_text;
+        return place;
+    };
+    for ( const char* const text : s_kPlain )
+    {
+        EXPECT_EQ( placeIn( text, false ), std::string_view( text ).find( ':' ) + 1 ) << text;
+        EXPECT_EQ( placeIn( text, true ), 0U ) << text;
+    }
+    for ( const char* const text : s_kOther )
+        EXPECT_EQ( placeIn( text, false ), 0U ) << text;
+}
+
+TEST( LineIndexTest, BreakMayBeBeforeAPlaceBehindTheFirstJoin )
+{
+    JoinWriter joins;
+    joins.Add( { 30, 3, PimContactJoin::SoftBreak } );
+    joins.Add( { 60, 3, PimContactJoin::SoftBreak } );
+    IndexEntry entry;
+    EXPECT_FALSE( entry.MayHaveBreakBefore( 100 ) );
+    entry.m_joins = joins.Bytes();
+    EXPECT_FALSE( entry.MayHaveBreakBefore( 30 ) );
+    EXPECT_TRUE( entry.MayHaveBreakBefore( 31 ) );
+    entry.m_hasFolds = true;
+    EXPECT_TRUE( entry.MayHaveBreakBefore( 30 ) );
 }
 
 TEST( LineIndexTest, NestedIndexIsSteppedOver )

@@ -52,7 +52,7 @@ QVariant ValueOf( const std::optional<int>& a_part )
 const PimContactDatePrivate& PimContactDatePrivate::Of( const PimContactDate& a_date )
 {
     static const PimContactDatePrivate s_null{ DateFields() };
-    return a_date.d ? *a_date.d : s_null;
+    return a_date.d != nullptr ? *a_date.d : s_null;
 }
 
 PimContactDate PimContactDatePrivate::Read( std::string_view a_text, DateHint a_hint,

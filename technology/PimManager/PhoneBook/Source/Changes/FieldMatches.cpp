@@ -41,19 +41,18 @@ FieldsByPlace<Field> FieldsWithoutPartner( const ComparedLines& a_lines, const P
 
 /// \return a text that is the same for equal fields.
 template <class Field>
-QString KeyOf( const ComparedLines& a_lines, int a_place, const PimContactList<Field>& )
+QString KeyOf( const ComparedLines& a_lines, int a_place, const PimContactList<Field>& /*a_fields*/ )
 {
     return a_lines.Contact().FieldOf( a_lines.At( a_place ).m_line ).Text();
 }
 
 // The same picture and the same date have many texts, and contacts have few of them.
-
-QString KeyOf( const ComparedLines&, int, const PimContactList<PimContactMedia>& )
+QString KeyOf( const ComparedLines& /*a_lines*/, int /*a_place*/, const PimContactList<PimContactMedia>& /*a_fields*/ )
 {
     return QString();
 }
 
-QString KeyOf( const ComparedLines&, int, const PimContactList<PimContactEvent>& )
+QString KeyOf( const ComparedLines& /*a_lines*/, int /*a_place*/, const PimContactList<PimContactEvent>& /*a_fields*/ )
 {
     return QString();
 }
@@ -69,8 +68,8 @@ void MatchKind( ComparedLines& a_old, ComparedLines& a_new, PimContactList<Field
     for ( auto field = news.constBegin(); field != news.constEnd(); ++field )
     {
         QVector<int>& same = places[KeyOf( a_new, field.key(), field.value() )];
-        const auto end = same.begin() + std::min( static_cast<int>( same.size() ), s_kMostCompared );
-        const auto old =
+        const QVector<int>::iterator end = same.begin() + std::min( static_cast<int>( same.size() ), s_kMostCompared );
+        const QVector<int>::iterator old =
             std::find_if( same.begin(), end, [&]( int a_place ) { return olds.value( a_place ) == field.value(); } );
         if ( old == end )
             continue;

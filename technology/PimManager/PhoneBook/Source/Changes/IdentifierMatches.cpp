@@ -9,7 +9,6 @@
 namespace PimManager::PhoneBook
 {
 
-using Contacts::PimContact;
 using Contacts::PimContactBook;
 
 namespace

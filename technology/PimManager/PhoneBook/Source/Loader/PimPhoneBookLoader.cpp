@@ -104,7 +104,7 @@ void PimPhoneBookLoader::LoadDevice( const DeviceMaker& a_maker )
     StartLoaderThread( d->m_job );
     const QPointer<PimPhoneBookLoader> self( this );
     emit ProgressChanged();
-    if ( self && !wasLoading )
+    if ( !self.isNull() && !wasLoading )
         emit LoadingChanged();
 }
 
@@ -152,18 +152,18 @@ Contacts::PimContactReport PimPhoneBookLoader::Report() const
 
 PimPhoneBook PimPhoneBookLoader::PhoneBook() const
 {
-    return d->m_model ? d->m_model->PhoneBook() : d->m_phoneBook;
+    return !d->m_model.isNull() ? d->m_model->PhoneBook() : d->m_phoneBook;
 }
 
 // A slot may start another loading, stop this one, or delete the loader.
-void PimPhoneBookLoader::customEvent( QEvent* )
+void PimPhoneBookLoader::customEvent( QEvent* /*a_event*/ )
 {
     if ( !IsLoading() )
         return;
     const std::shared_ptr<LoaderJob> job = d->m_job;
     const LoaderNews news = job->TakeNews();
     const QPointer<PimPhoneBookLoader> self( this );
-    const auto isStill = [&] { return self && d->m_job == job; };
+    const auto isStill = [&] { return !self.isNull() && d->m_job == job; };
     const bool isLoaded = news.m_end && news.m_end->m_errorText.isEmpty();
     SetProgress( news.m_bytesRead, news.m_bytesInAll );
     if ( isStill() && news.m_book )
@@ -185,7 +185,7 @@ void PimPhoneBookLoader::SetProgress( qint64 a_read, qint64 a_inAll )
 
 void PimPhoneBookLoader::SetBook( const LoaderBook& a_book )
 {
-    if ( d->m_model )
+    if ( !d->m_model.isNull() )
         d->m_model->d->SetPhoneBook( a_book.m_phoneBook, a_book.m_step );
     else
         d->m_phoneBook = a_book.m_phoneBook;
@@ -201,9 +201,9 @@ void PimPhoneBookLoader::End( const LoaderEnd& a_end )
         emit Loaded( PhoneBook() );
     else
         emit Failed( a_end.m_errorText );
-    if ( self )
+    if ( !self.isNull() )
         emit ProgressChanged();
-    if ( self )
+    if ( !self.isNull() )
         emit LoadingChanged();
 }
 

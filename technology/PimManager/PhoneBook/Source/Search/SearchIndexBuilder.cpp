@@ -46,7 +46,7 @@ void SearchIndexBuilder::Sort( SearchIndex& a_index )
 }
 
 void SearchIndexBuilder::AddSections( const std::vector<int>& a_sections, const NameOrder& a_order,
-                                      SearchIndex& a_index ) const
+                                      SearchIndex& a_index )
 {
     int last = -1;
     for ( const int contact : std::as_const( a_index.m_sorted ) )

@@ -41,7 +41,7 @@ public:
 
 private:
     void Sort( SearchIndex& a_index );
-    void AddSections( const std::vector<int>& a_sections, const NameOrder& a_order, SearchIndex& a_index ) const;
+    static void AddSections( const std::vector<int>& a_sections, const NameOrder& a_order, SearchIndex& a_index );
 
     PimPhoneBookOptions m_options;
     ContactWords m_contact;

@@ -108,16 +108,17 @@ bool WordCollector::IsBefore( const Entry& a_first, const Entry& a_second ) cons
             return order < 0;
     }
     return a_first.m_contact != a_second.m_contact ? a_first.m_contact < a_second.m_contact
-                                                   : a_first.m_isOrganisation < a_second.m_isOrganisation;
+                                                   : !a_first.m_isOrganisation && a_second.m_isOrganisation;
 }
 
 void WordCollector::Sort()
 {
     std::sort( m_entries.begin(), m_entries.end(),
                [this]( const Entry& a_first, const Entry& a_second ) { return IsBefore( a_first, a_second ); } );
+    // No entry is before an earlier one any more.
     const auto end = std::unique( m_entries.begin(), m_entries.end(),
-                                  [this]( const Entry& a_first, const Entry& a_second )
-                                  { return !IsBefore( a_first, a_second ) && !IsBefore( a_second, a_first ); } );
+                                  [this]( const Entry& a_earlier, const Entry& a_later )
+                                  { return !IsBefore( a_earlier, a_later ); } );
     m_entries.erase( end, m_entries.end() );
 }
 

@@ -214,6 +214,7 @@ const CsvColumn* FindCsvColumn( const QByteArray& a_name )
 std::vector<const CsvColumn*> AllCsvColumns()
 {
     std::vector<const CsvColumn*> columns;
+    columns.reserve( s_kColumns.size() );
     for ( const CsvColumn& column : s_kColumns )
         columns.push_back( &column );
     return columns;

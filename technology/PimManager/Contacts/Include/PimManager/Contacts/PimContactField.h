@@ -114,7 +114,7 @@ public:
 
     PimContactList() = default;
     PimContactList( const PimContactList& a_other ) = default;
-    PimContactList( PimContactList&& a_other ) = default;
+    PimContactList( PimContactList&& a_other ) noexcept = default;
     ~PimContactList() = default;
     // There is no move assignment, because that of Qt 6.4 loses memory. A list is copied instead.
     PimContactList& operator=( const PimContactList& a_other ) = default;

@@ -3,6 +3,8 @@
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR arm)
 set(CMAKE_CXX_COMPILER arm-linux-gnueabihf-g++)
+# Without a note for each 64-bit argument, which older compilers passed in another way. No code was compiled by these.
+set(CMAKE_CXX_FLAGS_INIT -Wno-psabi)
 set(CMAKE_SYSROOT ${CMAKE_CURRENT_LIST_DIR}/../build/arm-sysroot)
 cmake_path(NORMAL_PATH CMAKE_SYSROOT)
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-arm -L ${CMAKE_SYSROOT})

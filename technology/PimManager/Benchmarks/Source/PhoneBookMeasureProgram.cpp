@@ -6,10 +6,9 @@
 //   index FILE [SNAPSHOT]        the same, and makes a phone book of it.
 //   queries FILE                 prints what can be typed in up to four keys so that something is found: the beginnings
 //                                of words, and all digits. Each line is `find TEXT` or `keys DIGITS`.
-//   model FILE QUERIES           types each line of the file QUERIES in a model. Under callgrind, the instructions of
-//   the
-//                                last key, rows included, are dumped with the line as their trigger.
-//   find|keys FILE TEXT TIMES    carries out one query that many times.
+//   model FILE QUERIES [before]  types each line of the file QUERIES in a model. Under callgrind, the instructions of
+//                                the last key, rows included, are dumped with the line as their trigger. With
+//                                `before`, the last key is not typed, so that the difference of two runs is its work.
 //   who FILE TIMES               asks that many times for the caller of each number of the book.
 //   compare OLD NEW              compares two books.
 
@@ -92,14 +91,6 @@ void Index( const char* a_name, const char* a_snapshot )
     End( phoneBook.Size() );
 }
 
-// What a person sees of the first rows of the list. Writes a number, so that the compiler leaves nothing out.
-int Found( const PimPhoneBook& a_phoneBook, const QByteArray& a_kind, const QString& a_text )
-{
-    const QVector<PimPhoneBookMatch> matches =
-        a_kind == "keys" ? a_phoneBook.FindByKeys( a_text ) : a_phoneBook.Find( a_text );
-    return static_cast<int>( matches.size() );
-}
-
 void AddBeginnings( const QString& a_text, std::set<QString>& a_beginnings )
 {
     for ( const QString& word : a_text.toLower().split( QLatin1Char( ' ' ) ) )
@@ -126,7 +117,7 @@ void PrintQueries( const char* a_name )
     }
 }
 
-void Model( const char* a_name, const char* a_queries )
+void Model( const char* a_name, const char* a_queries, bool a_hasLastKey )
 {
     PimPhoneBookModel model;
     model.SetPhoneBook( PhoneBookOf( ReadBook( a_name ) ) );
@@ -146,20 +137,11 @@ void Model( const char* a_name, const char* a_queries )
         };
         search( text.left( text.size() - 1 ) );
         CALLGRIND_ZERO_STATS;
-        search( text );
+        if ( a_hasLastKey )
+            search( text );
         CALLGRIND_DUMP_STATS_AT( line.constData() );
     }
     End( model.PhoneBook().Size() );
-}
-
-void Find( const QByteArray& a_kind, const char* a_name, const char* a_text, int a_times )
-{
-    const PimPhoneBook phoneBook = PhoneBookOf( ReadBook( a_name ) );
-    const QString text = QString::fromLocal8Bit( a_text );
-    volatile int found = 0;
-    for ( int i = 0; i < a_times; ++i )
-        found = found + Found( phoneBook, a_kind, text );
-    End( phoneBook.Size() );
 }
 
 void Who( const char* a_name, int a_times )
@@ -206,17 +188,14 @@ int main( int argc, char* argv[] )
         return 0;
     }
     if ( command == "model" && argc > 3 )
-        Model( argv[2], argv[3] );
-    if ( ( command == "find" || command == "keys" ) && argc > 4 )
-        Find( command, argv[2], argv[3], std::atoi( argv[4] ) );
+        Model( argv[2], argv[3], argc == 4 );
     if ( command == "who" && argc > 3 )
         Who( argv[2], std::atoi( argv[3] ) );
     if ( command == "compare" && argc > 3 )
         Compare( argv[2], argv[3] );
     std::fputs( "usage: pimvcard-measure-phonebook book|index FILE [SNAPSHOT]\n"
                 "       pimvcard-measure-phonebook queries FILE\n"
-                "       pimvcard-measure-phonebook model FILE QUERIES\n"
-                "       pimvcard-measure-phonebook find|keys FILE TEXT TIMES\n"
+                "       pimvcard-measure-phonebook model FILE QUERIES [before]\n"
                 "       pimvcard-measure-phonebook who FILE TIMES\n"
                 "       pimvcard-measure-phonebook compare OLD NEW\n",
                 stderr );

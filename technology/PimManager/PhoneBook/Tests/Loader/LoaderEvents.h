@@ -5,6 +5,8 @@
 
 #include <PimManager/PhoneBook/PimPhoneBookLoader.h>
 
+#include <gtest/gtest.h>
+
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -12,6 +14,7 @@
 #include <QString>
 
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace PimManager::PhoneBook

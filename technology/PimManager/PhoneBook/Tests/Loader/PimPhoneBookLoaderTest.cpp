@@ -2,17 +2,17 @@
 
 #include "../Model/ModelBooks.h"
 #include "../Model/ShadowList.h"
+#include "LoaderEvents.h"
 #include "TestDevices.h"
 
 #include <PimManager/PhoneBook/PimPhoneBookModel.h>
 
 #include <gtest/gtest.h>
 
-#include "LoaderEvents.h"
-
 #include <QBuffer>
+#include <QFile>
 #include <QPointer>
-#include <QTemporaryFile>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <atomic>
@@ -64,8 +64,9 @@ TEST_F( PimPhoneBookLoaderTest, NewLoaderHasLoadedNothing )
 TEST_F( PimPhoneBookLoaderTest, FileIsLoaded )
 {
     const QByteArray text = TextOf( ManyContacts( 100 ) ) + "no card\r\n";
-    QTemporaryFile file;
-    ASSERT_TRUE( file.open() && file.write( text ) == text.size() && file.flush() );
+    const QTemporaryDir folder;
+    QFile file( folder.filePath( QStringLiteral( "book.vcf" ) ) );
+    ASSERT_TRUE( file.open( QIODevice::WriteOnly ) && file.write( text ) == text.size() && file.flush() );
     PimPhoneBookLoader loader;
     LoaderEvents events( loader );
     loader.Load( file.fileName() );

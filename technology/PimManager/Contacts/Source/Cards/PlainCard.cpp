@@ -62,7 +62,7 @@ PlainCard::Step PlainCard::TakeContinuation( const Line& a_line )
 {
     const bool mayBeBoundary = CardBoundary::MayEndAsOne( a_line.m_text );
     if ( !m_isOpen || m_isSoftBreakOpen || m_isBehindEmptyLine ||
-         ( !m_isHeadPlain && MayContinueInFold( Head(), m_text.substr( m_begin ) ) ) ||
+         ( !m_head->m_isPlain && MayContinueInFold( Head(), m_text.substr( m_begin ) ) ) ||
          ( mayBeBoundary && CardBoundary::Of( a_line.m_text ).m_kind != CardBoundary::Kind::None ) )
         return Step::Stop;
     if ( HoldsFoldEvidence() )
@@ -113,7 +113,7 @@ void PlainCard::CloseLine()
         NoteOddity( PimContactOddity::ControlCharacters );
         m_facts.m_mayBeShifted = m_facts.m_mayBeShifted || MayBeShifted( line );
     }
-    if ( !m_isHeadPlain )
+    if ( !m_head->m_isPlain )
         WriteOdd();
     else if ( m_head->m_entry.IsNull() )
         m_index.AddPlain( Head(), m_end - m_begin, m_hasFolds, m_joins.Bytes() );
@@ -122,31 +122,27 @@ void PlainCard::CloseLine()
     Wrote( EntryKind::Line, m_end - m_begin );
 }
 
-const KnownHead* PlainCard::ReadHead( std::string_view a_line, bool& a_isPlain )
+const KnownHead* PlainCard::ReadHead( std::string_view a_line )
 {
-    a_isPlain = true;
     if ( const KnownHead* const known = m_sequence.Next( a_line ) )
         return known;
     KnownHead& read = m_head == m_heads.data() ? m_heads.back() : m_heads.front();
     LineHead& head = read.m_head;
-    a_isPlain = head.Read( a_line );
+    read.m_isPlain = head.Read( a_line );
     head.m_property = PropertyOf( head.m_name.In( a_line ) );
-    if ( a_isPlain )
-        m_sequence.Learn( a_line, head );
+    m_sequence.Learn( a_line, head, read.m_isPlain );
     return &read;
 }
 
 PlainCard::Step PlainCard::TakeProperty( const Line& a_line )
 {
-    bool isPlain = false;
-    const KnownHead* const head = ReadHead( a_line.m_text, isPlain );
-    if ( ( !isPlain && !IsSurelyProperty( head->m_head ) ) || IsAgent( head->m_head, a_line.m_text ) )
+    const KnownHead* const head = ReadHead( a_line.m_text );
+    if ( ( !head->m_isPlain && !IsSurelyProperty( head->m_head ) ) || IsAgent( head->m_head, a_line.m_text ) )
         return Step::Stop;
     CloseLine();
     WriteBlankUpTo( a_line.m_begin );
     m_linesClosed = m_physicalLines - 1;
     m_head = head;
-    m_isHeadPlain = isPlain;
     m_isOpen = true;
     m_isBehindEmptyLine = false;
     m_begin = a_line.m_begin;
@@ -300,8 +296,8 @@ void PlainCard::NoteOddity( PimContactOddity a_oddity )
 {
     m_oddHead = *m_head;
     m_oddHead.m_head.m_oddities |= a_oddity;
+    m_oddHead.m_isPlain = false;
     m_head = &m_oddHead;
-    m_isHeadPlain = false;
 }
 
 void PlainCard::WriteOdd()

@@ -87,7 +87,7 @@ private:
     Q_ALWAYS_INLINE Step TakeContinuation( const Line& a_line );
     Step TakeSoftBreak( const Line& a_line );
     Q_ALWAYS_INLINE Step TakeProperty( const Line& a_line );
-    Q_ALWAYS_INLINE const KnownHead* ReadHead( std::string_view a_line, bool& a_isPlain );
+    Q_ALWAYS_INLINE const KnownHead* ReadHead( std::string_view a_line );
     Step TakeEnd( const Line& a_line, bool a_isMended );
     Q_ALWAYS_INLINE bool EndsPlainly( std::string_view a_line );
     void WaitForLineEnd( const LineEndSearch& a_search, size_t a_next, size_t a_searched );
@@ -156,8 +156,6 @@ private:
     KnownHead m_oddHead;
     HeadSequence m_sequence;
     const KnownHead* m_head = m_heads.data();
-    // LineHead::Read() has returned true for it.
-    bool m_isHeadPlain = false;
     JoinWriter m_joins;
     FoldEvidence m_foldsClosed;
     Utf8Census m_census;

@@ -34,12 +34,14 @@ const KnownHead* HeadSequence::NextByStart( std::string_view a_line )
     return &m_slots[m_current].m_head;
 }
 
-void HeadSequence::Learn( std::string_view a_line, const LineHead& a_head )
+// A quote may end far behind the colon.
+void HeadSequence::Learn( std::string_view a_line, const LineHead& a_head, bool a_isPlain )
 {
     const std::string_view text = a_line.substr( 0, a_head.m_valueBegin );
-    if ( text.size() > s_kLongest )
+    const bool dependsOnRest = !a_isPlain && ( !a_head.m_hasColon || text.find( '"' ) != std::string_view::npos );
+    if ( text.size() > s_kLongest || dependsOnRest )
         return;
-    StepTo( SlotOf( text, a_head ) );
+    StepTo( SlotOf( text, a_head, a_isPlain ) );
     size_t hash = 0;
     if ( FindHashOfStart( a_line, hash ) )
         m_byStart[hash] = m_current;
@@ -51,13 +53,13 @@ void HeadSequence::StepTo( quint8 a_slot )
     m_current = a_slot;
 }
 
-quint8 HeadSequence::SlotOf( std::string_view a_text, const LineHead& a_head )
+quint8 HeadSequence::SlotOf( std::string_view a_text, const LineHead& a_head, bool a_isPlain )
 {
     quint8& slot = m_byText[HashOf( a_text )];
     if ( m_slots[slot].Text() == a_text )
         return slot;
     slot = NextToFill();
-    m_slots[slot].Set( a_text, a_head );
+    m_slots[slot].Set( a_text, a_head, a_isPlain );
     return slot;
 }
 
@@ -70,14 +72,14 @@ quint8 HeadSequence::NextToFill()
     return static_cast<quint8>( m_filled );
 }
 
-void HeadSequence::Slot::Set( std::string_view a_text, const LineHead& a_head )
+void HeadSequence::Slot::Set( std::string_view a_text, const LineHead& a_head, bool a_isPlain )
 {
     std::copy( a_text.begin(), a_text.end(), m_text.begin() );
     m_length = static_cast<quint8>( a_text.size() );
     const size_t missing = s_kWord - std::min( a_text.size(), s_kWord );
     m_mask = ~quint64( 0 ) >> ( 8 * missing );
     m_word = FirstEight( a_text );
-    m_head = { a_head, HeadEntry( a_head ) };
+    m_head = { a_head, a_isPlain, a_isPlain ? HeadEntry( a_head ) : HeadEntry() };
 }
 
 } // namespace PimManager::Contacts

@@ -19,7 +19,9 @@ namespace PimManager::Contacts
 struct KnownHead
 {
     LineHead m_head;
-    /// Null if the head has not been remembered.
+    /// What LineHead::Read() returned.
+    bool m_isPlain = false;
+    /// Null if the head is not plain, or has not been remembered.
     HeadEntry m_entry;
 };
 
@@ -43,9 +45,10 @@ public:
         return &m_slots[expected].m_head;
     }
 
-    /// Remembers the head of a line that was not an expected one. A long head is not remembered.
-    /// \param a_head LineHead::Read() has returned true for it.
-    void Learn( std::string_view a_line, const LineHead& a_head );
+    /// Remembers the head of a line that was not an expected one, if it is short and depends on nothing after its
+    /// colon.
+    /// \param a_isPlain what LineHead::Read() returned for it.
+    void Learn( std::string_view a_line, const LineHead& a_head, bool a_isPlain );
 
 private:
     static constexpr size_t s_kLongest = 48;
@@ -57,7 +60,7 @@ private:
     struct Slot
     {
         bool Begins( std::string_view a_line ) const;
-        void Set( std::string_view a_text, const LineHead& a_head );
+        void Set( std::string_view a_text, const LineHead& a_head, bool a_isPlain );
         std::string_view Text() const { return std::string_view( m_text.data(), m_length ); }
 
         // The first eight bytes of the head, and which bits of the first eight of a line they are compared with.
@@ -74,7 +77,7 @@ private:
 
     const KnownHead* NextByStart( std::string_view a_line );
     void StepTo( quint8 a_slot );
-    quint8 SlotOf( std::string_view a_text, const LineHead& a_head );
+    quint8 SlotOf( std::string_view a_text, const LineHead& a_head, bool a_isPlain );
     quint8 NextToFill();
 
     std::array<Slot, s_kSlots> m_slots;

@@ -14,15 +14,15 @@ namespace
 
 /// Reads a line as the reader of cards does.
 /// \param[out] a_isExpected true if the head was the expected one.
-LineHead HeadOf( HeadSequence& a_sequence, std::string_view a_line, bool& a_isExpected )
+KnownHead HeadOf( HeadSequence& a_sequence, std::string_view a_line, bool& a_isExpected )
 {
     const KnownHead* const known = a_sequence.Next( a_line );
     a_isExpected = known != nullptr;
     if ( known != nullptr )
-        return known->m_head;
-    LineHead head;
-    if ( head.Read( a_line ) )
-        a_sequence.Learn( a_line, head );
+        return *known;
+    KnownHead head;
+    head.m_isPlain = head.m_head.Read( a_line );
+    a_sequence.Learn( a_line, head.m_head, head.m_isPlain );
     return head;
 }
 
@@ -47,7 +47,13 @@ std::string Described( const LineHead& a_head )
            ( a_head.m_hasWordsForParameters ? " words" : "" );
 }
 
-constexpr std::array<std::string_view, 14> s_kHeads = { "N:",
+std::string Described( const KnownHead& a_head )
+{
+    return Described( a_head.m_head ) + ( a_head.m_isPlain ? " plain" : "" ) +
+           ( a_head.m_entry.IsNull() ? "" : " with entry" );
+}
+
+constexpr std::array<std::string_view, 22> s_kHeads = { "N:",
                                                         "FN:",
                                                         "F:",
                                                         "TEL:",
@@ -60,7 +66,15 @@ constexpr std::array<std::string_view, 14> s_kHeads = { "N:",
                                                         "X-A-HEAD-THAT-IS-LONGER-THAN-WHAT-IS-REMEMBERED;TYPE=HOME:",
                                                         "tel:",
                                                         "see you: ",
-                                                        "NOTE;X=\"open:" };
+                                                        "NOTE;X=\"open:",
+                                                        "NOTE;X=\"a:b\":",
+                                                        "TEL :",
+                                                        "item1.TEL ;TYPE=HOME:",
+                                                        "TEL;;TYPE=HOME:",
+                                                        "TEL;TY PE=HOME:",
+                                                        "TEL;TYPE=a\tb:",
+                                                        "HOME TEL:",
+                                                        "BEGIN;A=b:" };
 
 } // namespace
 
@@ -110,7 +124,7 @@ TEST( HeadSequenceTest, PropertyIsRemembered )
     HeadSequence sequence;
     LineHead head = LineHead::Of( "TEL:1" );
     head.m_property = PropertyId::Tel;
-    sequence.Learn( "TEL:1", head );
+    sequence.Learn( "TEL:1", head, true );
     sequence.Restart();
     const KnownHead* const known = sequence.Next( "TEL:2" );
     ASSERT_NE( known, nullptr );
@@ -141,6 +155,29 @@ TEST( HeadSequenceTest, HeadOfTheLineBeforeIsNotReplaced )
     EXPECT_GT( known, 1000 );
 }
 
+TEST( HeadSequenceTest, OddHeadIsRememberedWithoutAnEntry )
+{
+    HeadSequence sequence;
+    const std::string line = "TEL ;;TYPE=HOME:1";
+    EXPECT_FALSE( IsExpected( sequence, line ) );
+    sequence.Restart();
+    const KnownHead* const known = sequence.Next( line );
+    ASSERT_NE( known, nullptr );
+    EXPECT_EQ( Described( *known ), Described( KnownHead{ LineHead::Of( line ), false, HeadEntry() } ) );
+}
+
+// A later quote changes what the head is.
+TEST( HeadSequenceTest, HeadThatDependsOnTheRestIsNotRemembered )
+{
+    for ( const char* const line : { "TEL;X=\"a:1", "TEL;X=a\"b:1", "no colon" } )
+    {
+        HeadSequence sequence;
+        EXPECT_FALSE( IsExpected( sequence, line ) ) << line;
+        sequence.Restart();
+        EXPECT_FALSE( IsExpected( sequence, line ) ) << line;
+    }
+}
+
 TEST( HeadSequenceTest, LongHeadIsNotRemembered )
 {
     HeadSequence sequence;
@@ -166,7 +203,10 @@ TEST( HeadSequenceTest, EachHeadIsThatOfItsLine )
         const std::string extra = random() % 8 == 0 ? "X-" + std::to_string( random() % 50 ) + ':' : std::string();
         const std::string line = extra + std::string( s_kHeads.at( random() % s_kHeads.size() ) ) + "a;b:c";
         bool isExpected = false;
-        EXPECT_EQ( Described( HeadOf( sequence, line, isExpected ) ), Described( LineHead::Of( line ) ) ) << line;
+        const KnownHead found = HeadOf( sequence, line, isExpected );
+        LineHead head;
+        EXPECT_EQ( found.m_isPlain, head.Read( line ) ) << line;
+        EXPECT_EQ( Described( found.m_head ), Described( head ) ) << line;
         expected += isExpected ? 1 : 0;
     }
     EXPECT_GT( expected, 500 );

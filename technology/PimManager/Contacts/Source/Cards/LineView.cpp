@@ -63,9 +63,7 @@ IndexedLine PimContactCardPrivate::LineView::LineOf( const PimContactLine& a_lin
 
 void PimContactCardPrivate::LineView::Read( LinePlace a_place, IndexedLine& a_line )
 {
-    // A line is read to its end, wherever the index ends.
-    IndexReader reader( a_line.m_card.m_index, a_place.m_entry, a_place.m_entry );
-    reader.ReadLine( a_line.m_entry );
+    IndexReader::ReadLine( a_line.m_card.m_index + a_place.m_entry, a_line.m_entry );
     a_line.m_bytes = std::string_view( a_line.m_card.m_bytes.data() + a_place.m_begin, a_line.m_entry.m_length );
     a_line.m_text = WithoutLineEnd( a_line.m_bytes );
 }

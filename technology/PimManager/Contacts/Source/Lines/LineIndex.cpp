@@ -270,7 +270,7 @@ inline quint32 IndexReader::Number()
 {
     const uchar* place = m_base + m_place;
     const quint32 number = ReadNumber( place );
-    m_place = static_cast<quint32>( place - m_base );
+    SetPlace( place );
     return number;
 }
 
@@ -326,7 +326,7 @@ inline void IndexReader::ReadBrief( IndexEntry& a_entry )
     const uint header = *place;
     a_entry.m_kind = EntryKind::Line;
     a_entry.m_length = ReadLengths( place ).m_line;
-    m_place = static_cast<quint32>( place - m_base );
+    SetPlace( place );
     a_entry.m_oddities = {};
     a_entry.m_encoding = PimContactEncoding::None;
     a_entry.m_hasColon = ( header & IndexHeader::s_kHasColon ) != 0;
@@ -334,49 +334,26 @@ inline void IndexReader::ReadBrief( IndexEntry& a_entry )
     a_entry.m_joins = {};
 }
 
-void IndexReader::ReadLine( IndexEntry& a_entry )
+const uchar* IndexReader::ReadExtras( const uchar* a_place, IndexEntry& a_entry )
 {
-    const uchar* place = m_base + m_place;
-    const uint header = *place;
-    const LineLengths lengths = ReadLengths( place );
-    m_place = static_cast<quint32>( place - m_base );
-    a_entry.m_kind = EntryKind::Line;
-    a_entry.m_length = lengths.m_line;
-    a_entry.m_hasColon = ( header & IndexHeader::s_kHasColon ) != 0;
-    a_entry.m_hasFolds = ( header & IndexHeader::s_kHasFolds ) != 0;
-    a_entry.m_group = { 0, lengths.m_group };
-    a_entry.m_name = { lengths.NameBegin(), lengths.m_name };
-    a_entry.m_property = lengths.Property();
-    a_entry.m_parameters = { a_entry.m_name.End(), lengths.m_parameters };
-    a_entry.m_valueBegin = a_entry.m_parameters.End() + ( a_entry.m_hasColon ? 1 : 0 );
-    a_entry.m_encoding = PimContactEncoding::None;
-    a_entry.m_charset = LineCharset::Utf8;
-    a_entry.m_oddities = {};
-    a_entry.m_joins = {};
-    a_entry.m_doSoftBreaksTakeBlank = false;
-    if ( ( header & IndexHeader::s_kHasExtras ) != 0 )
-        ReadExtras( a_entry );
-}
-
-void IndexReader::ReadExtras( IndexEntry& a_entry )
-{
-    const uint extras = Number();
+    const uchar* place = a_place;
+    const uint extras = ReadNumber( place );
     a_entry.m_encoding = static_cast<PimContactEncoding>( extras & s_kEncodingMask );
     a_entry.m_charset = static_cast<LineCharset>( ( extras >> s_kCharsetShift ) & s_kCharsetMask );
     a_entry.m_doSoftBreaksTakeBlank = ( extras & s_kDoSoftBreaksTakeBlank ) != 0;
     a_entry.m_oddities = PimContactOddities( static_cast<int>( extras >> s_kOdditiesShift ) );
     if ( ( extras & s_kHasPlaces ) != 0 )
     {
-        a_entry.m_group.m_begin = Number();
-        a_entry.m_name.m_begin = Number();
-        a_entry.m_parameters.m_begin = Number();
-        a_entry.m_valueBegin = Number();
+        a_entry.m_group.m_begin = ReadNumber( place );
+        a_entry.m_name.m_begin = ReadNumber( place );
+        a_entry.m_parameters.m_begin = ReadNumber( place );
+        a_entry.m_valueBegin = ReadNumber( place );
     }
     if ( ( extras & s_kHasJoins ) == 0 )
-        return;
-    const quint32 length = Number();
-    a_entry.m_joins = { m_base + m_place, length };
-    m_place += length;
+        return place;
+    const quint32 length = ReadNumber( place );
+    a_entry.m_joins = { place, length };
+    return place + length;
 }
 
 } // namespace PimManager::Contacts

@@ -235,7 +235,11 @@ public:
     void Next( IndexEntry& a_entry, bool a_isBrief = false );
 
     /// Reads the next entry, which must be a line, and steps after it.
-    void ReadLine( IndexEntry& a_entry );
+    void ReadLine( IndexEntry& a_entry ) { SetPlace( ReadLine( m_base + m_place, a_entry ) ); }
+
+    /// Reads an entry, which must be a line.
+    /// \return the position after it.
+    static const uchar* ReadLine( const uchar* a_place, IndexEntry& a_entry );
 
     /// The data that Skip() reads from an entry.
     struct Outline
@@ -280,7 +284,7 @@ public:
             const quint32 nested = outline.m_kind == EntryKind::Nested ? ReadNumber( place ) : 0;
             place += nested;
         }
-        m_place = static_cast<quint32>( place - m_base );
+        SetPlace( place );
         return outline;
     }
 
@@ -309,7 +313,7 @@ public:
         const uchar* place = m_base + m_place;
         const bool hasFolds = ( *place & IndexHeader::s_kHasFolds ) != 0;
         const LineLengths lengths = ReadLengths( place );
-        m_place = static_cast<quint32>( place - m_base );
+        SetPlace( place );
         const ByteRange name = { lengths.NameBegin(), lengths.m_name };
         return { lengths.m_line, name, { name.End(), lengths.m_parameters }, hasFolds };
     }
@@ -371,12 +375,35 @@ private:
 
     void ReadBrief( IndexEntry& a_entry );
     void ReadPart( IndexEntry& a_entry );
-    void ReadExtras( IndexEntry& a_entry );
+    static const uchar* ReadExtras( const uchar* a_place, IndexEntry& a_entry );
+    void SetPlace( const uchar* a_end ) { m_place = static_cast<quint32>( a_end - m_base ); }
     quint32 Number();
 
     const uchar* m_base;
     quint32 m_place;
     quint32 m_end;
 };
+
+inline const uchar* IndexReader::ReadLine( const uchar* a_place, IndexEntry& a_entry )
+{
+    const uchar* place = a_place;
+    const uint header = *place;
+    const LineLengths lengths = ReadLengths( place );
+    a_entry.m_kind = EntryKind::Line;
+    a_entry.m_length = lengths.m_line;
+    a_entry.m_hasColon = ( header & IndexHeader::s_kHasColon ) != 0;
+    a_entry.m_hasFolds = ( header & IndexHeader::s_kHasFolds ) != 0;
+    a_entry.m_group = { 0, lengths.m_group };
+    a_entry.m_name = { lengths.NameBegin(), lengths.m_name };
+    a_entry.m_property = lengths.Property();
+    a_entry.m_parameters = { a_entry.m_name.End(), lengths.m_parameters };
+    a_entry.m_valueBegin = a_entry.m_parameters.End() + ( a_entry.m_hasColon ? 1 : 0 );
+    a_entry.m_encoding = PimContactEncoding::None;
+    a_entry.m_charset = LineCharset::Utf8;
+    a_entry.m_oddities = {};
+    a_entry.m_joins = {};
+    a_entry.m_doSoftBreaksTakeBlank = false;
+    return ( header & IndexHeader::s_kHasExtras ) != 0 ? ReadExtras( place, a_entry ) : place;
+}
 
 } // namespace PimManager::Contacts

@@ -77,13 +77,14 @@ void AppendUnfolded( std::string_view a_line, const IndexEntry& a_entry, PimCont
 inline std::string_view WithoutLineEnd( std::string_view a_line )
 {
     size_t size = a_line.size();
-    if ( size > 0 && a_line[size - 1] == '\n' )
+    const auto endsIn = [&]( char a_byte ) { return size > 0 && a_line[size - 1] == a_byte; };
+    if ( endsIn( '\n' ) )
     {
         --size;
-        for ( int i = 0; i < 2 && size > 0 && a_line[size - 1] == '\r'; ++i )
-            --size;
+        size -= endsIn( '\r' ) ? 1 : 0;
+        size -= size + 1 < a_line.size() && endsIn( '\r' ) ? 1 : 0;
     }
-    else if ( size > 0 && a_line[size - 1] == '\r' )
+    else if ( endsIn( '\r' ) )
         --size;
     return std::string_view( a_line.data(), size );
 }

@@ -201,4 +201,20 @@ TEST( LinePiecesUseTest, OneLineEndIsRemoved )
         EXPECT_EQ( WithoutLineEnd( line ), expected ) << ::testing::PrintToString( line );
 }
 
+TEST( LineEndTest, OneLineEndingIsRemoved )
+{
+    struct Row
+    {
+        std::string_view m_line;
+        std::string_view m_text;
+    };
+    const std::vector<Row> rows = {
+        { "", "" },         { "a", "a" },       { "a\n", "a" },     { "a\r\n", "a" },     { "a\r\r\n", "a" },
+        { "a\r", "a" },     { "\n", "" },       { "\r", "" },       { "\r\n", "" },       { "\r\r\n", "" },
+        { "a\n\n", "a\n" }, { "a\r\r", "a\r" }, { "a\n\r", "a\n" }, { "\r\r\r\n", "\r" }, { "a\r\r\r\n", "a\r" },
+    };
+    for ( const Row& row : rows )
+        EXPECT_EQ( WithoutLineEnd( row.m_line ), row.m_text ) << testing::PrintToString( row.m_line );
+}
+
 } // namespace PimManager::Contacts

@@ -11,8 +11,6 @@ namespace
 
 constexpr int s_kPieceBytes = 64 * 1024;
 constexpr int s_kWaitMilliseconds = 50;
-// What QIODevice::read() never returns.
-constexpr qint64 s_kClosed = -2;
 
 } // namespace
 
@@ -37,7 +35,7 @@ qint64 DevicePieces::Size() const
 PieceState DevicePieces::Next()
 {
     m_piece.resize( s_kPieceBytes );
-    const qint64 length = m_device.isReadable() ? m_device.read( m_piece.data(), s_kPieceBytes ) : s_kClosed;
+    const qint64 length = m_device.isReadable() ? m_device.read( m_piece.data(), s_kPieceBytes ) : -1;
     m_piece.resize( static_cast<int>( qMax<qint64>( length, 0 ) ) );
     if ( length <= 0 )
         return StateWithoutData( length );
@@ -45,11 +43,11 @@ PieceState DevicePieces::Next()
     return PieceState::Data;
 }
 
-// A file is at its end when nothing can be read, even if it is a pipe.
+// A file is at its end when nothing can be read, even if it is a pipe. A connection may close while it is read.
 PieceState DevicePieces::StateWithoutData( qint64 a_length )
 {
     const bool isStream = m_device.isSequential() && qobject_cast<QFileDevice*>( &m_device ) == nullptr;
-    const bool isEnd = isStream ? m_isFinished || a_length == s_kClosed : a_length == 0;
+    const bool isEnd = isStream ? m_isFinished || !m_device.isReadable() : a_length == 0;
     if ( isEnd )
         return PieceState::End;
     return isStream && a_length == 0 ? Wait() : Fail( m_device.errorString() );

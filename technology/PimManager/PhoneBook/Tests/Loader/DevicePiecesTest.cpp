@@ -24,9 +24,10 @@ struct Outcome
     QString m_errorText;
 };
 
-Outcome ReadAll( QIODevice& a_device, qint64 a_mostIdle = 0 )
+// A silent device fails at once.
+Outcome ReadAll( QIODevice& a_device )
 {
-    DevicePieces pieces( a_device, a_mostIdle );
+    DevicePieces pieces( a_device, -1 );
     Outcome outcome;
     while ( outcome.m_state == PieceState::Data || outcome.m_state == PieceState::Waiting )
     {

@@ -113,10 +113,8 @@ void PlainCard::CloseLine()
         NoteOddity( PimContactOddity::ControlCharacters );
         m_facts.m_mayBeShifted = m_facts.m_mayBeShifted || MayBeShifted( line );
     }
-    if ( !m_head->m_isPlain )
-        WriteOdd();
-    else if ( m_head->m_entry.IsNull() )
-        m_index.AddPlain( Head(), m_end - m_begin, m_hasFolds, m_joins.Bytes() );
+    if ( m_head->m_entry.IsNull() )
+        WriteEntry();
     else
         m_index.AddPlain( m_head->m_entry, m_end - m_begin, m_hasFolds, m_joins.Bytes() );
     Wrote( EntryKind::Line, m_end - m_begin );
@@ -294,13 +292,12 @@ void PlainCard::CloseCharacters()
 
 void PlainCard::NoteOddity( PimContactOddity a_oddity )
 {
-    m_oddHead = *m_head;
+    m_oddHead = { Head(), false, HeadEntry() };
     m_oddHead.m_head.m_oddities |= a_oddity;
-    m_oddHead.m_isPlain = false;
     m_head = &m_oddHead;
 }
 
-void PlainCard::WriteOdd()
+void PlainCard::WriteEntry()
 {
     const IndexEntry entry = Entry();
     m_index.Add( entry );

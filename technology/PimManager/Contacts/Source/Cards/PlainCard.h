@@ -100,7 +100,7 @@ private:
     Q_ALWAYS_INLINE void CloseLine();
     void CloseCharacters();
     void NoteOddity( PimContactOddity a_oddity );
-    void WriteOdd();
+    void WriteEntry();
     IndexEntry Entry() const;
     void WriteBlankUpTo( quint32 a_place )
     {

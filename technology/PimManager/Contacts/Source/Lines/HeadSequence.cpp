@@ -38,8 +38,7 @@ const KnownHead* HeadSequence::NextByStart( std::string_view a_line )
 void HeadSequence::Learn( std::string_view a_line, const LineHead& a_head, bool a_isPlain )
 {
     const std::string_view text = a_line.substr( 0, a_head.m_valueBegin );
-    const bool dependsOnRest = !a_isPlain && ( !a_head.m_hasColon || text.find( '"' ) != std::string_view::npos );
-    if ( text.size() > s_kLongest || dependsOnRest )
+    if ( text.size() > s_kLongest || !a_head.m_hasColon || text.find( '"' ) != std::string_view::npos )
         return;
     StepTo( SlotOf( text, a_head, a_isPlain ) );
     size_t hash = 0;

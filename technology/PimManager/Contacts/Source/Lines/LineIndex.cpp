@@ -109,12 +109,6 @@ uint ExtrasOf( const IndexEntry& a_entry, bool a_isPlain )
     return extras | static_cast<uint>( a_entry.m_oddities ) << s_kOdditiesShift;
 }
 
-// The same for a plain line.
-inline uint PlainExtrasOf( PimContactEncoding a_encoding, IndexBytes a_joins )
-{
-    return static_cast<uint>( a_encoding ) | ( a_joins.m_size > 0 ? s_kHasJoins : 0 );
-}
-
 } // namespace
 
 void IndexEntry::SetHead( const LineHead& a_head )
@@ -219,31 +213,18 @@ HeadEntry::HeadEntry( const LineHead& a_head ) :
     m_lengthBytes = static_cast<uchar>( WriteLengths( m_lengths.data(), a_head ) - begin );
 }
 
-void IndexWriter::AddPlain( const LineHead& a_head, quint32 a_length, bool a_hasFolds, IndexBytes a_joins )
-{
-    const uint extras = PlainExtrasOf( a_head.m_encoding, a_joins );
-    uchar* place = m_buffer.Begin( s_kMostOfLine );
-    *place++ = static_cast<uchar>( HeaderOf( a_head, a_hasFolds, extras ) );
-    *place++ = PropertyByte( a_head.m_property );
-    place = WriteNumber( place, a_length );
-    EndPlain( WriteLengths( place, a_head ), extras, a_joins );
-}
-
 void IndexWriter::AddPlain( const HeadEntry& a_head, quint32 a_length, bool a_hasFolds, IndexBytes a_joins )
 {
-    const uint extras = PlainExtrasOf( a_head.m_encoding, a_joins );
+    const uint extras = static_cast<uint>( a_head.m_encoding ) | ( a_joins.m_size > 0 ? s_kHasJoins : 0 );
     const uint flags = ( a_hasFolds ? IndexHeader::s_kHasFolds : 0 ) | ( extras != 0 ? IndexHeader::s_kHasExtras : 0 );
     uchar* place = m_buffer.Begin( s_kMostOfLine );
     *place++ = static_cast<uchar>( a_head.m_header | flags );
     *place++ = a_head.m_property;
     place = WriteNumber( place, a_length );
     std::memcpy( place, a_head.m_lengths.data(), a_head.m_lengths.size() );
-    EndPlain( place + a_head.m_lengthBytes, extras, a_joins );
-}
-
-inline void IndexWriter::EndPlain( uchar* a_place, uint a_extras, IndexBytes a_joins )
-{
-    uchar* const place = a_extras != 0 ? WriteNumber( a_place, a_extras ) : a_place;
+    place += a_head.m_lengthBytes;
+    if ( extras != 0 )
+        place = WriteNumber( place, extras );
     if ( a_joins.m_size == 0 )
     {
         m_buffer.End( place );

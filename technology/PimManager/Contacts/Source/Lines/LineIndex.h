@@ -184,9 +184,7 @@ public:
     void Clear() { m_buffer.Clear(); }
     void Release() { m_buffer.Release(); }
     void Add( const IndexEntry& a_entry );
-    /// Adds a line without oddities for whose head LineHead::Read() returned true.
-    void AddPlain( const LineHead& a_head, quint32 a_length, bool a_hasFolds, IndexBytes a_joins );
-    /// The same for a head whose entry is known.
+    /// Adds a line without oddities whose head is known.
     void AddPlain( const HeadEntry& a_head, quint32 a_length, bool a_hasFolds, IndexBytes a_joins );
     void AddPart( EntryKind a_kind, quint32 a_length ) { AddPart( a_kind, a_length, 0 ); }
     void AddDropped( DropReason a_reason, quint32 a_length );
@@ -203,7 +201,6 @@ public:
 
 private:
     void AddPart( EntryKind a_kind, quint32 a_length, uint a_detail );
-    void EndPlain( uchar* a_place, uint a_extras, IndexBytes a_joins );
     static uchar* WriteExtras( uchar* a_place, const IndexEntry& a_entry, uint a_extras );
 
     IndexBuffer m_buffer;

@@ -35,7 +35,7 @@ qint64 DevicePieces::Size() const
 PieceState DevicePieces::Next()
 {
     m_piece.resize( s_kPieceBytes );
-    const qint64 length = m_device.isReadable() ? m_device.read( m_piece.data(), s_kPieceBytes ) : -1;
+    const qint64 length = m_device.isReadable() ? m_device.read( m_piece.data(), s_kPieceBytes ) : 0;
     m_piece.resize( static_cast<int>( qMax<qint64>( length, 0 ) ) );
     if ( length <= 0 )
         return StateWithoutData( length );
@@ -43,14 +43,16 @@ PieceState DevicePieces::Next()
     return PieceState::Data;
 }
 
-// A file is at its end when nothing can be read, even if it is a pipe. A connection may close while it is read.
+// A file is at its end when nothing can be read, even if it is a pipe; a file that is closed could not be opened. A
+// connection may close while it is read.
 PieceState DevicePieces::StateWithoutData( qint64 a_length )
 {
     const bool isStream = m_device.isSequential() && qobject_cast<QFileDevice*>( &m_device ) == nullptr;
-    const bool isEnd = isStream ? m_isFinished || !m_device.isReadable() : a_length == 0;
-    if ( isEnd )
+    const bool isWithoutError = a_length == 0;
+    const bool isClosed = !m_device.isReadable();
+    if ( isStream ? m_isFinished || ( isWithoutError && isClosed ) : isWithoutError && !isClosed )
         return PieceState::End;
-    return isStream && a_length == 0 ? Wait() : Fail( m_device.errorString() );
+    return isStream && isWithoutError ? Wait() : Fail( m_device.errorString() );
 }
 
 // A device that cannot wait returns at once.

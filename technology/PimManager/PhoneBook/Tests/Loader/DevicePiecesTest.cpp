@@ -55,6 +55,7 @@ TEST( DevicePiecesTest, DeviceEndsOrFails )
         { "connection that finishes", TestEnd::Finishes, true, PieceState::End, "" },
         { "connection that closes", TestEnd::Closes, true, PieceState::End, "" },
         { "connection that fails", TestEnd::Fails, true, PieceState::Failed, "the stick was pulled out" },
+        { "connection that breaks", TestEnd::Breaks, true, PieceState::Failed, "the stick was pulled out" },
         { "silent connection", TestEnd::IsSilent, true, PieceState::Failed, "the device sent no more data" },
         { "memory", TestEnd::IsSilent, false, PieceState::End, "" },
         { "memory that fails", TestEnd::Fails, false, PieceState::Failed, "the stick was pulled out" },
@@ -91,6 +92,15 @@ TEST( DevicePiecesTest, FileThatCannotBeReadFails )
     const Outcome outcome = ReadAll( file );
     EXPECT_EQ( outcome.m_state, PieceState::Failed );
     EXPECT_FALSE( outcome.m_errorText.isEmpty() );
+}
+
+TEST( DevicePiecesTest, ConnectionThatIsClosedIsAtItsEndAndClosedFileFails )
+{
+    TestDevice device( "x", TestEnd::IsSilent );
+    device.close();
+    EXPECT_EQ( ReadAll( device ).m_state, PieceState::End );
+    QFile file( QStringLiteral( "/proc/self/status" ) );
+    EXPECT_EQ( ReadAll( file ).m_state, PieceState::Failed );
 }
 
 TEST( DevicePiecesTest, SizeOfConnectionIsUnknown )

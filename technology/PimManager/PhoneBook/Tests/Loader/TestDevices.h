@@ -19,6 +19,7 @@ enum class TestEnd
     Finishes, ///< emits readChannelFinished()
     Closes,
     Fails,
+    Breaks, ///< fails and closes
     Throws,
     IsSilent, ///< sends nothing, and waits for more
     Hangs,    ///< does not return
@@ -65,11 +66,12 @@ private:
             throw std::runtime_error( "thrown by the device" );
         if ( m_end == TestEnd::Finishes )
             emit readChannelFinished();
-        if ( m_end == TestEnd::Closes )
+        if ( m_end == TestEnd::Closes || m_end == TestEnd::Breaks )
             close();
-        if ( m_end == TestEnd::Fails )
+        const bool isError = m_end == TestEnd::Fails || m_end == TestEnd::Breaks;
+        if ( isError )
             setErrorString( QStringLiteral( "the stick was pulled out" ) );
-        return m_end == TestEnd::Fails ? -1 : 0;
+        return isError ? -1 : 0;
     }
 
     const QByteArray m_bytes;

@@ -81,8 +81,8 @@ inline std::string_view WithoutLineEnd( std::string_view a_line )
     if ( endsIn( '\n' ) )
     {
         --size;
-        size -= endsIn( '\r' ) ? 1 : 0;
-        size -= size + 1 < a_line.size() && endsIn( '\r' ) ? 1 : 0;
+        for ( int i = 0; i < 2; ++i )
+            size -= endsIn( '\r' ) ? 1 : 0;
     }
     else if ( endsIn( '\r' ) )
         --size;
